@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+option(BUILD_TESTING "Build the tests" ON)
+option(FERRIN_BUILD_BENCH "Build the benchmarks" OFF)
+option(FERRIN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# The build tree mirrors the install tree, so that the program finds its parts in both.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(FERRIN_LIBEXEC_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/libexec/ferrin")
+
+add_library(ferrin_options INTERFACE)
+target_compile_options(ferrin_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wswitch-enum
+    $<$<BOOL:${FERRIN_WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_definitions(ferrin_options INTERFACE
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+
+if(FERRIN_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

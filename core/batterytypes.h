@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+namespace ferrin {
+
+/// Where the power comes from now.
+enum class PowerSource { battery, external, unknown };
+
+/// What the battery is doing now. `finishingCharge`: the system reports charging while the charge
+/// already reads 100. `charged`: fully charged on external power.
+enum class BatteryChargingStatus { charging, discharging, charged, finishingCharge, unknown };
+
+/// The condition verdict.
+enum class BatteryHealth { normal, service, unknown };
+
+/// How far the remaining time can be trusted. `real`: the system's own figure; `estimated`:
+/// computed here, or the system is still calculating; `frozen`: no usable time, the last value
+/// stays.
+enum class TimeQuality { real, estimated, frozen };
+
+/// The verdict over the battery's age.
+enum class BatteryLifespan { good, reducedMaxCap, reducedCycles, reducedMaxCapAndCycles, unknown };
+
+} // namespace ferrin

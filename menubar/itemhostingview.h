@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/itemcontent.h"
+
+#include <QBindable>
+#include <QObject>
+#include <QProperty>
+#include <QSizeF>
+
+namespace ferrin {
+
+/// Holds the item's content view inside a status item's button, and is what the platform looks at:
+/// `content` is one expression over the snapshot, the settings and the switches, and tells when
+/// what is shown changed. Made anew at every MenuBarItemProvider::update(); owned by the button.
+class ItemHostingView : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(
+        ferrin::ItemContent content READ content NOTIFY contentChanged BINDABLE bindableContent)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] ItemContent content() const { return m_content; }
+    [[nodiscard]] QBindable<ItemContent> bindableContent() { return &m_content; }
+
+    /// Logical pixels, as last set.
+    [[nodiscard]] QSizeF frameSize() const noexcept { return m_frameSize; }
+    void setFrameSize(const QSizeF &size) { m_frameSize = size; }
+
+Q_SIGNALS:
+    void contentChanged();
+
+private:
+    Q_OBJECT_BINDABLE_PROPERTY(ItemHostingView, ItemContent, m_content,
+                               &ItemHostingView::contentChanged)
+    QSizeF m_frameSize;
+};
+
+} // namespace ferrin

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+#include <concepts>
+#include <memory>
+#include <utility>
+
+class QPainter;
+
+namespace ferrin {
+
+/// What a view needs to know of the place that it is drawn in.
+struct ViewContext
+{
+    /// The colour that reads on the host's bar; views add their own opacity.
+    QColor text;
+    /// The system's red, for a low battery.
+    QColor red;
+    /// The desktop's interface font.
+    QString fontFamily;
+
+    bool operator==(const ViewContext &) const = default;
+};
+
+/// A menu-bar view is a value that knows its ideal size and paints itself into a rectangle, both in
+/// logical pixels. It holds what it shows and nothing else.
+template <typename V>
+concept View
+    = std::copyable<V> && std::equality_comparable<V> && requires(const V &view, QPainter &painter,
+                                                                  const QRectF &bounds,
+                                                                  const ViewContext &context)
+{
+    {
+        view.idealSize(context)
+        } -> std::convertible_to<QSizeF>;
+    { view.paint(painter, bounds, context) };
+};
+
+/// A view whose type is erased. Copies share the view, which never changes; the default one is
+/// empty.
+class AnyView
+{
+public:
+    AnyView() = default;
+
+    template <View V>
+    requires(!std::same_as<std::remove_cvref_t<V>, AnyView>)
+        AnyView(V view) // NOLINT(google-explicit-constructor): every view is an AnyView
+        : m_view(std::make_shared<const Model<V>>(std::move(view)))
+    {
+    }
+
+    [[nodiscard]] QSizeF idealSize(const ViewContext &context) const
+    {
+        return m_view ? m_view->idealSize(context) : QSizeF(0, 0);
+    }
+
+    void paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const
+    {
+        if (m_view)
+            m_view->paint(painter, bounds, context);
+    }
+
+    [[nodiscard]] bool isEmpty() const noexcept { return !m_view; }
+
+    /// The view, when it is of this type; else null.
+    template <View V>
+    [[nodiscard]] const V *as() const
+    {
+        const auto *model = dynamic_cast<const Model<V> *>(m_view.get());
+        return model ? &model->view : nullptr;
+    }
+
+    bool operator==(const AnyView &other) const
+    {
+        return m_view == other.m_view || (m_view && other.m_view && m_view->equals(*other.m_view));
+    }
+
+private:
+    struct Concept
+    {
+        virtual ~Concept() = default;
+        [[nodiscard]] virtual QSizeF idealSize(const ViewContext &context) const = 0;
+        virtual void paint(QPainter &painter, const QRectF &bounds,
+                           const ViewContext &context) const = 0;
+        [[nodiscard]] virtual bool equals(const Concept &other) const = 0;
+    };
+
+    template <typename V>
+    struct Model final : Concept
+    {
+        explicit Model(V v)
+            : view(std::move(v))
+        {
+        }
+        [[nodiscard]] QSizeF idealSize(const ViewContext &context) const override
+        {
+            return view.idealSize(context);
+        }
+        void paint(QPainter &painter, const QRectF &bounds,
+                   const ViewContext &context) const override
+        {
+            view.paint(painter, bounds, context);
+        }
+        [[nodiscard]] bool equals(const Concept &other) const override
+        {
+            const auto *same = dynamic_cast<const Model *>(&other);
+            return same && same->view == view;
+        }
+        V view;
+    };
+
+    std::shared_ptr<const Concept> m_view;
+};
+
+} // namespace ferrin
