@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/view.h"
+#include "platform/linux/statusarea/hosttable.h"
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+namespace ferrin {
+
+/// What the status area needs to know of the desktop's look; the application keeps it current.
+struct StatusAreaAppearance
+{
+    /// The user's own choice of light or dark; absent while it follows the system.
+    std::optional<bool> forcedDark;
+    /// The desktop prefers dark.
+    bool desktopDark = false;
+    /// The desktop's interface font.
+    QString fontFamily;
+
+    bool operator==(const StatusAreaAppearance &) const = default;
+};
+
+/// Which colours read on a host's panel. No host tells, so the best informed voice decides: the
+/// user's choice, then the colours that the panel's tray announces on X11, then what such hosts
+/// look like by default, then the desktop's own scheme.
+class PanelColours : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    void setAppearance(const StatusAreaAppearance &appearance);
+    [[nodiscard]] const StatusAreaAppearance &appearance() const noexcept { return m_appearance; }
+
+    /// The text colour that the tray announced; absent where there is none.
+    void setTrayText(const std::optional<QColor> &colour);
+
+    [[nodiscard]] ViewContext contextFor(const HostProfile &profile) const;
+    /// On a ground of our own, which is dark or light as the desktop is.
+    [[nodiscard]] ViewContext contextForOwnBar() const;
+    /// The own bar's ground is dark.
+    [[nodiscard]] bool isOwnBarDark() const noexcept;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    StatusAreaAppearance m_appearance;
+    std::optional<QColor> m_trayText;
+};
+
+} // namespace ferrin
