@@ -21,15 +21,15 @@ from shapes import circle, flipped, inset, moved, path_data, polygon, rectangle,
 SYMBOLS = Path(__file__).resolve().parent.parent / "symbols"
 
 # A symbol is shown 16.5 high and centred in a bar of an even height. Its top then falls on three
-# quarters of a pixel, so an edge is sharp where its height ends in one quarter; widths are whole and
-# even, so that their edges and their middle are sharp too.
+# quarters of a pixel, so an edge is sharp where its height ends in one quarter; widths are whole
+# and even, so that their edges and their middle are sharp too.
 HEIGHT = 16.5
-TOP = 0.25
 MIDDLE = HEIGHT / 2
 
 # The family: circles span the whole height; squares stay one pixel inside them on each side, which
 # gives both the same area.
 CIRCLE = 16.0
+CENTRE = CIRCLE / 2
 SQUARE = 14.0
 SQUARE_RADIUS = 3.5
 STROKE = 1.5
@@ -46,54 +46,54 @@ class Picture:
     outlines: list
 
     def svg(self):
-        size = f"{self.width:g}", f"{self.height:g}"
+        width, height = f"{self.width:g}", f"{self.height:g}"
         return (
             "<!-- SPDX-License-Identifier: GPL-3.0-or-later -->\n"
             "<!-- SPDX-FileCopyrightText: 2026 The Ferrin developers -->\n"
-            f'<svg xmlns="http://www.w3.org/2000/svg" width="{size[0]}" height="{size[1]}" '
-            f'viewBox="0 0 {size[0]} {size[1]}">\n'
+            f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
+            f'viewBox="0 0 {width} {height}">\n'
             f'  <path fill-rule="evenodd" d="{path_data(self.outlines)}"/>\n'
             "</svg>\n"
         )
 
 
-def arrow(top, bottom, half_width, stroke=SIGN_STROKE, x=CIRCLE / 2):
+def arrow(top, bottom, half_width, stroke=SIGN_STROKE):
     """An upward arrow of strokes with round ends; top is where the mitre of its tip would lie."""
     half, slant, cap = stroke / 2, stroke / math.sqrt(2), stroke / 2
     crotch = top + half + stroke * math.sqrt(2)
     elbow = top + half_width
     return polygon(
-        (x, top, SOFT),
-        (x + half_width, elbow, cap),
-        (x + half_width - slant, elbow + slant, cap),
-        (x + half, crotch, 0),
-        (x + half, bottom, cap),
-        (x - half, bottom, cap),
-        (x - half, crotch, 0),
-        (x - half_width + slant, elbow + slant, cap),
-        (x - half_width, elbow, cap),
+        (CENTRE, top, SOFT),
+        (CENTRE + half_width, elbow, cap),
+        (CENTRE + half_width - slant, elbow + slant, cap),
+        (CENTRE + half, crotch, 0),
+        (CENTRE + half, bottom, cap),
+        (CENTRE - half, bottom, cap),
+        (CENTRE - half, crotch, 0),
+        (CENTRE - half_width + slant, elbow + slant, cap),
+        (CENTRE - half_width, elbow, cap),
     )
 
 
-def arrowshape(top, shoulder, bottom, half_head, half_shaft, radius, x=CIRCLE / 2):
+def arrowshape(top, shoulder, bottom, half_head, half_shaft, radius):
     """An upward block arrow."""
     return polygon(
-        (x, top),
-        (x + half_head, shoulder),
-        (x + half_shaft, shoulder, 0),
-        (x + half_shaft, bottom),
-        (x - half_shaft, bottom),
-        (x - half_shaft, shoulder, 0),
-        (x - half_head, shoulder),
+        (CENTRE, top),
+        (CENTRE + half_head, shoulder),
+        (CENTRE + half_shaft, shoulder, 0),
+        (CENTRE + half_shaft, bottom),
+        (CENTRE - half_shaft, bottom),
+        (CENTRE - half_shaft, shoulder, 0),
+        (CENTRE - half_head, shoulder),
         radius=radius,
     )
 
 
-def triangle(top, bottom, half_width, radius, x=CIRCLE / 2):
-    return polygon((x, top), (x + half_width, bottom), (x - half_width, bottom), radius=radius)
+def triangle(top, bottom, half_width, radius):
+    return polygon((CENTRE, top), (CENTRE + half_width, bottom), (CENTRE - half_width, bottom), radius=radius)
 
 
-def bolt(half_width, half_height, wing, lean, radius, x=CIRCLE / 2, y=MIDDLE):
+def bolt(half_width, half_height, wing, lean, radius, x=CENTRE, y=MIDDLE):
     """A bolt about a centre, the same when turned half round; its two wings overlap by 2 * wing."""
     right = [(lean, -half_height, radius), (-half_width, wing, radius), (-lean / 4, wing, 0)]
     left = [(-dx, -dy, r) for dx, dy, r in right]
@@ -101,7 +101,7 @@ def bolt(half_width, half_height, wing, lean, radius, x=CIRCLE / 2, y=MIDDLE):
 
 
 def disc(filled, sign):
-    outer = circle(CIRCLE / 2, MIDDLE, CIRCLE)
+    outer = circle(CENTRE, MIDDLE, CIRCLE)
     return Picture(CIRCLE, HEIGHT, ([outer] if filled else ring(outer, STROKE)) + sign)
 
 
@@ -122,17 +122,36 @@ def slot(x, y, width, height):
     return rectangle(x - width / 2, y - height / 2, width, height, SOFT)
 
 
-ARROW = [arrow(3.5, 12.75, 4)]
-ARROW_TO_LINE = [
-    rectangle(4.5, 4.25, 7, STROKE, STROKE / 2),
-    arrow(6.25, 12.75, 3.5, stroke=1.75),
-]
+# The signs are drawn in a frame as wide as a circle.
 ARROWSHAPE = [arrowshape(3, 8.25, 12.25, 5.5, 2, SOFT)]
-TRIANGLE = [triangle(3.25, 11.25, 5.25, 1)]
-BOLT = [bolt(4.35, 5.75, 1, 1.7, 0.35)]
-OUTLET_A = [slot(5, MIDDLE, 2, 6), slot(11, MIDDLE, 2, 6)]
-OUTLET_C = [circle(5.5, MIDDLE, 3), circle(10.5, MIDDLE, 3)]
-OUTLET_G = [slot(8, 5.25, 2, 4), slot(5, 10.25, 4, 2), slot(11, 10.25, 4, 2)]
+SIGNS = {
+    "arrow.up": [arrow(3.5, 12.75, 4)],
+    "arrow.up.to.line": [
+        rectangle(4.25, 4.25, 7.5, 1.25, 0.625),
+        arrow(6.25, 12.75, 3.75, stroke=STROKE),
+    ],
+    "arrowshape.up": ARROWSHAPE,
+    "arrowtriangle.up": [triangle(3.25, 11.25, 5.25, 1)],
+    "bolt": [bolt(4.35, 5.75, 1, 1.7, 0.35)],
+}
+OUTLETS = {
+    "a": [slot(5, MIDDLE, 2, 6), slot(11, MIDDLE, 2, 6)],
+    "c": [circle(5, MIDDLE, 3), circle(11, MIDDLE, 3)],
+    "g": [slot(8, 6.25, 2, 4), slot(5.5, 11.25, 3, 2), slot(10.5, 11.25, 3, 2)],
+}
+
+
+def xmark():
+    """A cross of two strokes with round ends."""
+    reach, cap = 7.7, SIGN_STROKE / 2
+    crotch = SIGN_STROKE / math.sqrt(2)
+    near, far = reach - crotch / 2, reach + crotch / 2
+    arm = [(crotch, 0, 0), (far, near, cap), (near, far, cap)]
+    corners = []
+    for _ in range(4):
+        corners += arm
+        arm = [(-y, x, r) for x, y, r in arm]
+    return Picture(CIRCLE, HEIGHT, [moved(polygon(*corners), CENTRE, MIDDLE)])
 
 
 def upside_down(picture):
@@ -142,87 +161,84 @@ def upside_down(picture):
 
 def symbols():
     """Every symbol by its name; ".fill" is the solid one, "down" the mirrored "up"."""
-    pictures = {}
+    pictures = {"xmark": xmark()}
     for suffix, filled in (("", False), (".fill", True)):
-        for name, sign in (
-            ("arrow.up", ARROW),
-            ("arrow.up.to.line", ARROW_TO_LINE),
-            ("arrowshape.up", ARROWSHAPE),
-            ("arrowtriangle.up", TRIANGLE),
-            ("bolt", BOLT),
-        ):
+        for name, sign in SIGNS.items():
             pictures[f"{name}.circle{suffix}"] = disc(filled, sign)
             if sign is not ARROWSHAPE:
                 pictures[f"{name}.square{suffix}"] = tile(filled, sign)
-        for letter, holes in (("a", OUTLET_A), ("c", OUTLET_C), ("g", OUTLET_G)):
+        for letter, holes in OUTLETS.items():
             pictures[f"poweroutlet.type.{letter}{suffix}"] = tile(filled, holes)
-        pictures[f"arrowshape.up{suffix}"] = bare(
-            16, filled, arrowshape(-0.25, 9.25, 16.25, 9.5, 4, 1)
-        )
-        pictures[f"bolt{suffix}"] = bare(12, filled, bolt(6.95, 10.3, 2, 2.9, 0.75))
-    for name in [n for n in pictures if ".up" in n and ".to." not in n]:
-        pictures[name.replace(".up", ".down")] = upside_down(pictures[name])
-    pictures["xmark"] = xmark()
+        block = arrowshape(-0.15, 9.25, 16.25, 9.4, 4, 1)
+        pictures[f"arrowshape.up{suffix}"] = bare(16, filled, block)
+        pictures[f"bolt{suffix}"] = bare(14, filled, bolt(7.8, 10.25, 2, 3.4, 0.75))
+    upward = {name: picture for name, picture in pictures.items() if ".up." in f"{name}."}
+    for name, picture in upward.items():
+        if "to.line" not in name:
+            pictures[name.replace(".up", ".down")] = upside_down(picture)
     return pictures
 
 
-def xmark():
-    """A cross of two strokes with round ends."""
-    half, reach = SIGN_STROKE / 2 * math.sqrt(2), 7.5
-    slant = half / 2
-    arm = [(reach, reach - half), (reach + 0, reach)]
-    corners = []
-    for quarter in range(4):
-        for x, y in ((half, 0), (reach + slant, reach - slant), (reach - slant, reach + slant)):
-            for _ in range(quarter):
-                x, y = -y, x
-            corners.append((x, y, 0 if 0 in (x, y) else SIGN_STROKE / 2))
-    return Picture(CIRCLE, HEIGHT, [moved(polygon(*corners), CIRCLE / 2, MIDDLE)])
-
-
-# The fills that the application draws in the batteries; their round corners are 1.2.
+# The fill that the application draws in a battery has corners of this radius. It stands on the
+# lower edge of an upright frame, 6 wide and up to 12 high. In a level frame it starts at the left
+# edge, up to 18 wide and 8 high, or at 2.5 from it, up to 16 wide and 7 high.
 FILL_RADIUS = 1.2
-VERTICAL_FILL = 6.0, 12.0
+CAP_RADIUS = 1.0
 
 
-def bodies():
-    """First generation: a pale body that the whole fill covers, and a terminal that it leaves."""
-    upright = polygon(
-        (0, 2, FILL_RADIUS), (1, 2, 0), (1, 0, 1), (5, 0, 1), (5, 2, 0), (6, 2, FILL_RADIUS),
-        (6, 14, FILL_RADIUS), (0, 14, FILL_RADIUS),
+def solid_battery(width, height, cap_width):
+    """An upright body that the whole fill covers, and a terminal of two pixels that it leaves."""
+    left, right = (width - cap_width) / 2, (width + cap_width) / 2
+    return polygon(
+        (0, 2, FILL_RADIUS),
+        (left, 2, 0),
+        (left, 0, CAP_RADIUS),
+        (right, 0, CAP_RADIUS),
+        (right, 2, 0),
+        (width, 2, FILL_RADIUS),
+        (width, height, FILL_RADIUS),
+        (0, height, FILL_RADIUS),
     )
-    level = tuple((14 - y, x, r) for x, y, r in reversed(upright))
-    level = polygon(
-        (0, 0, FILL_RADIUS), (18, 0, FILL_RADIUS), (18, 2, 0), (20, 2, 1), (20, 6, 1), (18, 6, 0),
-        (18, 8, FILL_RADIUS), (0, 8, FILL_RADIUS),
-    )
-    return {"vertBatt1Border": Picture(6, 14, [upright]), "horzBatt1Border": Picture(20, 8, [level])}
 
 
-def level_outline(height, stroke):
-    """Second generation: a wall round a fill of 16 that starts at 2.5, and a terminal at its end."""
-    wall = rectangle(0, 0, 21, height, 3.25)
-    cap = polygon((23 - stroke, 3, 0), (23, 3, 1), (23, height - 3, 1), (23 - stroke, height - 3, 0))
-    return Picture(23, height, ring(wall, stroke) + [cap])
+def terminal(width, length, stroke):
+    """The terminal of an upright outline, round at its top, in the middle of a width."""
+    left, right = (width - length) / 2, (width + length) / 2
+    return polygon((left, stroke), (left, 0, CAP_RADIUS), (right, 0, CAP_RADIUS), (right, stroke))
+
+
+def lying(outline, length):
+    """An upright outline turned to the right, in a frame of this length."""
+    return tuple((length - y, x, r) for x, y, r in outline)
 
 
 def upright_outline(stroke):
-    wall = rectangle(0, 2, 10, 14, 3)
-    cap = polygon((3, 0, 1), (7, 0, 1), (7, stroke, 0), (3, stroke, 0))
-    return Picture(10, 16, ring(wall, stroke) + [cap])
+    """The fill stands in the wall's foot; a gap parts it from the sides and, when full, the top."""
+    wall = polygon((0, 2, 3), (10, 2, 3), (10, 16, 2), (0, 16, 2))
+    return Picture(10, 16, ring(wall, stroke) + [terminal(10, 4, stroke)])
+
+
+def level_outline(stroke):
+    """Odd in height as its fill is, so that the edges of both meet the same pixels."""
+    wall = rectangle(0, 0, 21, 11, 3.25)
+    return Picture(23, 11, ring(wall, stroke) + [lying(terminal(11, 5, stroke), 23)])
 
 
 def battery_parts():
-    """The parts of the battery glyphs; the application draws the fill between them."""
-    pictures = bodies()
-    for name, stroke in (("100", 1.0), ("125", 1.25), ("150", 1.5)):
-        pictures[f"horzBatt2Border.{name}"] = level_outline(11, stroke)
-        if name != "150":
-            pictures[f"vertBatt2Border.{name}"] = upright_outline(stroke)
-    spark = bolt(4.6, 7, 1, 1.75, 0.35, 4, 7)
-    pictures["customBolt"] = Picture(10, 14, [spark])
-    pictures["customBoltMask"] = Picture(10, 14, [inset(spark, -1.25)])
-    return pictures
+    """The outlines by their stroke, and the bolt with the gap that it is set into."""
+    # The bolt stands one pixel left of its frame's middle: over the body, not body and terminal.
+    spark = bolt(4.5, 7, 1, 1.75, 0.35, x=6, y=8)
+    return {
+        "vertBatt1Border": Picture(6, 14, [solid_battery(6, 14, 4)]),
+        "horzBatt1Border": Picture(20, 8, [lying(solid_battery(8, 20, 4), 20)]),
+        "vertBatt2Border.100": upright_outline(1.0),
+        "vertBatt2Border.125": upright_outline(1.25),
+        "horzBatt2Border.100": level_outline(1.0),
+        "horzBatt2Border.125": level_outline(1.25),
+        "horzBatt2Border.150": level_outline(1.5),
+        "customBolt": Picture(14, 16, [spark]),
+        "customBoltMask": Picture(14, 16, [inset(spark, -1.5)]),
+    }
 
 
 def files():
@@ -243,7 +259,10 @@ def main():
         return 1 if stale else 0
     SYMBOLS.mkdir(exist_ok=True)
     for path in stale:
-        path.write_text(wanted[path]) if path in wanted else path.unlink()
+        if path in wanted:
+            path.write_text(wanted[path])
+        else:
+            path.unlink()
     return 0
 
 

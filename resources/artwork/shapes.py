@@ -49,6 +49,11 @@ def neighbours(outline):
     return zip(outline[-1:] + outline[:-1], outline, outline[1:] + outline[:1])
 
 
+def towards(corner, other, distance):
+    part = distance / math.dist(corner[:2], other[:2])
+    return corner[0] + (other[0] - corner[0]) * part, corner[1] + (other[1] - corner[1]) * part
+
+
 def inset(outline, distance):
     """The outline whose edges lie inside by this distance; a negative one lies outside."""
     side = math.copysign(1, signed_area(outline))
@@ -86,21 +91,18 @@ def point(x, y):
 
 def outline_data(outline):
     """Lines between the corners, an arc round each corner that has a radius."""
-    side = []
+    steps, at = [], None
     for before, corner, after in neighbours(outline):
         x, y, radius = corner
         angle = turn(before, corner, after)
         reach = radius * abs(math.tan(angle / 2))
-        lengths = math.dist((x, y), before[:2]), math.dist((x, y), after[:2])
-        start, end = (
-            (x + (other[0] - x) * reach / length, y + (other[1] - y) * reach / length)
-            for other, length in zip((before, after), lengths)
-        )
-        side.append(f"{'L' if side else 'M'}{point(*start)}")
+        start, end = (point(*towards(corner, other, reach)) for other in (before, after))
+        if start != at:
+            steps.append(f"{'L' if steps else 'M'}{start}")
         if reach > 0:
-            sweep = 1 if angle > 0 else 0
-            side.append(f"A{number(radius)} {number(radius)} 0 0 {sweep} {point(*end)}")
-    return "".join(side) + "Z"
+            steps.append(f"A{number(radius)} {number(radius)} 0 0 {int(angle > 0)} {end}")
+        at = end
+    return "".join(steps) + "Z"
 
 
 def path_data(outlines):
