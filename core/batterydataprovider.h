@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "core/batterydata.h"
+#include "sources/batterydatafromiops.h"
+#include "sources/batterydatafromioservice.h"
+#include "sources/batterydatafromshell.h"
+
+#include <QObject>
+#include <QProperty>
+#include <QTimer>
+
+#include <functional>
+
+namespace ferrin {
+
+class PowerSourcesService;
+class ProcessLauncher;
+class RegistryService;
+class StoredData;
+
+/// Keeps the one snapshot of the battery current: the fast values on a timer, the slow ones when it
+/// is told to. It merges what the three readers report, and copies the adapter's details into the
+/// stored data for as long as they may still be arriving. It never fails: what a source does not
+/// answer is absent in the snapshot.
+///
+/// Everything happens on the main thread.
+class BatteryDataProvider : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(ferrin::BatteryData *data READ data CONSTANT)
+
+public:
+    static constexpr double REFRESH_RATE_IN_SECONDS = 5.0;
+    /// The adapter's details are copied while the counter is at most this.
+    static constexpr qint64 POWER_ADAPTER_INFO_COUNTS = 3;
+
+    /// What the provider reads from and writes to; all of it must outlive the provider.
+    struct Platform
+    {
+        RegistryService &registry;
+        PowerSourcesService &powerSources;
+        ProcessLauncher &processLauncher;
+        /// Asked for only when there is adapter data to store or to delete.
+        std::function<StoredData &()> storedData;
+    };
+
+    /// Fills the snapshot once before it returns, and starts the timer.
+    explicit BatteryDataProvider(const Platform &platform, QObject *parent = nullptr);
+
+    /// Hands over the parts of the process-wide provider; the application does so once, before
+    /// anything asks for it.
+    static void setPlatform(const Platform &platform);
+    /// The one of the process, made on first use and never destroyed. Asking before its parts were
+    /// handed over is a programming error and stops the process.
+    [[nodiscard]] static BatteryDataProvider &shared();
+
+    [[nodiscard]] BatteryData *data() noexcept { return &m_data; }
+    [[nodiscard]] const BatteryDataFromIOService &batteryIOService() const noexcept
+    {
+        return m_batteryIOService;
+    }
+    [[nodiscard]] const BatteryDataFromIOPS &batteryIOPS() const noexcept { return m_batteryIOPS; }
+    [[nodiscard]] const BatteryDataFromShell &batteryShell() const noexcept
+    {
+        return m_batteryShell;
+    }
+    /// The power source of the refresh before the last.
+    [[nodiscard]] PowerSource lastPowerSource() const { return m_lastPowerSource; }
+    /// How many refreshes have copied the present adapter's details, 0 to 4.
+    [[nodiscard]] qint64 adapterConnectedCounter() const { return m_adapterConnectedCounter; }
+    [[nodiscard]] const QTimer &timer() const noexcept { return m_timer; }
+
+    /// The fast refresh. The timer calls it; others may, at any time.
+    Q_INVOKABLE void updatePeriodicData();
+    /// The slow refresh: blocks while the report tool runs. A caller with something to draw first
+    /// queues it.
+    Q_INVOKABLE void updateStaticData();
+
+Q_SIGNALS:
+    void lastPowerSourceChanged();
+    void adapterConnectedCounterChanged();
+
+private:
+    void updatePowerSource();
+    void updateAdapterDetails();
+    void storeAdapterDetails();
+    void copyAdapterDetails();
+    void neutralizeAbsentAdapterDetails();
+    void updateTimeRemaining();
+    void updateRunningTime();
+    [[nodiscard]] BatteryChargingStatus chargingStatusNow() const;
+    [[nodiscard]] TimeQuality timeQualityNow();
+    [[nodiscard]] BatteryTime timeRemainingFromRegistry() const;
+
+    template <typename T>
+    [[nodiscard]] std::optional<T> registryValue(SmartBatteryKey key) const;
+
+    BatteryData m_data;
+    BatteryDataFromIOService m_batteryIOService;
+    BatteryDataFromIOPS m_batteryIOPS;
+    BatteryDataFromShell m_batteryShell;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(BatteryDataProvider, PowerSource, m_lastPowerSource,
+                                         PowerSource::unknown,
+                                         &BatteryDataProvider::lastPowerSourceChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(BatteryDataProvider, qint64, m_adapterConnectedCounter,
+                               &BatteryDataProvider::adapterConnectedCounterChanged)
+    QTimer m_timer;
+    std::function<StoredData &()> m_storedData;
+};
+
+} // namespace ferrin

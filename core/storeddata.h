@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QObject>
+#include <QProperty>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+namespace ferrin {
+
+class DefaultsStore;
+
+/// The last power adapter that was seen, kept across launches: a thin view onto five keys of the
+/// defaults store. It caches nothing, so every read asks the store. The provider alone writes it.
+///
+/// Reading a value inside a binding records the read; writing a different value evaluates that
+/// binding again. Deleting everything notifies nobody. To QML an absent value is `undefined`.
+class StoredData : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QVariant adapterName READ adapterNameValue NOTIFY adapterNameChanged)
+    Q_PROPERTY(QVariant adapterManufacturer READ adapterManufacturerValue NOTIFY
+                   adapterManufacturerChanged)
+    Q_PROPERTY(QVariant adapterWatts READ adapterWattsValue NOTIFY adapterWattsChanged)
+    Q_PROPERTY(QVariant adapterVoltage READ adapterVoltageValue NOTIFY adapterVoltageChanged)
+    Q_PROPERTY(QVariant adapterCurrent READ adapterCurrentValue NOTIFY adapterCurrentChanged)
+
+public:
+    /// The store must outlive this view.
+    explicit StoredData(DefaultsStore &defaults, QObject *parent = nullptr);
+
+    /// The one of the process, on the shared defaults store. Made on first use, never destroyed.
+    [[nodiscard]] static StoredData &shared();
+
+    [[nodiscard]] std::optional<QString> adapterName() const;
+    [[nodiscard]] std::optional<QString> adapterManufacturer() const;
+    /// W.
+    [[nodiscard]] std::optional<qint64> adapterWatts() const;
+    /// V.
+    [[nodiscard]] std::optional<float> adapterVoltage() const;
+    /// A.
+    [[nodiscard]] std::optional<float> adapterCurrent() const;
+
+    // Writing an absent value removes the stored one...
+    void setAdapterName(const std::optional<QString> &name);
+    void setAdapterManufacturer(const std::optional<QString> &manufacturer);
+    void setAdapterWatts(std::optional<qint64> watts);
+    void setAdapterVoltage(std::optional<float> volts);
+    /// ...except here: an absent current leaves the stored one as it is.
+    void setAdapterCurrent(std::optional<float> amperes);
+
+    void deleteAll();
+
+Q_SIGNALS:
+    void adapterNameChanged();
+    void adapterManufacturerChanged();
+    void adapterWattsChanged();
+    void adapterVoltageChanged();
+    void adapterCurrentChanged();
+
+private:
+    [[nodiscard]] QVariant adapterNameValue() const;
+    [[nodiscard]] QVariant adapterManufacturerValue() const;
+    [[nodiscard]] QVariant adapterWattsValue() const;
+    [[nodiscard]] QVariant adapterVoltageValue() const;
+    [[nodiscard]] QVariant adapterCurrentValue() const;
+
+    DefaultsStore &m_defaults;
+
+    // How often each value was written: what a read registers with and a write notifies.
+    Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_nameWrites, &StoredData::adapterNameChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_manufacturerWrites,
+                               &StoredData::adapterManufacturerChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_wattsWrites, &StoredData::adapterWattsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_voltageWrites,
+                               &StoredData::adapterVoltageChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_currentWrites,
+                               &StoredData::adapterCurrentChanged)
+};
+
+} // namespace ferrin
