@@ -90,7 +90,12 @@ def arrowshape(top, shoulder, bottom, half_head, half_shaft, radius):
 
 
 def triangle(top, bottom, half_width, radius):
-    return polygon((CENTRE, top), (CENTRE + half_width, bottom), (CENTRE - half_width, bottom), radius=radius)
+    return polygon(
+        (CENTRE, top),
+        (CENTRE + half_width, bottom),
+        (CENTRE - half_width, bottom),
+        radius=radius,
+    )
 
 
 def bolt(half_width, half_height, wing, lean, radius, x=CENTRE, y=MIDDLE):
@@ -227,7 +232,7 @@ def level_outline(stroke):
 def battery_parts():
     """The outlines by their stroke, and the bolt with the gap that it is set into."""
     # The bolt stands one pixel left of its frame's middle: over the body, not body and terminal.
-    spark = bolt(4.5, 7, 1, 1.75, 0.35, x=6, y=8)
+    spark = bolt(4.5, 7, 1, 1.75, 0.35, x=6.5, y=8)
     return {
         "vertBatt1Border": Picture(6, 14, [solid_battery(6, 14, 4)]),
         "horzBatt1Border": Picture(20, 8, [lying(solid_battery(8, 20, 4), 20)]),
@@ -236,8 +241,8 @@ def battery_parts():
         "horzBatt2Border.100": level_outline(1.0),
         "horzBatt2Border.125": level_outline(1.25),
         "horzBatt2Border.150": level_outline(1.5),
-        "customBolt": Picture(14, 16, [spark]),
-        "customBoltMask": Picture(14, 16, [inset(spark, -1.5)]),
+        "customBolt": Picture(15, 16, [spark]),
+        "customBoltMask": Picture(15, 16, [inset(spark, -1.5)]),
     }
 
 
