@@ -3,52 +3,33 @@
 
 #include "state/defaultsstore.h"
 
+#include "sources/variantcast.h"
+
 namespace ferrin {
-
-namespace {
-
-bool isWhole(int type)
-{
-    return type == QMetaType::Int || type == QMetaType::LongLong || type == QMetaType::UInt
-        || type == QMetaType::ULongLong;
-}
-
-bool isNumber(int type)
-{
-    return isWhole(type) || type == QMetaType::Double || type == QMetaType::Float;
-}
-
-} // namespace
 
 std::optional<bool> DefaultsStore::boolean(const QString &key) const
 {
-    const QVariant value = object(key);
-    return value.typeId() == QMetaType::Bool ? std::optional(value.toBool()) : std::nullopt;
+    return variantCast<bool>(object(key));
 }
 
 std::optional<qint64> DefaultsStore::integer(const QString &key) const
 {
-    const QVariant value = object(key);
-    return isWhole(value.typeId()) ? std::optional(value.toLongLong()) : std::nullopt;
+    return variantCast<qint64>(object(key));
 }
 
 std::optional<double> DefaultsStore::number(const QString &key) const
 {
-    const QVariant value = object(key);
-    return isNumber(value.typeId()) ? std::optional(value.toDouble()) : std::nullopt;
+    return variantCast<double>(object(key));
 }
 
 std::optional<QString> DefaultsStore::string(const QString &key) const
 {
-    const QVariant value = object(key);
-    return value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt;
+    return variantCast<QString>(object(key));
 }
 
 std::optional<QByteArray> DefaultsStore::data(const QString &key) const
 {
-    const QVariant value = object(key);
-    return value.typeId() == QMetaType::QByteArray ? std::optional(value.toByteArray())
-                                                   : std::nullopt;
+    return variantCast<QByteArray>(object(key));
 }
 
 } // namespace ferrin
