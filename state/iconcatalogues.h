@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "state/icon.h"
+
+#include <span>
+
+namespace ferrin {
+
+/// The icons that the user may choose for one battery state, in the order of the settings pages.
+/// There is one catalogue a state, made on first use and never changed; the first entry is the
+/// state's default.
+class DischargingIconsAvailable
+{
+public:
+    [[nodiscard]] static const DischargingIconsAvailable &shared();
+
+    const std::span<const Icon> list;
+
+private:
+    DischargingIconsAvailable();
+};
+
+/// As DischargingIconsAvailable, while the battery charges.
+class ChargingIconsAvailable
+{
+public:
+    [[nodiscard]] static const ChargingIconsAvailable &shared();
+
+    const std::span<const Icon> list;
+
+private:
+    ChargingIconsAvailable();
+};
+
+/// As DischargingIconsAvailable, once the battery is charged.
+class ChargedIconsAvailable
+{
+public:
+    [[nodiscard]] static const ChargedIconsAvailable &shared();
+
+    const std::span<const Icon> list;
+
+private:
+    ChargedIconsAvailable();
+};
+
+} // namespace ferrin

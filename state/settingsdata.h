@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "state/bundle.h"
+#include "state/icon.h"
+
+#include <QBindable>
+#include <QObject>
+#include <QProperty>
+#include <QString>
+
+#include <optional>
+#include <span>
+
+namespace ferrin {
+
+class DefaultsStore;
+
+/// The icons on offer in the three battery states; by default the catalogues.
+struct IconsOnOffer
+{
+    std::span<const Icon> discharging;
+    std::span<const Icon> charging;
+    std::span<const Icon> charged;
+
+    [[nodiscard]] static IconsOnOffer fromCatalogues();
+};
+
+/// The user's persistent choices that are more than a switch: the icon of each battery state, the
+/// width that the status item last had, and the release that ran last. It caches nothing: every
+/// value is read from the defaults store, every binding that read one is evaluated again when it is
+/// set here or changes in the store. A value that cannot be read is replaced by its default in the
+/// store, on first read. One instance serves the process; it never shows an error.
+class SettingsData : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(ferrin::Icon dischargingIconSelected READ dischargingIconSelected WRITE
+                   setDischargingIconSelected BINDABLE bindableDischargingIconSelected)
+    Q_PROPERTY(ferrin::Icon chargingIconSelected READ chargingIconSelected WRITE
+                   setChargingIconSelected BINDABLE bindableChargingIconSelected)
+    Q_PROPERTY(ferrin::Icon chargedIconSelected READ chargedIconSelected WRITE
+                   setChargedIconSelected BINDABLE bindableChargedIconSelected)
+    Q_PROPERTY(QString releaseVersionNumber READ releaseVersionNumber WRITE setReleaseVersionNumber
+                   BINDABLE bindableReleaseVersionNumber)
+    Q_PROPERTY(float statusItemWidth READ statusItemWidth WRITE setStatusItemWidth BINDABLE
+                   bindableStatusItemWidth)
+    Q_PROPERTY(
+        ferrin::Icon dischargingIconSelectedDefault READ dischargingIconSelectedDefault WRITE
+            setDischargingIconSelectedDefault BINDABLE bindableDischargingIconSelectedDefault)
+    Q_PROPERTY(ferrin::Icon chargingIconSelectedDefault READ chargingIconSelectedDefault WRITE
+                   setChargingIconSelectedDefault BINDABLE bindableChargingIconSelectedDefault)
+    Q_PROPERTY(ferrin::Icon chargedIconSelectedDefault READ chargedIconSelectedDefault WRITE
+                   setChargedIconSelectedDefault BINDABLE bindableChargedIconSelectedDefault)
+
+public:
+    /// The process's, over the shared defaults, made on first use.
+    [[nodiscard]] static SettingsData &shared();
+
+    /// Runs the start-up checks. The store must outlive this. An empty list is a programming error
+    /// and stops the process.
+    SettingsData(DefaultsStore &defaults, const Bundle &bundle,
+                 const IconsOnOffer &icons = IconsOnOffer::fromCatalogues());
+
+    [[nodiscard]] DefaultsStore &defaults() const noexcept { return m_defaults; }
+
+    /// Reading one that is absent or cannot be decoded stores its default first.
+    [[nodiscard]] Icon dischargingIconSelected();
+    [[nodiscard]] Icon chargingIconSelected();
+    [[nodiscard]] Icon chargedIconSelected();
+    [[nodiscard]] QString releaseVersionNumber();
+    /// Logical pixels.
+    [[nodiscard]] float statusItemWidth() const { return m_statusItemWidth.value(); }
+
+    /// Setting a persistent value tells its readers even when it is the present one.
+    void setDischargingIconSelected(Icon icon);
+    void setChargingIconSelected(Icon icon);
+    void setChargedIconSelected(Icon icon);
+    void setReleaseVersionNumber(const QString &version);
+    void setStatusItemWidth(float width);
+
+    [[nodiscard]] Icon dischargingIconSelectedDefault() const { return m_dischargingDefault; }
+    [[nodiscard]] Icon chargingIconSelectedDefault() const { return m_chargingDefault; }
+    [[nodiscard]] Icon chargedIconSelectedDefault() const { return m_chargedDefault; }
+    void setDischargingIconSelectedDefault(Icon icon) { m_dischargingDefault = icon; }
+    void setChargingIconSelectedDefault(Icon icon) { m_chargingDefault = icon; }
+    void setChargedIconSelectedDefault(Icon icon) { m_chargedDefault = icon; }
+
+    /// The persistent ones are read-only: a value is set by its setter.
+    [[nodiscard]] QBindable<Icon> bindableDischargingIconSelected() { return &m_discharging; }
+    [[nodiscard]] QBindable<Icon> bindableChargingIconSelected() { return &m_charging; }
+    [[nodiscard]] QBindable<Icon> bindableChargedIconSelected() { return &m_charged; }
+    [[nodiscard]] QBindable<QString> bindableReleaseVersionNumber() { return &m_release; }
+    [[nodiscard]] QBindable<float> bindableStatusItemWidth() { return &m_statusItemWidth; }
+    [[nodiscard]] QBindable<Icon> bindableDischargingIconSelectedDefault()
+    {
+        return &m_dischargingDefault;
+    }
+    [[nodiscard]] QBindable<Icon> bindableChargingIconSelectedDefault()
+    {
+        return &m_chargingDefault;
+    }
+    [[nodiscard]] QBindable<Icon> bindableChargedIconSelectedDefault() { return &m_chargedDefault; }
+
+private:
+    [[nodiscard]] std::optional<Icon> readAndDecode(const QString &key) const;
+    void encodeAndWrite(Icon icon, const QString &key);
+    void write(const QString &key, const QVariant &value);
+    void notify(const QString &key);
+
+    [[nodiscard]] Icon readOrReplace(const QString &key, Icon fallback);
+    void replaceUnlessOffered(const QString &key, Icon fallback, std::span<const Icon> offered);
+    void keepBooksOnReleases();
+
+    // What a binding sees through a bindable: the value or its default, with nothing written.
+    [[nodiscard]] Icon storedDischargingIcon() const;
+    [[nodiscard]] Icon storedChargingIcon() const;
+    [[nodiscard]] Icon storedChargedIcon() const;
+    [[nodiscard]] QString storedRelease() const;
+    [[nodiscard]] float storedWidth() const;
+
+    DefaultsStore &m_defaults;
+    QString m_shortVersion;
+    /// Empty unless a setter is at work, which then tells the readers itself.
+    QString m_keyBeingWritten;
+
+    Q_OBJECT_BINDABLE_PROPERTY(SettingsData, Icon, m_dischargingDefault)
+    Q_OBJECT_BINDABLE_PROPERTY(SettingsData, Icon, m_chargingDefault)
+    Q_OBJECT_BINDABLE_PROPERTY(SettingsData, Icon, m_chargedDefault)
+    Q_OBJECT_COMPUTED_PROPERTY(SettingsData, Icon, m_discharging,
+                               &SettingsData::storedDischargingIcon)
+    Q_OBJECT_COMPUTED_PROPERTY(SettingsData, Icon, m_charging, &SettingsData::storedChargingIcon)
+    Q_OBJECT_COMPUTED_PROPERTY(SettingsData, Icon, m_charged, &SettingsData::storedChargedIcon)
+    Q_OBJECT_COMPUTED_PROPERTY(SettingsData, QString, m_release, &SettingsData::storedRelease)
+    Q_OBJECT_COMPUTED_PROPERTY(SettingsData, float, m_statusItemWidth, &SettingsData::storedWidth)
+};
+
+} // namespace ferrin
