@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/sysfs/batteryfigures.h"
+
+#include <algorithm>
+
+namespace ferrin {
+
+namespace {
+constexpr int chargedPercent = 95;
+// Below this nothing flows that deserves a direction.
+constexpr std::int64_t idleRate = 100'000;
+
+std::int64_t usualFull(const std::vector<Pack> &packs)
+{
+    std::int64_t sum = 0;
+    std::int64_t count = 0;
+    for (const Pack &pack : packs) {
+        sum += pack.full.value_or(0);
+        count += pack.full ? 1 : 0;
+    }
+    return count > 0 ? sum / count : 100;
+}
+
+bool anyIs(const std::vector<Pack> &packs, ChargeStatus status)
+{
+    return std::any_of(packs.begin(), packs.end(),
+                       [status](const Pack &pack) { return pack.status == status; });
+}
+
+bool isFull(const Pack &pack, std::optional<bool> external)
+{
+    const int percent = pack.percent.value_or(0);
+    switch (pack.status.value_or(ChargeStatus::Unknown)) {
+    case ChargeStatus::Full:
+        return true;
+    case ChargeStatus::NotCharging:
+        return external == true && percent >= chargedPercent;
+    case ChargeStatus::Unknown:
+        return (external == true && percent >= chargedPercent)
+            || (external != false && percent == 100);
+    case ChargeStatus::Charging:
+    case ChargeStatus::Discharging:
+        return false;
+    }
+    return false;
+}
+
+struct Votes
+{
+    bool charging = false;
+    bool discharging = false;
+    bool resting = false;
+};
+
+Votes votesOf(const std::vector<BatterySupply> &batteries)
+{
+    Votes votes;
+    for (const BatterySupply &battery : batteries) {
+        votes.charging |= battery.status == ChargeStatus::Charging;
+        votes.discharging |= battery.status == ChargeStatus::Discharging;
+        votes.resting
+            |= battery.status == ChargeStatus::Full || battery.status == ChargeStatus::NotCharging;
+    }
+    return votes;
+}
+
+std::optional<bool> byStatus(const Votes &votes)
+{
+    if (votes.discharging)
+        return false;
+    return votes.charging || votes.resting ? std::optional(true) : std::nullopt;
+}
+} // namespace
+
+std::vector<Pack> realPacks(std::vector<Pack> packs)
+{
+    const auto isPhantom = [](const Pack &pack) { return pack.phantom; };
+    if (!std::all_of(packs.begin(), packs.end(), isPhantom))
+        std::erase_if(packs, isPhantom);
+    return packs;
+}
+
+std::optional<int> chargePercent(const std::vector<Pack> &packs)
+{
+    if (packs.size() == 1)
+        return packs.front().percent;
+    const std::int64_t usual = usualFull(packs);
+    std::int64_t sumOfNow = 0;
+    std::int64_t sumOfFull = 0;
+    for (const Pack &pack : packs) {
+        if (!pack.percent)
+            return std::nullopt;
+        const std::int64_t full = pack.full.value_or(usual);
+        sumOfFull += full;
+        sumOfNow += pack.now.value_or(full * *pack.percent / 100);
+    }
+    if (sumOfFull <= 0)
+        return std::nullopt;
+    return static_cast<int>(std::clamp<std::int64_t>(sumOfNow * 100 / sumOfFull, 0, 100));
+}
+
+Reading remainingMilliampHours(const std::vector<Pack> &packs)
+{
+    std::int64_t sum = 0;
+    for (const Pack &pack : packs) {
+        if (!pack.now || !pack.full || !pack.fullMilliampHours)
+            return std::nullopt;
+        sum += (*pack.now * *pack.fullMilliampHours + *pack.full / 2) / *pack.full;
+    }
+    return packs.empty() ? std::nullopt : Reading(sum);
+}
+
+Reading fullMilliampHours(const std::vector<Pack> &packs)
+{
+    std::int64_t sum = 0;
+    for (const Pack &pack : packs) {
+        if (!pack.fullMilliampHours)
+            return std::nullopt;
+        sum += *pack.fullMilliampHours;
+    }
+    return packs.empty() ? std::nullopt : Reading(sum);
+}
+
+std::optional<bool> externalConnected(const PowerSupplies &supplies)
+{
+    const Votes votes = votesOf(supplies.batteries);
+    bool told = false;
+    bool mainsOnline = false;
+    bool mainsOffline = false;
+    bool otherOnline = false;
+    for (const AdapterSupply &adapter : supplies.adapters) {
+        if (!adapter.online)
+            continue;
+        told = true;
+        const bool online = *adapter.online != 0;
+        if (adapter.type == SupplyType::Mains)
+            (online ? mainsOnline : mainsOffline) = true;
+        else
+            otherOnline |= online;
+    }
+    if (!told)
+        return byStatus(votes);
+    if (votes.charging && !votes.discharging)
+        return true;
+    if (mainsOnline && mainsOffline && !otherOnline)
+        return !votes.discharging || votes.charging;
+    return mainsOnline || otherOnline;
+}
+
+std::optional<bool> isCharging(const std::vector<Pack> &packs, std::optional<bool> external)
+{
+    if (anyIs(packs, ChargeStatus::Charging))
+        return true;
+    bool told = false;
+    bool settled = external == false;
+    for (const Pack &pack : packs) {
+        told |= pack.status.has_value();
+        const bool says = pack.status && pack.status != ChargeStatus::Unknown;
+        const bool idle = pack.rate && *pack.rate < idleRate;
+        settled |= says || idle || isFull(pack, external);
+    }
+    return told && settled ? std::optional(false) : std::nullopt;
+}
+
+std::optional<bool> isFullyCharged(const std::vector<Pack> &packs, std::optional<bool> external)
+{
+    bool full = !packs.empty();
+    for (const Pack &pack : packs) {
+        if (!pack.status)
+            return std::nullopt;
+        full = full && isFull(pack, external);
+    }
+    return packs.empty() ? std::nullopt : std::optional(full);
+}
+
+} // namespace ferrin

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "platform/linux/power/sysfs/pack.h"
+
+#include <vector>
+
+namespace ferrin {
+
+/// What all packs of the machine say together. Pure functions over packs and supplies; where they
+/// cannot be right, they are absent. Slots that hold no pack count only when there is nothing else.
+
+/// The packs without the phantoms, or all when there are only phantoms.
+[[nodiscard]] std::vector<Pack> realPacks(std::vector<Pack> packs);
+
+/// The charge of the machine, 0...100: of one pack its own, of several what is left in all over
+/// what all hold, rounded down. A pack that does not tell its size weighs as much as the others do
+/// on average. Absent when one pack's charge is unknown.
+[[nodiscard]] std::optional<int> chargePercent(const std::vector<Pack> &packs);
+
+/// Sums in mAh; absent when one pack does not know.
+[[nodiscard]] Reading remainingMilliampHours(const std::vector<Pack> &packs);
+[[nodiscard]] Reading fullMilliampHours(const std::vector<Pack> &packs);
+
+/// Whether power comes from outside.
+///
+/// - Any supply that powers the system and is online (whatever the number, as long as it is not 0)
+///   says yes. A battery may still discharge then: a weak charger, or a controller that waits.
+/// - Of several supplies of type Mains that disagree, one lies for ever; then the batteries know:
+///   while one of them discharges and none charges, there is no external power.
+/// - A battery that charges while none discharges is fed by something, whatever the supplies say.
+/// - With no supply that tells, the batteries' status decides: Charging, Full and Not charging
+///   happen on external power only, Discharging only without.
+///
+/// Absent when nobody tells.
+[[nodiscard]] std::optional<bool> externalConnected(const PowerSupplies &supplies);
+
+/// Some pack charges. Absent when no pack has a status that could be read, or when all say Unknown
+/// while power flows that may go either way.
+[[nodiscard]] std::optional<bool> isCharging(const std::vector<Pack> &packs,
+                                             std::optional<bool> external);
+
+/// Every pack is full: it says so; or it stopped charging at 95 % or more on external power, which
+/// controllers call Not charging and older drivers Unknown; or it is Unknown, all full and not
+/// known to run the machine. Absent when a pack's status could not be read.
+[[nodiscard]] std::optional<bool> isFullyCharged(const std::vector<Pack> &packs,
+                                                 std::optional<bool> external);
+
+} // namespace ferrin

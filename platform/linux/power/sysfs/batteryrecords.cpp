@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/sysfs/batteryrecords.h"
+
+#include "platform/linux/power/sysfs/attributetext.h"
+#include "platform/linux/power/sysfs/pack.h"
+
+#include <algorithm>
+
+namespace ferrin {
+
+namespace {
+constexpr std::int64_t mostCycles = 10'000;
+// Tenths of a degree.
+constexpr std::int64_t coldest = -400;
+constexpr std::int64_t warmest = 1'200;
+
+// The MAX17042 family's driver hands its cycle register through, which counts hundredths of a cycle
+// in some chips and sixteenths of one in others. The driver names all of its supplies like this.
+bool countsParts(const BatteryRecord &record)
+{
+    return record.name.starts_with("max170");
+}
+
+Reading greater(Reading left, Reading right)
+{
+    return left && (!right || *left >= *right) ? left : right;
+}
+} // namespace
+
+Reading greatestCycleCount(const std::vector<BatteryRecord> &records)
+{
+    Reading greatest;
+    for (const BatteryRecord &record : records) {
+        const std::int64_t count = record.cycleCount.value_or(0);
+        if (count > 0 && count <= mostCycles && !countsParts(record))
+            greatest = greater(greatest, count);
+    }
+    return greatest;
+}
+
+Reading designMilliampHours(const std::vector<BatterySupply> &batteries,
+                            const std::vector<BatteryRecord> &records)
+{
+    if (batteries.empty() || batteries.size() != records.size())
+        return std::nullopt;
+    std::int64_t sum = 0;
+    for (std::size_t index = 0; index < batteries.size(); ++index) {
+        const Reading design = designMilliampHours(batteries[index], records[index]);
+        if (!design)
+            return std::nullopt;
+        sum += *design;
+    }
+    return sum;
+}
+
+Reading temperatureHundredths(const std::vector<BatteryRecord> &records)
+{
+    Reading greatest;
+    for (const BatteryRecord &record : records) {
+        const Reading tenths = record.temperature;
+        if (tenths && *tenths >= coldest && *tenths <= warmest)
+            greatest = greater(greatest, *tenths * 10);
+    }
+    return greatest;
+}
+
+QString serialNumber(const std::vector<BatteryRecord> &records)
+{
+    for (const BatteryRecord &record : records) {
+        const QString serial = serialOf(record.serialNumber);
+        if (!serial.isEmpty())
+            return serial;
+    }
+    return {};
+}
+
+} // namespace ferrin

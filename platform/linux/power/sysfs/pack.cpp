@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/sysfs/pack.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace ferrin {
+
+namespace {
+constexpr std::int64_t million = 1'000'000;
+// One cell nearly empty ... more than any notebook's pack; sentinels lie outside.
+constexpr std::int64_t leastVoltage = 2'500'000;
+constexpr std::int64_t greatestVoltage = 60'000'000;
+constexpr std::int64_t nominalCellVoltage = 3'700'000;
+// 1 kWh and 100 Ah: saturated registers lie far outside, and products with a voltage fit.
+constexpr std::int64_t greatestEnergy = 1'000 * million;
+constexpr std::int64_t greatestCharge = 100 * million;
+constexpr std::int64_t greatestRate = 10'000 * million;
+constexpr std::int64_t longestTime = 48 * 3600;
+// Firmware has been seen to round up to 111.
+constexpr std::int64_t greatestCapacity = 120;
+
+Reading within(Reading value, std::int64_t least, std::int64_t greatest)
+{
+    return value && *value >= least && *value <= greatest ? value : std::nullopt;
+}
+
+Reading voltageOf(const BatterySupply &battery)
+{
+    if (const Reading design = within(battery.voltageMinDesign, leastVoltage, greatestVoltage))
+        return design;
+    return within(battery.voltageNow, leastVoltage, greatestVoltage);
+}
+
+Reading magnitude(Reading value)
+{
+    const Reading bounded = within(value, -greatestRate, greatestRate);
+    return bounded ? Reading(std::abs(*bounded)) : std::nullopt;
+}
+
+// µAh × µV is pWh, µA × µV is pW.
+Reading times(Reading charge, std::int64_t voltage)
+{
+    return charge ? Reading(*charge * voltage / million) : std::nullopt;
+}
+
+std::int64_t rounded(std::int64_t dividend, std::int64_t divisor)
+{
+    return (dividend + divisor / 2) / divisor;
+}
+
+Reading milliampHours(Reading charge, Reading energy, Reading voltage)
+{
+    charge = within(charge, 1, greatestCharge);
+    energy = within(energy, 1, greatestEnergy);
+    if (charge)
+        return rounded(*charge, 1000);
+    if (energy && voltage)
+        return rounded(*energy * 1000, *voltage);
+    return std::nullopt;
+}
+
+struct Family
+{
+    Reading now;
+    Reading full;
+    Reading rate;
+};
+
+Family familyOf(const BatterySupply &battery, std::int64_t voltage)
+{
+    const Reading power = magnitude(battery.powerNow);
+    const Reading current = magnitude(battery.currentNow);
+    const Reading energyFull = within(battery.energyFull, 1, greatestEnergy);
+    const Reading chargeFull = within(battery.chargeFull, 1, greatestCharge);
+    if (energyFull || !chargeFull) {
+        // Energy beside a current: only the present voltage makes it the power of this moment.
+        const Reading present = within(battery.voltageNow, leastVoltage, greatestVoltage);
+        return { within(battery.energyNow, 0, 100 * greatestEnergy), energyFull,
+                 power ? power : times(current, present.value_or(voltage)) };
+    }
+    // Charge and current by the same voltage, so that their quotient is the gauge's own.
+    return { times(within(battery.chargeNow, 0, 100 * greatestCharge), voltage),
+             times(chargeFull, voltage), current ? times(current, voltage) : power };
+}
+
+std::optional<int> percentOf(const BatterySupply &battery, const Family &family)
+{
+    Reading share;
+    if (family.now && family.full && *family.now <= *family.full * 11 / 10)
+        share = std::min<std::int64_t>(*family.now * 100 / *family.full, 100);
+    Reading capacity = within(battery.capacity, 0, greatestCapacity);
+    if (capacity == 0 && share.value_or(0) > 3)
+        capacity.reset();
+    if (capacity)
+        return static_cast<int>(std::min<std::int64_t>(*capacity, 100));
+    return share ? std::optional(static_cast<int>(*share)) : std::nullopt;
+}
+
+Reading trustedNow(const Family &family, std::optional<int> percent)
+{
+    if (!family.full)
+        return std::nullopt;
+    if (family.now && *family.now <= *family.full * 11 / 10) {
+        const std::int64_t share = *family.now * 100 / *family.full;
+        if (!percent || std::abs(share - *percent) <= 25)
+            return std::min(*family.now, *family.full);
+    }
+    return percent ? Reading(*family.full * *percent / 100) : std::nullopt;
+}
+
+// The average goes first: it is the steadier of the two.
+Reading timeOf(Reading average, Reading now)
+{
+    const Reading settled = within(average, 1, longestTime);
+    return settled ? settled : within(now, 1, longestTime);
+}
+
+bool isDrained(const BatterySupply &battery)
+{
+    const Reading design = within(battery.voltageMinDesign, leastVoltage, greatestVoltage);
+    const Reading now = within(battery.voltageNow, leastVoltage, greatestVoltage);
+    return battery.capacityLevel == "Critical" || (design && now && *now < *design);
+}
+
+// Zeros are a statement; what could not be read is none.
+bool isPhantom(const BatterySupply &battery, const Pack &pack)
+{
+    const bool saysZero = battery.energyFull == 0 || battery.chargeFull == 0;
+    return saysZero && !pack.full && pack.percent.value_or(0) == 0
+        && battery.voltageNow.value_or(0) == 0;
+}
+
+Pack packOf(const BatterySupply &battery, std::int64_t voltage)
+{
+    const Family family = familyOf(battery, voltage);
+    Pack pack;
+    pack.status = battery.status;
+    pack.percent = percentOf(battery, family);
+    pack.full = family.full;
+    pack.rate = family.rate;
+    pack.fullMilliampHours
+        = milliampHours(battery.chargeFull, battery.energyFull, voltageOf(battery));
+    pack.timeToEmpty = timeOf(battery.timeToEmptyAverage, battery.timeToEmptyNow);
+    pack.timeToFull = timeOf(battery.timeToFullAverage, battery.timeToFullNow);
+    pack.drained = isDrained(battery);
+    pack.phantom = isPhantom(battery, pack);
+    if (pack.percent == 0 && battery.voltageNow == 0)
+        pack.percent.reset();
+    else
+        pack.now = trustedNow(family, pack.percent);
+    return pack;
+}
+} // namespace
+
+std::vector<Pack> packsOf(const std::vector<BatterySupply> &batteries)
+{
+    // A pack that does not tell its voltage is taken to be like its neighbour.
+    std::int64_t usual = nominalCellVoltage;
+    for (const BatterySupply &battery : batteries)
+        usual = voltageOf(battery).value_or(usual);
+    std::vector<Pack> packs;
+    packs.reserve(batteries.size());
+    for (const BatterySupply &battery : batteries)
+        packs.push_back(packOf(battery, voltageOf(battery).value_or(usual)));
+    return packs;
+}
+
+Reading designMilliampHours(const BatterySupply &battery, const BatteryRecord &record)
+{
+    return milliampHours(record.chargeFullDesign, record.energyFullDesign, voltageOf(battery));
+}
+
+std::optional<int> healthPercent(const BatterySupply &battery, const BatteryRecord &record)
+{
+    Reading full = within(battery.energyFull, 1, greatestEnergy);
+    Reading design = within(record.energyFullDesign, 1, greatestEnergy);
+    if (!full || !design) {
+        full = within(battery.chargeFull, 1, greatestCharge);
+        design = within(record.chargeFullDesign, 1, greatestCharge);
+    }
+    if (!full || !design || *full == *design || *full * 2 > *design * 3)
+        return std::nullopt;
+    return static_cast<int>(std::min<std::int64_t>(*full * 100 / *design, 100));
+}
+
+} // namespace ferrin

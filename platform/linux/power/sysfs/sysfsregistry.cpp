@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/sysfs/sysfsregistry.h"
+
+#include "platform/linux/power/sysfs/batteryfigures.h"
+#include "platform/linux/power/sysfs/batteryrecords.h"
+#include "platform/linux/power/sysfs/designcycles.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <algorithm>
+#include <array>
+
+namespace ferrin {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr RegistryService::Handle batteryHandle = 1;
+constexpr QEvent::Type expiry = QEvent::User;
+
+SysfsRegistry::Time steadyNow()
+{
+    return std::chrono::duration_cast<SysfsRegistry::Time>(
+        std::chrono::steady_clock::now().time_since_epoch());
+}
+
+QVariant variant(std::optional<bool> value)
+{
+    return value ? QVariant(*value) : QVariant();
+}
+
+QVariant variant(Reading value)
+{
+    return value ? QVariant(static_cast<qlonglong>(*value)) : QVariant();
+}
+
+std::optional<Direction> directionOf(const std::vector<Pack> &packs, std::optional<bool> charging,
+                                     std::optional<bool> external)
+{
+    if (charging == true)
+        return Direction::ToFull;
+    const bool discharging = std::any_of(packs.begin(), packs.end(), [](const Pack &pack) {
+        return pack.status == ChargeStatus::Discharging;
+    });
+    return discharging || external == false ? std::optional(Direction::ToEmpty) : std::nullopt;
+}
+} // namespace
+
+/// One reading and what follows from it; the last two members are filled when they are asked for.
+struct SysfsRegistry::Moment
+{
+    PowerSupplies supplies;
+    std::vector<Pack> packs;
+    std::optional<bool> external;
+    std::optional<bool> charging;
+    std::optional<bool> fullyCharged;
+    std::optional<Direction> direction;
+    std::optional<std::chrono::minutes> time;
+    std::optional<std::vector<BatteryRecord>> records;
+    std::optional<QVariant> adapter;
+};
+
+struct SysfsRegistry::Property
+{
+    QStringView key;
+    QVariant (*value)(SysfsRegistry &registry);
+};
+
+SysfsRegistry::SysfsRegistry(QObject *parent)
+    : SysfsRegistry(
+        Options { .usbVendors = { u"/usr/share/misc/usb.ids"_s, u"/usr/share/hwdata/usb.ids"_s },
+                  .clock = {} },
+        parent)
+{
+}
+
+SysfsRegistry::SysfsRegistry(Options options, QObject *parent)
+    : QObject(parent)
+    , m_options(std::move(options))
+    , m_supplies(m_options.root)
+    , m_adapters(m_options.root)
+    , m_vendors(m_options.usbVendors)
+{
+    if (!m_options.clock)
+        m_options.clock = steadyNow;
+}
+
+SysfsRegistry::~SysfsRegistry() = default;
+
+RegistryService::Matching SysfsRegistry::serviceNameMatching(const QString &name) const
+{
+    return { name };
+}
+
+RegistryService::Handle SysfsRegistry::matchingService(const Matching &matching)
+{
+    const bool known = matching.name == "AppleSmartBattery"_L1;
+    return known && !moment().supplies.batteries.empty() ? batteryHandle : 0;
+}
+
+QVariant SysfsRegistry::createProperty(Handle service, const QString &key)
+{
+    const Property *property = service == batteryHandle ? find(key) : nullptr;
+    return property ? property->value(*this) : QVariant();
+}
+
+int SysfsRegistry::release(Handle service)
+{
+    return service == batteryHandle ? 0 : 1;
+}
+
+void SysfsRegistry::expire()
+{
+    m_moment.reset();
+}
+
+bool SysfsRegistry::event(QEvent *event)
+{
+    if (event->type() != expiry)
+        return QObject::event(event);
+    m_expiryPosted = false;
+    expire();
+    return true;
+}
+
+const SysfsRegistry::Property *SysfsRegistry::find(QStringView key)
+{
+    static constexpr std::array properties {
+        Property { u"ExternalConnected",
+                   [](SysfsRegistry &self) { return variant(self.moment().external); } },
+        Property { u"IsCharging",
+                   [](SysfsRegistry &self) { return variant(self.moment().charging); } },
+        Property { u"FullyCharged",
+                   [](SysfsRegistry &self) { return variant(self.moment().fullyCharged); } },
+        Property { u"CurrentCapacity",
+                   [](SysfsRegistry &self) {
+                       return variant(Reading(chargePercent(self.moment().packs)));
+                   } },
+        // The charge is a percentage; where there is none, there is nothing to divide by.
+        Property { u"MaxCapacity",
+                   [](SysfsRegistry &self) {
+                       return chargePercent(self.moment().packs) ? variant(Reading(100))
+                                                                 : QVariant();
+                   } },
+        Property { u"AppleRawCurrentCapacity",
+                   [](SysfsRegistry &self) {
+                       return variant(remainingMilliampHours(self.moment().packs));
+                   } },
+        Property {
+            u"AppleRawMaxCapacity",
+            [](SysfsRegistry &self) { return variant(fullMilliampHours(self.moment().packs)); } },
+        Property { u"TimeRemaining", [](SysfsRegistry &self) { return self.time({}); } },
+        Property { u"AvgTimeToEmpty",
+                   [](SysfsRegistry &self) { return self.time(Direction::ToEmpty); } },
+        Property { u"AvgTimeToFull",
+                   [](SysfsRegistry &self) { return self.time(Direction::ToFull); } },
+        Property { u"AdapterDetails", [](SysfsRegistry &self) { return self.adapter(); } },
+        Property { u"CycleCount", [](SysfsRegistry &self) { return self.cycleCount(); } },
+        Property { u"DesignCycleCount9C",
+                   [](SysfsRegistry &self) {
+                       return variant(Reading(designCycles(readMachineIdentity(self.m_options.root),
+                                                           designCyclesTable())));
+                   } },
+        Property { u"DesignCapacity", [](SysfsRegistry &self) { return self.designCapacity(); } },
+        Property { u"Temperature", [](SysfsRegistry &self) { return self.temperature(); } },
+        Property { u"Serial", [](SysfsRegistry &self) { return self.serial(); } },
+    };
+    const auto found
+        = std::find_if(properties.begin(), properties.end(),
+                       [key](const Property &property) { return property.key == key; });
+    return found == properties.end() ? nullptr : &*found;
+}
+
+std::unique_ptr<SysfsRegistry::Moment> SysfsRegistry::read()
+{
+    auto moment = std::make_unique<Moment>();
+    moment->supplies = m_supplies.read();
+    const Time now = m_options.clock();
+    std::vector<Pack> packs = packsOf(moment->supplies.batteries);
+    m_history.settle(moment->supplies.batteries, packs, now);
+    moment->packs = realPacks(std::move(packs));
+    moment->external = externalConnected(moment->supplies);
+    moment->charging = isCharging(moment->packs, moment->external);
+    moment->fullyCharged = isFullyCharged(moment->packs, moment->external);
+    moment->direction = directionOf(moment->packs, moment->charging, moment->external);
+    moment->time = m_estimate.update(moment->packs, moment->direction, now);
+    return moment;
+}
+
+const SysfsRegistry::Moment &SysfsRegistry::moment()
+{
+    if (!m_moment) {
+        m_moment = read();
+        if (!m_expiryPosted && QCoreApplication::instance()) {
+            m_expiryPosted = true;
+            QCoreApplication::postEvent(this, new QEvent(expiry));
+        }
+    }
+    return *m_moment;
+}
+
+const std::vector<BatteryRecord> &SysfsRegistry::records()
+{
+    static_cast<void>(moment());
+    if (!m_moment->records)
+        m_moment->records = m_supplies.readRecords(m_moment->supplies.batteries);
+    return *m_moment->records;
+}
+
+QVariant SysfsRegistry::adapter()
+{
+    if (moment().external != true)
+        return {};
+    if (!m_moment->adapter) {
+        AdapterHints hints = m_adapters.read();
+        if (hints.partner.vendor)
+            hints.partnerMaker = m_vendors.name(*hints.partner.vendor);
+        m_moment->adapter = adapterDetails(m_moment->supplies.adapters, hints);
+    }
+    return *m_moment->adapter;
+}
+
+QVariant SysfsRegistry::time(std::optional<Direction> wanted)
+{
+    const Moment &now = moment();
+    if (!now.time || (wanted && now.direction != wanted))
+        return {};
+    return static_cast<qlonglong>(now.time->count());
+}
+
+QVariant SysfsRegistry::cycleCount()
+{
+    return variant(greatestCycleCount(records()));
+}
+
+QVariant SysfsRegistry::designCapacity()
+{
+    const std::vector<BatteryRecord> &slow = records();
+    return variant(designMilliampHours(moment().supplies.batteries, slow));
+}
+
+QVariant SysfsRegistry::temperature()
+{
+    return variant(temperatureHundredths(records()));
+}
+
+QVariant SysfsRegistry::serial()
+{
+    const QString number = serialNumber(records());
+    return number.isEmpty() ? QVariant() : QVariant(number);
+}
+
+} // namespace ferrin
