@@ -13,6 +13,10 @@
 
 namespace ferrin {
 
+class BatteryData;
+class DisplaySwitches;
+class SettingsData;
+
 /// The icon element of the item: the user's icon at a charge, or the crossed-out battery.
 struct IconElement
 {
@@ -32,16 +36,37 @@ struct IconElement
 struct ItemContent
 {
     BatteryChargingStatus status = BatteryChargingStatus::unknown;
-    std::optional<IconElement> icon;
+    std::optional<IconElement> icon = {};
     /// "37", "??", without the percent sign.
-    std::optional<QString> charge;
+    std::optional<QString> charge = {};
     /// "4:29", "?:??".
-    std::optional<QString> time;
+    std::optional<QString> time = {};
     /// The machine has a battery service.
     bool hasBattery = true;
 
     bool operator==(const ItemContent &) const = default;
 };
+
+/// Some of the three elements: those that the switches of a battery state let through, or those
+/// that are shown.
+struct ItemElements
+{
+    bool icon = false;
+    bool charge = false;
+    bool time = false;
+
+    bool operator==(const ItemElements &) const = default;
+};
+
+/// What is shown where these elements are switched on. The time stands in for nothing at all while
+/// the battery works; once it is charged the charge does, and the time is never shown.
+[[nodiscard]] ItemElements shownElements(BatteryChargingStatus status, ItemElements switchedOn);
+
+/// What the item shows now. Reads no more of the snapshot, the settings and the switches than it
+/// shows, so that a binding over it is evaluated again only when that changes. `connected`: the
+/// registry reader has found its battery service.
+[[nodiscard]] ItemContent contentFor(const BatteryData &data, const DisplaySwitches &switches,
+                                     SettingsData &settings, bool connected);
 
 /// The one of the eight views that the elements call for; the wide two-line form is this view.
 [[nodiscard]] AnyView viewFor(const ItemContent &content);

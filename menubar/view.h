@@ -29,19 +29,32 @@ struct ViewContext
     bool operator==(const ViewContext &) const = default;
 };
 
-/// A menu-bar view is a value that knows its ideal size and paints itself into a rectangle, both in
-/// logical pixels. It holds what it shows and nothing else.
+class AnyView;
+
+/// A view that knows its ideal size and paints itself into a rectangle, both in logical pixels.
 template <typename V>
-concept View
-    = std::copyable<V> && std::equality_comparable<V> && requires(const V &view, QPainter &painter,
-                                                                  const QRectF &bounds,
-                                                                  const ViewContext &context)
+concept PaintedView
+    = requires(const V &view, QPainter &painter, const QRectF &bounds, const ViewContext &context)
 {
     {
         view.idealSize(context)
         } -> std::convertible_to<QSizeF>;
     { view.paint(painter, bounds, context) };
 };
+
+/// A view that is made of other views.
+template <typename V>
+concept ComposedView = requires(const V &view, const ViewContext &context)
+{
+    {
+        view.body(context)
+        } -> std::same_as<AnyView>;
+};
+
+/// A menu-bar view is a value: it holds what it shows and nothing else.
+template <typename V>
+concept View
+    = std::copyable<V> && std::equality_comparable<V> &&(PaintedView<V> || ComposedView<V>);
 
 /// A view whose type is erased. Copies share the view, which never changes; the default one is
 /// empty.
@@ -102,12 +115,18 @@ private:
         }
         [[nodiscard]] QSizeF idealSize(const ViewContext &context) const override
         {
-            return view.idealSize(context);
+            if constexpr (ComposedView<V>)
+                return view.body(context).idealSize(context);
+            else
+                return view.idealSize(context);
         }
         void paint(QPainter &painter, const QRectF &bounds,
                    const ViewContext &context) const override
         {
-            view.paint(painter, bounds, context);
+            if constexpr (ComposedView<V>)
+                view.body(context).paint(painter, bounds, context);
+            else
+                view.paint(painter, bounds, context);
         }
         [[nodiscard]] bool equals(const Concept &other) const override
         {

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "menubar/textview.h"
+
+#include "menubar/devicegrid.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ferrin {
+
+namespace {
+
+QFont fontOf(const TextView &view, int pixelSize, const ViewContext &context)
+{
+    QFont font(context.fontFamily);
+    font.setPixelSize(pixelSize);
+    font.setWeight(view.weight);
+    if (view.widthPercent != 100)
+        font.setStretch(view.widthPercent);
+    // Advances must not depend on the scale, so only heights may follow the pixel grid.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
+    return font;
+}
+
+} // namespace
+
+QSizeF TextView::idealSize(const ViewContext &context) const
+{
+    const QFontMetricsF metrics(fontOf(*this, pixelSize, context));
+    return { metrics.horizontalAdvance(text), qreal(pixelSize) };
+}
+
+void TextView::paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const
+{
+    const DeviceGrid grid(painter);
+    const int devicePixelSize = std::max(1, int(std::lround(pixelSize * grid.scale())));
+    // Between whole sizes the nearest one is stretched to the exact width.
+    const qreal stretch = pixelSize * grid.scale() / devicePixelSize;
+    const QFont font = fontOf(*this, devicePixelSize, context);
+    const QFontMetricsF metrics(font);
+
+    const QPointF centre = grid.toDevice(bounds.center());
+    const qreal width = metrics.horizontalAdvance(text) * stretch;
+    const qreal capHeight = metrics.capHeight() * stretch;
+    const QPointF baseline(centre.x() - width / 2, std::floor(centre.y() + capHeight / 2 + 0.5));
+
+    const DevicePixels inDevicePixels(painter);
+    painter.translate(baseline);
+    painter.scale(stretch, stretch);
+    painter.setFont(font);
+    QColor colour = context.text;
+    colour.setAlphaF(float(context.text.alphaF() * opacity));
+    painter.setPen(colour);
+    painter.drawText(QPointF(0, 0), text);
+}
+
+} // namespace ferrin
