@@ -43,13 +43,16 @@ public:
     explicit MenuBarItemProvider(const Parts &parts, QObject *parent = nullptr);
     ~MenuBarItemProvider() override;
 
-    /// The application hands over the one of the process before anything asks for it.
-    static void setShared(std::unique_ptr<MenuBarItemProvider> provider);
+    /// Hands over the parts of the process-wide provider; the application does so once, before
+    /// anything asks for it.
+    static void setParts(const Parts &parts);
+    /// The one of the process, made on first use and never destroyed. Asking before its parts were
+    /// handed over is a programming error and stops the process.
     [[nodiscard]] static MenuBarItemProvider &shared();
 
-    /// A detached placeholder until the real item arrives.
+    /// A detached placeholder until the real item arrives, and again once that is gone.
     [[nodiscard]] StatusItem &statusItem() const;
-    /// Replaces the item and lets go of the placeholder; `update()` fills the new one.
+    /// Replaces the item, which the bar goes on owning; `update()` fills the new one.
     void setStatusItem(StatusItem &item);
 
     /// The bar's thickness when the provider was made.
@@ -67,8 +70,6 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
-    void installContextMenu();
-
     Parts m_parts;
     std::unique_ptr<StatusItem> m_placeholder;
     QPointer<StatusItem> m_statusItem;
