@@ -110,11 +110,18 @@ AnyView HorzBattery1WithBoltView::body(const ViewContext &) const
 
 AnyView VertBattery2View::body(const ViewContext &) const
 {
+    // The wall and the gap inside it: the fill meets the outline at the bottom of the room within.
+    constexpr qreal wall = 2;
     const Opacities opacities = opacitiesOf(style);
-    return OverlayView {
-        .alignment = OverlayAlignment::Bottom,
-        .layers = { outlineOf(rawValue(border), borderColor, opacities.outline),
-                    uprightFill(percent, insideColor, opacities.fill) },
+    return PaddedView {
+        .content = OverlayView {
+            .alignment = OverlayAlignment::Bottom,
+            .layers = { PaddedView { .content = outlineOf(rawValue(border), borderColor,
+                                                          opacities.outline),
+                                     .margins = { 0, -wall, 0, -wall } },
+                        uprightFill(percent, insideColor, opacities.fill) },
+        },
+        .margins = { 0, wall, 0, wall },
     };
 }
 

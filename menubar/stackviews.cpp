@@ -109,6 +109,16 @@ void OverlayView::paint(QPainter &painter, const QRectF &bounds, const ViewConte
     }
 }
 
+QSizeF PaddedView::idealSize(const ViewContext &context) const
+{
+    return content.idealSize(context).grownBy(margins);
+}
+
+void PaddedView::paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const
+{
+    content.paint(painter, bounds.marginsRemoved(margins), context);
+}
+
 QSizeF OffsetView::idealSize(const ViewContext &context) const
 {
     return content.idealSize(context);

@@ -5,6 +5,8 @@
 
 #include "menubar/view.h"
 
+#include <QMarginsF>
+
 #include <vector>
 
 namespace ferrin {
@@ -59,6 +61,18 @@ struct OverlayView
     std::vector<AnyView> layers;
 
     bool operator==(const OverlayView &) const = default;
+
+    [[nodiscard]] QSizeF idealSize(const ViewContext &context) const;
+    void paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const;
+};
+
+/// A view with room around it. Negative margins let it reach beyond the place that it takes up.
+struct PaddedView
+{
+    AnyView content;
+    QMarginsF margins;
+
+    bool operator==(const PaddedView &) const = default;
 
     [[nodiscard]] QSizeF idealSize(const ViewContext &context) const;
     void paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const;

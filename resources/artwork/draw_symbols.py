@@ -184,9 +184,10 @@ def symbols():
     return pictures
 
 
-# The fill that the application draws in a battery has corners of this radius. It stands on the
-# lower edge of an upright frame, 6 wide and up to 12 high. In a level frame it starts at the left
-# edge, up to 18 wide and 8 high, or at 2.5 from it, up to 16 wide and 7 high.
+# The fill that the application draws in a battery has corners of this radius. In an upright frame it
+# is 6 wide and up to 12 high and stands on the lower edge or, in an outline, two above it. In a level
+# frame it starts at the left edge, up to 18 wide and 8 high, or at 2.5 from it, up to 16 wide and 7
+# high.
 FILL_RADIUS = 1.2
 CAP_RADIUS = 1.0
 
@@ -218,9 +219,9 @@ def lying(outline, length):
 
 
 def upright_outline(stroke):
-    """The fill stands in the wall's foot; a gap parts it from the sides and, when full, the top."""
-    wall = polygon((0, 2, 3), (10, 2, 3), (10, 16, 2), (0, 16, 2))
-    return Picture(10, 16, ring(wall, stroke) + [terminal(10, 4, stroke)])
+    """A level one set upright: the fill stands two above the lower edge, clear of the wall."""
+    wall = rectangle(0, 2, 10, 16, 3)
+    return Picture(10, 18, ring(wall, stroke) + [terminal(10, 4, stroke)])
 
 
 def level_outline(stroke):
