@@ -3,6 +3,7 @@
 
 #include "sources/checkedarithmetic.h"
 
+#include <QString>
 #include <QtNumeric>
 
 namespace ferrin {
@@ -44,7 +45,8 @@ qint64 checkedInteger(float value)
 {
     // The bounds are exact in single precision; "not a number" fails both comparisons.
     if (!(value >= -0x1p63F && value < 0x1p63F))
-        qFatal("Not a 64-bit integer: %g", static_cast<double>(value));
+        qFatal("Not a 64-bit integer: %s",
+               qUtf8Printable(QString::number(static_cast<double>(value))));
     return static_cast<qint64>(value);
 }
 
