@@ -3,11 +3,12 @@
 
 #include "tests/support/fakesysfs.h"
 
+#include "tests/support/machinerecord.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QRegularExpression>
 #include <QtGlobal>
 
 #include <sys/stat.h>
@@ -26,13 +27,6 @@ void require(bool done, const char *what, const QString &path)
         qFatal("The fake sysfs cannot %s %s", what, qPrintable(path));
 }
 
-QString guessedType(const QString &name, const QJsonObject &attributes)
-{
-    if (!attributes.contains("online"_L1))
-        return u"Battery"_s;
-    const bool usb = name.contains("usb"_L1) || name.contains("ucsi"_L1);
-    return usb ? u"USB"_s : u"Mains"_s;
-}
 } // namespace
 
 FakeSysfs::FakeSysfs()
@@ -107,15 +101,11 @@ void FakeSysfs::removeSupply(const QString &name)
 
 void FakeSysfs::load(const QJsonObject &record)
 {
-    static const QRegularExpression attributeName(u"^[a-z][a-z0-9_]*$"_s);
-    const QJsonObject all = record.value("supplies"_L1).toObject();
+    const QJsonObject all = suppliesOf(record);
     for (auto supplyOf = all.begin(); supplyOf != all.end(); ++supplyOf) {
         const QJsonObject attributes = supplyOf->toObject();
         supply(supplyOf.key(), {});
-        set(supplyOf.key(), u"type"_s, guessedType(supplyOf.key(), attributes).toUtf8());
         for (auto entry = attributes.begin(); entry != attributes.end(); ++entry) {
-            if (!attributeName.match(entry.key()).hasMatch())
-                continue;
             if (entry->toString().startsWith("<read error"_L1))
                 writeDirectory(supplies + supplyOf.key() + u'/' + entry.key());
             else

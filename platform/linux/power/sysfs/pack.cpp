@@ -40,6 +40,12 @@ Reading magnitude(Reading value)
     return bounded ? Reading(std::abs(*bounded)) : std::nullopt;
 }
 
+// A gauge whose registers stand at their end measures nothing; what else it says is noise, too.
+bool isSaturated(const BatterySupply &battery)
+{
+    return battery.voltageNow > greatestVoltage;
+}
+
 // µAh × µV is pWh, µA × µV is pW.
 Reading times(Reading charge, std::int64_t voltage)
 {
@@ -51,8 +57,11 @@ std::int64_t rounded(std::int64_t dividend, std::int64_t divisor)
     return (dividend + divisor / 2) / divisor;
 }
 
-Reading milliampHours(Reading charge, Reading energy, Reading voltage)
+Reading milliampHours(const BatterySupply &battery, Reading charge, Reading energy)
 {
+    if (isSaturated(battery))
+        return std::nullopt;
+    const Reading voltage = voltageOf(battery);
     charge = within(charge, 1, greatestCharge);
     energy = within(energy, 1, greatestEnergy);
     if (charge)
@@ -141,8 +150,7 @@ Pack packOf(const BatterySupply &battery, std::int64_t voltage)
     pack.percent = percentOf(battery, family);
     pack.full = family.full;
     pack.rate = family.rate;
-    pack.fullMilliampHours
-        = milliampHours(battery.chargeFull, battery.energyFull, voltageOf(battery));
+    pack.fullMilliampHours = milliampHours(battery, battery.chargeFull, battery.energyFull);
     pack.timeToEmpty = timeOf(battery.timeToEmptyAverage, battery.timeToEmptyNow);
     pack.timeToFull = timeOf(battery.timeToFullAverage, battery.timeToFullNow);
     pack.drained = isDrained(battery);
@@ -170,7 +178,7 @@ std::vector<Pack> packsOf(const std::vector<BatterySupply> &batteries)
 
 Reading designMilliampHours(const BatterySupply &battery, const BatteryRecord &record)
 {
-    return milliampHours(record.chargeFullDesign, record.energyFullDesign, voltageOf(battery));
+    return milliampHours(battery, record.chargeFullDesign, record.energyFullDesign);
 }
 
 std::optional<int> healthPercent(const BatterySupply &battery, const BatteryRecord &record)
@@ -181,7 +189,7 @@ std::optional<int> healthPercent(const BatterySupply &battery, const BatteryReco
         full = within(battery.chargeFull, 1, greatestCharge);
         design = within(record.chargeFullDesign, 1, greatestCharge);
     }
-    if (!full || !design || *full == *design || *full * 2 > *design * 3)
+    if (isSaturated(battery) || !full || !design || *full == *design || *full * 2 > *design * 3)
         return std::nullopt;
     return static_cast<int>(std::min<std::int64_t>(*full * 100 / *design, 100));
 }

@@ -21,6 +21,7 @@ namespace ferrin {
 ///   charge (some gauges count it in another unit); then it is the charge's part of full.
 /// - Energy attributes go before charge attributes. Charge becomes energy by the design voltage,
 ///   else by the present one: only the relation to other packs depends on it, never the percent.
+/// - A gauge whose voltage register is saturated measures nothing: only its status is left.
 /// - A gauge that reads 0 V with a charge of 0 is not answering: it has neither charge nor now.
 struct Pack
 {
