@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "app/ferrinapp.h"
+
+#include "menubar/menubarextraaccess.h"
+#include "menubar/statusitem.h"
+#include "state/appcolorscheme.h"
+#include "state/appcolorschemeprovider.h"
+
+#include <utility>
+
+namespace ferrin {
+
+FerrinApp::FerrinApp(Parts parts)
+    : m_parts(std::move(parts))
+    , m_appColor(AppColor::shared())
+{
+    connect(this, &FerrinApp::isDashboardShownChanged, this, &FerrinApp::showOrHideDashboard);
+}
+
+FerrinApp::~FerrinApp() = default;
+
+void FerrinApp::useStatusBar(StatusBar &bar)
+{
+    m_statusBar = &bar;
+    m_menuBarExtra = std::make_unique<MenuBarExtraAccess>(
+        bar, [this](StatusItem &item) { takeStatusItem(item); });
+
+    MenuBarExtraAccess *const extra = m_menuBarExtra.get();
+    extra->setMenuPresented(isDashboardShown());
+    connect(extra, &MenuBarExtraAccess::isMenuPresentedChanged, this,
+            [this, extra] { setDashboardShown(extra->isMenuPresented()); });
+    connect(this, &FerrinApp::isDashboardShownChanged, extra,
+            [this, extra] { extra->setMenuPresented(isDashboardShown()); });
+    extra->setUp();
+}
+
+void FerrinApp::takeStatusItem(StatusItem &item)
+{
+    AppColorSchemeProvider().apply(m_appColor.scheme());
+    m_parts.fillStatusItem(item);
+}
+
+void FerrinApp::showOrHideDashboard()
+{
+    if (!isDashboardShown()) {
+        if (m_windows)
+            m_windows->hideDashboard();
+        return;
+    }
+    if (!windows()) {
+        setDashboardShown(false);
+        return;
+    }
+    const StatusItem *const item = m_statusBar ? m_statusBar->item() : nullptr;
+    m_windows->showDashboard(item ? item->geometry() : QRect(),
+                             m_menuBarExtra ? m_menuBarExtra->lastClick() : QPoint());
+}
+
+void FerrinApp::openSettings()
+{
+    if (Windows *const all = windows())
+        all->openWindow(QStringLiteral("FerrinSettings"));
+}
+
+Windows *FerrinApp::windows()
+{
+    if (!m_windows && m_parts.loadWindows) {
+        m_windows = m_parts.loadWindows();
+        if (m_windows)
+            m_windows->dashboardClosed = [this] { setDashboardShown(false); };
+    }
+    return m_windows.get();
+}
+
+} // namespace ferrin

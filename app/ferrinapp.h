@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "app/windows.h"
+
+#include <QObject>
+#include <QProperty>
+
+#include <functional>
+#include <memory>
+
+namespace ferrin {
+
+class AppColor;
+class MenuBarExtraAccess;
+class StatusBar;
+class StatusItem;
+
+/// The application: its two scenes, the menu-bar extra whose window is the dashboard and the window
+/// "Ferrin Settings", and the state that they share. It makes nothing that they do not need at
+/// once; the long-lived services are made by whoever asks for them first. Owned by `main`; knows no
+/// platform.
+class FerrinApp final : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool isDashboardShown READ isDashboardShown WRITE setDashboardShown NOTIFY
+                   isDashboardShownChanged BINDABLE bindableIsDashboardShown)
+
+public:
+    struct Parts
+    {
+        /// Loads the module of the windows when the first of them opens; may answer null.
+        std::function<std::unique_ptr<Windows>()> loadWindows;
+        /// Puts the item into the process-wide provider of its content and has that built.
+        std::function<void(StatusItem &)> fillStatusItem;
+    };
+
+    /// Binds the stored colour scheme: the first use of the defaults store.
+    explicit FerrinApp(Parts parts);
+    ~FerrinApp() override;
+
+    /// Declares the menu-bar extra on this bar, in the place of one on an earlier bar.
+    void useStatusBar(StatusBar &bar);
+
+    /// The dashboard is open. Not persisted.
+    [[nodiscard]] bool isDashboardShown() const { return m_isDashboardShown; }
+    void setDashboardShown(bool shown) { m_isDashboardShown = shown; }
+    [[nodiscard]] QBindable<bool> bindableIsDashboardShown() { return &m_isDashboardShown; }
+
+    /// Opens the settings window, or brings it to the front.
+    void openSettings();
+
+Q_SIGNALS:
+    void isDashboardShownChanged();
+
+private:
+    void takeStatusItem(StatusItem &item);
+    void showOrHideDashboard();
+    [[nodiscard]] Windows *windows();
+
+    Parts m_parts;
+    AppColor &m_appColor;
+    std::unique_ptr<Windows> m_windows;
+    StatusBar *m_statusBar = nullptr;
+    std::unique_ptr<MenuBarExtraAccess> m_menuBarExtra;
+    Q_OBJECT_BINDABLE_PROPERTY(FerrinApp, bool, m_isDashboardShown,
+                               &FerrinApp::isDashboardShownChanged)
+};
+
+} // namespace ferrin

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QString>
+
+namespace ferrin {
+
+/// Where the program's own parts lie (the report tool, the module of the windows): libexec/ferrin
+/// beside the folder of the executable, in the build tree as in the install tree.
+[[nodiscard]] QString privateFolder();
+
+} // namespace ferrin

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+// The floor of starting up: a bare application that puts an empty item into the status area.
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QGuiApplication>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORMTHEME", "none");
+    const QGuiApplication app(argc, argv);
+
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    const QString name
+        = u"org.kde.StatusNotifierItem-%1-1"_s.arg(QGuiApplication::applicationPid());
+    bus.registerService(name);
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
+        u"org.kde.StatusNotifierWatcher"_s, u"RegisterStatusNotifierItem"_s);
+    call << name;
+    bus.call(call);
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "app/windows.h"
+
+#include <QStringList>
+
+namespace ferrin::test {
+
+/// Writes down what the application asks of its windows. The log outlives it.
+class FakeWindows final : public Windows
+{
+public:
+    explicit FakeWindows(QStringList &log)
+        : m_log(log)
+    {
+    }
+
+    void showDashboard(const QRect &, const QPoint &) override
+    {
+        m_log.append(QStringLiteral("show"));
+    }
+    void hideDashboard() override { m_log.append(QStringLiteral("hide")); }
+    void openWindow(const QString &identifier) override { m_log.append(identifier); }
+
+private:
+    QStringList &m_log;
+};
+
+} // namespace ferrin::test
