@@ -38,9 +38,9 @@ struct OfferedPicture
 struct HostProfile
 {
     /// For tests and logs.
-    QLatin1StringView name;
+    QLatin1StringView name {};
     /// In the order in which they are offered.
-    std::span<const OfferedPicture> pictures;
+    std::span<const OfferedPicture> pictures {};
     ScalePolicy scale = ScalePolicy::Never;
     PanelText text = PanelText::Unknown;
     /// The host draws a text label beside the icon.

@@ -18,11 +18,11 @@ namespace ferrin {
 struct StatusAreaAppearance
 {
     /// The user's own choice of light or dark; absent while it follows the system.
-    std::optional<bool> forcedDark;
+    std::optional<bool> forcedDark {};
     /// The desktop prefers dark.
     bool desktopDark = false;
     /// The desktop's interface font.
-    QString fontFamily;
+    QString fontFamily {};
 
     bool operator==(const StatusAreaAppearance &) const = default;
 };
@@ -53,6 +53,9 @@ Q_SIGNALS:
     void changed();
 
 private:
+    [[nodiscard]] QColor textFor(const HostProfile &profile) const;
+    [[nodiscard]] ViewContext contextWith(const QColor &text) const;
+
     StatusAreaAppearance m_appearance;
     std::optional<QColor> m_trayText;
 };

@@ -18,6 +18,7 @@ class OwnBar;
 class StatusBar;
 class StatusItem;
 class StatusNotifierBar;
+class TrayColours;
 
 /// Decides where the application's item stands: in the desktop's status area when there is one, in
 /// a small bar of our own when there is none. The item is offered to the desktop from the first
@@ -53,12 +54,16 @@ Q_SIGNALS:
     void itemAvailable(ferrin::StatusItem *item);
 
 private:
+    void readTrayColours();
     void hostPresentChanged(bool present);
     void useOwnBar();
     void useStatusNotifier();
 
     PanelColours m_colours;
+    std::unique_ptr<TrayColours> m_trayColours;
+    /// Null without a session bus.
     std::unique_ptr<StatusNotifierBar> m_notifierBar;
+    /// Null while the desktop's status area is in use.
     std::unique_ptr<OwnBar> m_ownBar;
     QTimer m_patienceTimer;
     std::chrono::milliseconds m_patience { 3000 };

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <optional>
+
+namespace ferrin {
+
+/// One interface at one path of the bus whose answers depend on who asks. The calls of
+/// org.freedesktop.DBus.Properties are taken apart here; an unknown or malformed call gets the
+/// error that the bus has for it. The interface's description is the XML of its name beside this
+/// file.
+class BusObject : public QDBusVirtualObject
+{
+    Q_OBJECT
+
+public:
+    /// Exports itself at the path for as long as it lives.
+    BusObject(const QDBusConnection &connection, const QString &path, const QString &interface,
+              QObject *parent);
+    ~BusObject() override;
+
+    [[nodiscard]] QString introspect(const QString &path) const final;
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) final;
+
+protected:
+    /// Who asks for properties: what the derived object knows of the caller.
+    using Properties = std::function<QVariant(const QString &name)>;
+
+    /// Hands over a look-up of properties for this caller, now or later; the look-up answers
+    /// invalid for a name that this caller is not given.
+    virtual void readProperties(const QString &caller, std::function<void(const Properties &)> read)
+        = 0;
+    /// The names of all properties, whether or not every caller is given them.
+    [[nodiscard]] virtual QStringList propertyNames() const = 0;
+    /// Answers a call of the interface. Absent: there is no such method with such arguments.
+    [[nodiscard]] virtual std::optional<QVariantList> call(const QDBusMessage &message) = 0;
+
+    void sendSignal(const QString &name, const QVariantList &arguments = {});
+    void sendSignalTo(const QString &receiver, const QString &name, const QVariantList &arguments);
+
+private:
+    bool handleProperties(const QDBusMessage &message);
+    void answer(const QDBusMessage &message, const QDBusMessage &reply);
+    void getProperty(const QDBusMessage &message, const QString &name);
+    void getAllProperties(const QDBusMessage &message);
+
+    QDBusConnection m_connection;
+    QString m_path;
+    QString m_interface;
+};
+
+} // namespace ferrin

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusarea/ownbar.h"
+
+#include "menubar/itemhostingview.h"
+#include "platform/linux/statusarea/panelcolours.h"
+
+namespace ferrin {
+
+OwnBarItem::OwnBarItem(const PanelColours &colours, QObject *parent)
+    : StatusItem(parent)
+    , m_colours(colours)
+{
+    connect(&m_colours, &PanelColours::changed, this, &OwnBarItem::showColours);
+    connect(&m_window, &OwnBarWindow::clicked, this, &StatusItem::activated);
+    connect(&m_window, &OwnBarWindow::menuRequested, this, &OwnBarItem::popUpMenu);
+    connect(&m_popup, &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
+    showColours();
+}
+
+OwnBarItem::~OwnBarItem() = default;
+
+void OwnBarItem::show()
+{
+    m_window.show();
+}
+
+void OwnBarItem::setLength(qreal length)
+{
+    m_length = length;
+    m_window.setContentLength(length);
+}
+
+void OwnBarItem::removeContentViews()
+{
+    m_view.reset();
+}
+
+void OwnBarItem::addContentView(std::unique_ptr<ItemHostingView> view)
+{
+    m_view = std::move(view);
+    if (!m_view)
+        return;
+    connect(m_view.get(), &ItemHostingView::contentChanged, this, &OwnBarItem::showContent);
+    showContent();
+}
+
+void OwnBarItem::setHighlighted(bool highlighted)
+{
+    m_window.setPressed(highlighted);
+}
+
+QRect OwnBarItem::geometry() const
+{
+    return m_window.geometry();
+}
+
+void OwnBarItem::showContent()
+{
+    m_window.setContent(m_view->content());
+}
+
+void OwnBarItem::showColours()
+{
+    m_window.setColours(m_colours.contextForOwnBar(), m_colours.isOwnBarDark());
+}
+
+void OwnBarItem::popUpMenu(QPoint at)
+{
+    m_popup.popUp(
+        m_entries, at,
+        { .isDark = m_colours.isOwnBarDark(), .fontFamily = m_colours.appearance().fontFamily });
+}
+
+OwnBar::OwnBar(const PanelColours &colours, QObject *parent)
+    : StatusBar(parent)
+    , m_item(colours)
+{
+}
+
+} // namespace ferrin

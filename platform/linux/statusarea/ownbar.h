@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/statusitem.h"
+#include "platform/linux/statusarea/ownbarwindow.h"
+#include "platform/linux/statusarea/popupmenu.h"
+
+#include <memory>
+#include <vector>
+
+namespace ferrin {
+
+class PanelColours;
+
+/// The application's item in a small window of our own, with the same content, click and menu.
+class OwnBarItem final : public StatusItem
+{
+    Q_OBJECT
+
+public:
+    /// The colours outlive it.
+    explicit OwnBarItem(const PanelColours &colours, QObject *parent = nullptr);
+    ~OwnBarItem() override;
+
+    void show();
+
+    void setLength(qreal length) override;
+    [[nodiscard]] qreal length() const override { return m_length; }
+    [[nodiscard]] bool hasButton() const override { return true; }
+    void removeContentViews() override;
+    void addContentView(std::unique_ptr<ItemHostingView> view) override;
+    void setContextMenu(const std::vector<MenuEntry> &entries) override { m_entries = entries; }
+    void setHighlighted(bool highlighted) override;
+    [[nodiscard]] QRect geometry() const override;
+
+    [[nodiscard]] OwnBarWindow &window() noexcept { return m_window; }
+
+private:
+    void showContent();
+    void showColours();
+    void popUpMenu(QPoint at);
+
+    const PanelColours &m_colours;
+    OwnBarWindow m_window;
+    PopupMenu m_popup;
+    std::unique_ptr<ItemHostingView> m_view;
+    std::vector<MenuEntry> m_entries;
+    qreal m_length = 0;
+};
+
+/// Stands in for the desktop's status area where there is none: a strip with one item at the top
+/// right of the primary screen.
+class OwnBar final : public StatusBar
+{
+    Q_OBJECT
+
+public:
+    explicit OwnBar(const PanelColours &colours, QObject *parent = nullptr);
+
+    void show() { m_item.show(); }
+    void hide() { m_item.window().hide(); }
+
+    [[nodiscard]] qreal thickness() const override { return OwnBarWindow::contentHeight; }
+    [[nodiscard]] StatusItem *item() override { return &m_item; }
+
+private:
+    OwnBarItem m_item;
+};
+
+} // namespace ferrin

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusarea/ownbarwindow.h"
+
+#include "platform/linux/statusarea/x11window.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include <cmath>
+#include <utility>
+
+namespace ferrin {
+
+namespace {
+
+constexpr int windowHeight = OwnBarWindow::contentHeight + 2;
+// The length that was stored may differ from the content's width by this much.
+constexpr qreal lengthTolerance = 10;
+constexpr int sideMargin = 9;
+
+} // namespace
+
+OwnBarWindow::OwnBarWindow()
+    : m_accessible(*this, QAccessible::ToolBar, [this] {
+        return std::vector { AccessiblePart { .role = QAccessible::Button,
+                                              .name = m_words,
+                                              .bounds = QRect(QPoint(), size()),
+                                              .press
+                                              = [this] { Q_EMIT clicked(geometry().center()); } } };
+    })
+{
+    setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+             | Qt::WindowDoesNotAcceptFocus);
+    setTitle(QGuiApplication::applicationDisplayName());
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &OwnBarWindow::followScreen);
+    create();
+    makeDock(*this);
+    followScreen();
+}
+
+void OwnBarWindow::setContent(const ItemContent &content)
+{
+    const QString words = sentenceFor(content);
+    if (std::exchange(m_words, words) != words)
+        m_accessible.nameChanged(0);
+    const AnyView view = viewFor(content);
+    if (std::exchange(m_view, view) == view)
+        return;
+    place();
+    update();
+}
+
+void OwnBarWindow::setColours(const ViewContext &context, bool isDark)
+{
+    m_context = context;
+    m_isDark = isDark;
+    place();
+    update();
+}
+
+void OwnBarWindow::setContentLength(qreal length)
+{
+    m_length = length;
+    place();
+}
+
+void OwnBarWindow::setPressed(bool pressed)
+{
+    if (std::exchange(m_isPressed, pressed) != pressed)
+        update();
+}
+
+void OwnBarWindow::setHovered(bool hovered)
+{
+    if (std::exchange(m_isHovered, hovered) != hovered)
+        update();
+}
+
+void OwnBarWindow::followScreen()
+{
+    if (m_followed)
+        m_followed->disconnect(this);
+    m_followed = QGuiApplication::primaryScreen();
+    if (!m_followed)
+        return;
+    connect(m_followed, &QScreen::availableGeometryChanged, this, &OwnBarWindow::place);
+    place();
+}
+
+QSize OwnBarWindow::idealSize() const
+{
+    const qreal ideal = m_view.idealSize(m_context).width();
+    const qreal width = std::abs(m_length - ideal) <= lengthTolerance ? m_length : ideal;
+    return { int(std::ceil(width)) + 2 * sideMargin, windowHeight };
+}
+
+void OwnBarWindow::place()
+{
+    if (!m_followed)
+        return;
+    const QRect available = m_followed->availableGeometry();
+    const QSize size = idealSize();
+    setGeometry(QRect(QPoint(available.right() + 1 - size.width(), available.top()), size));
+}
+
+QColor OwnBarWindow::groundColour() const
+{
+    const bool isLit = m_isPressed || m_isHovered;
+    if (m_isDark)
+        return QColor::fromRgb(isLit ? 0xff48484c : 0xff2b2b2e);
+    return QColor::fromRgb(isLit ? 0xffdcdce0 : 0xfff4f4f6);
+}
+
+void OwnBarWindow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QRectF all(QPointF(0, 0), QSizeF(size()));
+    painter.fillRect(all, QColor::fromRgb(m_isDark ? 0xff56565a : 0xffb8b8be));
+    painter.fillRect(all.adjusted(1, 0, 0, -1), groundColour());
+
+    const QSizeF content = m_view.idealSize(m_context);
+    const QPointF corner((all.width() - content.width()) / 2,
+                         (all.height() - content.height()) / 2);
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_view.paint(painter, QRectF(QPointF(std::round(corner.x()), std::round(corner.y())), content),
+                 m_context);
+}
+
+void OwnBarWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton)
+        Q_EMIT menuRequested(event->globalPosition().toPoint());
+}
+
+void OwnBarWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    const bool isInside = QRectF(QPointF(), QSizeF(size())).contains(event->position());
+    if (event->button() == Qt::LeftButton && isInside)
+        Q_EMIT clicked(event->globalPosition().toPoint());
+}
+
+bool OwnBarWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::Enter)
+        setHovered(true);
+    else if (event->type() == QEvent::Leave)
+        setHovered(false);
+    return QRasterWindow::event(event);
+}
+
+} // namespace ferrin

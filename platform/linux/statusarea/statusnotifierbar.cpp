@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusarea/statusnotifierbar.h"
+
+#include "menubar/itemhostingview.h"
+#include "platform/linux/statusarea/panelcolours.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QGuiApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace ferrin {
+
+namespace {
+
+// X11 tells where the pointer is to everybody, which no host can get wrong.
+QPoint trueClick(QPoint told)
+{
+    const bool asksPointer = QGuiApplication::platformName() == u"xcb";
+    return asksPointer ? QCursor::pos() : told;
+}
+
+QString itemServiceName()
+{
+    static int count = 0;
+    return u"org.kde.StatusNotifierItem-%1-%2"_s.arg(QCoreApplication::applicationPid())
+        .arg(++count);
+}
+
+} // namespace
+
+StatusNotifierStatusItem::StatusNotifierStatusItem(const QDBusConnection &connection,
+                                                   HostResolver &resolver,
+                                                   const PanelColours &colours, QObject *parent)
+    : StatusItem(parent)
+    , m_colours(colours)
+    , m_item(connection, resolver, colours)
+    , m_menu(connection)
+{
+    connect(&m_item, &StatusNotifierItem::activateRequested, this,
+            [this](QPoint told) { Q_EMIT activated(trueClick(told)); });
+    connect(&m_item, &StatusNotifierItem::contextMenuRequested, this,
+            &StatusNotifierStatusItem::popUpMenu);
+    connect(&m_menu, &DBusMenu::triggered, this, &StatusItem::menuEntryTriggered);
+}
+
+StatusNotifierStatusItem::~StatusNotifierStatusItem() = default;
+
+void StatusNotifierStatusItem::removeContentViews()
+{
+    m_view.reset();
+}
+
+void StatusNotifierStatusItem::addContentView(std::unique_ptr<ItemHostingView> view)
+{
+    m_view = std::move(view);
+    if (!m_view)
+        return;
+    connect(m_view.get(), &ItemHostingView::contentChanged, this,
+            &StatusNotifierStatusItem::showContent);
+    showContent();
+}
+
+void StatusNotifierStatusItem::showContent()
+{
+    m_item.setContent(m_view->content());
+}
+
+void StatusNotifierStatusItem::setContextMenu(const std::vector<MenuEntry> &entries)
+{
+    m_menu.setEntries(entries);
+}
+
+void StatusNotifierStatusItem::popUpMenu(QPoint told)
+{
+    if (!m_popup) {
+        m_popup = std::make_unique<PopupMenu>();
+        connect(m_popup.get(), &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
+    }
+    m_popup->popUp(
+        m_menu.entries(), trueClick(told),
+        { .isDark = m_colours.isOwnBarDark(), .fontFamily = m_colours.appearance().fontFamily });
+}
+
+StatusNotifierBar::StatusNotifierBar(const QDBusConnection &connection, const PanelColours &colours,
+                                     HostResolver::ProcessName processName, QObject *parent)
+    : StatusBar(parent)
+    , m_connection(connection)
+    , m_serviceName(itemServiceName())
+    , m_resolver(connection, std::move(processName))
+    , m_item(connection, m_resolver, colours)
+    , m_registration(connection)
+{
+}
+
+StatusNotifierBar::~StatusNotifierBar()
+{
+    m_connection.unregisterService(m_serviceName);
+}
+
+void StatusNotifierBar::start()
+{
+    const bool hasName = m_connection.registerService(m_serviceName);
+    m_registration.start(hasName ? m_serviceName : m_connection.baseService());
+}
+
+} // namespace ferrin

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+class QWindow;
+
+namespace ferrin {
+
+/// Tells an X11 window manager that the created window is a dock: above others, on every desktop,
+/// in no list and never focused. Does nothing elsewhere.
+void makeDock(QWindow &window);
+
+} // namespace ferrin
