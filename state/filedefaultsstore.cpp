@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "state/filedefaultsstore.h"
+
+#include "sources/logging.h"
+#include "state/jsonproperty.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QLockFile>
+#include <QThread>
+
+#include <chrono>
+
+namespace ferrin {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A write takes milliseconds: who holds the lock longer is gone or hangs, and is not waited for.
+constexpr std::chrono::milliseconds patience { 1000 };
+constexpr std::chrono::milliseconds betweenAttempts { 5 };
+
+/// Waits for the lock as long as that makes sense. Without it a write can lose another's key;
+/// without the write ours is lost for sure, so the caller goes on in any case.
+void waitFor(QLockFile &lock)
+{
+    lock.setStaleLockTime(patience);
+    const QDeadlineTimer deadline(patience);
+    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
+        QThread::msleep(betweenAttempts.count());
+}
+
+// To QVariant alone, true and 1 are equal.
+bool differ(const QVariant &a, const QVariant &b)
+{
+    return a.metaType() != b.metaType() || a != b;
+}
+
+} // namespace
+
+std::unique_ptr<FileDefaultsStore> FileDefaultsStore::open(const QString &configFolder,
+                                                           const QString &suiteName)
+{
+    if (!QDir::isAbsolutePath(configFolder) || suiteName.isEmpty() || suiteName.contains(u'/'))
+        qFatal("The defaults store \"%s\" cannot be opened in the folder \"%s\"",
+               qUtf8Printable(suiteName), qUtf8Printable(configFolder));
+    return std::make_unique<FileDefaultsStore>(
+        u"%1/%2/defaults.json"_s.arg(configFolder, suiteName));
+}
+
+FileDefaultsStore::FileDefaultsStore(const QString &path)
+    : m_file(path)
+{
+    const DefaultsFile::Contents contents = m_file.read();
+    m_entries = contents.entries;
+    if (contents.state == DefaultsFile::State::Damaged)
+        flush();
+    else if (contents.state == DefaultsFile::State::Unreadable)
+        tellOnce(contents.error);
+}
+
+FileDefaultsStore::~FileDefaultsStore()
+{
+    if (!m_pending.isEmpty())
+        flush();
+}
+
+QVariant FileDefaultsStore::object(const QString &key) const
+{
+    const QVariant stored = propertyFromJson(m_entries.value(key));
+    return stored.isValid() ? stored : m_registered.value(key);
+}
+
+void FileDefaultsStore::setObject(const QString &key, const QVariant &value)
+{
+    const QJsonValue json = value.isValid() ? jsonFromProperty(value) : QJsonValue::Undefined;
+    if (value.isValid() && json.isUndefined()) {
+        qCCritical(logger, "A value of type %s cannot be stored under the key %s", value.typeName(),
+                   qUtf8Printable(key));
+        return;
+    }
+    if (m_entries.value(key) == json)
+        return;
+    const QVariant before = object(key);
+    m_entries.insert(key, json);
+    m_pending.insert(key);
+    flushInThisTurn();
+    if (differ(before, object(key)))
+        Q_EMIT changed(key);
+}
+
+void FileDefaultsStore::registerDefaults(const QVariantMap &defaults)
+{
+    m_registered.insert(defaults);
+}
+
+void FileDefaultsStore::flushInThisTurn()
+{
+    if (std::exchange(m_flushIsDue, true))
+        return;
+    const auto flushPending = [this] {
+        m_flushIsDue = false;
+        if (!m_pending.isEmpty())
+            flush();
+    };
+    QMetaObject::invokeMethod(this, flushPending, Qt::QueuedConnection);
+}
+
+void FileDefaultsStore::flush()
+{
+    QStringList adopted;
+    const QString trouble = mergeIntoFile(adopted);
+    if (trouble.isNull()) {
+        m_pending.clear();
+        m_isInTrouble = false;
+    } else {
+        tellOnce(trouble);
+    }
+    for (const QString &key : std::as_const(adopted))
+        Q_EMIT changed(key);
+}
+
+/// Null, or why the file could not take what is pending.
+QString FileDefaultsStore::mergeIntoFile(QStringList &adopted)
+{
+    m_file.makeFolder();
+    QLockFile lock(m_file.path() + u".lock"_s);
+    waitFor(lock);
+    const DefaultsFile::Contents contents = m_file.read();
+    if (contents.state == DefaultsFile::State::Unreadable)
+        return contents.error;
+    adopted = adopt(contents);
+    if (contents.state == DefaultsFile::State::Damaged) {
+        const QString aside = m_file.setAside();
+        if (aside.isNull())
+            return u"It is damaged and cannot be set aside"_s;
+        qCCritical(logger, "The defaults store %s is damaged and was set aside as %s",
+                   qUtf8Printable(m_file.path()), qUtf8Printable(aside));
+    }
+    const bool isCurrent
+        = contents.state == DefaultsFile::State::Whole && contents.entries == m_entries;
+    return isCurrent ? QString() : m_file.write(m_entries);
+}
+
+/// Takes over what the file says of the keys that have no change pending; the keys that thereby
+/// changed. Only a whole file can say that a key is gone.
+QStringList FileDefaultsStore::adopt(const DefaultsFile::Contents &contents)
+{
+    QJsonObject merged = contents.state == DefaultsFile::State::Whole ? QJsonObject() : m_entries;
+    for (auto it = contents.entries.begin(); it != contents.entries.end(); ++it)
+        merged.insert(it.key(), it.value());
+    for (const QString &key : std::as_const(m_pending))
+        merged.insert(key, m_entries.value(key));
+
+    QStringList changedKeys;
+    for (const QString &key : merged.keys() + m_entries.keys()) {
+        if (merged.value(key) != m_entries.value(key) && !changedKeys.contains(key))
+            changedKeys.append(key);
+    }
+    m_entries = merged;
+    return changedKeys;
+}
+
+void FileDefaultsStore::tellOnce(const QString &trouble)
+{
+    if (!std::exchange(m_isInTrouble, true))
+        qCCritical(logger, "Unable to keep the defaults store %s: %s",
+                   qUtf8Printable(m_file.path()), qUtf8Printable(trouble));
+}
+
+} // namespace ferrin
