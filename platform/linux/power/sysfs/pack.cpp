@@ -144,7 +144,7 @@ bool isPhantom(const BatterySupply &battery, const Pack &pack)
 
 Pack packOf(const BatterySupply &battery, std::int64_t voltage)
 {
-    const Family family = familyOf(battery, voltage);
+    const Family family = isSaturated(battery) ? Family() : familyOf(battery, voltage);
     Pack pack;
     pack.status = battery.status;
     pack.percent = percentOf(battery, family);
