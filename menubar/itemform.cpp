@@ -17,54 +17,56 @@ namespace ferrin {
 
 namespace {
 
-/// A view shrunk or enlarged as a whole, and the width of the picture that it stands in.
+/// A view, the width of its picture in logical pixels, and how much of its own size it is given.
 struct Form
 {
     AnyView view;
-    qreal zoom = 1;
-    /// Logical pixels, after zooming.
     qreal width = 0;
+    qreal zoom = 1;
 };
-
-qreal fitting(const QSizeF &size, qreal width, qreal height)
-{
-    return size.isEmpty() ? 1 : std::min(width / size.width(), height / size.height());
-}
 
 Form wide(const ItemContent &content, int height, const ViewContext &context)
 {
     const AnyView view = viewFor(content);
     const QSizeF ideal = view.idealSize(context);
-    const qreal zoom = ideal.height() > height ? height / ideal.height() : 1;
-    return { view, zoom, ideal.width() * zoom };
+    const qreal zoom = std::min(1.0, ideal.isEmpty() ? 1.0 : height / ideal.height());
+    return { view, ideal.width() * zoom, zoom };
+}
+
+constexpr qreal lineHeight = 16;
+
+AnyView lowIcon(const IconElement &icon, const ViewContext &context)
+{
+    const AnyView view = viewFor(icon);
+    const QSizeF ideal = view.idealSize(context);
+    if (ideal.height() <= lineHeight)
+        return view;
+    return FittedView { .content = view, .size = ideal * (lineHeight / ideal.height()) };
 }
 
 Form oneLine(const ItemContent &content, int height, const ViewContext &context)
 {
-    constexpr qreal designHeight = 16;
     constexpr int pixelSize = 12;
     RowView row { .spacing = 5, .children = {} };
     if (content.icon)
-        row.children.push_back(viewFor(*content.icon));
+        row.children.push_back(lowIcon(*content.icon, context));
     if (content.charge)
         row.children.push_back(TextView { .text = *content.charge + u'%', .pixelSize = pixelSize });
     if (content.time)
         row.children.push_back(TextView { .text = *content.time, .pixelSize = pixelSize });
-    const QSizeF ideal = row.idealSize(context);
-    const qreal zoom
-        = std::min(height / designHeight, ideal.isEmpty() ? 1 : height / ideal.height());
-    return { row, zoom, ideal.width() * zoom };
+    const qreal zoom = height / lineHeight;
+    return { row, row.idealSize(context).width() * zoom, zoom };
 }
 
 Form square(const ItemContent &content, int height)
 {
-    return { SquareItemView { content }, 1, qreal(height) };
+    return { SquareItemView { content }, qreal(height) };
 }
 
-Form glyph(const ItemContent &content, int height, const ViewContext &context)
+Form glyph(const ItemContent &content, int height)
 {
-    const AnyView view = viewFor(content.icon.value_or(IconElement {}));
-    return { view, fitting(view.idealSize(context), height, height), qreal(height) };
+    const AnyView icon = content.icon ? viewFor(*content.icon) : AnyView();
+    return { FittedView { .content = icon, .size = QSizeF(height, height) }, qreal(height) };
 }
 
 Form formOf(ItemForm form, const ItemContent &content, int height, const ViewContext &context)
@@ -77,7 +79,7 @@ Form formOf(ItemForm form, const ItemContent &content, int height, const ViewCon
     case ItemForm::Square:
         return square(content, height);
     case ItemForm::Glyph:
-        return glyph(content, height, context);
+        return glyph(content, height);
     }
     Q_UNREACHABLE();
 }

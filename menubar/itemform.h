@@ -16,10 +16,10 @@ enum class ItemForm {
     /// Everything in one row, for bars whose icons are 16 px high.
     OneLine,
     /// A square cell: one element fills it, two share it, three fit (the charge within the glyph,
-    /// the
-    /// time below).
+    /// the time below).
     Square,
-    /// The icon alone in a square cell, for hosts that show the texts themselves as a label.
+    /// The icon alone in a square cell, for hosts that show the texts themselves as a label;
+    /// transparent where the user wants no icon.
     Glyph,
 };
 

@@ -4,160 +4,107 @@
 #include "menubar/squareitemview.h"
 
 #include "menubar/devicegrid.h"
-#include "menubar/fillview.h"
-#include "menubar/textview.h"
+#include "menubar/fittedtextview.h"
+#include "menubar/squarebatteryview.h"
+#include "menubar/stackviews.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 
-#include <algorithm>
 #include <cmath>
 
 namespace ferrin {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Paints the parts of one cell, in device pixels.
+bool isBattery(const std::optional<IconElement> &icon)
+{
+    return icon && !icon->fault && isGlyph(icon->icon);
+}
+
+bool hasBolt(Icon icon)
+{
+    return icon == Icon::battery1HWithBolt || icon == Icon::battery2HWithBolt
+        || icon == Icon::battery2HInvertedWithBolt || icon == Icon::battery2HBlackWithBolt;
+}
+
+/// Places the elements in one cell. All lengths are device pixels.
 class Cell
 {
 public:
-    Cell(QPainter &painter, int side, const ItemContent &content, const ViewContext &context)
+    Cell(QPainter &painter, int side, const ViewContext &context)
         : m_painter(painter)
-        , m_side(side)
-        , m_content(content)
         , m_context(context)
+        , m_side(side)
+        , m_lower(0, side - part(8), side, part(8))
     {
     }
 
-    void paint()
+    void paint(const ItemContent &content)
     {
-        const int elements = int(m_content.icon.has_value()) + int(m_content.charge.has_value())
-            + int(m_content.time.has_value());
-        if (holdsBattery() && m_content.charge)
-            paintBatteryWithCharge();
-        else if (elements == 3)
-            paintThree();
+        if (content.icon && content.charge && content.time)
+            paintThree(content);
+        else if (content.icon && (content.charge || content.time))
+            paintIconAndText(content);
+        else if (content.charge && content.time)
+            paintTwoTexts(*content.charge + u'%', *content.time);
+        else if (content.icon)
+            place(viewFor(*content.icon), QRect(0, 0, m_side, m_side));
         else
-            paintStack();
+            place(FittedTextView { content.charge ? *content.charge + u'%'
+                                                  : content.time.value_or(QString()) },
+                  QRect(0, part(5), m_side, m_side - 2 * part(5)));
     }
 
 private:
     /// Of a cell of 22 pixels, to whole ones.
     [[nodiscard]] int part(qreal of22) const { return int(std::lround(of22 * m_side / 22)); }
 
-    [[nodiscard]] bool holdsBattery() const
+    void paintThree(const ItemContent &content)
     {
-        return m_content.icon && !m_content.icon->fault && isGlyph(m_content.icon->icon);
+        const QRect upper(0, 0, m_side, part(12));
+        if (isBattery(content.icon)) {
+            place(SquareBatteryView { *content.icon, *content.charge, hasBolt(content.icon->icon) },
+                  upper);
+        } else {
+            const int icon = part(10);
+            place(viewFor(*content.icon), QRect(0, 0, icon, upper.height()));
+            place(FittedTextView { *content.charge },
+                  QRect(icon + part(1), part(2), m_side - icon - part(1), part(8)));
+        }
+        place(FittedTextView { *content.time }, m_lower);
     }
 
-    void paintBatteryWithCharge()
+    void paintIconAndText(const ItemContent &content)
     {
-        const bool alone = !m_content.time;
-        const int bodyHeight = alone ? part(14) : part(12);
-        const QRect battery(0, alone ? (m_side - bodyHeight) / 2 : 0, m_side, bodyHeight);
-        paintBattery(battery);
-        const int inset = part(2);
-        const int cap = part(1);
-        paintText(*m_content.charge, battery.adjusted(inset, inset, -inset - cap, -inset),
-                  QFont::Bold);
-        if (m_content.time)
-            paintText(*m_content.time, QRect(0, m_side - part(7.5), m_side, part(7.5)),
-                      QFont::DemiBold);
-    }
-
-    void paintBattery(const QRectF &rect)
-    {
-        const int stroke = std::max(1, part(1));
-        const qreal cap = std::max(1, part(1.5));
-        const QRectF body = rect.adjusted(0, 0, -cap, 0);
-        const qreal radius = part(2.5);
-        m_painter.setRenderHint(QPainter::Antialiasing);
-
-        QPainterPath outline = smoothlyRoundedRect(body, radius);
-        outline -= smoothlyRoundedRect(body.adjusted(stroke, stroke, -stroke, -stroke),
-                                       radius - stroke);
-        m_painter.fillPath(outline, withOpacity(m_context.text, 0.6));
-        const QRectF terminal(body.right(), body.center().y() - body.height() / 6, cap,
-                              body.height() / 3);
-        m_painter.fillRect(terminal, withOpacity(m_context.text, 0.6));
-
-        const IconElement &icon = *m_content.icon;
-        QRectF fill = body.adjusted(stroke, stroke, -stroke, -stroke);
-        m_painter.save();
-        m_painter.setClipRect(QRectF(
-            fill.left(), fill.top(),
-            std::round(fill.width() * std::clamp(icon.charge, 0.0, 100.0) / 100), fill.height()));
-        const bool low = icon.status == BatteryChargingStatus::discharging && icon.charge <= 10;
-        m_painter.fillPath(smoothlyRoundedRect(fill, radius - stroke),
-                           low ? withOpacity(m_context.red, 0.875)
-                               : withOpacity(m_context.text, 0.35));
-        m_painter.restore();
-    }
-
-    void paintThree()
-    {
-        const int top = part(12);
-        paintIcon(QRect(0, 0, part(9), top));
-        paintText(*m_content.charge, QRect(part(9.5), 0, m_side - part(9.5), top), QFont::Bold);
-        paintText(*m_content.time, QRect(0, m_side - part(8), m_side, part(8)), QFont::DemiBold);
-    }
-
-    void paintStack()
-    {
-        std::vector<QString> texts;
-        if (m_content.charge)
-            texts.push_back(*m_content.charge + QLatin1Char('%'));
-        if (m_content.time)
-            texts.push_back(*m_content.time);
-        int bottom = m_side;
-        if (m_content.icon) {
-            paintIcon(QRect(0, 0, m_side, texts.empty() ? m_side : part(12.5)));
-            if (!texts.empty())
-                paintText(texts.front(), QRect(0, m_side - part(8), m_side, part(8)),
-                          QFont::DemiBold);
+        const bool roomInside = isBattery(content.icon) && !hasBolt(content.icon->icon);
+        if (content.charge && roomInside) {
+            place(SquareBatteryView { *content.icon, *content.charge, false },
+                  QRect(0, part(4), m_side, m_side - 2 * part(4)));
             return;
         }
-        const int line = texts.size() == 1 ? m_side : part(9);
-        for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
-            paintText(*text, QRect(0, bottom - line, m_side, line), QFont::DemiBold);
-            bottom = line;
-        }
+        place(viewFor(*content.icon), QRect(0, 0, m_side, part(12)));
+        place(FittedTextView { content.charge ? *content.charge + u'%' : *content.time }, m_lower);
     }
 
-    void paintIcon(const QRectF &rect)
+    void paintTwoTexts(const QString &upper, const QString &lower)
     {
-        const AnyView view = viewFor(*m_content.icon);
-        const QSizeF ideal = view.idealSize(m_context);
-        const qreal zoom = std::min(rect.width() / ideal.width(), rect.height() / ideal.height());
-        m_painter.save();
-        m_painter.translate(rect.topLeft());
-        m_painter.scale(zoom, zoom);
-        view.paint(m_painter, QRectF(QPointF(), rect.size() / zoom), m_context);
-        m_painter.restore();
+        const int height = part(8.5);
+        place(FittedTextView { upper }, QRect(0, part(1), m_side, height));
+        place(FittedTextView { lower }, QRect(0, m_side - part(1) - height, m_side, height));
     }
 
-    void paintText(const QString &text, const QRectF &rect, QFont::Weight weight)
+    /// In the middle of the rectangle, as large as it allows.
+    void place(const AnyView &view, const QRectF &rect)
     {
-        TextView view {
-            .text = text, .pixelSize = int(rect.height() * 1.45), .opacity = 1, .weight = weight
-        };
-        const qreal width = view.idealSize(m_context).width();
-        if (width > rect.width())
-            view.widthPercent = std::max(1, int(100 * rect.width() / width));
-        view.paint(m_painter, rect, m_context);
-    }
-
-    static QColor withOpacity(QColor colour, qreal opacity)
-    {
-        colour.setAlphaF(float(colour.alphaF() * opacity));
-        return colour;
+        FittedView { .content = view, .size = rect.size() }.paint(m_painter, rect, m_context);
     }
 
     QPainter &m_painter;
-    int m_side;
-    const ItemContent &m_content;
     const ViewContext &m_context;
+    int m_side;
+    QRect m_lower;
 };
 
 } // namespace
@@ -170,7 +117,7 @@ void SquareItemView::paint(QPainter &painter, const QRectF &bounds,
     const int side = int(std::lround(bounds.height() * grid.scale()));
     const DevicePixels inDevicePixels(painter);
     painter.translate(origin);
-    Cell(painter, side, content, context).paint();
+    Cell(painter, side, context).paint(content);
 }
 
 } // namespace ferrin

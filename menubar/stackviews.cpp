@@ -119,6 +119,19 @@ void PaddedView::paint(QPainter &painter, const QRectF &bounds, const ViewContex
     content.paint(painter, bounds.marginsRemoved(margins), context);
 }
 
+void FittedView::paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const
+{
+    const QSizeF ideal = content.idealSize(context);
+    const qreal zoom = ideal.isEmpty()
+        ? 1
+        : std::min(bounds.width() / ideal.width(), bounds.height() / ideal.height());
+    painter.save();
+    painter.translate(bounds.topLeft());
+    painter.scale(zoom, zoom);
+    content.paint(painter, QRectF(QPointF(), bounds.size() / zoom), context);
+    painter.restore();
+}
+
 QSizeF OffsetView::idealSize(const ViewContext &context) const
 {
     return content.idealSize(context);

@@ -78,6 +78,19 @@ struct PaddedView
     void paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const;
 };
 
+/// A view shrunk or enlarged as a whole, as large as its bounds allow and in the middle of them.
+/// One without a size of its own gets the bounds as they are.
+struct FittedView
+{
+    AnyView content;
+    QSizeF size;
+
+    bool operator==(const FittedView &) const = default;
+
+    [[nodiscard]] QSizeF idealSize(const ViewContext &) const { return size; }
+    void paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const;
+};
+
 /// A view drawn beside the place that it takes up.
 struct OffsetView
 {

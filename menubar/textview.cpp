@@ -20,8 +20,6 @@ QFont fontOf(const TextView &view, int pixelSize, const ViewContext &context)
     QFont font(context.fontFamily);
     font.setPixelSize(pixelSize);
     font.setWeight(view.weight);
-    if (view.widthPercent != 100)
-        font.setStretch(view.widthPercent);
     // Advances must not depend on the scale, so only heights may follow the pixel grid.
     font.setHintingPreference(QFont::PreferVerticalHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);

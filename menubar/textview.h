@@ -19,9 +19,6 @@ struct TextView
     int pixelSize = 11;
     qreal opacity = 0.875;
     QFont::Weight weight = QFont::Normal;
-    /// Narrower than it would be by itself; 100 is the font's own width. Synthetic: the letters
-    /// keep their height.
-    int widthPercent = 100;
 
     bool operator==(const TextView &) const = default;
 

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "menubar/squarebatteryview.h"
+
+#include "menubar/devicegrid.h"
+#include "menubar/fillview.h"
+#include "menubar/fittedtextview.h"
+#include "menubar/templateimageview.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ferrin {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qreal outlineOpacity = 0.6;
+constexpr qreal fillOpacity = 0.35;
+constexpr qreal lowFillOpacity = 0.875;
+
+QColor withOpacity(QColor colour, qreal opacity)
+{
+    colour.setAlphaF(float(colour.alphaF() * opacity));
+    return colour;
+}
+
+/// The parts of the battery in whole device pixels.
+struct Geometry
+{
+    int stroke;
+    qreal radius;
+    QRect body;
+    QRect terminal;
+    QRect inside;
+
+    explicit Geometry(const QRect &place)
+        : stroke(std::max(1, int(std::lround(place.width() / 22.0))))
+        , radius(place.width() * 2.5 / 22)
+    {
+        const int cap = std::max(1, int(std::lround(place.width() * 1.5 / 22)));
+        body = place.adjusted(0, 0, -cap, 0);
+        inside = body.adjusted(stroke, stroke, -stroke, -stroke);
+        // As odd or even as the body is, so that it stands in the middle.
+        const int length = body.height() - 2 * int(std::lround(body.height() / 3.0));
+        terminal = QRect(place.right() + 1 - cap, body.top() + (body.height() - length) / 2, cap,
+                         length);
+    }
+};
+
+void paintOutline(QPainter &painter, const Geometry &geometry, const QColor &colour)
+{
+    QPainterPath outline = smoothlyRoundedRect(geometry.body, geometry.radius);
+    outline.addPath(smoothlyRoundedRect(geometry.inside, geometry.radius - geometry.stroke));
+    outline.setFillRule(Qt::OddEvenFill);
+    painter.fillPath(outline, colour);
+    painter.fillRect(geometry.terminal, colour);
+}
+
+void paintFill(QPainter &painter, const Geometry &geometry, double percent, const QColor &colour)
+{
+    QRect filled = geometry.inside;
+    filled.setWidth(int(std::lround(filled.width() * std::clamp(percent, 0.0, 100.0) / 100)));
+    painter.save();
+    painter.setClipRect(filled);
+    painter.fillPath(smoothlyRoundedRect(geometry.inside, geometry.radius - geometry.stroke),
+                     colour);
+    painter.restore();
+}
+
+} // namespace
+
+void SquareBatteryView::paint(QPainter &painter, const QRectF &bounds,
+                              const ViewContext &context) const
+{
+    const DeviceGrid grid(painter);
+    const QPointF topLeft = grid.toDevice(grid.snapped(bounds.topLeft()));
+    const DevicePixels inDevicePixels(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Geometry geometry(QRect(topLeft.toPoint(), (bounds.size() * grid.scale()).toSize()));
+
+    const bool low
+        = icon.status == BatteryChargingStatus::discharging && icon.charge <= 10 && !bolt;
+    paintOutline(painter, geometry, withOpacity(context.text, outlineOpacity));
+    paintFill(painter, geometry, icon.charge,
+              low ? withOpacity(context.red, lowFillOpacity)
+                  : withOpacity(context.text, fillOpacity));
+
+    const int gap = geometry.stroke;
+    QRect figures = geometry.inside.adjusted(gap, gap, -gap, -gap);
+    if (bolt) {
+        const TemplateImageView view { .name = u"bolt.fill"_s, .height = figures.height() };
+        const int width = int(std::ceil(view.idealSize(context).width()));
+        // Up to the wall: a bolt is slim at its ends, and the figures need the room.
+        view.paint(
+            painter,
+            QRect(geometry.inside.right() + 1 - width, figures.top(), width, figures.height()),
+            context);
+        figures.setLeft(geometry.inside.left());
+        figures.setRight(geometry.inside.right() - width - gap);
+    }
+    FittedTextView { charge }.paint(painter, figures, context);
+}
+
+} // namespace ferrin
