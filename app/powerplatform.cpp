@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "app/powerplatform.h"
+
+#include "app/installation.h"
+#include "core/storeddata.h"
+
+namespace ferrin {
+
+PowerPlatform::PowerPlatform(const QDBusConnection &systemBus)
+    : m_upower(systemBus)
+    , m_events(systemBus)
+    , m_launcher(privateFolder())
+{
+    connect(&m_upower, &UPowerService::powerStateChanged, &m_events, &PowerEvents::noteUPower);
+    connect(&m_events, &PowerEvents::powerSourceChanged, &m_upower, &UPowerService::settle);
+    connect(&m_events, &PowerEvents::woke, &m_upower, [this] { m_upower.settle(std::nullopt); });
+}
+
+BatteryDataProvider::Platform PowerPlatform::parts()
+{
+    return { .registry = m_registry,
+             .powerSources = m_upower,
+             .processLauncher = m_launcher,
+             .storedData = &StoredData::shared };
+}
+
+void PowerPlatform::refreshEarly(BatteryDataProvider &provider)
+{
+    connect(&m_events, &PowerEvents::changed, &provider, [this, &provider] {
+        m_registry.expire();
+        provider.updatePeriodicData();
+    });
+}
+
+} // namespace ferrin
