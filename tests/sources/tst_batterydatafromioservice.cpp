@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "sources/batterydatafromioservice.h"
-#include "tests/support/fakeregistry.h"
+#include "tests/sources/registrybench.h"
 #include "tests/support/lastwords.h"
-#include "tests/support/logcapture.h"
 
 #include <QTest>
 
@@ -12,32 +10,10 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::FakeRegistry;
 using test::LogCapture;
+using Bench = test::RegistryBench;
 using Key = SmartBatteryKey;
 
 namespace {
-
-/// A reader on its registry, past the line it logs when it finds its service.
-struct Bench
-{
-    explicit Bench(const QVariantMap &properties)
-    {
-        registry.properties = properties;
-        LogCapture log;
-        reader.emplace(registry);
-        std::ignore = log.take();
-        registry.lookups.clear();
-    }
-
-    [[nodiscard]] QVariant value(Key key) const { return reader->value(key); }
-
-    FakeRegistry registry;
-    std::optional<BatteryDataFromIOService> reader;
-};
-
-QVariantMap withAdapter(const QVariant &details)
-{
-    return { { u"AdapterDetails"_s, details } };
-}
 
 constexpr int keyCount = static_cast<int>(smartBatteryKeyCount);
 
@@ -66,12 +42,6 @@ private Q_SLOTS:
     void hasNoChargeWithoutBothCapacities();
     void stopsTheProcessOverAChargeThatIsNoInteger_data();
     void stopsTheProcessOverAChargeThatIsNoInteger();
-    void answersTheAdaptersEntriesAsStored();
-    void answersTheAdaptersCurrentAndVoltageInWholeUnits();
-    void mayKnowTheAdaptersNameButNotItsWatts();
-    void findsNoEntryWithoutAdapterDetails_data();
-    void findsNoEntryWithoutAdapterDetails();
-    void findsNoFloatInAnEntryThatIsNotANumber();
     void closesItsService();
     void saysThatItCouldNotClose();
     void hasNothingToCloseWithoutAService();
@@ -311,62 +281,6 @@ void TestBatteryDataFromIOService::stopsTheProcessOverAChargeThatIsNoInteger()
     QCOMPARE(
         test::lastWords([&bench] { std::ignore = bench.value(Key::charge); }).value_or(QString()),
         words);
-}
-
-void TestBatteryDataFromIOService::answersTheAdaptersEntriesAsStored()
-{
-    const Bench bench(withAdapter(QVariantMap {
-        { u"Watts"_s, 65 }, { u"Name"_s, u"65W adapter"_s }, { u"Manufacturer"_s, 7.5 } }));
-    QCOMPARE(bench.value(Key::watts), QVariant(65));
-    QCOMPARE(bench.value(Key::watts).metaType(), QMetaType::fromType<int>());
-    QCOMPARE(bench.value(Key::name), QVariant(u"65W adapter"_s));
-    QCOMPARE(bench.value(Key::manufacturer), QVariant(7.5));
-    QCOMPARE(bench.registry.lookups, QStringList(4, u"AdapterDetails"_s));
-}
-
-void TestBatteryDataFromIOService::answersTheAdaptersCurrentAndVoltageInWholeUnits()
-{
-    const Bench bench(
-        withAdapter(QVariantMap { { u"AdapterVoltage"_s, 20000 }, { u"Current"_s, 3000 } }));
-    QCOMPARE(bench.value(Key::adapterVoltage), QVariant(20.0F));
-    QCOMPARE(bench.value(Key::adapterVoltage).metaType(), QMetaType::fromType<float>());
-    QCOMPARE(bench.value(Key::current), QVariant(3.0F));
-    QCOMPARE(bench.value(Key::current).metaType(), QMetaType::fromType<float>());
-}
-
-void TestBatteryDataFromIOService::mayKnowTheAdaptersNameButNotItsWatts()
-{
-    const Bench bench(withAdapter(QVariantMap { { u"Name"_s, u"pd charger"_s } }));
-    QVERIFY(!bench.value(Key::watts).isValid());
-    QCOMPARE(bench.value(Key::name), u"pd charger"_s);
-    QVERIFY(!bench.value(Key::current).isValid());
-    QVERIFY(!bench.value(Key::adapterVoltage).isValid());
-}
-
-void TestBatteryDataFromIOService::findsNoEntryWithoutAdapterDetails_data()
-{
-    QTest::addColumn<QVariant>("details");
-    QTest::newRow("missing") << QVariant();
-    QTest::newRow("empty") << QVariant(QVariantMap());
-    QTest::newRow("a text") << QVariant(u"Watts"_s);
-    QTest::newRow("a list") << QVariant(QVariantList { 65 });
-}
-
-void TestBatteryDataFromIOService::findsNoEntryWithoutAdapterDetails()
-{
-    QFETCH(const QVariant, details);
-    const Bench bench(withAdapter(details));
-    for (const Key key :
-         { Key::watts, Key::name, Key::manufacturer, Key::current, Key::adapterVoltage })
-        QVERIFY(!bench.value(key).isValid());
-}
-
-void TestBatteryDataFromIOService::findsNoFloatInAnEntryThatIsNotANumber()
-{
-    const Bench bench(
-        withAdapter(QVariantMap { { u"AdapterVoltage"_s, u"20000"_s }, { u"Current"_s, true } }));
-    QVERIFY(!bench.value(Key::adapterVoltage).isValid());
-    QVERIFY(!bench.value(Key::current).isValid());
 }
 
 void TestBatteryDataFromIOService::closesItsService()

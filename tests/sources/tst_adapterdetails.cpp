@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "tests/sources/registrybench.h"
+
+#include <QTest>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+using Bench = test::RegistryBench;
+using Key = SmartBatteryKey;
+
+namespace {
+
+QVariantMap withAdapter(const QVariant &details)
+{
+    return { { u"AdapterDetails"_s, details } };
+}
+
+} // namespace
+
+class TestAdapterDetails : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void answersTheAdaptersEntriesAsStored();
+    void answersTheAdaptersCurrentAndVoltageInWholeUnits();
+    void mayKnowTheAdaptersNameButNotItsWatts();
+    void findsNoEntryWithoutAdapterDetails_data();
+    void findsNoEntryWithoutAdapterDetails();
+    void findsNoFloatInAnEntryThatIsNotANumber();
+};
+
+void TestAdapterDetails::answersTheAdaptersEntriesAsStored()
+{
+    const Bench bench(withAdapter(QVariantMap {
+        { u"Watts"_s, 65 }, { u"Name"_s, u"65W adapter"_s }, { u"Manufacturer"_s, 7.5 } }));
+    QCOMPARE(bench.value(Key::watts), QVariant(65));
+    QCOMPARE(bench.value(Key::watts).metaType(), QMetaType::fromType<int>());
+    QCOMPARE(bench.value(Key::name), QVariant(u"65W adapter"_s));
+    QCOMPARE(bench.value(Key::manufacturer), QVariant(7.5));
+    QCOMPARE(bench.registry.lookups, QStringList(4, u"AdapterDetails"_s));
+}
+
+void TestAdapterDetails::answersTheAdaptersCurrentAndVoltageInWholeUnits()
+{
+    const Bench bench(
+        withAdapter(QVariantMap { { u"AdapterVoltage"_s, 20000 }, { u"Current"_s, 3000 } }));
+    QCOMPARE(bench.value(Key::adapterVoltage), QVariant(20.0F));
+    QCOMPARE(bench.value(Key::adapterVoltage).metaType(), QMetaType::fromType<float>());
+    QCOMPARE(bench.value(Key::current), QVariant(3.0F));
+    QCOMPARE(bench.value(Key::current).metaType(), QMetaType::fromType<float>());
+}
+
+void TestAdapterDetails::mayKnowTheAdaptersNameButNotItsWatts()
+{
+    const Bench bench(withAdapter(QVariantMap { { u"Name"_s, u"pd charger"_s } }));
+    QVERIFY(!bench.value(Key::watts).isValid());
+    QCOMPARE(bench.value(Key::name), u"pd charger"_s);
+    QVERIFY(!bench.value(Key::current).isValid());
+    QVERIFY(!bench.value(Key::adapterVoltage).isValid());
+}
+
+void TestAdapterDetails::findsNoEntryWithoutAdapterDetails_data()
+{
+    QTest::addColumn<QVariant>("details");
+    QTest::newRow("missing") << QVariant();
+    QTest::newRow("empty") << QVariant(QVariantMap());
+    QTest::newRow("a text") << QVariant(u"Watts"_s);
+    QTest::newRow("a list") << QVariant(QVariantList { 65 });
+}
+
+void TestAdapterDetails::findsNoEntryWithoutAdapterDetails()
+{
+    QFETCH(const QVariant, details);
+    const Bench bench(withAdapter(details));
+    for (const Key key :
+         { Key::watts, Key::name, Key::manufacturer, Key::current, Key::adapterVoltage })
+        QVERIFY(!bench.value(key).isValid());
+}
+
+void TestAdapterDetails::findsNoFloatInAnEntryThatIsNotANumber()
+{
+    const Bench bench(
+        withAdapter(QVariantMap { { u"AdapterVoltage"_s, u"20000"_s }, { u"Current"_s, true } }));
+    QVERIFY(!bench.value(Key::adapterVoltage).isValid());
+    QVERIFY(!bench.value(Key::current).isValid());
+}
+
+QTEST_GUILESS_MAIN(TestAdapterDetails)
+#include "tst_adapterdetails.moc"
