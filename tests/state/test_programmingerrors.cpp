@@ -3,19 +3,13 @@
 
 #include "state/appcolorschemeprovider.h"
 #include "state/bundle.h"
-#include "state/defaultsstore.h"
 #include "state/filedefaultsstore.h"
-#include "state/iconcatalogues.h"
 #include "state/settingsdata.h"
 #include "state/shareddefaults.h"
+#include "tests/support/lastwords.h"
 #include "tests/support/memorydefaultsstore.h"
 
-#include <QMap>
-#include <QProcess>
 #include <QTest>
-
-#include <functional>
-#include <sys/resource.h>
 
 using namespace ferrin;
 using namespace ferrin::test;
@@ -23,56 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Error
-{
-    std::function<void()> commit;
-    QString lastWords;
-};
-
 void startWith(const IconsOnOffer &icons)
 {
     MemoryDefaultsStore store;
     const SettingsData settings(store, Bundle::main(), icons);
-}
-
-const QMap<QString, Error> &errors()
-{
-    static const auto all = IconsOnOffer::fromCatalogues();
-    static const QString emptyList = u"A list of available icons is empty"_s;
-    static const QMap<QString, Error> map {
-        { u"no store handed over"_s,
-          { [] { (void)sharedDefaults(); }, u"The defaults store has not been opened"_s } },
-        { u"no suite name"_s,
-          { [] { (void)FileDefaultsStore::open(u"/tmp"_s, {}); },
-            u"The defaults store \"\" cannot be opened in the folder \"/tmp\""_s } },
-        { u"no configuration folder"_s,
-          { [] { (void)FileDefaultsStore::open({}, u"org.ferrin.Test"_s); },
-            u"The defaults store \"org.ferrin.Test\" cannot be opened in the folder \"\""_s } },
-        { u"a path for a suite name"_s,
-          { [] { (void)FileDefaultsStore::open(u"/tmp"_s, u"../x"_s); },
-            u"The defaults store \"../x\" cannot be opened in the folder \"/tmp\""_s } },
-        { u"no bundle identifier"_s,
-          { [] { (void)Bundle({}).identifier(); }, u"The bundle has no identifier"_s } },
-        { u"no icon for discharging"_s,
-          { [] {
-               startWith({ {}, all.charging, all.charged });
-           },
-            emptyList } },
-        { u"no icon for charging"_s,
-          { [] {
-               startWith({ all.discharging, {}, all.charged });
-           },
-            emptyList } },
-        { u"no icon for charged"_s,
-          { [] {
-               startWith({ all.discharging, all.charging, {} });
-           },
-            emptyList } },
-        { u"a colour scheme before the application"_s,
-          { [] { AppColorSchemeProvider().apply(AppColorScheme::dark); },
-            u"A colour scheme was applied before the application had started"_s } },
-    };
-    return map;
 }
 
 } // namespace
@@ -82,25 +30,13 @@ class ProgrammingErrorsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void stopTheProcessWithOneClearLine_data()
+    void includeAskingForAStoreBeforeOneWasHandedOver()
     {
-        QTest::addColumn<QString>("name");
-        for (auto it = errors().begin(); it != errors().end(); ++it)
-            QTest::newRow(qPrintable(it.key())) << it.key();
+        QCOMPARE(lastWords([] { (void)sharedDefaults(); }),
+                 u"The defaults store has not been opened"_s);
     }
 
-    void stopTheProcessWithOneClearLine()
-    {
-        QFETCH(QString, name);
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(QCoreApplication::applicationFilePath(), { u"commit"_s, name });
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitStatus(), QProcess::CrashExit);
-        QCOMPARE(QString::fromUtf8(process.readAll()), errors().value(name).lastWords + u'\n');
-    }
-
-    void doNotIncludeAStoreThatWasHandedOver()
+    void doNotIncludeAskingForTheStoreThatWasHandedOver()
     {
         auto store = std::make_unique<MemoryDefaultsStore>();
         const DefaultsStore *const expected = store.get();
@@ -108,20 +44,55 @@ private Q_SLOTS:
         QCOMPARE(&sharedDefaults(), expected);
         setSharedDefaults(nullptr);
     }
+
+    void includeOpeningAStoreThatHasNoPlace_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("suite");
+        QTest::newRow("no suite name") << u"/tmp"_s << QString();
+        QTest::newRow("no configuration folder") << QString() << u"org.ferrin.Test"_s;
+        QTest::newRow("a relative folder") << u"config"_s << u"org.ferrin.Test"_s;
+        QTest::newRow("a path for a suite name") << u"/tmp"_s << u"../x"_s;
+    }
+
+    void includeOpeningAStoreThatHasNoPlace()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, suite);
+        QCOMPARE(lastWords([&] { (void)FileDefaultsStore::open(folder, suite); }),
+                 u"The defaults store \"%1\" cannot be opened in the folder \"%2\""_s.arg(suite,
+                                                                                          folder));
+    }
+
+    void includeABundleWithoutAnIdentifier()
+    {
+        const QString words = u"The bundle has no identifier"_s;
+        QCOMPARE(lastWords([] { (void)Bundle({}).identifier(); }), words);
+        QCOMPARE(lastWords([] {
+                     (void)Bundle({ { u"CFBundleIdentifier"_s, 1 } }).identifier();
+                 }),
+                 words);
+        QCOMPARE(lastWords([] {
+                     (void)Bundle({ { u"CFBundleIdentifier"_s, u""_s } }).identifier();
+                 }),
+                 words);
+    }
+
+    void includeAnEmptyListOfIcons()
+    {
+        const QString words = u"A list of available icons is empty"_s;
+        const IconsOnOffer all = IconsOnOffer::fromCatalogues();
+        QCOMPARE(lastWords([&] { startWith({ {}, all.charging, all.charged }); }), words);
+        QCOMPARE(lastWords([&] { startWith({ all.discharging, {}, all.charged }); }), words);
+        QCOMPARE(lastWords([&] { startWith({ all.discharging, all.charging, {} }); }), words);
+    }
+
+    void includeAColourSchemeBeforeTheApplicationHasStarted()
+    {
+        QCOMPARE(lastWords([] { AppColorSchemeProvider().apply(AppColorScheme::dark); }),
+                 u"A colour scheme was applied before the application had started"_s);
+    }
 };
 
-int main(int argc, char *argv[])
-{
-    const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"commit"_s) {
-        const rlimit noCore {};
-        setrlimit(RLIMIT_CORE, &noCore);
-        errors().value(arguments.value(2)).commit();
-        return 0;
-    }
-    ProgrammingErrorsTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_APPLESS_MAIN(ProgrammingErrorsTest)
 #include "test_programmingerrors.moc"
