@@ -15,7 +15,10 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr std::string_view blanks { " \t\r\n\v\f\0", 7 };
+constexpr bool isBlank(char character)
+{
+    return character == ' ' || (character >= '\t' && character <= '\r') || character == '\0';
+}
 
 constexpr std::array placeholders {
     "primary"_L1,
@@ -71,10 +74,11 @@ QString readablePart(std::string_view text)
 
 std::string_view trimmed(std::string_view text) noexcept
 {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 std::optional<std::int64_t> numberOf(std::string_view text) noexcept
