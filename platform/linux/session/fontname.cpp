@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 QString familyOfPangoName(const QString &name)
 {
-    static const QRegularExpression size(u"[\\s,]+[0-9.]+(px)?$"_s);
+    static const QRegularExpression size(u"\\s+[0-9.]+(px)?$"_s);
     static const QRegularExpression style(u"\\s(normal|regular|book|roman|oblique|italic|small-"
                                           u"caps|medium|(semi-|demi-|ultra-|extra-)?"
                                           "(light|bold|condensed|expanded)|thin|black|heavy)$"_s,
