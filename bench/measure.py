@@ -1,0 +1,173 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""Measures what Ferrin costs, beside floors and beside cbatticon, and prints one table.
+
+    bench/measure.py BUILD_TREE
+
+Instructions are counted by callgrind and repeat; seconds do not, so starting is told as a ratio of
+medians of runs that took turns.
+"""
+
+import os
+import pathlib
+import re
+import statistics
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+sys.path[:0] = [str(ROOT / "tests"), str(ROOT / "tests" / "endtoend")]
+
+from gi.repository import Gio, GLib  # noqa: E402
+from harness import desktop  # noqa: E402
+from harness.processes import end  # noqa: E402
+from harness.program import MOCK, Program  # noqa: E402
+from virtuallaptop import VirtualLaptop  # noqa: E402
+
+TREE = pathlib.Path(sys.argv[1]).resolve()
+FERRIN = TREE / "bin" / "ferrin"
+REFRESH = TREE / "bench" / "bench_refresh"
+BARE_ITEM = TREE / "bench" / "bench_bareitem"
+
+SETTLING_SECONDS = 8
+WATCHED_SECONDS = 60
+STARTS = 15
+REFRESHES = 1000
+CHANGING_REFRESHES = 100_000
+
+
+def row(what, measured, beside, verdict):
+    print(f"| {what} | {measured} | {beside} | {verdict} |", flush=True)
+
+
+def verdict(ratio, limit):
+    return f"{ratio:.2f} (limit {limit:g})" + ("" if ratio <= limit else " **missed**")
+
+
+def instructions(mode, count, batteries):
+    told = subprocess.run(
+        ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null",
+         REFRESH, mode, str(count), str(batteries)],
+        capture_output=True, text=True, check=True).stderr
+    return int(re.search(r"Collected : (\d+)", told)[1])
+
+
+def instructions_a_refresh(mode, batteries):
+    # Two runs: what starting and ending cost falls out.
+    few, many = 200, 200 + REFRESHES
+    return (instructions(mode, many, batteries) - instructions(mode, few, batteries)) / REFRESHES
+
+
+def refreshes():
+    ours, plain, bare = (instructions_a_refresh(mode, 1) for mode in ("ours", "plain", "bare"))
+    row("Instructions of a refresh on which nothing changed", f"{ours:,.0f}",
+        f"{bare:,.0f} the same files by system calls alone", verdict(ours / bare, 3))
+    row("", "", f"{plain:,.0f} the same files by `QFile`", verdict(ours / plain, 3))
+    before = ours
+    for batteries in (4, 16, 64):
+        grown = instructions_a_refresh("ours", batteries)
+        row(f"The same with {batteries} batteries", f"{grown:,.0f}", f"{before:,.0f} with a fourth",
+            verdict(grown / before, 4))
+        before = grown
+
+
+def changing():
+    told = subprocess.run([REFRESH, "changing", str(CHANGING_REFRESHES), "1"],
+                          capture_output=True, text=True, check=True).stdout
+    first, last = (int(number) for number in re.findall(r": (\d+)", told))
+    row(f"Bytes held after {CHANGING_REFRESHES:,} refreshes with changing values", f"{last:,}",
+        f"{first:,} after the first thousand", verdict(last / first, 1))
+
+
+def memory_of(pid):
+    text = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text()
+    return {name: int(kilobytes) / 1024
+            for name, kilobytes in re.findall(r"^(Rss|Pss|Private_Dirty):\s+(\d+)", text, re.M)}
+
+
+def memory(session_type, where, environment):
+    with VirtualLaptop() as laptop, session_type() as session:
+        program = Program(session, laptop, environment)
+        program.unseen_item()
+        other = session.start(["cbatticon"], {key: laptop.environment[key] for key in MOCK})
+        time.sleep(SETTLING_SECONDS)
+        ours, theirs = memory_of(program.pid), memory_of(other.pid)
+    for name, title, limit in (("Pss", "PSS", 0.5), ("Private_Dirty", "Private dirty", 1 / 3)):
+        row(f"{title}, idle, {where}", f"{ours[name]:.1f} MiB",
+            f"{theirs[name]:.1f} MiB cbatticon", verdict(ours[name] / theirs[name], limit))
+    row(f"Resident, idle, {where}", f"{ours['Rss']:.1f} MiB", f"{theirs['Rss']:.1f} MiB cbatticon",
+        verdict(ours["Rss"] / 32, 1))
+
+
+def wake_ups_of(pid):
+    counts = (re.search(r"^voluntary_ctxt_switches:\s+(\d+)", task.read_text(), re.M)[1]
+              for task in pathlib.Path(f"/proc/{pid}/task").glob("*/status"))
+    return sum(int(count) for count in counts)
+
+
+def wake_ups():
+    with VirtualLaptop() as laptop, desktop.XfceScreen() as session:
+        program = Program(session, laptop)
+        program.item()
+        time.sleep(SETTLING_SECONDS)
+        before = wake_ups_of(program.pid)
+        time.sleep(WATCHED_SECONDS)
+        counted = wake_ups_of(program.pid) - before
+    expected = WATCHED_SECONDS / 5
+    row(f"Wake-ups in {WATCHED_SECONDS} seconds at rest", counted, f"{expected:.0f} of the timer",
+        verdict(counted / expected, 1.1))
+
+
+class Registrations:
+    """Hears of items that are registered with the session's watcher."""
+
+    def __init__(self, address):
+        self._loop = GLib.MainLoop()
+        self._bus = Gio.DBusConnection.new_for_address_sync(
+            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        self._bus.signal_subscribe(None, "org.kde.StatusNotifierWatcher",
+                                   "StatusNotifierItemRegistered", None, None,
+                                   Gio.DBusSignalFlags.NONE, lambda *_: self._loop.quit())
+
+    def seconds_to_item(self, start):
+        begun = time.monotonic()
+        process = start()
+        self._loop.run()
+        taken = time.monotonic() - begun
+        end(process)
+        return taken
+
+
+def starting():
+    with VirtualLaptop() as laptop, desktop.XfceScreen() as session:
+        mock = {key: laptop.environment[key] for key in MOCK}
+        program = Program(session, laptop)
+        program.item()
+        program.terminate()
+        registrations = Registrations(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        taken = {binary: [] for binary in (FERRIN, BARE_ITEM)}
+        for _ in range(STARTS):
+            for binary, seconds in taken.items():
+                seconds.append(registrations.seconds_to_item(
+                    lambda: session.start([str(binary)], mock, stderr=subprocess.DEVNULL)))
+    ours, bare = (statistics.median(seconds) * 1000 for seconds in taken.values())
+    row(f"From process start to registered item, median of {STARTS}", f"{ours:.0f} ms",
+        f"{bare:.0f} ms a bare `QGuiApplication`", verdict(ours / bare, 1.5))
+
+
+def main():
+    os.environ["FERRIN_BINARY"] = str(FERRIN)
+    print("| what | Ferrin | beside | ratio |\n|---|---:|---:|---|")
+    refreshes()
+    changing()
+    memory(desktop.XfceScreen, "in the Xfce panel", {"XDG_CURRENT_DESKTOP": "XFCE"})
+    memory(desktop.BareScreen, "without any panel", {"XDG_CURRENT_DESKTOP": "GNOME"})
+    starting()
+    wake_ups()
+
+
+if __name__ == "__main__":
+    main()
