@@ -32,7 +32,7 @@ void BusQuestions::ask(const QDBusMessage &question, const Answer &answer)
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(question, noTimeout), this);
     if (m_open.empty())
         m_openSince = m_now();
-    m_open.emplace(watcher, answer);
+    m_open.emplace_back(watcher, answer);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &BusQuestions::finish);
 }
 
@@ -63,13 +63,17 @@ std::chrono::steady_clock::duration BusQuestions::openFor() const
 
 void BusQuestions::finish(QDBusPendingCallWatcher *watcher)
 {
-    const auto answered = m_open.extract(watcher);
-    if (answered.empty())
+    const auto found = std::find_if(m_open.begin(), m_open.end(), [watcher](const auto &entry) {
+        return entry.first == watcher;
+    });
+    if (found == m_open.end())
         return;
+    const Answer answer = std::move(found->second);
+    m_open.erase(found);
     watcher->deleteLater();
     if (m_open.empty())
         m_openSince.reset();
-    answered.mapped()(watcher->reply());
+    answer(watcher->reply());
 }
 
 } // namespace ferrin

@@ -11,8 +11,9 @@
 
 #include <chrono>
 #include <functional>
-#include <map>
 #include <optional>
+#include <utility>
+#include <vector>
 
 class QDBusPendingCallWatcher;
 class QDeadlineTimer;
@@ -50,7 +51,8 @@ private:
 
     QDBusConnection m_bus;
     SteadyNow m_now;
-    std::map<QDBusPendingCallWatcher *, Answer> m_open;
+    /// In the order in which they were asked.
+    std::vector<std::pair<QDBusPendingCallWatcher *, Answer>> m_open;
     std::optional<std::chrono::steady_clock::time_point> m_openSince;
 };
 

@@ -1,0 +1,454 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/upower/upowerdescription.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+Q_DECLARE_METATYPE(ferrin::UPowerState)
+Q_DECLARE_METATYPE(ferrin::PowerFlow)
+Q_DECLARE_METATYPE(std::optional<bool>)
+
+namespace {
+
+UPowerDevice pack(UPowerState state, std::chrono::seconds toEmpty = 0s,
+                  std::chrono::seconds toFull = 0s)
+{
+    UPowerDevice device;
+    device.kind = UPowerKind::Battery;
+    device.powersSystem = true;
+    device.isPresent = true;
+    device.state = state;
+    device.percentage = 50;
+    device.timeToEmpty = toEmpty;
+    device.timeToFull = toFull;
+    return device;
+}
+
+UPowerDevice named(UPowerDevice device, const QString &name)
+{
+    device.model = name;
+    return device;
+}
+
+QVariant toEmpty(const UPowerDevice &device)
+{
+    return describe(device, std::nullopt).value(u"Time to Empty"_s);
+}
+
+QVariant toFull(const UPowerDevice &device)
+{
+    return describe(device, std::nullopt).value(u"Time to Full Charge"_s);
+}
+
+QStringList namesOf(const QList<UPowerDevice> &devices)
+{
+    QStringList names;
+    for (const UPowerDevice &device : devices)
+        names.append(device.model.value_or(QString()));
+    return names;
+}
+
+} // namespace
+
+class UPowerDescriptionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesEveryPropertyInUPowersOwnType();
+    void leavesWhatIsNotInTheMapAsItIs();
+    void dropsAValueOfAnotherTypeAndKeepsTheRest_data();
+    void dropsAValueOfAnotherTypeAndKeepsTheRest();
+    void takesNoNumberThatIsNone();
+    void clampsThePercentage();
+    void takesAStateThatItDoesNotKnowForUnknown();
+    void shortensANameThatNobodyCanRead();
+    void isNoPowerSourceWithoutItsKindOrItsPurpose();
+    void isAPowerSourceUnlessItIsKnownToBeAbsent();
+    void tellsAllFactsOfADischargingBattery();
+    void tellsAllFactsOfAChargingBattery();
+    void saysStillEstimatingForATimeThatUPowerDoesNotKnow();
+    void saysZeroForTheTimeThatDoesNotApply();
+    void saysZeroTwiceForABatteryAtRest_data();
+    void saysZeroTwiceForABatteryAtRest();
+    void doesNotBelieveATimeOfMoreThanTwoDays();
+    void roundsAKnownTimeDownButNeverToNothing();
+    void hasNoKeyForAFactThatIsNotKnown();
+    void goesByTheTimesWhenTheStateIsUnknown();
+    void goesByTheDaemonWhenStateAndTimesAreUnknown();
+    void believesADischargingBatteryMoreThanTheDaemon();
+    void callsAUpsAUps();
+    void namesADeviceWithoutAModelAfterItsPath();
+    void keepsTheOrderOfPacksThatAreAlike();
+    void putsThePackInUseFirst();
+    void putsBatteriesBeforeUpses();
+    void leavesOutWhatIsNoPowerSource();
+    void settlesInTheDirectionThatApplies_data();
+    void settlesInTheDirectionThatApplies();
+    void saysStillEstimatingInOneDirectionOnlyWhileSettling();
+};
+
+void UPowerDescriptionTest::takesEveryPropertyInUPowersOwnType()
+{
+    UPowerDevice device;
+    const QStringList wrong = device.update({ { u"Type"_s, 2U },
+                                              { u"PowerSupply"_s, true },
+                                              { u"IsPresent"_s, true },
+                                              { u"State"_s, 1U },
+                                              { u"Percentage"_s, 41.6 },
+                                              { u"TimeToEmpty"_s, qlonglong(60) },
+                                              { u"TimeToFull"_s, qlonglong(120) },
+                                              { u"Model"_s, u" PABAS0241231 "_s },
+                                              { u"NativePath"_s, u"BAT1"_s },
+                                              { u"Luminosity"_s, u"never looked at"_s } });
+    QCOMPARE(wrong, QStringList());
+    QVERIFY(device.kind == UPowerKind::Battery);
+    QVERIFY(device.state == UPowerState::Charging);
+    QCOMPARE(device.powersSystem, std::optional(true));
+    QCOMPARE(device.isPresent, std::optional(true));
+    QCOMPARE(device.percentage, std::optional(42));
+    QVERIFY(device.timeToEmpty == 60s);
+    QVERIFY(device.timeToFull == 120s);
+    QCOMPARE(device.model, std::optional(u"PABAS0241231"_s));
+    QCOMPARE(device.nativePath, std::optional(u"BAT1"_s));
+}
+
+void UPowerDescriptionTest::leavesWhatIsNotInTheMapAsItIs()
+{
+    UPowerDevice device = pack(UPowerState::Charging, 0s, 600s);
+    device.update({ { u"Percentage"_s, 51.0 } });
+    UPowerDevice expected = pack(UPowerState::Charging, 0s, 600s);
+    expected.percentage = 51;
+    QCOMPARE(device, expected);
+}
+
+void UPowerDescriptionTest::dropsAValueOfAnotherTypeAndKeepsTheRest_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QVariant>("value");
+    const QVariantMap values {
+        { u"Type"_s, u"battery"_s }, { u"PowerSupply"_s, 1U },          { u"IsPresent"_s, 1 },
+        { u"State"_s, 2 },           { u"Percentage"_s, 50 },           { u"TimeToEmpty"_s, 3600 },
+        { u"TimeToFull"_s, 0.0 },    { u"Model"_s, QByteArray("BAT") }, { u"NativePath"_s, false },
+    };
+    for (const auto &[name, value] : values.asKeyValueRange())
+        QTest::newRow(qPrintable(name)) << name << value;
+}
+
+void UPowerDescriptionTest::dropsAValueOfAnotherTypeAndKeepsTheRest()
+{
+    QFETCH(QString, name);
+    QFETCH(QVariant, value);
+    const QVariantMap good { { u"Type"_s, 2U },
+                             { u"PowerSupply"_s, true },
+                             { u"IsPresent"_s, true },
+                             { u"State"_s, 2U },
+                             { u"Percentage"_s, 50.0 },
+                             { u"TimeToEmpty"_s, qlonglong(3600) },
+                             { u"TimeToFull"_s, qlonglong(0) },
+                             { u"Model"_s, u"BAT"_s },
+                             { u"NativePath"_s, u"BAT0"_s } };
+    QVariantMap without = good;
+    without.remove(name);
+    UPowerDevice expected;
+    expected.update(without);
+
+    UPowerDevice device;
+    QCOMPARE(device.update(good), QStringList());
+    QVERIFY(device != expected);
+    QCOMPARE(device.update({ { name, value } }), QStringList(name));
+    QCOMPARE(device, expected);
+}
+
+void UPowerDescriptionTest::takesNoNumberThatIsNone()
+{
+    UPowerDevice device = pack(UPowerState::Charging);
+    device.update({ { u"Percentage"_s, std::numeric_limits<double>::quiet_NaN() } });
+    QCOMPARE(device.percentage, std::nullopt);
+    device.update({ { u"Percentage"_s, std::numeric_limits<double>::infinity() } });
+    QCOMPARE(device.percentage, std::nullopt);
+}
+
+void UPowerDescriptionTest::clampsThePercentage()
+{
+    UPowerDevice device;
+    device.update({ { u"Percentage"_s, 448.0 } });
+    QCOMPARE(device.percentage, std::optional(100));
+    device.update({ { u"Percentage"_s, -1e300 } });
+    QCOMPARE(device.percentage, std::optional(0));
+}
+
+void UPowerDescriptionTest::takesAStateThatItDoesNotKnowForUnknown()
+{
+    UPowerDevice device;
+    device.update({ { u"State"_s, 7U } });
+    QVERIFY(device.state == UPowerState::Unknown);
+    device.update({ { u"State"_s, std::numeric_limits<uint>::max() } });
+    QVERIFY(device.state == UPowerState::Unknown);
+}
+
+void UPowerDescriptionTest::shortensANameThatNobodyCanRead()
+{
+    UPowerDevice device;
+    device.update({ { u"Model"_s, QString(1'000'000, u'x') } });
+    QCOMPARE(device.model, std::optional(QString(256, u'x')));
+    device.update({ { u"Model"_s, u"  "_s } });
+    QCOMPARE(device.model, std::nullopt);
+}
+
+void UPowerDescriptionTest::isNoPowerSourceWithoutItsKindOrItsPurpose()
+{
+    UPowerDevice device = pack(UPowerState::Charging);
+    QVERIFY(device.isPowerSource());
+    device.kind = UPowerKind::Other;
+    QVERIFY(!device.isPowerSource());
+    QVERIFY(!device.mayPowerSystem());
+    device.kind.reset();
+    QVERIFY(!device.isPowerSource());
+    QVERIFY(device.mayPowerSystem());
+    device.kind = UPowerKind::Ups;
+    device.powersSystem = false;
+    QVERIFY(!device.mayPowerSystem());
+    device.powersSystem.reset();
+    QVERIFY(!device.isPowerSource());
+    QVERIFY(device.mayPowerSystem());
+}
+
+void UPowerDescriptionTest::isAPowerSourceUnlessItIsKnownToBeAbsent()
+{
+    UPowerDevice device = pack(UPowerState::Charging);
+    device.isPresent.reset();
+    QVERIFY(device.isPowerSource());
+    QVERIFY(!describe(device, std::nullopt).contains(u"Is Present"_s));
+    device.isPresent = false;
+    QVERIFY(!device.isPowerSource());
+}
+
+void UPowerDescriptionTest::tellsAllFactsOfADischargingBattery()
+{
+    const QVariantMap expected {
+        { u"Type"_s, u"InternalBattery"_s },
+        { u"Name"_s, u"PABAS0241231"_s },
+        { u"Time to Empty"_s, 135 },
+        { u"Time to Full Charge"_s, 0 },
+        { u"Current Capacity"_s, 50 },
+        { u"Max Capacity"_s, 100 },
+        { u"Is Charging"_s, false },
+        { u"Is Present"_s, true },
+        { u"Power Source State"_s, u"Battery Power"_s },
+    };
+    QCOMPARE(describe(named(pack(UPowerState::Discharging, 135min), u"PABAS0241231"_s), true),
+             expected);
+}
+
+void UPowerDescriptionTest::tellsAllFactsOfAChargingBattery()
+{
+    const QVariantMap expected {
+        { u"Type"_s, u"InternalBattery"_s },
+        { u"Name"_s, u"PABAS0241231"_s },
+        { u"Time to Empty"_s, 0 },
+        { u"Time to Full Charge"_s, 52 },
+        { u"Current Capacity"_s, 50 },
+        { u"Max Capacity"_s, 100 },
+        { u"Is Charging"_s, true },
+        { u"Is Present"_s, true },
+        { u"Power Source State"_s, u"AC Power"_s },
+    };
+    QCOMPARE(describe(named(pack(UPowerState::Charging, 0s, 52min), u"PABAS0241231"_s), false),
+             expected);
+}
+
+void UPowerDescriptionTest::saysStillEstimatingForATimeThatUPowerDoesNotKnow()
+{
+    QCOMPARE(toEmpty(pack(UPowerState::Discharging)), QVariant(-1));
+    QCOMPARE(toFull(pack(UPowerState::Discharging)), QVariant(0));
+    QCOMPARE(toEmpty(pack(UPowerState::Charging)), QVariant(0));
+    QCOMPARE(toFull(pack(UPowerState::Charging)), QVariant(-1));
+}
+
+void UPowerDescriptionTest::saysZeroForTheTimeThatDoesNotApply()
+{
+    QCOMPARE(toFull(pack(UPowerState::Discharging, 1h, 1h)), QVariant(0));
+    QCOMPARE(toEmpty(pack(UPowerState::Charging, 1h, 1h)), QVariant(0));
+}
+
+void UPowerDescriptionTest::saysZeroTwiceForABatteryAtRest_data()
+{
+    QTest::addColumn<UPowerState>("state");
+    QTest::newRow("full") << UPowerState::FullyCharged;
+    QTest::newRow("empty") << UPowerState::Empty;
+    QTest::newRow("threshold") << UPowerState::PendingCharge;
+    QTest::newRow("waits for its turn") << UPowerState::PendingDischarge;
+    QTest::newRow("unknown") << UPowerState::Unknown;
+}
+
+void UPowerDescriptionTest::saysZeroTwiceForABatteryAtRest()
+{
+    QFETCH(UPowerState, state);
+    const bool hasTimes = state != UPowerState::Unknown;
+    const UPowerDevice device = hasTimes ? pack(state, 1h, 1h) : pack(state);
+    QCOMPARE(toEmpty(device), QVariant(0));
+    QCOMPARE(toFull(device), QVariant(0));
+}
+
+void UPowerDescriptionTest::doesNotBelieveATimeOfMoreThanTwoDays()
+{
+    QCOMPARE(toEmpty(pack(UPowerState::Discharging, 48h)), QVariant(2880));
+    QCOMPARE(toEmpty(pack(UPowerState::Discharging, 48h + 1s)), QVariant(-1));
+    QCOMPARE(toFull(pack(UPowerState::Charging, 0s, 3932100s)), QVariant(-1));
+    QCOMPARE(toEmpty(pack(UPowerState::Discharging, std::chrono::seconds::max())), QVariant(-1));
+    UPowerDevice negative = pack(UPowerState::Discharging);
+    negative.update({ { u"TimeToEmpty"_s, std::numeric_limits<qlonglong>::min() } });
+    QCOMPARE(toEmpty(negative), QVariant(-1));
+}
+
+void UPowerDescriptionTest::roundsAKnownTimeDownButNeverToNothing()
+{
+    QCOMPARE(toEmpty(pack(UPowerState::Discharging, 119s)), QVariant(1));
+    QCOMPARE(toEmpty(pack(UPowerState::Discharging, 1s)), QVariant(1));
+}
+
+void UPowerDescriptionTest::hasNoKeyForAFactThatIsNotKnown()
+{
+    UPowerDevice device;
+    device.kind = UPowerKind::Battery;
+    const QVariantMap expected {
+        { u"Type"_s, u"InternalBattery"_s },
+        { u"Max Capacity"_s, 100 },
+        { u"Power Source State"_s, u"AC Power"_s },
+        { u"Time to Empty"_s, 0 },
+        { u"Time to Full Charge"_s, 0 },
+    };
+    QCOMPARE(describe(device, std::nullopt), expected);
+    device.state = UPowerState::Discharging;
+    QVERIFY(!describe(device, std::nullopt).contains(u"Time to Empty"_s));
+}
+
+void UPowerDescriptionTest::goesByTheTimesWhenTheStateIsUnknown()
+{
+    QCOMPARE(toEmpty(pack(UPowerState::Unknown, 1h)), QVariant(60));
+    QCOMPARE(toFull(pack(UPowerState::Unknown, 0s, 1h)), QVariant(60));
+}
+
+void UPowerDescriptionTest::goesByTheDaemonWhenStateAndTimesAreUnknown()
+{
+    const QVariantMap description = describe(pack(UPowerState::Unknown), true);
+    QCOMPARE(description.value(u"Time to Empty"_s), QVariant(-1));
+    QCOMPARE(description.value(u"Time to Full Charge"_s), QVariant(0));
+    QCOMPARE(description.value(u"Power Source State"_s), QVariant(u"Battery Power"_s));
+}
+
+void UPowerDescriptionTest::believesADischargingBatteryMoreThanTheDaemon()
+{
+    const QVariantMap description = describe(pack(UPowerState::Discharging, 1h), false);
+    QCOMPARE(description.value(u"Power Source State"_s), QVariant(u"Battery Power"_s));
+    QCOMPARE(description.value(u"Time to Empty"_s), QVariant(60));
+}
+
+void UPowerDescriptionTest::callsAUpsAUps()
+{
+    UPowerDevice ups = pack(UPowerState::FullyCharged, 2250s);
+    ups.kind = UPowerKind::Ups;
+    QCOMPARE(describe(ups, false).value(u"Type"_s), QVariant(u"UPS"_s));
+}
+
+void UPowerDescriptionTest::namesADeviceWithoutAModelAfterItsPath()
+{
+    UPowerDevice device = pack(UPowerState::Charging);
+    device.nativePath = u"/sys/devices/power_supply/CMB1"_s;
+    QCOMPARE(describe(device, false).value(u"Name"_s), QVariant(u"CMB1"_s));
+    device.nativePath.reset();
+    QVERIFY(!describe(device, false).contains(u"Name"_s));
+}
+
+void UPowerDescriptionTest::keepsTheOrderOfPacksThatAreAlike()
+{
+    const QList<UPowerDevice> packs { named(pack(UPowerState::Discharging), u"first"_s),
+                                      named(pack(UPowerState::Discharging, 1h), u"second"_s) };
+    QCOMPARE(namesOf(powerSourcesInOrder(packs, true)), QStringList({ u"first"_s, u"second"_s }));
+}
+
+void UPowerDescriptionTest::putsThePackInUseFirst()
+{
+    const QList<UPowerDevice> packs { named(pack(UPowerState::PendingDischarge), u"waits"_s),
+                                      named(pack(UPowerState::Empty), u"empty"_s),
+                                      named(pack(UPowerState::Discharging, 1h), u"used"_s) };
+    QCOMPARE(namesOf(powerSourcesInOrder(packs, true)),
+             QStringList({ u"used"_s, u"waits"_s, u"empty"_s }));
+}
+
+void UPowerDescriptionTest::putsBatteriesBeforeUpses()
+{
+    UPowerDevice ups = named(pack(UPowerState::Charging), u"ups"_s);
+    ups.kind = UPowerKind::Ups;
+    const QList<UPowerDevice> devices { ups, named(pack(UPowerState::FullyCharged), u"battery"_s) };
+    QCOMPARE(namesOf(powerSourcesInOrder(devices, false)), QStringList({ u"battery"_s, u"ups"_s }));
+}
+
+void UPowerDescriptionTest::leavesOutWhatIsNoPowerSource()
+{
+    UPowerDevice mouse = named(pack(UPowerState::Discharging), u"mouse"_s);
+    mouse.powersSystem = false;
+    UPowerDevice absent = named(pack(UPowerState::Discharging), u"absent"_s);
+    absent.isPresent = false;
+    const QList<UPowerDevice> devices { mouse, absent, UPowerDevice {},
+                                        named(pack(UPowerState::Charging), u"battery"_s) };
+    QCOMPARE(namesOf(powerSourcesInOrder(devices, false)), QStringList(u"battery"_s));
+}
+
+void UPowerDescriptionTest::settlesInTheDirectionThatApplies_data()
+{
+    QTest::addColumn<UPowerState>("state");
+    QTest::addColumn<std::optional<bool>>("onExternalPower");
+    QTest::addColumn<PowerFlow>("flow");
+    const auto row
+        = [](const char *name, UPowerState state, std::optional<bool> onExternalPower,
+             PowerFlow flow) { QTest::newRow(name) << state << onExternalPower << flow; };
+    using enum UPowerState;
+    row("plugged in, not noticed yet", Discharging, true, PowerFlow::Charging);
+    row("plugged in, unknown", Unknown, true, PowerFlow::Charging);
+    row("plugged in, charging", Charging, true, PowerFlow::Charging);
+    row("plugged in, full", FullyCharged, true, PowerFlow::Resting);
+    row("plugged in, threshold", PendingCharge, true, PowerFlow::Resting);
+    row("unplugged, not noticed yet", Charging, false, PowerFlow::Discharging);
+    row("unplugged when full, not noticed yet", FullyCharged, false, PowerFlow::Discharging);
+    row("unplugged at the threshold, not noticed yet", PendingCharge, false,
+        PowerFlow::Discharging);
+    row("unplugged, discharging", Discharging, false, PowerFlow::Discharging);
+    row("unplugged, another pack is used", PendingDischarge, false, PowerFlow::Resting);
+    row("unplugged, empty", Empty, false, PowerFlow::Resting);
+    row("woken, discharging", Discharging, std::nullopt, PowerFlow::Discharging);
+    row("woken, charging", Charging, std::nullopt, PowerFlow::Charging);
+    row("woken, full", FullyCharged, std::nullopt, PowerFlow::Resting);
+}
+
+void UPowerDescriptionTest::settlesInTheDirectionThatApplies()
+{
+    QFETCH(UPowerState, state);
+    QFETCH(std::optional<bool>, onExternalPower);
+    QFETCH(PowerFlow, flow);
+    QVERIFY(settlingFlowOf(pack(state), std::nullopt, onExternalPower) == flow);
+}
+
+void UPowerDescriptionTest::saysStillEstimatingInOneDirectionOnlyWhileSettling()
+{
+    const QVariantMap settled = describe(pack(UPowerState::Discharging, 1h), true);
+    QVariantMap expected = settled;
+    expected.insert(u"Time to Empty"_s, -1);
+    QCOMPARE(describeSettling(settled, PowerFlow::Discharging), expected);
+    expected.insert(u"Time to Empty"_s, 0);
+    expected.insert(u"Time to Full Charge"_s, -1);
+    QCOMPARE(describeSettling(settled, PowerFlow::Charging), expected);
+    expected.insert(u"Time to Full Charge"_s, 0);
+    QCOMPARE(describeSettling(settled, PowerFlow::Resting), expected);
+}
+
+QTEST_GUILESS_MAIN(UPowerDescriptionTest)
+#include "test_upowerdescription.moc"
