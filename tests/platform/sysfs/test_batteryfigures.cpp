@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/sysfs/batteryfigures.h"
+
+#include <QTest>
+
+using namespace ferrin;
+
+class TestBatteryFigures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void weighsPacksByTheirEnergy();
+    void weighsAPackOfUnknownSizeLikeTheOthers();
+    void comparesChargesAtDifferentVoltages();
+    void hasNoChargeWhenOnePackHasNone();
+    void hasNoSumWhenOnePackDoesNotKnow();
+    void hasNoFiguresWithoutPacks();
+    void countsPhantomsOnlyWhenThereIsNothingElse();
+    void asksTheBatteriesWhereNoSupplyTells_data();
+    void asksTheBatteriesWhereNoSupplyTells();
+    void ignoresASupplyThatDoesNotTell();
+    void doesNotTakeAPackThatFeedsAnotherForExternalPower();
+    void isFullOnlyWhenEveryPackIs();
+    void isChargedAt95PercentOnExternalPowerOnly_data();
+    void isChargedAt95PercentOnExternalPowerOnly();
+    void knowsNoChargingWithoutAStatus();
+};
+
+namespace {
+BatterySupply battery(std::optional<ChargeStatus> status, Reading capacity = {},
+                      Reading energyNow = {}, Reading energyFull = {})
+{
+    BatterySupply made;
+    made.status = status;
+    made.capacity = capacity;
+    made.energyNow = energyNow;
+    made.energyFull = energyFull;
+    return made;
+}
+
+AdapterSupply adapter(SupplyType type, Reading online)
+{
+    AdapterSupply made;
+    made.type = type;
+    made.online = online;
+    return made;
+}
+
+constexpr auto discharging = ChargeStatus::Discharging;
+} // namespace
+
+void TestBatteryFigures::weighsPacksByTheirEnergy()
+{
+    const auto packs = packsOf({ battery(discharging, 100, 24'000'000, 24'000'000),
+                                 battery(discharging, 0, 0, 72'000'000) });
+    QCOMPARE(chargePercent(packs), 25);
+}
+
+void TestBatteryFigures::weighsAPackOfUnknownSizeLikeTheOthers()
+{
+    const auto packs
+        = packsOf({ battery(discharging, 100, 40'000'000, 40'000'000), battery(discharging, 50) });
+    QCOMPARE(chargePercent(packs), 75);
+    QCOMPARE(chargePercent(packsOf({ battery(discharging, 20), battery(discharging, 40) })), 30);
+}
+
+void TestBatteryFigures::comparesChargesAtDifferentVoltages()
+{
+    BatterySupply low = battery(discharging);
+    low.chargeNow = 0;
+    low.chargeFull = 4'000'000;
+    low.voltageMinDesign = 7'500'000;
+    BatterySupply high = low;
+    high.chargeNow = 4'000'000;
+    high.voltageMinDesign = 15'000'000;
+    QCOMPARE(chargePercent(packsOf({ low, high })), 66);
+    QCOMPARE(fullMilliampHours(packsOf({ low, high })), 8000);
+}
+
+void TestBatteryFigures::hasNoChargeWhenOnePackHasNone()
+{
+    const auto packs = packsOf({ battery(discharging, 80, 8, 10), battery(discharging) });
+    QVERIFY(!chargePercent(packs));
+}
+
+void TestBatteryFigures::hasNoSumWhenOnePackDoesNotKnow()
+{
+    BatterySupply known = battery(discharging, 50);
+    known.chargeFull = 4'000'000;
+    QCOMPARE(fullMilliampHours(packsOf({ known })), 4000);
+    QCOMPARE(remainingMilliampHours(packsOf({ known })), 2000);
+    const auto packs = packsOf({ known, battery(discharging, 50) });
+    QVERIFY(!fullMilliampHours(packs));
+    QVERIFY(!remainingMilliampHours(packs));
+}
+
+void TestBatteryFigures::hasNoFiguresWithoutPacks()
+{
+    QVERIFY(!chargePercent({}));
+    QVERIFY(!fullMilliampHours({}));
+    QVERIFY(!remainingMilliampHours({}));
+    QVERIFY(!externalConnected({}));
+    QVERIFY(!isCharging({}, true));
+    QVERIFY(!isFullyCharged({}, true));
+}
+
+void TestBatteryFigures::countsPhantomsOnlyWhenThereIsNothingElse()
+{
+    const BatterySupply phantom = battery(ChargeStatus::Unknown, 0, 0, 0);
+    const BatterySupply real = battery(discharging, 50, 5'000'000, 10'000'000);
+    QCOMPARE(realPacks(packsOf({ phantom, real })).size(), 1U);
+    QCOMPARE(realPacks(packsOf({ phantom, phantom })).size(), 2U);
+    QCOMPARE(realPacks(packsOf({ battery(discharging), real })).size(), 2U);
+}
+
+void TestBatteryFigures::asksTheBatteriesWhereNoSupplyTells_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("charging") << int(ChargeStatus::Charging) << 1;
+    QTest::newRow("full") << int(ChargeStatus::Full) << 1;
+    QTest::newRow("not charging") << int(ChargeStatus::NotCharging) << 1;
+    QTest::newRow("discharging") << int(ChargeStatus::Discharging) << 0;
+    QTest::newRow("unknown") << int(ChargeStatus::Unknown) << -1;
+}
+
+void TestBatteryFigures::asksTheBatteriesWhereNoSupplyTells()
+{
+    QFETCH(int, status);
+    PowerSupplies supplies;
+    supplies.batteries = { battery(static_cast<ChargeStatus>(status)) };
+    const std::optional<bool> external = externalConnected(supplies);
+    QTEST(external ? int(*external) : -1, "expected");
+}
+
+void TestBatteryFigures::ignoresASupplyThatDoesNotTell()
+{
+    PowerSupplies supplies;
+    supplies.adapters = { adapter(SupplyType::Mains, {}) };
+    QVERIFY(!externalConnected(supplies));
+    supplies.adapters.push_back(adapter(SupplyType::Wireless, 1));
+    QCOMPARE(externalConnected(supplies), true);
+    supplies.adapters.back().online = 0;
+    QCOMPARE(externalConnected(supplies), false);
+}
+
+void TestBatteryFigures::doesNotTakeAPackThatFeedsAnotherForExternalPower()
+{
+    PowerSupplies supplies;
+    supplies.adapters = { adapter(SupplyType::Mains, 0) };
+    supplies.batteries = { battery(ChargeStatus::Charging), battery(discharging) };
+    QCOMPARE(externalConnected(supplies), false);
+}
+
+void TestBatteryFigures::isFullOnlyWhenEveryPackIs()
+{
+    const BatterySupply full = battery(ChargeStatus::Full, 100);
+    const BatterySupply waiting = battery(ChargeStatus::NotCharging, 40);
+    QCOMPARE(isFullyCharged(packsOf({ full, full }), true), true);
+    QCOMPARE(isFullyCharged(packsOf({ full, waiting }), true), false);
+    QCOMPARE(isFullyCharged(packsOf({ full, battery({}, 100) }), true), std::nullopt);
+}
+
+void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<int>("external");
+    QTest::addColumn<bool>("full");
+    for (const ChargeStatus status : { ChargeStatus::NotCharging, ChargeStatus::Unknown }) {
+        const int number = static_cast<int>(status);
+        QTest::addRow("%d at 95 on power", number) << number << 95 << 1 << true;
+        QTest::addRow("%d at 94 on power", number) << number << 94 << 1 << false;
+        QTest::addRow("%d at 100 on battery", number) << number << 100 << 0 << false;
+        QTest::addRow("%d at 95 on who knows", number) << number << 95 << -1 << false;
+    }
+    QTest::newRow("discharging at 100 on power")
+        << static_cast<int>(ChargeStatus::Discharging) << 100 << 1 << false;
+}
+
+void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly()
+{
+    QFETCH(int, status);
+    QFETCH(int, percent);
+    QFETCH(int, external);
+    const auto packs = packsOf({ battery(static_cast<ChargeStatus>(status), percent) });
+    const std::optional<bool> power
+        = external < 0 ? std::nullopt : std::optional<bool>(external != 0);
+    QTEST(isFullyCharged(packs, power).value_or(false), "full");
+}
+
+void TestBatteryFigures::knowsNoChargingWithoutAStatus()
+{
+    QVERIFY(!isCharging(packsOf({ battery({}, 50) }), true));
+    QCOMPARE(isCharging(packsOf({ battery(ChargeStatus::Unknown, 50) }), false), false);
+    QCOMPARE(isCharging(packsOf({ battery({}), battery(ChargeStatus::Charging) }), true), true);
+}
+
+QTEST_GUILESS_MAIN(TestBatteryFigures)
+#include "test_batteryfigures.moc"

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/power/sysfs/chargehistory.h"
+
+#include <QTest>
+
+using namespace ferrin;
+using namespace std::chrono_literals;
+
+class TestChargeHistory : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheLastChargeThroughAZero();
+    void believesAZeroAfterHalfAMinuteWithoutABreak();
+    void startsAnewAfterASampleInBetween();
+    void believesAZeroThatWasComing();
+    void believesAFirstZeroThatTheVoltageConfirms();
+    void doubtsAFirstZeroWithoutAWitness();
+    void believesAnEmptyPackBesideAFullOne();
+    void keepsEachPacksChargeApart();
+    void forgetsAPackThatWasTakenOut();
+    void leavesAbsentChargesAbsent();
+};
+
+namespace {
+struct Gauges
+{
+    ChargeHistory history;
+    ChargeHistory::Time moment { 0 };
+
+    // One sample of packs named a, b, c...; what is left after settling.
+    std::vector<std::optional<int>> sample(const std::vector<std::optional<int>> &percents,
+                                           ChargeHistory::Time later = 5s, bool drained = false)
+    {
+        moment += later;
+        std::vector<BatterySupply> batteries(percents.size());
+        std::vector<Pack> packs(percents.size());
+        for (std::size_t index = 0; index < percents.size(); ++index) {
+            batteries[index].name = std::string(1, static_cast<char>('a' + index));
+            packs[index].percent = percents[index];
+            packs[index].now = 1;
+            packs[index].drained = drained;
+        }
+        history.settle(batteries, packs, moment);
+        std::vector<std::optional<int>> settled;
+        for (const Pack &pack : packs)
+            settled.push_back(pack.percent);
+        return settled;
+    }
+};
+using Percents = std::vector<std::optional<int>>;
+} // namespace
+
+void TestChargeHistory::keepsTheLastChargeThroughAZero()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
+    QCOMPARE(gauges.sample({ 0 }), Percents { 62 });
+    QCOMPARE(gauges.sample({ 61 }), Percents { 61 });
+}
+
+void TestChargeHistory::believesAZeroAfterHalfAMinuteWithoutABreak()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
+    QCOMPARE(gauges.sample({ 0 }), Percents { 62 });
+    QCOMPARE(gauges.sample({ 0 }, 29s), Percents { 62 });
+    QCOMPARE(gauges.sample({ 0 }, 1s), Percents { 0 });
+    QCOMPARE(gauges.sample({ 0 }, 1s), Percents { 0 });
+}
+
+void TestChargeHistory::startsAnewAfterASampleInBetween()
+{
+    Gauges gauges;
+    for (int round = 0; round < 20; ++round) {
+        QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
+        QCOMPARE(gauges.sample({ 0 }), Percents { 62 });
+        QCOMPARE(gauges.sample({ 0 }, 20s), Percents { 62 });
+    }
+}
+
+void TestChargeHistory::believesAZeroThatWasComing()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 5 }), Percents { 5 });
+    QCOMPARE(gauges.sample({ 0 }), Percents { 0 });
+}
+
+void TestChargeHistory::believesAFirstZeroThatTheVoltageConfirms()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 0 }, 5s, true), Percents { 0 });
+}
+
+void TestChargeHistory::doubtsAFirstZeroWithoutAWitness()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 0 }), Percents { std::nullopt });
+    QCOMPARE(gauges.sample({ 0 }, 30s), Percents { 0 });
+}
+
+void TestChargeHistory::believesAnEmptyPackBesideAFullOne()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 0, 80 }), (Percents { 0, 80 }));
+}
+
+void TestChargeHistory::keepsEachPacksChargeApart()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 40, 80 }), (Percents { 40, 80 }));
+    QCOMPARE(gauges.sample({ 0, 79 }), (Percents { 40, 79 }));
+    QCOMPARE(gauges.sample({ 39, 0 }), (Percents { 39, 79 }));
+}
+
+void TestChargeHistory::forgetsAPackThatWasTakenOut()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 40, 80 }), (Percents { 40, 80 }));
+    QCOMPARE(gauges.sample({ 40 }), Percents { 40 });
+    QCOMPARE(gauges.sample({ 40, 0 }), (Percents { 40, 0 }));
+}
+
+void TestChargeHistory::leavesAbsentChargesAbsent()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
+    QCOMPARE(gauges.sample({ std::nullopt }), Percents { std::nullopt });
+    QCOMPARE(gauges.sample({ 0 }), Percents { 62 });
+}
+
+QTEST_GUILESS_MAIN(TestChargeHistory)
+#include "test_chargehistory.moc"
