@@ -69,6 +69,11 @@ Form glyph(const ItemContent &content, int height)
     return { FittedView { .content = icon, .size = QSizeF(height, height) }, qreal(height) };
 }
 
+bool isSquare(ItemForm form)
+{
+    return form == ItemForm::Square || form == ItemForm::Glyph;
+}
+
 Form formOf(ItemForm form, const ItemContent &content, int height, const ViewContext &context)
 {
     switch (form) {
@@ -90,14 +95,18 @@ QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal sc
                  const ViewContext &context)
 {
     const Form picture = formOf(form, content, height, context);
+    const qreal deviceScale = scale * picture.zoom;
+    // Where logical pixels are no whole ones, a glyph may move by half a pixel to stand on the
+    // grid.
+    const int slack = isSquare(form) || std::floor(deviceScale) == deviceScale ? 0 : 1;
     const QSize pixels(std::max(1, int(std::ceil(picture.width * scale))),
                        std::max(1, int(std::lround(height * scale))));
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage image(pixels + QSize(slack, 0), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
 
     QPainter painter(&image);
-    painter.scale(scale * picture.zoom, scale * picture.zoom);
-    const QSizeF bounds = QSizeF(pixels) / (scale * picture.zoom);
+    painter.scale(deviceScale, deviceScale);
+    const QSizeF bounds = QSizeF(pixels) / deviceScale;
     picture.view.paint(painter, QRectF(QPointF(), bounds), context);
     painter.end();
     return image.convertToFormat(QImage::Format_ARGB32);

@@ -122,13 +122,15 @@ void PaddedView::paint(QPainter &painter, const QRectF &bounds, const ViewContex
 void FittedView::paint(QPainter &painter, const QRectF &bounds, const ViewContext &context) const
 {
     const QSizeF ideal = content.idealSize(context);
-    const qreal zoom = ideal.isEmpty()
-        ? 1
-        : std::min(bounds.width() / ideal.width(), bounds.height() / ideal.height());
+    if (ideal.isEmpty()) {
+        content.paint(painter, bounds, context);
+        return;
+    }
+    const qreal zoom = std::min(bounds.width() / ideal.width(), bounds.height() / ideal.height());
     painter.save();
     painter.translate(bounds.topLeft());
     painter.scale(zoom, zoom);
-    content.paint(painter, QRectF(QPointF(), bounds.size() / zoom), context);
+    content.paint(painter, centredIn(QRectF(QPointF(), bounds.size() / zoom), ideal), context);
     painter.restore();
 }
 

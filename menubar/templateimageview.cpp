@@ -6,6 +6,7 @@
 #include "menubar/devicegrid.h"
 
 #include <QCache>
+#include <QFile>
 #include <QHash>
 #include <QImage>
 #include <QPainter>
@@ -31,8 +32,9 @@ QSizeF naturalSizeOf(const QString &name)
     const auto known = sizes.constFind(name);
     if (known != sizes.cend())
         return *known;
-    const QSvgRenderer renderer(fileOf(name));
-    return *sizes.insert(name, renderer.isValid() ? renderer.viewBoxF().size() : QSizeF(0, 0));
+    const QString file = fileOf(name);
+    return *sizes.insert(name,
+                         QFile::exists(file) ? QSvgRenderer(file).viewBoxF().size() : QSizeF(0, 0));
 }
 
 /// Half of what the size has beyond whole pixels.
