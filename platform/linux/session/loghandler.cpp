@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+// The place in the source would be this file, whoever logs.
+#define SD_JOURNAL_SUPPRESS_LOCATION
+
 #include "platform/linux/session/loghandler.h"
 
 #include <QFileInfo>

@@ -33,7 +33,7 @@ int runProgram(const QString &address)
     const Termination termination(address.isEmpty()
                                       ? QDBusConnection(u"none"_s)
                                       : QDBusConnection::connectToBus(address, u"session"_s));
-    QMetaObject::invokeMethod(qApp, sayReady, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(QCoreApplication::instance(), sayReady, Qt::QueuedConnection);
     return QCoreApplication::exec() == 0 ? endedByItsLoop : endedOtherwise;
 }
 
@@ -58,7 +58,12 @@ struct Program
         while (!process.canReadLine() && process.waitForReadyRead()) { }
     }
 
-    void send(int signal) const { ::kill(static_cast<pid_t>(process.processId()), signal); }
+    /// False when there is no such program: a signal to process 0 would go to the test itself.
+    [[nodiscard]] bool send(int signal) const
+    {
+        const auto id = static_cast<pid_t>(process.processId());
+        return id > 0 && ::kill(id, signal) == 0;
+    }
 };
 
 } // namespace
@@ -80,7 +85,7 @@ private Q_SLOTS:
     {
         QFETCH(int, signal);
         Program program({ u"run"_s, u""_s });
-        program.send(signal);
+        QVERIFY(program.send(signal));
         QVERIFY(program.process.waitForFinished());
         QCOMPARE(program.process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.process.exitCode(), endedByItsLoop);
@@ -99,8 +104,9 @@ private Q_SLOTS:
     void endsAProgramThatDoesNotListenAtTheSecondSignal()
     {
         Program program({ u"deaf"_s });
-        while (!program.process.waitForFinished(20))
-            program.send(SIGTERM);
+        do
+            QVERIFY(program.send(SIGTERM));
+        while (!program.process.waitForFinished(20));
         QCOMPARE(program.process.exitStatus(), QProcess::CrashExit);
     }
 };
