@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "app/desktopplatform.h"
 #include "app/ferrinapp.h"
 #include "app/powerplatform.h"
 #include "app/windowsmodule.h"
 #include "menubar/menubaritemprovider.h"
-#include "menubar/statusitem.h"
-#include "platform/linux/statusarea/statusarea.h"
-#include "state/applicationappearance.h"
+#include "platform/linux/session/applicationsetup.h"
+#include "platform/linux/session/loghandler.h"
+#include "platform/linux/session/singleinstance.h"
+#include "platform/linux/session/termination.h"
 #include "state/bundle.h"
 #include "state/displayswitches.h"
 #include "state/filedefaultsstore.h"
@@ -15,60 +17,75 @@
 #include "state/shareddefaults.h"
 
 #include <QDBusConnection>
-#include <QFont>
 #include <QGuiApplication>
 #include <QStandardPaths>
 
-namespace {
 using namespace ferrin;
 
-class PlainAppearance final : public ApplicationAppearance
+namespace {
+
+void describe(const Bundle &bundle)
 {
-public:
-    void setAppearance(std::optional<Appearance>) override { }
-};
+    QGuiApplication::setApplicationName(QStringLiteral("ferrin"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Ferrin"));
+    QGuiApplication::setApplicationVersion(bundle.shortVersion());
+    QGuiApplication::setDesktopFileName(bundle.identifier());
+    // The item, not a window, is what keeps the application alive.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+/// Gives the content of the status item its parts; what it shows is read when it is first built.
+void prepareItem(const DesktopPlatform &desktop, PowerPlatform &power)
+{
+    MenuBarItemProvider::setParts(
+        { .statusBar = desktop.statusBar(),
+          .battery = []() -> BatteryDataProvider & { return BatteryDataProvider::shared(); },
+          .settings = SettingsData::shared(),
+          .switches = DisplaySwitches::shared(),
+          .context = desktop.measuringContext() });
+    auto &item = MenuBarItemProvider::shared();
+    QObject::connect(&desktop, &DesktopPlatform::measuringContextChanged, &item,
+                     [&] { item.setContext(desktop.measuringContext()); });
+    QObject::connect(&item, &MenuBarItemProvider::quitRequested, qApp, &QCoreApplication::quit);
+    power.refreshEarly();
+}
+
+void fillStatusItem(StatusItem &item)
+{
+    MenuBarItemProvider::shared().setStatusItem(item);
+    MenuBarItemProvider::shared().update();
+}
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORMTHEME", "none");
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    PlainAppearance appearance;
+    const Bundle &bundle = Bundle::main();
+    installLogHandler(bundle.identifier());
+    setUpApplication();
+    const QGuiApplication application(argc, argv);
+    describe(bundle);
+
+    const QDBusConnection session = QDBusConnection::sessionBus();
+    SingleInstance instance(session, bundle.identifier());
+    if (!instance.acquire())
+        return EXIT_SUCCESS;
+    const Termination termination(session);
+
     setSharedDefaults(FileDefaultsStore::open(
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
-        Bundle::main().identifier()));
-
+        bundle.identifier()));
     PowerPlatform power(QDBusConnection::systemBus());
     BatteryDataProvider::setPlatform(power.parts());
+    DesktopPlatform desktop(session);
 
-    StatusAreaChooser statusArea(QDBusConnection::sessionBus());
-    StatusAreaAppearance look;
-    look.fontFamily = QGuiApplication::font().family();
-    statusArea.setAppearance(look);
-
-    FerrinApp ferrin({ .loadWindows = &loadWindows, .fillStatusItem = [](StatusItem &item) {
-                          MenuBarItemProvider::shared().setStatusItem(item);
-                          MenuBarItemProvider::shared().update();
-                      } });
-    QObject::connect(&statusArea, &StatusAreaChooser::itemAvailable, &ferrin, [&] {
-        static const bool once = [&] {
-            MenuBarItemProvider::setParts({ *statusArea.bar(),
-                                            [&]() -> BatteryDataProvider & {
-                                                auto &provider = BatteryDataProvider::shared();
-                                                power.refreshEarly(provider);
-                                                return provider;
-                                            },
-                                            SettingsData::shared(),
-                                            DisplaySwitches::shared(),
-                                            { Qt::black, Qt::red, look.fontFamily } });
-            QObject::connect(&MenuBarItemProvider::shared(), &MenuBarItemProvider::quitRequested, &app, &QCoreApplication::quit);
-            return true;
-        }();
-        (void)once;
-        ferrin.useStatusBar(*statusArea.bar());
-    });
-    statusArea.start();
+    FerrinApp ferrin({ .loadWindows = &loadWindows, .fillStatusItem = &fillStatusItem });
+    QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
+                     [&, first = true]() mutable {
+                         if (std::exchange(first, false))
+                             prepareItem(desktop, power);
+                         ferrin.useStatusBar(desktop.statusBar());
+                     });
+    desktop.start();
     return QGuiApplication::exec();
 }

@@ -26,11 +26,11 @@ BatteryDataProvider::Platform PowerPlatform::parts()
              .storedData = &StoredData::shared };
 }
 
-void PowerPlatform::refreshEarly(BatteryDataProvider &provider)
+void PowerPlatform::refreshEarly()
 {
-    connect(&m_events, &PowerEvents::changed, &provider, [this, &provider] {
+    connect(&m_events, &PowerEvents::changed, this, [this] {
         m_registry.expire();
-        provider.updatePeriodicData();
+        BatteryDataProvider::shared().updatePeriodicData();
     });
 }
 

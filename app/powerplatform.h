@@ -9,6 +9,8 @@
 #include "platform/linux/power/upower/upowerservice.h"
 #include "sources/qtprocesslauncher.h"
 
+#include <QObject>
+
 namespace ferrin {
 
 /// Where the battery's figures come from on Linux, and what tells that they changed: the parts that
@@ -23,8 +25,9 @@ public:
 
     [[nodiscard]] BatteryDataProvider::Platform parts();
 
-    /// Lets the platform call the fast refresh early, once for each event.
-    void refreshEarly(BatteryDataProvider &provider);
+    /// From now on the process-wide provider's fast refresh is also called early, once for each
+    /// change of power and each waking.
+    void refreshEarly();
 
 private:
     SysfsRegistry m_registry;

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "app/desktopplatform.h"
+
+#include "menubar/statusitem.h"
+
+namespace ferrin {
+
+DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus)
+    : m_appearance(sessionBus)
+    , m_statusArea(sessionBus)
+{
+    connect(&m_appearance, &SystemAppearance::changed, this, &DesktopPlatform::followAppearance);
+    connect(&m_statusArea, &StatusAreaChooser::itemAvailable, this,
+            &DesktopPlatform::itemAvailable);
+    followAppearance();
+}
+
+void DesktopPlatform::start()
+{
+    m_statusArea.start();
+}
+
+ViewContext DesktopPlatform::measuringContext() const
+{
+    return { .text = Qt::black, .red = Qt::red, .fontFamily = m_appearance.fontFamily() };
+}
+
+void DesktopPlatform::followAppearance()
+{
+    StatusAreaAppearance look { .forcedDark = std::nullopt,
+                                .desktopDark = m_appearance.isDesktopDark(),
+                                .fontFamily = m_appearance.fontFamily() };
+    if (const auto forced = m_appearance.forcedAppearance())
+        look.forcedDark = *forced == Appearance::dark;
+    m_statusArea.setAppearance(look);
+    Q_EMIT measuringContextChanged();
+}
+
+} // namespace ferrin

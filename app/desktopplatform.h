@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "platform/linux/session/systemappearance.h"
+#include "platform/linux/statusarea/statusarea.h"
+
+#include <QObject>
+
+namespace ferrin {
+
+class MenuBarItemProvider;
+
+/// How the application looks on this desktop and where its item stands, wired to each other: the
+/// item's colours and font follow the desktop's and the user's choice. Owned by `main`, for the
+/// life of the process.
+class DesktopPlatform final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DesktopPlatform(const QDBusConnection &sessionBus);
+
+    /// Offers the item to the desktop; `itemAvailable` follows.
+    void start();
+
+    [[nodiscard]] StatusBar &statusBar() const { return *m_statusArea.bar(); }
+
+    /// What the item's widths are measured with.
+    [[nodiscard]] ViewContext measuringContext() const;
+
+Q_SIGNALS:
+    /// From now on the item stands in `statusBar()`.
+    void itemAvailable();
+    void measuringContextChanged();
+
+private:
+    void followAppearance();
+
+    SystemAppearance m_appearance;
+    StatusAreaChooser m_statusArea;
+};
+
+} // namespace ferrin
