@@ -2,6 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """The item in real status areas: seen, and worked with a real pointer."""
 
+import time
+
 from harness import desktop
 from harness.case import AT_START, OnADesktop, main
 from harness.processes import eventually
@@ -18,12 +20,14 @@ class InAHost:
         self.program.says(AT_START)
 
     def cell(self):
-        """Where the item is drawn, once it has been."""
-        return eventually(self._drawn, "the item is on the screen")
+        """Where the item is drawn, once it has been, in the form that this host calls for."""
+        return eventually(self._drawn, "the item is on the screen in the form of its host")
 
     def _drawn(self):
         box = self.session.item_box(self.before)
-        return box if box and len(set(self.session.picture().pixels(box))) > 2 else None
+        if not box or not self.has_form(box):
+            return None
+        return box if len(set(self.session.picture().pixels(box))) > 8 else None
 
     def has_window(self):
         return bool(self.session.windows_of(self.program.pid))
@@ -35,8 +39,7 @@ class InAHost:
         self.assertEqual(self.item.get("IconAccessibleDesc"), AT_START)
 
     def test_it_is_drawn_in_the_form_of_its_host(self):
-        box = self.cell()
-        self.check_form(box)
+        self.assertTrue(self.cell())
 
     def test_a_click_opens_the_dashboard_and_another_closes_it(self):
         place = self.cell().centre
@@ -51,20 +54,24 @@ class InAHost:
         box = self.cell()
         self.assertEqual(list(self.item.menu().values()), ["Quit Ferrin"])
         before = self.session.picture()
+
+        def menu():
+            return before.difference(self.session.picture(), below=box.bottom + 4)
         self.session.click(box.centre, button=3)
-        menu = eventually(lambda: before.difference(self.session.picture(), below=box.bottom + 4),
-                          "the menu is open")
-        # Once more, for a menu that was still unfolding.
-        self.session.point((10, 500))
-        menu = before.difference(self.session.picture(), below=box.bottom + 4) or menu
-        self.session.click(menu.centre)
+        eventually(menu, "the menu is open")
+        opened = self.session.picture()
+        self.session.point(menu().centre)
+        eventually(lambda: opened.difference(self.session.picture()), "the entry is lit")
+        # A menu takes a click within half a second of its opening for a slip of the hand.
+        time.sleep(1)
+        self.session.click(menu().centre)
         self.assertEqual(self.program.exit_code(), 0)
 
 
 class Xfce(InAHost, OnADesktop):
-    def check_form(self, box):
-        self.assertLessEqual(box.width, 24)
-        self.assertGreater(box.height, 14)
+    def has_form(self, box):
+        # The panel may have drawn the ground around its cell anew.
+        return 14 < box.width <= 30 and 14 < box.height <= 30
 
 
 class XfceWithALightPanel(Xfce):
@@ -76,16 +83,16 @@ class Mate(InAHost, OnADesktop):
     def make_session(self):
         return desktop.MateScreen()
 
-    def check_form(self, box):
-        self.assertGreater(box.width, box.height)
+    def has_form(self, box):
+        return box.width > 1.5 * box.height
 
 
 class Waybar(InAHost, OnADesktop):
     def make_session(self):
         return desktop.WaybarScreen()
 
-    def check_form(self, box):
-        self.assertGreater(box.width, 2 * box.height)
+    def has_form(self, box):
+        return box.width > 3 * box.height
 
 
 class TheMenuOnTheBus(OnADesktop):

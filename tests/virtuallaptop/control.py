@@ -2,6 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """What can be done to the virtual laptop while it runs: one line a command, one line an answer."""
 
+import inspect
 import json
 import os
 import shlex
@@ -54,10 +55,12 @@ class Commands:
             action = getattr(self, "_" + words[0].replace("-", "_") + "_command", None)
             if action is None:
                 raise ValueError(f"no such command: {words[0]}")
+            try:
+                inspect.signature(action).bind(*words[1:])
+            except TypeError as error:
+                raise ValueError(f"{words[0]}: {error}") from error
             answer = action(*words[1:])
-        except TypeError:
-            return "error: wrong number of arguments"
-        except (ValueError, RuntimeError, OSError) as error:
+        except (ValueError, RuntimeError, OSError, GLib.Error) as error:
             return "error: " + str(error).replace("\n", " ")
         return "ok" if answer is None else "ok " + json.dumps(answer)
 

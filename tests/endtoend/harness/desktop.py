@@ -187,8 +187,10 @@ class Screen(Session):
 
     def _start_display(self):
         readable, told = os.pipe()
-        self.server = self.start(["Xvfb", "-displayfd", str(told), "-screen", "0",
-                                  f"{self.size}x24", "-nolisten", "tcp"], pass_fds=[told])
+        # Without a reset when its last client leaves, which would take the next one with it.
+        self.server = self.start(
+            ["Xvfb", "-displayfd", str(told), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp",
+             "-noreset"], pass_fds=[told])
         os.close(told)
         with os.fdopen(readable) as pipe:
             number = pipe.readline().strip()
@@ -290,6 +292,7 @@ class WaybarScreen(Screen):
         self.start(["waybar", "-c", self.write("config/waybar.json", WAYBAR),
                     "-s", self.write("config/waybar.css", WAYBAR_STYLE)])
         eventually(self.bus.has_host, "Waybar offers a status area")
+        eventually(lambda: self.picture().pixel(400, 15) == (0x30, 0x33, 0x38), "Waybar is drawn")
 
     def windows_of(self, process_id):
         """The titles of a process' windows."""

@@ -8,7 +8,7 @@ import signal
 import subprocess
 import time
 
-PATIENCE_SECONDS = 90
+PATIENCE_SECONDS = int(os.environ.get("FERRIN_TEST_PATIENCE", "90"))
 PR_SET_PDEATHSIG = 1
 LIBC = ctypes.CDLL(None)
 
