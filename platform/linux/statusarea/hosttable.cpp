@@ -26,9 +26,9 @@ constexpr std::array swaybarPictures {
     OfferedPicture { Square, 32 }, OfferedPicture { Square, 36 }, OfferedPicture { Square, 40 },
     OfferedPicture { Square, 48 }
 };
-// Waybar takes the largest area and draws it at its icon-size, 16 unless configured.
-constexpr std::array waybarPictures { OfferedPicture { OneLine, 16, 1 },
-                                      OfferedPicture { OneLine, 16, 2 } };
+// Waybar takes the largest area and draws it at its icon-size, 16 unless configured. Twice that
+// reads well shrunk to 16 and at the larger sizes that people set; a picture of 16 is a blur there.
+constexpr std::array waybarPictures { OfferedPicture { OneLine, 16, 2 } };
 // MATE takes the tallest that is no higher than its panel: every usual height, most usual first.
 constexpr std::array matePictures { OfferedPicture { Wide, 24 }, OfferedPicture { Wide, 25 },
                                     OfferedPicture { Wide, 26 }, OfferedPicture { Wide, 22 },

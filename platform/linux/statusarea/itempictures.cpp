@@ -13,13 +13,19 @@ namespace {
 // Several hosts read every property at every signal; a message beyond this is a burden to them.
 constexpr qsizetype byteBudget = 60'000;
 
+// Nobody has more device pixels to a logical one.
+constexpr qreal greatestDensity = 3;
+// A desktop at 1.25 is better served by one pixel too few than by nearly twice as many.
+constexpr qreal fractionIgnored = 0.25;
+
 qreal densityFor(const HostProfile &profile, const OfferedPicture &offer, qreal desktopScale)
 {
     switch (profile.scale) {
     case ScalePolicy::Never:
         return offer.density;
     case ScalePolicy::DesktopOnly:
-        return offer.density * std::clamp(std::ceil(desktopScale - 0.25), 1.0, 3.0);
+        return std::clamp(offer.density * std::ceil(desktopScale - fractionIgnored), 1.0,
+                          greatestDensity);
     }
     Q_UNREACHABLE();
 }
@@ -32,9 +38,9 @@ IconPixmapList paintAll(const HostProfile &profile, const ItemContent &content,
     for (const OfferedPicture &offer : profile.pictures) {
         const QImage image = paintForm(offer.form, content, offer.height,
                                        densityFor(profile, offer, desktopScale), context);
+        if (bytes + image.sizeInBytes() > byteBudget && !pictures.isEmpty())
+            continue;
         bytes += image.sizeInBytes();
-        if (bytes > byteBudget && !pictures.isEmpty())
-            break;
         pictures.append(toIconPixmap(image, profile.premultiplied));
     }
     return pictures;

@@ -46,7 +46,6 @@ bool saysThatNobodyIsThere(const QDBusError &error)
 ItemRegistration::ItemRegistration(const QDBusConnection &connection, QObject *parent)
     : QObject(parent)
     , m_connection(connection)
-    , m_watcher(watcherName, connection, QDBusServiceWatcher::WatchForOwnerChange)
     , m_retryDelay(firstRetryDelay)
 {
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -60,11 +59,14 @@ ItemRegistration::ItemRegistration(const QDBusConnection &connection, QObject *p
 void ItemRegistration::start(const QString &serviceName)
 {
     m_serviceName = serviceName;
+    m_watcher.setConnection(m_connection);
+    m_watcher.addWatchedService(watcherName);
     registerItem();
-    m_connection.connect(watcherName, watcherPath, watcherName, u"StatusNotifierHostRegistered"_s,
-                         this, SLOT(hostRegistered()));
-    m_connection.connect(watcherName, watcherPath, watcherName, u"StatusNotifierHostUnregistered"_s,
-                         this, SLOT(askForHost()));
+    // From whomever: naming the sender would have Qt wait for its owner, and what these do is ask.
+    m_connection.connect({}, watcherPath, watcherName, u"StatusNotifierHostRegistered"_s, this,
+                         SLOT(hostRegistered()));
+    m_connection.connect({}, watcherPath, watcherName, u"StatusNotifierHostUnregistered"_s, this,
+                         SLOT(askForHost()));
 }
 
 void ItemRegistration::watcherOwnerChanged(const QString &newOwner)

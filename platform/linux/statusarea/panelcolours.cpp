@@ -3,13 +3,16 @@
 
 #include "platform/linux/statusarea/panelcolours.h"
 
+#include <QFont>
+#include <QGuiApplication>
+
 namespace ferrin {
 
 namespace {
 
 // Reds that keep a contrast of at least 4.5 to usual panels: a soft one on dark grounds, a deep one
 // on light grounds.
-constexpr QRgb redOnDark = 0xffff6b60;
+constexpr QRgb redOnDark = 0xffff776c;
 constexpr QRgb redOnLight = 0xffc8001a;
 
 QColor textOn(bool darkGround)
@@ -61,7 +64,8 @@ ViewContext PanelColours::contextWith(const QColor &text) const
 {
     return { .text = text,
              .red = QColor::fromRgb(isLight(text) ? redOnDark : redOnLight),
-             .fontFamily = m_appearance.fontFamily };
+             .fontFamily = m_appearance.fontFamily.isEmpty() ? QGuiApplication::font().family()
+                                                             : m_appearance.fontFamily };
 }
 
 ViewContext PanelColours::contextFor(const HostProfile &profile) const

@@ -21,7 +21,7 @@ struct StatusAreaAppearance
     std::optional<bool> forcedDark {};
     /// The desktop prefers dark.
     bool desktopDark = false;
-    /// The desktop's interface font.
+    /// The desktop's interface font; empty for the toolkit's default.
     QString fontFamily {};
 
     bool operator==(const StatusAreaAppearance &) const = default;
