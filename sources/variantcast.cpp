@@ -54,6 +54,9 @@ std::optional<bool> variantCast(const QVariant &value)
 template <>
 std::optional<qint64> variantCast(const QVariant &value)
 {
+    // Without a detour where nothing has to be bridged: this runs at every refresh.
+    if (const auto held = exactly<qint64>(value))
+        return held;
     const int type = value.typeId();
     if (isSigned(type))
         return value.toLongLong();
@@ -68,6 +71,8 @@ std::optional<qint64> variantCast(const QVariant &value)
 template <>
 std::optional<float> variantCast(const QVariant &value)
 {
+    if (const auto held = exactly<float>(value))
+        return held;
     const std::optional<double> number = variantCast<double>(value);
     if (!number)
         return std::nullopt;
@@ -80,6 +85,8 @@ std::optional<float> variantCast(const QVariant &value)
 template <>
 std::optional<double> variantCast(const QVariant &value)
 {
+    if (const auto held = exactly<double>(value))
+        return held;
     const int type = value.typeId();
     if (!isSigned(type) && !isUnsigned(type) && !isFloating(type))
         return std::nullopt;

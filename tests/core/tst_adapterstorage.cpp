@@ -69,6 +69,7 @@ private Q_SLOTS:
     void leavesTheStoreAloneOnUnknownPower();
     void deletesAnEarlierAdapterWhenLaunchedOnExternalPower();
     void copiesTheLiveDetailsInTheirOrder();
+    void storesTheAdapterBeforeItAsksForTheTime();
     void copiesOnFourConsecutiveRefreshes();
     void copiesDetailsThatArriveLate();
     void copiesAnAbsentDetailAsAbsent();
@@ -131,6 +132,22 @@ void TestAdapterStorage::copiesTheLiveDetailsInTheirOrder()
     QCOMPARE(bench.storedData.adapterWatts(), 65);
     QCOMPARE(bench.storedData.adapterVoltage(), 20.0F);
     QCOMPARE(bench.storedData.adapterCurrent(), 3.25F);
+}
+
+void TestAdapterStorage::storesTheAdapterBeforeItAsksForTheTime()
+{
+    ProviderBench bench;
+    bench.start();
+    bench.log.ignoreRest();
+    bench.plugIn();
+    bench.setAdapter(charger(65));
+    bench.registry.lookups.clear();
+    QString lastLookup;
+    connect(&bench.storedData, &StoredData::adapterCurrentChanged, this,
+            [&] { lastLookup = bench.registry.lookups.last(); });
+    bench.refresh();
+    QCOMPARE(lastLookup, u"AdapterDetails"_s);
+    QCOMPARE(bench.registry.lookups.last(), u"TimeRemaining"_s);
 }
 
 void TestAdapterStorage::copiesOnFourConsecutiveRefreshes()
