@@ -69,7 +69,7 @@ Reading temperatureHundredths(const std::vector<BatteryRecord> &records)
 QString serialNumber(const std::vector<BatteryRecord> &records)
 {
     for (const BatteryRecord &record : records) {
-        const QString serial = serialOf(record.serialNumber);
+        QString serial = serialOf(record.serialNumber);
         if (!serial.isEmpty())
             return serial;
     }

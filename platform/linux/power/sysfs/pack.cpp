@@ -18,7 +18,7 @@ constexpr std::int64_t nominalCellVoltage = 3'700'000;
 constexpr std::int64_t greatestEnergy = 1'000 * million;
 constexpr std::int64_t greatestCharge = 100 * million;
 constexpr std::int64_t greatestRate = 10'000 * million;
-constexpr std::int64_t longestTime = 48 * 3600;
+constexpr std::int64_t longestTime = std::int64_t { 48 } * 3600;
 // Firmware has been seen to round up to 111.
 constexpr std::int64_t greatestCapacity = 120;
 
