@@ -13,7 +13,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace ferrin {
 
@@ -22,8 +21,7 @@ namespace {
 const QString watcherName = u"org.kde.StatusNotifierWatcher"_s;
 const QString watcherPath = u"/StatusNotifierWatcher"_s;
 
-constexpr auto firstRetryDelay = 2s;
-constexpr auto lastRetryDelay = 64s;
+constexpr int mostRetries = 6;
 
 QDBusMessage watcherCall(const QString &interface, const QString &method,
                          const QVariantList &arguments)
@@ -46,7 +44,6 @@ bool saysThatNobodyIsThere(const QDBusError &error)
 ItemRegistration::ItemRegistration(const QDBusConnection &connection, QObject *parent)
     : QObject(parent)
     , m_connection(connection)
-    , m_retryDelay(firstRetryDelay)
 {
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &, const QString &, const QString &newOwner) {
@@ -69,11 +66,16 @@ void ItemRegistration::start(const QString &serviceName)
                          SLOT(askForHost()));
 }
 
+void ItemRegistration::setFirstRetryDelay(std::chrono::milliseconds delay)
+{
+    m_firstRetryDelay = delay;
+}
+
 void ItemRegistration::watcherOwnerChanged(const QString &newOwner)
 {
     ++m_life;
     m_retry.stop();
-    m_retryDelay = firstRetryDelay;
+    m_retries = 0;
     m_isTroubleTold = false;
     setHostPresent(false);
     if (!newOwner.isEmpty())
@@ -104,7 +106,7 @@ void ItemRegistration::registrationAnswered(QDBusMessage reply)
         registrationFailed(QDBusError(reply));
         return;
     }
-    m_retryDelay = firstRetryDelay;
+    m_retries = 0;
     m_isTroubleTold = false;
     Q_EMIT registered();
     askForHost();
@@ -117,10 +119,10 @@ void ItemRegistration::registrationFailed(const QDBusError &error)
     if (!std::exchange(m_isTroubleTold, true))
         qCCritical(logger, "The status area did not take the item: %s",
                    qUtf8Printable(error.message()));
-    if (m_retryDelay > lastRetryDelay)
+    if (m_retries == mostRetries)
         return;
-    m_retry.start(m_retryDelay);
-    m_retryDelay *= 2;
+    m_retry.start(m_firstRetryDelay * (1 << m_retries));
+    ++m_retries;
 }
 
 void ItemRegistration::askForHost()

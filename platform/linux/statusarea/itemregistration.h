@@ -28,6 +28,9 @@ public:
     /// `serviceName` is the bus name that the item is reached at.
     void start(const QString &serviceName);
 
+    /// How long a watcher that refused is left alone; each time twice as long, six times over.
+    void setFirstRetryDelay(std::chrono::milliseconds delay);
+
     /// There is a watcher, and behind it a host that shows items.
     [[nodiscard]] bool isHostPresent() const noexcept { return m_isHostPresent; }
 
@@ -57,7 +60,8 @@ private:
     bool m_isHostPresent = false;
     bool m_isTroubleTold = false;
     QTimer m_retry;
-    std::chrono::seconds m_retryDelay;
+    std::chrono::milliseconds m_firstRetryDelay { 2000 };
+    int m_retries = 0;
 };
 
 } // namespace ferrin

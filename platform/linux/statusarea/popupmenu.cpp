@@ -75,10 +75,11 @@ void PopupMenu::popUp(const std::vector<MenuEntry> &entries, QPoint at, const Ow
     const QSize size = idealSize();
     setGeometry(QRect(placeNear(at, size, under->geometry()), size));
     show();
-    raise();
     requestActivate();
+    // Elsewhere the desktop itself sends a menu away when something else comes into focus.
     constexpr int grabAttempts = 10;
-    grabInput(grabAttempts);
+    if (QGuiApplication::platformName() == u"xcb")
+        grabInput(grabAttempts);
 }
 
 void PopupMenu::grabInput(int attemptsLeft)
@@ -86,7 +87,8 @@ void PopupMenu::grabInput(int attemptsLeft)
     // The host may still hold the pointer for the click that brought us here.
     if (!isVisible() || attemptsLeft == 0)
         return;
-    if (setMouseGrabEnabled(true) && setKeyboardGrabEnabled(true))
+    m_hasGrab = setMouseGrabEnabled(true) && setKeyboardGrabEnabled(true);
+    if (m_hasGrab)
         return;
     QTimer::singleShot(50ms, this, [this, attemptsLeft] { grabInput(attemptsLeft - 1); });
 }
@@ -225,7 +227,8 @@ void PopupMenu::focusOutEvent(QFocusEvent *)
 
 bool PopupMenu::event(QEvent *event)
 {
-    if (event->type() == QEvent::Hide) {
+    if (event->type() == QEvent::Hide && m_hasGrab) {
+        m_hasGrab = false;
         setMouseGrabEnabled(false);
         setKeyboardGrabEnabled(false);
     } else if (event->type() == QEvent::Leave) {

@@ -63,6 +63,7 @@ private:
     OwnWindowLook m_look;
     /// The highlighted entry, -1 for none.
     int m_current = -1;
+    bool m_hasGrab = false;
     AccessibleWindow m_accessible;
 };
 

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "menubar/itemhostingview.h"
+#include "platform/linux/statusarea/ownbar.h"
+#include "platform/linux/statusarea/panelcolours.h"
+#include "platform/linux/statusarea/popupmenu.h"
+#include "tests/platform/statusarea/contents.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace ferrin;
+using namespace ferrin::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const std::vector<MenuEntry> twoEntries { { u"one"_s, u"One"_s }, { u"two"_s, u"Two"_s } };
+
+PopupMenu *openMenu()
+{
+    for (QWindow *const window : QGuiApplication::topLevelWindows()) {
+        auto *menu = qobject_cast<PopupMenu *>(window);
+        if (menu && menu->isVisible())
+            return menu;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class OwnBarTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void standsAtTheTopRightOfTheScreen();
+    void isAsWideAsItsLength();
+    void keepsToItsContentWhenTheLengthIsAbsurd_data();
+    void keepsToItsContentWhenTheLengthIsAbsurd();
+    void tellsOfAClickAndWhereItWas();
+    void ignoresAClickThatEndsElsewhere();
+    void opensItsMenuAtTheOtherButton();
+    void isAButtonToAScreenReader();
+
+    void menuFitsOnItsScreen_data();
+    void menuFitsOnItsScreen();
+    void menuTriggersWhatIsClicked();
+    void menuClosesAtAClickElsewhere();
+    void menuClosesAtEscape();
+    void menuIsUsableByKeyboard();
+    void menuIsReadByAScreenReader();
+    void menuWithoutEntriesDoesNotOpen();
+
+private:
+    std::unique_ptr<PanelColours> m_colours;
+    std::unique_ptr<OwnBar> m_bar;
+    StatusItem *m_item = nullptr;
+    OwnBarWindow *m_window = nullptr;
+};
+
+void OwnBarTest::init()
+{
+    m_bar.reset();
+    m_colours = std::make_unique<PanelColours>();
+    m_bar = std::make_unique<OwnBar>(*m_colours);
+    m_item = m_bar->item();
+    m_window = &qobject_cast<OwnBarItem *>(m_item)->window();
+    auto view = std::make_unique<ItemHostingView>();
+    view->bindableContent().setValue(dischargingAt(37, u"4:29"_s));
+    m_item->addContentView(std::move(view));
+    m_item->setContextMenu(twoEntries);
+    m_bar->show();
+}
+
+void OwnBarTest::standsAtTheTopRightOfTheScreen()
+{
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    QCOMPARE(m_item->geometry().topRight(), available.topRight());
+    QCOMPARE(m_item->geometry(), m_window->geometry());
+}
+
+void OwnBarTest::isAsWideAsItsLength()
+{
+    const int before = m_item->geometry().width();
+    m_item->setLength(before - 18 + 6);
+    QCOMPARE(m_item->geometry().width(), before + 6);
+    QCOMPARE(m_item->length(), before - 18 + 6.0);
+    QCOMPARE(m_item->geometry().right(),
+             QGuiApplication::primaryScreen()->availableGeometry().right());
+}
+
+void OwnBarTest::keepsToItsContentWhenTheLengthIsAbsurd_data()
+{
+    QTest::addColumn<qreal>("length");
+    QTest::newRow("huge") << 1e12;
+    QTest::newRow("negative") << -5.0;
+    QTest::newRow("not a number") << qQNaN();
+    QTest::newRow("infinite") << qInf();
+}
+
+void OwnBarTest::keepsToItsContentWhenTheLengthIsAbsurd()
+{
+    QFETCH(qreal, length);
+    const int before = m_item->geometry().width();
+    m_item->setLength(length);
+    QCOMPARE(m_item->geometry().width(), before);
+}
+
+void OwnBarTest::tellsOfAClickAndWhereItWas()
+{
+    QSignalSpy clicks(m_item, &StatusItem::activated);
+    QTest::mouseClick(m_window, Qt::LeftButton, {}, { 5, 6 });
+    QCOMPARE(clicks.size(), 1);
+    QCOMPARE(clicks.takeFirst(), QVariantList { m_window->mapToGlobal(QPoint(5, 6)) });
+}
+
+void OwnBarTest::ignoresAClickThatEndsElsewhere()
+{
+    const QSignalSpy clicks(m_item, &StatusItem::activated);
+    QTest::mousePress(m_window, Qt::LeftButton, {}, { 5, 6 });
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 90),
+                        QPointF(m_window->position()) + QPointF(5, 90), Qt::LeftButton, {}, {});
+    QCoreApplication::sendEvent(m_window, &release);
+    QCOMPARE(clicks.size(), 0);
+}
+
+void OwnBarTest::opensItsMenuAtTheOtherButton()
+{
+    QSignalSpy triggered(m_item, &StatusItem::menuEntryTriggered);
+    const QSignalSpy clicks(m_item, &StatusItem::activated);
+    QTest::mouseClick(m_window, Qt::RightButton, {}, { 5, 6 });
+    PopupMenu *const menu = openMenu();
+    QVERIFY(menu);
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    QCOMPARE(triggered.takeFirst(), QVariantList { u"one"_s });
+    QCOMPARE(clicks.size(), 0);
+    QVERIFY(!openMenu());
+}
+
+void OwnBarTest::isAButtonToAScreenReader()
+{
+    QAccessibleInterface *const bar = m_window->accessibleRoot();
+    QCOMPARE(bar->role(), QAccessible::ToolBar);
+    QCOMPARE(bar->childCount(), 1);
+    QAccessibleInterface *const button = bar->child(0);
+    QCOMPARE(button->role(), QAccessible::Button);
+    QCOMPARE(button->text(QAccessible::Name), u"37%, 4:29 to empty"_s);
+    QCOMPARE(button->rect(), m_window->geometry());
+    QCOMPARE(bar->indexOfChild(button), 0);
+    QCOMPARE(button->parent(), bar);
+    QCOMPARE(bar->child(1), nullptr);
+
+    const QSignalSpy clicks(m_item, &StatusItem::activated);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(clicks.size(), 1);
+}
+
+void OwnBarTest::menuFitsOnItsScreen_data()
+{
+    QTest::addColumn<QPoint>("at");
+    QTest::addColumn<QPoint>("expected");
+    QTest::newRow("in the middle") << QPoint(300, 200) << QPoint(300, 200);
+    QTest::newRow("top left") << QPoint(0, 0) << QPoint(0, 0);
+    QTest::newRow("bottom") << QPoint(300, 590) << QPoint(300, 490);
+    QTest::newRow("bottom right") << QPoint(799, 599) << QPoint(600, 499);
+    QTest::newRow("right") << QPoint(790, 10) << QPoint(600, 10);
+}
+
+void OwnBarTest::menuFitsOnItsScreen()
+{
+    QFETCH(QPoint, at);
+    QFETCH(QPoint, expected);
+    QCOMPARE(placeNear(at, { 200, 100 }, { 0, 0, 800, 600 }), expected);
+}
+
+void OwnBarTest::menuTriggersWhatIsClicked()
+{
+    PopupMenu menu;
+    QSignalSpy triggered(&menu, &PopupMenu::triggered);
+    menu.popUp(twoEntries, { 10, 10 }, {});
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, { 30, 45 });
+    QCOMPARE(triggered.takeFirst(), QVariantList { u"two"_s });
+    QVERIFY(!menu.isVisible());
+}
+
+void OwnBarTest::menuClosesAtAClickElsewhere()
+{
+    PopupMenu menu;
+    const QSignalSpy triggered(&menu, &PopupMenu::triggered);
+    menu.popUp(twoEntries, { 10, 10 }, {});
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(-30, 45),
+                      QPointF(menu.position()) + QPointF(-30, 45), Qt::LeftButton, Qt::LeftButton,
+                      {});
+    QCoreApplication::sendEvent(&menu, &press);
+    QVERIFY(!menu.isVisible());
+    QCOMPARE(triggered.size(), 0);
+}
+
+void OwnBarTest::menuClosesAtEscape()
+{
+    PopupMenu menu;
+    const QSignalSpy triggered(&menu, &PopupMenu::triggered);
+    menu.popUp(twoEntries, { 10, 10 }, {});
+    QVERIFY(menu.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Escape);
+    QVERIFY(!menu.isVisible());
+    QCOMPARE(triggered.size(), 0);
+}
+
+void OwnBarTest::menuIsUsableByKeyboard()
+{
+    PopupMenu menu;
+    QSignalSpy triggered(&menu, &PopupMenu::triggered);
+    menu.popUp(twoEntries, { 10, 10 }, { .isDark = true });
+    QTest::keyClick(&menu, Qt::Key_Return);
+    QCOMPARE(triggered.size(), 0);
+    QTest::keyClick(&menu, Qt::Key_Up);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    QCOMPARE(triggered.takeFirst(), QVariantList { u"two"_s });
+}
+
+void OwnBarTest::menuIsReadByAScreenReader()
+{
+    PopupMenu menu;
+    menu.popUp(twoEntries, { 10, 10 }, {});
+    QAccessibleInterface *const root = menu.accessibleRoot();
+    QCOMPARE(root->role(), QAccessible::PopupMenu);
+    QCOMPARE(root->childCount(), 2);
+    QCOMPARE(root->child(1)->role(), QAccessible::MenuItem);
+    QCOMPARE(root->child(1)->text(QAccessible::Name), u"Two"_s);
+    QSignalSpy triggered(&menu, &PopupMenu::triggered);
+    root->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(triggered.takeFirst(), QVariantList { u"two"_s });
+}
+
+void OwnBarTest::menuWithoutEntriesDoesNotOpen()
+{
+    PopupMenu menu;
+    menu.popUp({}, { 10, 10 }, {});
+    QVERIFY(!menu.isVisible());
+}
+
+QTEST_MAIN(OwnBarTest)
+#include "test_ownbar.moc"
