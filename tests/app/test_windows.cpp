@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "app/windows.h"
+
+#include <QGuiApplication>
+#include <QPluginLoader>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QScreen>
+#include <QTest>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QList<QWindow *> visibleWindows(const QString &title)
+{
+    QList<QWindow *> found;
+    const auto windows = QGuiApplication::topLevelWindows();
+    std::ranges::copy_if(windows, std::back_inserter(found), [&](const QWindow *window) {
+        return window->isVisible() && window->title() == title;
+    });
+    return found;
+}
+
+} // namespace
+
+/// The real module, loaded as the program loads it.
+class TestWindows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void showsOneWindowWhenTheSettingsAreOpenedTwice();
+    void opensNothingByAnotherIdentifier();
+    void letsNobodyResizeTheSettings();
+    void placesTheSettingsInTheMiddleOfTheScreen();
+    void dropsTheDashboardWhenItCloses();
+    void closesTheDashboardByEscape();
+
+private:
+    std::unique_ptr<Windows> m_windows;
+};
+
+void TestWindows::initTestCase()
+{
+    QGuiApplication::setApplicationDisplayName(u"Ferrin"_s);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+void TestWindows::init()
+{
+    QPluginLoader loader(QStringLiteral(FERRIN_WINDOWS_MODULE));
+    auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
+    QVERIFY2(factory, qPrintable(loader.errorString()));
+    m_windows = factory->create();
+}
+
+void TestWindows::showsOneWindowWhenTheSettingsAreOpenedTwice()
+{
+    m_windows->openWindow(u"FerrinSettings"_s);
+    m_windows->openWindow(u"FerrinSettings"_s);
+    QCOMPARE(visibleWindows(u"Ferrin Settings"_s).size(), 1);
+}
+
+void TestWindows::opensNothingByAnotherIdentifier()
+{
+    m_windows->openWindow(u"FerrinSetting"_s);
+    QVERIFY(visibleWindows(u"Ferrin Settings"_s).isEmpty());
+}
+
+void TestWindows::letsNobodyResizeTheSettings()
+{
+    m_windows->openWindow(u"FerrinSettings"_s);
+    const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
+    QCOMPARE(window->minimumSize(), window->size());
+    QCOMPARE(window->maximumSize(), window->size());
+    QVERIFY(!window->size().isEmpty());
+}
+
+void TestWindows::placesTheSettingsInTheMiddleOfTheScreen()
+{
+    m_windows->openWindow(u"FerrinSettings"_s);
+    const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
+    QCOMPARE(window->geometry().center(),
+             QGuiApplication::primaryScreen()->availableGeometry().center());
+}
+
+void TestWindows::dropsTheDashboardWhenItCloses()
+{
+    m_windows->showDashboard({}, { 100, 10 });
+    QCOMPARE(visibleWindows(u"Ferrin"_s).size(), 1);
+    const QPointer<QWindow> window = visibleWindows(u"Ferrin"_s).first();
+    m_windows->hideDashboard();
+    QTRY_VERIFY(window.isNull());
+}
+
+void TestWindows::closesTheDashboardByEscape()
+{
+    int closed = 0;
+    m_windows->dashboardClosed = [&] { ++closed; };
+    m_windows->showDashboard({}, { 100, 10 });
+    QTest::keyClick(visibleWindows(u"Ferrin"_s).first(), Qt::Key_Escape);
+    QCOMPARE(closed, 1);
+}
+
+QTEST_MAIN(TestWindows)
+#include "test_windows.moc"
