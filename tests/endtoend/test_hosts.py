@@ -84,7 +84,7 @@ class Mate(InAHost, OnADesktop):
         return desktop.MateScreen()
 
     def has_form(self, box):
-        return box.width > 1.5 * box.height
+        return box.width > box.height
 
 
 class Waybar(InAHost, OnADesktop):
