@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Some thousand times what the program ever writes.
-constexpr qint64 greatestSize = 1024 * 1024;
+constexpr qint64 greatestSize = 1'048'576;
 
 QJsonObject salvaged(const QByteArray &text)
 {

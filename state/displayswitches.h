@@ -28,7 +28,8 @@ enum class DisplaySwitch {
 
 /// What the item shows in each battery state. A switch that was never set, or that holds anything
 /// but a bool, is on; reading writes nothing. Bindings that read a switch follow it, whoever in the
-/// process changes it. One instance serves the process.
+/// process changes it. One instance serves the process. Each switch has a property of its own
+/// beside the three functions that serve them all, because windows bind to switches by name.
 class DisplaySwitches : public QObject
 {
     Q_OBJECT

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QLockFile>
 #include <QThread>
+#include <QTimer>
 
 #include <chrono>
 
@@ -64,8 +65,7 @@ FileDefaultsStore::FileDefaultsStore(const QString &path)
 
 FileDefaultsStore::~FileDefaultsStore()
 {
-    if (!m_pending.isEmpty())
-        flush();
+    flushPending();
 }
 
 QVariant FileDefaultsStore::object(const QString &key) const
@@ -101,12 +101,14 @@ void FileDefaultsStore::flushInThisTurn()
 {
     if (std::exchange(m_flushIsDue, true))
         return;
-    const auto flushPending = [this] {
-        m_flushIsDue = false;
-        if (!m_pending.isEmpty())
-            flush();
-    };
-    QMetaObject::invokeMethod(this, flushPending, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, &FileDefaultsStore::flushPending);
+}
+
+void FileDefaultsStore::flushPending()
+{
+    m_flushIsDue = false;
+    if (!m_pending.isEmpty())
+        flush();
 }
 
 void FileDefaultsStore::flush()

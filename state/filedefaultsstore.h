@@ -43,6 +43,7 @@ public:
 
 private:
     void flushInThisTurn();
+    void flushPending();
     [[nodiscard]] QString mergeIntoFile(QStringList &adopted);
     [[nodiscard]] QStringList adopt(const DefaultsFile::Contents &contents);
     void tellOnce(const QString &trouble);

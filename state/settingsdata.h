@@ -32,7 +32,8 @@ struct IconsOnOffer
 /// width that the status item last had, and the release that ran last. It caches nothing: every
 /// value is read from the defaults store, every binding that read one is evaluated again when it is
 /// set here or changes in the store. A value that cannot be read is replaced by its default in the
-/// store, on first read. One instance serves the process; it never shows an error.
+/// store, on first read. One instance serves the process; it never shows an error. It is long
+/// because each of eight properties has its getter, its setter and its bindable.
 class SettingsData : public QObject
 {
     Q_OBJECT
