@@ -37,7 +37,7 @@ constexpr qreal lineHeight = 16;
 
 AnyView lowIcon(const IconElement &icon, const ViewContext &context)
 {
-    const AnyView view = viewFor(icon);
+    AnyView view = viewFor(icon);
     const QSizeF ideal = view.idealSize(context);
     if (ideal.height() <= lineHeight)
         return view;

@@ -27,9 +27,9 @@ RowView chargeRow(const QString &charge, int pixelSize)
     return { .spacing = 1, .children = { textOf(charge, pixelSize), textOf(u"%"_s, pixelSize) } };
 }
 
-RowView besideIcon(qreal spacing, AnyView text, AnyView icon)
+RowView besideIcon(qreal spacing, const AnyView &text, const AnyView &icon)
 {
-    return { .spacing = spacing, .children = { std::move(text), SpacerView {}, std::move(icon) } };
+    return { .spacing = spacing, .children = { text, SpacerView {}, icon } };
 }
 
 } // namespace

@@ -24,7 +24,8 @@ MenuBarExtraAccess::MenuBarExtraAccess(StatusBar &statusBar, StatusItemIntrospec
 void MenuBarExtraAccess::setUp()
 {
     if (!m_statusItemIntrospectionSetup)
-        QMetaObject::invokeMethod(this, &MenuBarExtraAccess::handOver, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { handOver(); }, Qt::QueuedConnection);
 }
 
 void MenuBarExtraAccess::handOver()

@@ -63,8 +63,9 @@ class AnyView
 public:
     AnyView() = default;
 
-    template <View V>
-    requires(!std::same_as<std::remove_cvref_t<V>, AnyView>)
+    // The first question answers itself for copies of this; the second would never end for them.
+    template <typename V>
+    requires(!std::same_as<V, AnyView> && View<V>)
         AnyView(V view) // NOLINT(google-explicit-constructor): every view is an AnyView
         : m_view(std::make_shared<const Model<V>>(std::move(view)))
     {

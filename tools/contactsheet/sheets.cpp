@@ -54,7 +54,7 @@ QImage iconPicture(Icon icon, int charge, qreal scale, const SheetTheme &theme)
 }
 
 ItemContent content(BatteryChargingStatus status, std::optional<Icon> icon, double charge,
-                    std::optional<QString> chargeText, std::optional<QString> time)
+                    const std::optional<QString> &chargeText, const std::optional<QString> &time)
 {
     ItemContent result { .status = status, .charge = chargeText, .time = time };
     if (icon)
