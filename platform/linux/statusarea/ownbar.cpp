@@ -66,10 +66,11 @@ void OwnBarItem::showColours()
     m_window.setColours(m_colours.contextForOwnBar(), m_colours.isOwnBarDark());
 }
 
-void OwnBarItem::popUpMenu(QPoint at)
+void OwnBarItem::popUpMenu()
 {
+    const QRect bar = m_window.geometry();
     m_popup.popUp(
-        m_entries, at,
+        m_entries, { bar.left(), bar.bottom() + 1 },
         { .isDark = m_colours.isOwnBarDark(), .fontFamily = m_colours.appearance().fontFamily });
 }
 

@@ -40,7 +40,7 @@ public:
 private:
     void showContent();
     void showColours();
-    void popUpMenu(QPoint at);
+    void popUpMenu();
 
     const PanelColours &m_colours;
     OwnBarWindow m_window;

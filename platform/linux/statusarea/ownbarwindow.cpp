@@ -133,7 +133,7 @@ void OwnBarWindow::paintEvent(QPaintEvent *)
 void OwnBarWindow::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton)
-        Q_EMIT menuRequested(event->globalPosition().toPoint());
+        Q_EMIT menuRequested();
 }
 
 void OwnBarWindow::mouseReleaseEvent(QMouseEvent *event)

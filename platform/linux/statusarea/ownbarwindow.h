@@ -38,7 +38,7 @@ public:
 
 Q_SIGNALS:
     void clicked(QPoint position);
-    void menuRequested(QPoint position);
+    void menuRequested();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
