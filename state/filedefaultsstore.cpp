@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QLockFile>
 #include <QThread>
-#include <QTimer>
 
 #include <chrono>
 
@@ -55,6 +54,8 @@ std::unique_ptr<FileDefaultsStore> FileDefaultsStore::open(const QString &config
 FileDefaultsStore::FileDefaultsStore(const QString &path)
     : m_file(path)
 {
+    m_flushTimer.setSingleShot(true);
+    connect(&m_flushTimer, &QTimer::timeout, this, &FileDefaultsStore::flushPending);
     const DefaultsFile::Contents contents = m_file.read();
     m_entries = contents.entries;
     if (contents.state == DefaultsFile::State::Damaged)
@@ -87,7 +88,7 @@ void FileDefaultsStore::setObject(const QString &key, const QVariant &value)
     const QVariant before = object(key);
     m_entries.insert(key, json);
     m_pending.insert(key);
-    flushInThisTurn();
+    m_flushTimer.start();
     if (differ(before, object(key)))
         Q_EMIT changed(key);
 }
@@ -97,16 +98,8 @@ void FileDefaultsStore::registerDefaults(const QVariantMap &defaults)
     m_registered.insert(defaults);
 }
 
-void FileDefaultsStore::flushInThisTurn()
-{
-    if (std::exchange(m_flushIsDue, true))
-        return;
-    QTimer::singleShot(0, this, &FileDefaultsStore::flushPending);
-}
-
 void FileDefaultsStore::flushPending()
 {
-    m_flushIsDue = false;
     if (!m_pending.isEmpty())
         flush();
 }

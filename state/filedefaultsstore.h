@@ -8,6 +8,7 @@
 
 #include <QJsonObject>
 #include <QSet>
+#include <QTimer>
 #include <QVariantMap>
 
 #include <memory>
@@ -42,7 +43,6 @@ public:
     void flush();
 
 private:
-    void flushInThisTurn();
     void flushPending();
     [[nodiscard]] QString mergeIntoFile(QStringList &adopted);
     [[nodiscard]] QStringList adopt(const DefaultsFile::Contents &contents);
@@ -53,7 +53,8 @@ private:
     QVariantMap m_registered;
     /// Changed here and not yet in the file.
     QSet<QString> m_pending;
-    bool m_flushIsDue = false;
+    /// Runs out as soon as the event loop is reached.
+    QTimer m_flushTimer;
     /// The log knows of a trouble that is not over.
     bool m_isInTrouble = false;
 };
