@@ -108,9 +108,7 @@ class Sysfs:
 
     def _create(self, name, attributes):
         self.supplies[name] = {}
-        self._testbed.add_from_string(
-            f"P: {self._path(name)[4:]}\nE: SUBSYSTEM=power_supply\nE: POWER_SUPPLY_NAME={name}\n\n"
-        )
+        self._testbed.add_from_string(_description(name, self._path(name), attributes))
         for attribute, value in attributes.items():
             error = machines.failing_error(value)
             if error:
@@ -179,6 +177,17 @@ class Sysfs:
             shutil.rmtree(path)
         elif os.path.lexists(path):
             os.unlink(path)
+
+
+def _description(name, path, attributes):
+    """The supply for the testbed, which tells of it at once: so what can be said is in there."""
+    lines = [f"P: {path[4:]}", "E: SUBSYSTEM=power_supply", f"E: POWER_SUPPLY_NAME={name}"]
+    for attribute, value in attributes.items():
+        is_plain = value.isascii() and value.isprintable() and "\\" not in value
+        if is_plain and attribute != "uevent" and not machines.failing_error(value):
+            lines.append(f"E: POWER_SUPPLY_{attribute.upper()}={value}")
+            lines.append(f"A: {attribute}={value}\\n")
+    return "\n".join(lines) + "\n\n"
 
 
 def _make_faulty(path, kind):

@@ -125,6 +125,20 @@ void SupplyMonitor::receive()
         Q_EMIT changed();
 }
 
+std::optional<SupplyMonitor::Supply> SupplyMonitor::supplyOf(udev_device *device)
+{
+    const std::optional<QString> type = valueOf(device, "POWER_SUPPLY_TYPE", "type");
+    if (!type)
+        return std::nullopt;
+    const bool isBattery = type == u"Battery" || type == u"UPS";
+    return Supply {
+        .isBattery = isBattery,
+        .isPeripheral = valueOf(device, "POWER_SUPPLY_SCOPE", "scope") == u"Device",
+        .state = isBattery ? valueOf(device, "POWER_SUPPLY_STATUS", "status")
+                           : valueOf(device, "POWER_SUPPLY_ONLINE", "online"),
+    };
+}
+
 bool SupplyMonitor::take(udev_device *device)
 {
     const QString path = QString::fromUtf8(udev_device_get_devpath(device));
@@ -135,27 +149,15 @@ bool SupplyMonitor::take(udev_device *device)
     if (const char *before = udev_device_get_property_value(device, "DEVPATH_OLD"))
         isDifferent = remove(QString::fromUtf8(before));
 
-    auto known = m_supplies.find(path);
-    if (known == m_supplies.end()) {
-        const std::optional<QString> type = valueOf(device, "POWER_SUPPLY_TYPE", "type");
-        const std::optional<QString> scope = valueOf(device, "POWER_SUPPLY_SCOPE", "scope");
-        const Supply supply { .isBattery = type == u"Battery" || type == u"UPS",
-                              .isPeripheral = scope == u"Device",
-                              .state = std::nullopt };
-        known = m_supplies.emplace(path, supply).first;
-        isDifferent = isDifferent || !supply.isPeripheral;
-    }
-    Supply &supply = known->second;
-    if (supply.isPeripheral)
+    const std::optional<Supply> supply = supplyOf(device);
+    if (!supply)
         return isDifferent;
-    const std::optional<QString> state = supply.isBattery
-        ? valueOf(device, "POWER_SUPPLY_STATUS", "status")
-        : valueOf(device, "POWER_SUPPLY_ONLINE", "online");
+    const auto [known, isNew] = m_supplies.try_emplace(path, *supply);
     // A value that cannot be read for the moment is no news.
-    if (!state || state == supply.state)
-        return isDifferent;
-    supply.state = state;
-    return true;
+    const bool isOther = !isNew && supply->state && supply->state != known->second.state;
+    if (isOther)
+        known->second = *supply;
+    return isDifferent || ((isNew || isOther) && !supply->isPeripheral);
 }
 
 bool SupplyMonitor::remove(const QString &path)

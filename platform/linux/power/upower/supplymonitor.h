@@ -53,6 +53,8 @@ private:
     void listen();
     void readAll();
     void receive();
+    /// Absent for a supply that does not even say what it is.
+    [[nodiscard]] static std::optional<Supply> supplyOf(udev_device *device);
     bool take(udev_device *device);
     bool remove(const QString &path);
 

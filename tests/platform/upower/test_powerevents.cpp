@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+// Runs on the virtual laptop: one battery, discharging, an adapter and a USB-C port.
+
+#include "platform/linux/power/upower/powerevents.h"
+#include "tests/support/logcapture.h"
+#include "tests/support/privatebus.h"
+#include "tests/support/virtuallaptop.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QRandomGenerator>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+#include <optional>
+
+using namespace ferrin;
+using namespace ferrin::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Longer than anything is folded: what has not come by then does not come.
+constexpr int longEnoughMilliseconds = 500;
+
+QList<bool> toldIn(const QSignalSpy &spy)
+{
+    QList<bool> told;
+    for (const QVariantList &arguments : spy)
+        told.append(arguments.at(0).toBool());
+    return told;
+}
+
+} // namespace
+
+class PowerEventsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void tellsOnceThatTheAdapterWasPluggedIn();
+    void tellsOnceThatTheAdapterWasUnplugged();
+    void tellsThatABatteryIsInAnotherState();
+    void passesOverMeasurements();
+    void passesOverAMessageThatTellsNothingNew();
+    void passesOverAStateThatCannotBeRead();
+    void passesOverPeripherals();
+    void tellsThatASupplyCameOrWent();
+    void tellsOfTheAdapterByTheBatteriesWhereThereIsNone();
+    void survivesTwoThousandSuppliesThatComeAndGo();
+    void tellsWhatUPowerNoticed();
+    void tellsOfOneUnpluggingOnceWhenKernelAndUPowerBothDo();
+    void hearsUPowerWhereAnAdapterIsAlwaysOnline();
+    void looksTwiceAfterWaking();
+    void hearsWakingFromNobodyButLogind();
+    void livesWithoutABus();
+
+private:
+    void prepareForSleep(const QDBusConnection &sender, bool start);
+
+    std::optional<LogCapture> m_log;
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<PowerEvents> m_events;
+    std::unique_ptr<QSignalSpy> m_changed;
+    std::unique_ptr<QSignalSpy> m_woke;
+    std::unique_ptr<QSignalSpy> m_powerSource;
+};
+
+void PowerEventsTest::init()
+{
+    tellLaptop({ u"unplug"_s });
+    m_log.emplace();
+    m_bus = std::make_unique<PrivateBus>();
+    m_events = std::make_unique<PowerEvents>(m_bus->connect());
+    m_changed = std::make_unique<QSignalSpy>(m_events.get(), &PowerEvents::changed);
+    m_woke = std::make_unique<QSignalSpy>(m_events.get(), &PowerEvents::woke);
+    m_powerSource = std::make_unique<QSignalSpy>(m_events.get(), &PowerEvents::powerSourceChanged);
+}
+
+void PowerEventsTest::cleanup()
+{
+    m_events.reset();
+    m_bus.reset();
+    m_log.reset();
+}
+
+void PowerEventsTest::prepareForSleep(const QDBusConnection &sender, bool start)
+{
+    QDBusMessage signal = QDBusMessage::createSignal(
+        u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s);
+    signal.setArguments({ start });
+    QVERIFY(sender.send(signal));
+}
+
+void PowerEventsTest::tellsOnceThatTheAdapterWasPluggedIn()
+{
+    // Two adapters and a battery, each with a message of its own.
+    tellLaptop({ u"plug"_s });
+    QTRY_COMPARE(m_changed->count(), 1);
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 1);
+    QCOMPARE(toldIn(*m_powerSource), QList<bool> { true });
+    QCOMPARE(m_woke->count(), 0);
+}
+
+void PowerEventsTest::tellsOnceThatTheAdapterWasUnplugged()
+{
+    tellLaptop({ u"plug"_s });
+    QTRY_COMPARE(m_changed->count(), 1);
+    tellLaptop({ u"unplug"_s });
+    QTRY_COMPARE(m_changed->count(), 2);
+    QCOMPARE(toldIn(*m_powerSource), QList<bool>({ true, false }));
+}
+
+void PowerEventsTest::tellsThatABatteryIsInAnotherState()
+{
+    tellLaptop({ u"set"_s, u"BAT0"_s, u"status"_s, u"Not charging"_s });
+    QTRY_COMPARE(m_changed->count(), 1);
+    QCOMPARE(m_powerSource->count(), 0);
+}
+
+void PowerEventsTest::passesOverMeasurements()
+{
+    tellLaptop({ u"set"_s, u"BAT0"_s, u"capacity"_s, u"36"_s, u"energy_now"_s, u"16000000"_s });
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 0);
+}
+
+void PowerEventsTest::passesOverAMessageThatTellsNothingNew()
+{
+    for (const QString &supply : { u"BAT0"_s, u"AC"_s, u"ucsi-source-psy-USBC000:001"_s })
+        tellLaptop({ u"uevent"_s, supply });
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 0);
+}
+
+void PowerEventsTest::passesOverAStateThatCannotBeRead()
+{
+    tellLaptop({ u"fault"_s, u"BAT0"_s, u"status"_s, u"eio"_s });
+    tellLaptop({ u"uevent"_s, u"BAT0"_s });
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 0);
+    tellLaptop({ u"heal"_s, u"BAT0"_s, u"status"_s });
+    tellLaptop({ u"set"_s, u"BAT0"_s, u"status"_s, u"Charging"_s });
+    QTRY_COMPARE(m_changed->count(), 1);
+}
+
+void PowerEventsTest::passesOverPeripherals()
+{
+    tellLaptop({ u"add"_s, u"hidpp_battery_0"_s,
+                 uR"({"type": "Battery", "scope": "Device", "status": "Discharging"})"_s });
+    tellLaptop({ u"set"_s, u"hidpp_battery_0"_s, u"status"_s, u"Charging"_s });
+    tellLaptop({ u"remove"_s, u"hidpp_battery_0"_s });
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 0);
+}
+
+void PowerEventsTest::tellsThatASupplyCameOrWent()
+{
+    tellLaptop({ u"add"_s, u"BAT1"_s, uR"({"type": "Battery", "status": "Discharging"})"_s });
+    QTRY_COMPARE(m_changed->count(), 1);
+    tellLaptop({ u"remove"_s, u"BAT1"_s });
+    QTRY_COMPARE(m_changed->count(), 2);
+    QCOMPARE(m_powerSource->count(), 0);
+}
+
+void PowerEventsTest::tellsOfTheAdapterByTheBatteriesWhereThereIsNone()
+{
+    const QStringList adapters { u"AC"_s, u"ucsi-source-psy-USBC000:001"_s };
+    for (const QString &adapter : adapters)
+        tellLaptop({ u"remove"_s, adapter });
+    QTRY_VERIFY(m_changed->count() > 0);
+    tellLaptop({ u"set"_s, u"BAT0"_s, u"status"_s, u"Charging"_s });
+    QTRY_COMPARE(toldIn(*m_powerSource), QList<bool> { true });
+    tellLaptop({ u"set"_s, u"BAT0"_s, u"status"_s, u"Unknown"_s });
+    tellLaptop({ u"set"_s, u"BAT0"_s, u"status"_s, u"Discharging"_s });
+    QTRY_COMPARE(toldIn(*m_powerSource), QList<bool>({ true, false }));
+    for (const QString &adapter : adapters)
+        tellLaptop({ u"add"_s, adapter });
+}
+
+void PowerEventsTest::survivesTwoThousandSuppliesThatComeAndGo()
+{
+    tellLaptop({ u"upower"_s, u"stop"_s });
+    QRandomGenerator random(1);
+    QSet<QString> there;
+    for (int number = 0; number < 2'000; ++number) {
+        const QString name = u"CMB%1"_s.arg(random.bounded(5));
+        if (!there.contains(name)) {
+            tellLaptop({ u"add"_s, name, uR"({"type": "Battery", "status": "Full"})"_s });
+            there.insert(name);
+        } else if (random.bounded(2) == 0) {
+            tellLaptop({ u"remove"_s, name });
+            there.remove(name);
+        } else {
+            tellLaptop({ u"set"_s, name, u"status"_s, u"State %1"_s.arg(number) });
+        }
+        // The virtual kernel gives up on whoever lets its messages pile up.
+        QCoreApplication::processEvents();
+    }
+    tellLaptop({ u"plug"_s });
+    QTRY_COMPARE(toldIn(*m_powerSource), QList<bool> { true });
+    for (const QString &name : std::as_const(there)) {
+        tellLaptop({ u"remove"_s, name });
+        QCoreApplication::processEvents();
+    }
+    tellLaptop({ u"upower"_s, u"start"_s });
+}
+
+void PowerEventsTest::tellsWhatUPowerNoticed()
+{
+    m_events->noteUPower(true);
+    QCOMPARE(toldIn(*m_powerSource), QList<bool> { true });
+    m_events->noteUPower(std::nullopt);
+    m_events->noteUPower(true);
+    QCOMPARE(m_changed->count(), 0);
+    QTRY_COMPARE(m_changed->count(), 1);
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 1);
+    QCOMPARE(m_powerSource->count(), 1);
+}
+
+void PowerEventsTest::tellsOfOneUnpluggingOnceWhenKernelAndUPowerBothDo()
+{
+    tellLaptop({ u"plug"_s });
+    QTRY_COMPARE(toldIn(*m_powerSource), QList<bool> { true });
+    m_events->noteUPower(true);
+    tellLaptop({ u"unplug"_s });
+    QTRY_COMPARE(toldIn(*m_powerSource), QList<bool>({ true, false }));
+    m_events->noteUPower(false);
+    QCOMPARE(m_powerSource->count(), 2);
+}
+
+void PowerEventsTest::hearsUPowerWhereAnAdapterIsAlwaysOnline()
+{
+    tellLaptop({ u"add"_s, u"ADP1"_s, uR"({"type": "Mains", "online": "1"})"_s });
+    QTRY_COMPARE(toldIn(*m_powerSource), QList<bool> { true });
+    QTRY_COMPARE(m_changed->count(), 1);
+    tellLaptop({ u"set"_s, u"AC"_s, u"online"_s, u"1"_s });
+    QTRY_COMPARE(m_changed->count(), 2);
+    m_events->noteUPower(false);
+    m_events->noteUPower(true);
+    QCOMPARE(toldIn(*m_powerSource), QList<bool>({ true, false, true }));
+    QTRY_COMPARE(m_changed->count(), 3);
+    tellLaptop({ u"set"_s, u"AC"_s, u"online"_s, u"0"_s });
+    QTRY_COMPARE(m_changed->count(), 4);
+    QCOMPARE(m_powerSource->count(), 3);
+    tellLaptop({ u"remove"_s, u"ADP1"_s });
+}
+
+void PowerEventsTest::looksTwiceAfterWaking()
+{
+    QDBusConnection logind = m_bus->connect();
+    QVERIFY(logind.registerService(u"org.freedesktop.login1"_s));
+    prepareForSleep(logind, true);
+    prepareForSleep(logind, false);
+    QTRY_COMPARE(m_woke->count(), 1);
+    QCOMPARE(m_changed->count(), 1);
+    QTRY_COMPARE(m_changed->count(), 2);
+    QTest::qWait(static_cast<int>(PowerEvents::secondLookTime.count()) + longEnoughMilliseconds);
+    QCOMPARE(m_changed->count(), 2);
+    QCOMPARE(m_woke->count(), 1);
+}
+
+void PowerEventsTest::hearsWakingFromNobodyButLogind()
+{
+    QDBusConnection logind = m_bus->connect();
+    QVERIFY(logind.registerService(u"org.freedesktop.login1"_s));
+    prepareForSleep(m_bus->connect(), false);
+    QTest::qWait(longEnoughMilliseconds);
+    QCOMPARE(m_woke->count(), 0);
+    prepareForSleep(logind, false);
+    QTRY_COMPARE(m_woke->count(), 1);
+}
+
+void PowerEventsTest::livesWithoutABus()
+{
+    PowerEvents events { QDBusConnection(u"there is no such connection"_s) };
+    const QSignalSpy spy(&events, &PowerEvents::changed);
+    tellLaptop({ u"plug"_s });
+    QTRY_COMPARE(spy.count(), 1);
+}
+
+QTEST_GUILESS_MAIN(PowerEventsTest)
+#include "test_powerevents.moc"
