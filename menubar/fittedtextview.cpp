@@ -53,10 +53,6 @@ QFont fontForPlace(const QString &family, const QString &text, const QSizeF &pla
     QFont font = fontOf(family, pixelSize);
     while (pixelSize > 1 && !fits(font))
         font = fontOf(family, --pixelSize);
-
-    const qreal width = widthOf(text, font);
-    if (width > place.width())
-        font.setStretch(std::max(1, int(100 * place.width() / width)));
     return font;
 }
 
@@ -70,12 +66,16 @@ void FittedTextView::paint(QPainter &painter, const QRectF &bounds,
     const QFont font = fontForPlace(context.fontFamily, text, place.size());
     const QRectF figure = figureOf(font);
     const qreal width = widthOf(text, font);
-    const QPointF baseline(place.center().x() - width / 2,
+    // By the painter: a font asked for a stretch may answer with the face of another family.
+    const qreal squeeze = std::min(1.0, place.width() / width);
+    const QPointF baseline(place.center().x() - width * squeeze / 2,
                            std::floor(place.center().y() - figure.center().y() + 0.5));
     const DevicePixels inDevicePixels(painter);
+    painter.translate(baseline);
+    painter.scale(squeeze, 1);
     painter.setFont(font);
     painter.setPen(context.text);
-    painter.drawText(baseline, text);
+    painter.drawText(QPointF(0, 0), text);
 }
 
 } // namespace ferrin

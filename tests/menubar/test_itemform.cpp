@@ -172,8 +172,9 @@ private Q_SLOTS:
     {
         QFETCH(Size, size);
         const QImage image = paint(size, contentOf({}, u"88"_s, u"8:88"_s));
-        QCOMPARE(inkOfRow(image, 0), 0.0);
-        QCOMPARE(inkOfRow(image, image.height() - 1), 0.0);
+        // Round figures reach a shade beyond their height; a whole row would be strongly inked.
+        QVERIFY(inkOfRow(image, 0) < 1.5);
+        QVERIFY(inkOfRow(image, image.height() - 1) < 1.5);
     }
 
     void oneLineIsWiderThanTwo()

@@ -4,7 +4,6 @@
 #include "sheets.h"
 
 #include <QDir>
-#include <QFontDatabase>
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -20,9 +19,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
-    const QString family = argc > 2
-        ? QString::fromLocal8Bit(argv[2])
-        : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    const QString family = argc > 2 ? QString::fromLocal8Bit(argv[2]) : u"DejaVu Sans"_s;
 
     const SheetTheme light = lightTheme(family);
     const SheetTheme dark = darkTheme(family);
