@@ -108,7 +108,8 @@ def wake_ups_of(pid):
 
 
 def wake_ups():
-    with VirtualLaptop() as laptop, desktop.XfceScreen() as session:
+    # Without UPower, whose own messages, one every two minutes at rest, wake whoever listens.
+    with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
         program = Program(session, laptop)
         program.item()
         time.sleep(SETTLING_SECONDS)
