@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -34,6 +35,18 @@ QRectF figureOf(const QFont &font)
     return QFontMetricsF(font).tightBoundingRect(u"0"_s);
 }
 
+/// The same without regard to the pixel grid, on which a squeezed text does not stand.
+qreal outlineHeightOf(QFont font)
+{
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QPainterPath figure;
+    figure.addText(0, 0, font, u"0"_s);
+    return figure.boundingRect().height();
+}
+
+/// Pixels. Less than this above or below is not seen.
+constexpr qreal invisible = 0.3;
+
 /// Narrower than this, figures lose their counters: then they become smaller instead.
 constexpr qreal tightest = 0.72;
 
@@ -47,6 +60,7 @@ QFont fontForPlace(const QString &family, const QString &text, const QSizeF &pla
 {
     const auto fits = [&](const QFont &font) {
         return figureOf(font).height() <= place.height()
+            && outlineHeightOf(font) <= place.height() + invisible
             && widthOf(text, font) * tightest <= place.width();
     };
     int pixelSize = std::max(1, int(std::ceil(place.height() * 1.6)));
