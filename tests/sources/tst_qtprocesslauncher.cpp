@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cstdio>
+
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
@@ -139,6 +141,7 @@ void TestQtProcessLauncher::doesNotMixErrorsIntoTheOutput()
 
 void TestQtProcessLauncher::givesTheProgramNothingToRead()
 {
+    QVERIFY(std::freopen("/proc/self/cmdline", "r", stdin));
     QtProcessLauncher launcher(u"/nowhere"_s);
     QCOMPARE(launcher.output(shell, { u"-c"_s, u"cat; echo done"_s }), QByteArray("done\n"));
 }
