@@ -333,4 +333,4 @@ void TestBatteryDataFromIOPS::readsAnewForEveryEstimate()
 }
 
 QTEST_GUILESS_MAIN(TestBatteryDataFromIOPS)
-#include "tst_batterydatafromiops.moc"
+#include "test_batterydatafromiops.moc"

@@ -388,4 +388,4 @@ void TestBatteryDataProvider::isSharedOnThePlatformHandedOver()
 }
 
 QTEST_GUILESS_MAIN(TestBatteryDataProvider)
-#include "tst_batterydataprovider.moc"
+#include "test_batterydataprovider.moc"

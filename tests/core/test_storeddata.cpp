@@ -368,4 +368,4 @@ void TestStoredData::isSharedOnTheSharedStore()
 }
 
 QTEST_GUILESS_MAIN(TestStoredData)
-#include "tst_storeddata.moc"
+#include "test_storeddata.moc"

@@ -365,4 +365,4 @@ void TestBatteryData::stopsTheProcessWhenTheMissingChargeDoesNotFit()
 }
 
 QTEST_GUILESS_MAIN(TestBatteryData)
-#include "tst_batterydata.moc"
+#include "test_batterydata.moc"

@@ -326,4 +326,4 @@ void TestBatteryDataFromShell::findsNoConditionIn()
 }
 
 QTEST_GUILESS_MAIN(TestBatteryDataFromShell)
-#include "tst_batterydatafromshell.moc"
+#include "test_batterydatafromshell.moc"

@@ -89,4 +89,4 @@ void TestAdapterDetails::findsNoFloatInAnEntryThatIsNotANumber()
 }
 
 QTEST_GUILESS_MAIN(TestAdapterDetails)
-#include "tst_adapterdetails.moc"
+#include "test_adapterdetails.moc"

@@ -219,4 +219,4 @@ void TestStaticData::keepsItsVerdictsWithoutABattery()
 }
 
 QTEST_GUILESS_MAIN(TestStaticData)
-#include "tst_staticdata.moc"
+#include "test_staticdata.moc"

@@ -326,4 +326,4 @@ void TestAdapterStorage::asksForTheStoredDataOnlyOnExternalPower()
 }
 
 QTEST_GUILESS_MAIN(TestAdapterStorage)
-#include "tst_adapterstorage.moc"
+#include "test_adapterstorage.moc"

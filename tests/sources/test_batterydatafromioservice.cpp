@@ -324,4 +324,4 @@ void TestBatteryDataFromIOService::hasNothingToCloseWithoutAService()
 }
 
 QTEST_GUILESS_MAIN(TestBatteryDataFromIOService)
-#include "tst_batterydatafromioservice.moc"
+#include "test_batterydatafromioservice.moc"

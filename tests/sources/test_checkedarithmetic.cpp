@@ -89,4 +89,4 @@ void TestCheckedArithmetic::knowsWhenNothingStopped()
 }
 
 QTEST_GUILESS_MAIN(TestCheckedArithmetic)
-#include "tst_checkedarithmetic.moc"
+#include "test_checkedarithmetic.moc"

@@ -157,4 +157,4 @@ void TestVariantCast::readsADictionaryFromADictionaryAlone()
 }
 
 QTEST_GUILESS_MAIN(TestVariantCast)
-#include "tst_variantcast.moc"
+#include "test_variantcast.moc"

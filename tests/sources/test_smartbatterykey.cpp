@@ -55,4 +55,4 @@ void TestSmartBatteryKey::namesTheFiguresInTheirOrder()
 }
 
 QTEST_GUILESS_MAIN(TestSmartBatteryKey)
-#include "tst_smartbatterykey.moc"
+#include "test_smartbatterykey.moc"

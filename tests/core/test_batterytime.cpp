@@ -100,4 +100,4 @@ void TestBatteryTime::isUndefinedToQmlWhereItIsAbsent()
 }
 
 QTEST_GUILESS_MAIN(TestBatteryTime)
-#include "tst_batterytime.moc"
+#include "test_batterytime.moc"

@@ -194,4 +194,4 @@ void TestQtProcessLauncher::readsFiguresBuriedInAHundredMegabytes()
 }
 
 QTEST_GUILESS_MAIN(TestQtProcessLauncher)
-#include "tst_qtprocesslauncher.moc"
+#include "test_qtprocesslauncher.moc"

@@ -386,4 +386,4 @@ void TestTimeRemaining::followsTheFreshSnapshotOfTheSameRefresh()
 }
 
 QTEST_GUILESS_MAIN(TestTimeRemaining)
-#include "tst_timeremaining.moc"
+#include "test_timeremaining.moc"
