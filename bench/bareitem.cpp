@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORMTHEME", "none");
+    // As the program does: no desktop's platform theme is loaded.
+    QGuiApplication::setDesktopSettingsAware(false);
     const QGuiApplication app(argc, argv);
 
     QDBusConnection bus = QDBusConnection::sessionBus();

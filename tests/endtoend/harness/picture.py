@@ -58,10 +58,10 @@ class Picture:
         return [self.pixel(x, y) for y in range(box.top, box.bottom)
                 for x in range(box.left, box.right)]
 
-    def save(self, path, box):
+    def save(self, path, box, times=3):
         """Writes a part of the picture as a file, enlarged so that its pixels can be seen."""
         part = f"{box.width}x{box.height}+{box.left}+{box.top}"
-        subprocess.run(["convert", "ppm:-", "-crop", part, "+repage", "-scale", "300%", path],
+        subprocess.run(["convert", "ppm:-", "-crop", part, "+repage", "-scale", f"{times}00%", path],
                        input=self._file, check=True)
 
 
