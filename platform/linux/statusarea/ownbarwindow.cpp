@@ -104,6 +104,9 @@ void OwnBarWindow::place()
         return;
     const QRect available = m_followed->availableGeometry();
     const QSize size = idealSize();
+    // Tiling Wayland compositors leave a window of one size alone.
+    setMinimumSize(size);
+    setMaximumSize(size);
     setGeometry(QRect(QPoint(available.right() + 1 - size.width(), available.top()), size));
 }
 

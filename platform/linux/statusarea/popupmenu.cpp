@@ -73,6 +73,9 @@ void PopupMenu::popUp(const std::vector<MenuEntry> &entries, QPoint at, const Ow
     if (!under)
         return;
     const QSize size = idealSize();
+    // Tiling Wayland compositors leave a window of one size alone.
+    setMinimumSize(size);
+    setMaximumSize(size);
     setGeometry(QRect(placeNear(at, size, under->geometry()), size));
     show();
     requestActivate();

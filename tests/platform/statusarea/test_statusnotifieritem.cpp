@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "platform/linux/statusarea/hostresolver.h"
-#include "platform/linux/statusarea/panelcolours.h"
-#include "platform/linux/statusarea/statusnotifieritem.h"
-#include "tests/platform/statusarea/buspeer.h"
 #include "tests/platform/statusarea/contents.h"
-#include "tests/support/privatebus.h"
+#include "tests/platform/statusarea/itemonthebus.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -16,19 +12,11 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
-#include <memory>
-
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString itemPath = u"/StatusNotifierItem"_s;
-const QString itemInterface = u"org.kde.StatusNotifierItem"_s;
-const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
-const QStringList allSignals { u"NewIcon"_s, u"NewToolTip"_s, u"NewTitle"_s, u"NewStatus"_s,
-                               u"XAyatanaNewLabel"_s };
 
 template <typename T>
 T as(const QVariant &value)
@@ -45,14 +33,11 @@ QString signatureOf(const QVariant &value)
 
 } // namespace
 
-class StatusNotifierItemTest : public QObject
+class StatusNotifierItemTest : public ItemOnTheBus
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void saysWhatItIs();
     void describesEveryPropertyThatItHas();
     void saysInWordsWhatThePictureShows();
@@ -71,67 +56,7 @@ private Q_SLOTS:
     void tellsTheOthersOfWhatOneIsAboutToSee();
     void forgetsReadersThatLeave();
     void tellsTheLabelToItsHostsAlone();
-    void passesClicksOn();
-    void passesTheMenuCallOn();
-    void takesNoNotice_data();
-    void takesNoNotice();
-    void survivesMalformedCalls_data();
-    void survivesMalformedCalls();
-    void cannotBeWritten();
-
-private:
-    BusPeer *newHost(const QString &process);
-    QVariant read(BusPeer *host, const QString &name);
-
-    std::unique_ptr<PrivateBus> m_bus;
-    QDBusConnection m_connection { u"none"_s };
-    QString m_service;
-    QString m_process;
-    int m_lookUps = 0;
-    std::unique_ptr<HostResolver> m_resolver;
-    std::unique_ptr<PanelColours> m_colours;
-    std::unique_ptr<StatusNotifierItem> m_item;
-    std::vector<std::unique_ptr<BusPeer>> m_hosts;
 };
-
-void StatusNotifierItemTest::init()
-{
-    m_bus = std::make_unique<PrivateBus>();
-    m_connection = m_bus->connect();
-    m_service = m_connection.baseService();
-    m_lookUps = 0;
-    m_resolver = std::make_unique<HostResolver>(m_connection, [this](uint) {
-        ++m_lookUps;
-        return m_process;
-    });
-    m_colours = std::make_unique<PanelColours>();
-    m_item = std::make_unique<StatusNotifierItem>(m_connection, *m_resolver, *m_colours);
-    m_item->setContent(dischargingAt(37, u"4:29"_s));
-}
-
-void StatusNotifierItemTest::cleanup()
-{
-    m_hosts.clear();
-    m_item.reset();
-    m_colours.reset();
-    m_resolver.reset();
-    m_bus.reset();
-}
-
-BusPeer *StatusNotifierItemTest::newHost(const QString &process)
-{
-    m_process = process;
-    m_hosts.push_back(std::make_unique<BusPeer>(m_bus->connect()));
-    BusPeer *const host = m_hosts.back().get();
-    host->listen(m_service, itemPath, itemInterface, allSignals);
-    read(host, u"Id"_s);
-    return host;
-}
-
-QVariant StatusNotifierItemTest::read(BusPeer *host, const QString &name)
-{
-    return host->property(m_service, itemPath, itemInterface, name);
-}
 
 void StatusNotifierItemTest::saysWhatItIs()
 {
@@ -366,106 +291,6 @@ void StatusNotifierItemTest::tellsTheLabelToItsHostsAlone()
     QVERIFY(!mate->takeSignals().contains(u"XAyatanaNewLabel"_s));
     QCOMPARE(gnome->lastArguments(), (QVariantList { u"12% 1:02"_s, u"100% 00:00"_s }));
     QCOMPARE(gnome->takeSignals().count(u"XAyatanaNewLabel"_s), 1);
-}
-
-void StatusNotifierItemTest::passesClicksOn()
-{
-    QSignalSpy clicks(m_item.get(), &StatusNotifierItem::activateRequested);
-    BusPeer *const plasma = newHost(u"plasmashell"_s);
-    const QDBusMessage reply
-        = plasma->ask(m_service, itemPath, itemInterface, u"Activate"_s, { 1094, 698 });
-    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
-    QCOMPARE(clicks.takeFirst(), QVariantList { QPoint(1094, 698) });
-
-    BusPeer *const mate = newHost(u"notification-ar"_s);
-    mate->ask(m_service, itemPath, itemInterface, u"Activate"_s, { 0, 25 });
-    QCOMPARE(clicks.takeFirst(), QVariantList { QPoint() });
-}
-
-void StatusNotifierItemTest::passesTheMenuCallOn()
-{
-    QSignalSpy menus(m_item.get(), &StatusNotifierItem::contextMenuRequested);
-    BusPeer *const host = newHost(u"swaybar"_s);
-    const QDBusMessage reply
-        = host->ask(m_service, itemPath, itemInterface, u"ContextMenu"_s, { 790, 9 });
-    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
-    QCOMPARE(menus.takeFirst(), QVariantList { QPoint(790, 9) });
-}
-
-void StatusNotifierItemTest::takesNoNotice_data()
-{
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<QVariantList>("arguments");
-    QTest::newRow("middle click") << u"SecondaryActivate"_s << QVariantList { 3, 4 };
-    QTest::newRow("wheel") << u"Scroll"_s << QVariantList { -120, u"vertical"_s };
-    QTest::newRow("token") << u"ProvideXdgActivationToken"_s << QVariantList { u"token"_s };
-}
-
-void StatusNotifierItemTest::takesNoNotice()
-{
-    QFETCH(QString, method);
-    QFETCH(QVariantList, arguments);
-    const QSignalSpy clicks(m_item.get(), &StatusNotifierItem::activateRequested);
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    const QDBusMessage reply = host->ask(m_service, itemPath, itemInterface, method, arguments);
-    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
-    QCOMPARE(clicks.size(), 0);
-    qunsetenv("XDG_ACTIVATION_TOKEN");
-}
-
-void StatusNotifierItemTest::survivesMalformedCalls_data()
-{
-    QTest::addColumn<QString>("interface");
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<QVariantList>("arguments");
-
-    const QVariant file = QVariant::fromValue(QDBusObjectPath(u"/x"_s));
-    QTest::newRow("unknown method") << itemInterface << u"Explode"_s << QVariantList {};
-    QTest::newRow("no arguments") << itemInterface << u"Activate"_s << QVariantList {};
-    QTest::newRow("texts for places")
-        << itemInterface << u"Activate"_s << QVariantList { u"1"_s, u"2"_s };
-    QTest::newRow("too many") << itemInterface << u"Activate"_s << QVariantList { 1, 2, 3 };
-    QTest::newRow("a path for a menu")
-        << itemInterface << u"ContextMenu"_s << QVariantList { file };
-    QTest::newRow("a number for a token")
-        << itemInterface << u"ProvideXdgActivationToken"_s << QVariantList { 7 };
-    QTest::newRow("no interface, no method") << QString() << u"Explode"_s << QVariantList {};
-    QTest::newRow("foreign interface")
-        << u"org.example.Other"_s << u"Activate"_s << QVariantList { 1, 2 };
-    QTest::newRow("Get without a name")
-        << propertiesInterface << u"Get"_s << QVariantList { itemInterface };
-    QTest::newRow("Get of numbers") << propertiesInterface << u"Get"_s << QVariantList { 1, 2 };
-    QTest::newRow("Get of the unknown")
-        << propertiesInterface << u"Get"_s << QVariantList { itemInterface, u"Colour"_s };
-    QTest::newRow("Get of a foreign interface")
-        << propertiesInterface << u"Get"_s << QVariantList { u"a.b"_s, u"Id"_s };
-    QTest::newRow("GetAll of nothing") << propertiesInterface << u"GetAll"_s << QVariantList {};
-    QTest::newRow("GetAll of a number") << propertiesInterface << u"GetAll"_s << QVariantList { 1 };
-    QTest::newRow("GetAll of a foreign interface")
-        << propertiesInterface << u"GetAll"_s << QVariantList { u"a.b"_s };
-    QTest::newRow("unknown property call") << propertiesInterface << u"Take"_s << QVariantList {};
-}
-
-void StatusNotifierItemTest::survivesMalformedCalls()
-{
-    QFETCH(QString, interface);
-    QFETCH(QString, method);
-    QFETCH(QVariantList, arguments);
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    const QDBusMessage reply = host->ask(m_service, itemPath, interface, method, arguments);
-    QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
-    QVERIFY(QDBusError(reply).type() != QDBusError::NoReply);
-    QCOMPARE(read(host, u"Id"_s).toString(), u"ferrin"_s);
-}
-
-void StatusNotifierItemTest::cannotBeWritten()
-{
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    const QVariant value = QVariant::fromValue(QDBusVariant(u"other"_s));
-    const QDBusMessage reply = host->ask(m_service, itemPath, propertiesInterface, u"Set"_s,
-                                         { itemInterface, u"Title"_s, value });
-    QCOMPARE(QDBusError(reply).type(), QDBusError::PropertyReadOnly);
-    QCOMPARE(read(host, u"Title"_s).toString(), u"Ferrin"_s);
 }
 
 QTEST_MAIN(StatusNotifierItemTest)
