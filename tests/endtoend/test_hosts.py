@@ -2,11 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """The item in real status areas: seen, and worked with a real pointer."""
 
-import time
-
 from harness import desktop
 from harness.case import AT_START, OnADesktop, main
-from harness.processes import eventually
+from harness.processes import a_moment, eventually
 
 
 class InAHost:
@@ -46,6 +44,7 @@ class InAHost:
         self.assertFalse(self.has_window())
         self.session.click(place)
         eventually(self.has_window, "the dashboard has opened")
+        a_moment()
         self.session.click(place)
         eventually(lambda: not self.has_window(), "the dashboard has closed")
         self.assertTrue(self.program.is_running())
@@ -62,8 +61,7 @@ class InAHost:
         opened = self.session.picture()
         self.session.point(menu().centre)
         eventually(lambda: opened.difference(self.session.picture()), "the entry is lit")
-        # A menu takes a click within half a second of its opening for a slip of the hand.
-        time.sleep(1)
+        a_moment()
         self.session.click(menu().centre)
         self.assertEqual(self.program.exit_code(), 0)
 

@@ -9,7 +9,7 @@ import time
 from harness import desktop, processes
 from harness.case import AT_START, OnADesktop, main
 from harness.item import SignalCount
-from harness.processes import eventually
+from harness.processes import a_moment, eventually
 
 WATCHER = os.path.join(os.path.dirname(processes.__file__), "watcher.py")
 
@@ -101,6 +101,7 @@ class WithoutAPanel(OnADesktop):
         place = self.bar(program).centre
         self.session.click(place)
         self.windows_become(program, 2)
+        a_moment()
         self.session.click(place)
         self.windows_become(program, 1)
 

@@ -274,7 +274,10 @@ class MateScreen(PanelScreen):
         # The clock may have moved on: the notification area's own window tells.
         tree = self.run("xwininfo", "-root", "-tree").decode()
         area = r'"notification-area-applet": .*?(\d+)x(\d+)\+0\+0 +\+(\d+)\+(\d+)'
-        width, height, left, top = map(int, re.search(area, tree).groups())
+        found = re.search(area, tree)
+        if found is None:
+            return None
+        width, height, left, top = map(int, found.groups())
         return Box(left, top, left + width, top + height)
 
 

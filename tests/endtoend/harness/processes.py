@@ -26,6 +26,12 @@ def eventually(condition, what, patience=PATIENCE_SECONDS):
         time.sleep(0.02)
 
 
+def a_moment():
+    """What a person takes between two clicks. Hosts take faster ones for a double click, and a
+    menu takes one within half a second of its opening for a slip of the hand."""
+    time.sleep(1)
+
+
 def start(command, environment, user=None, **options):
     """Starts a process as the leader of a group of its own that ends with this process."""
     if user is not None:
