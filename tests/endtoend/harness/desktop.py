@@ -107,7 +107,7 @@ class Session:
         self.close()
 
     def start(self, command, environment=None, **options):
-        """Starts a process of this session, ended with it."""
+        """Starts a process as the session's user; it ends with the session."""
         process = processes.start(command, self.environment | (environment or {}), self.user,
                                   **options)
         self._processes.append(process)
