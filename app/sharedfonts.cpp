@@ -21,7 +21,7 @@ QFont font(const QString &family, int pixelSize, QFont::Weight weight)
 
 SharedFonts SharedFonts::ofFamily(const QString &family)
 {
-    return { .heavy13 = font(family, 13, QFont::Black),
+    return { .heavy13 = font(family, 13, QFont::ExtraBold),
              .bold14 = font(family, 14, QFont::Bold),
              .regular12 = font(family, 12, QFont::Normal),
              .regular10 = font(family, 10, QFont::Normal),
