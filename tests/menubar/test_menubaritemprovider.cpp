@@ -31,6 +31,7 @@ struct Fixture : ItemSources
     Fixture()
     {
         bar.onlyItem = &item;
+        bar.height = 24;
         provider = std::make_unique<MenuBarItemProvider>(
             MenuBarItemProvider::Parts { .statusBar = bar,
                                          .battery = [this]() -> BatteryDataProvider & {
@@ -79,7 +80,7 @@ private Q_SLOTS:
     {
         Fixture fixture;
         fixture.bar.height = 30;
-        QCOMPARE(fixture.provider->viewHeight(), 22.0);
+        QCOMPARE(fixture.provider->viewHeight(), 24.0);
     }
 
     void fillsTheItemAtTheStoredWidth()
@@ -91,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.log.take(), QStringList({ widthLine(61.5) }));
         QCOMPARE(fixture.item.lengths, QList<qreal>({ 61.5 }));
         QCOMPARE(fixture.item.views.size(), 1u);
-        QCOMPARE(fixture.item.views.front()->frameSize(), QSizeF(61.5, 22));
+        QCOMPARE(fixture.item.views.front()->frameSize(), QSizeF(61.5, 24));
     }
 
     void replacesTheContentOfAnEarlierUpdate()
@@ -138,6 +139,21 @@ private Q_SLOTS:
         fixture.store.writes.clear();
         fixture.settle();
         QCOMPARE(fixture.store.writes, QStringList());
+    }
+
+    void rebuildsTheItemOnTheTurnAfterItsWidthChanged()
+    {
+        Fixture fixture;
+        fixture.provider->setStatusItem(fixture.item);
+        fixture.provider->update();
+        fixture.settle();
+        const int removals = fixture.item.removals;
+        fixture.settings->setStatusItemWidth(99);
+        QCOMPARE(fixture.item.removals, removals);
+        fixture.settle();
+        QVERIFY(fixture.item.removals > removals);
+        QVERIFY(fixture.item.lengths.contains(99.0));
+        fixture.log.ignoreRest();
     }
 
     void doesNothingWhileTheWidthChangesByTenOrLess()
@@ -217,7 +233,7 @@ private Q_SLOTS:
                                         []() -> BatteryDataProvider & { return *fixture.battery; },
                                         *fixture.settings, *fixture.switches, blackOnClear });
         QCOMPARE(&MenuBarItemProvider::shared(), &MenuBarItemProvider::shared());
-        QCOMPARE(MenuBarItemProvider::shared().viewHeight(), 22.0);
+        QCOMPARE(MenuBarItemProvider::shared().viewHeight(), 24.0);
     }
 };
 

@@ -86,11 +86,20 @@ private Q_SLOTS:
         QCOMPARE(fixture.widthWrites(), 0);
     }
 
-    void aDifferenceOfTenAndAHalfIsStored()
+    void aDifferenceOfMoreThanTenIsStored_data()
     {
+        QTest::addColumn<float>("difference");
+        QTest::newRow("a little more") << 10.0625F;
+        QTest::newRow("half a pixel more") << 10.5F;
+        QTest::newRow("wider than it was") << -10.5F;
+    }
+
+    void aDifferenceOfMoreThanTenIsStored()
+    {
+        QFETCH(float, difference);
         Fixture fixture;
         fixture.measure();
-        fixture.settings->setStatusItemWidth(float(fixture.view->width()) + 10.5F);
+        fixture.settings->setStatusItemWidth(float(fixture.view->width()) + difference);
         fixture.data().setTimeRemaining({ 4, 28 });
         fixture.measure();
         QCOMPARE(fixture.settings->statusItemWidth(), float(fixture.view->width()));
