@@ -2,7 +2,9 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "ink.h"
+#include "menubar/fillview.h"
 #include "menubar/glyphs.h"
+#include "menubar/stackviews.h"
 #include "menubar/templateimageview.h"
 
 #include <QTest>
@@ -108,6 +110,19 @@ private Q_SLOTS:
         const QImage image = painted(geometry.glyph(percent), scale);
         const double length = percent * geometry.fullLength / 100 * scale;
         QVERIFY(near(inkAlong(geometry, image) / 0.875, length, 0.1));
+    }
+
+    void theFillHasItsOwnRoundingAndStrength()
+    {
+        const auto fill = [](const QSizeF &size, qreal opacity) {
+            return AnyView(FillView { .size = size, .opacity = opacity, .cornerRadius = 1.2 });
+        };
+        const AnyView upright = VertBattery1View { 50 }.body(blackOnClear);
+        QVERIFY(upright.as<OverlayView>()->layers.at(1) == fill({ 6, 6 }, 0.875));
+        const AnyView lying = HorzBattery1View { 50 }.body(blackOnClear);
+        QVERIFY(lying.as<OverlayView>()->layers.at(1) == fill({ 9, 8 }, 0.875));
+        const AnyView second = SizeForBorder { .percent = 50 }.applied({}, 0.5);
+        QVERIFY(second == AnyView(OffsetView { fill({ 8, 7 }, 0.5), { 2.5, 0 } }));
     }
 
     void theFillStandsInsideItsOutline_data() { addScalesAndCharges(); }
@@ -229,6 +244,35 @@ private Q_SLOTS:
         const QImage image = painted(horz2(100, { QColor(0, 0, 255), QColor(0, 255, 0) }), 4);
         QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2).green(), 255);
         QCOMPARE(image.pixelColor(image.width() / 2, 1).blue(), 255);
+    }
+
+    void theBoltAndItsGapStandWhereTheBatteryWantsThem_data()
+    {
+        QTest::addColumn<AnyView>("glyph");
+        QTest::addColumn<AnyView>("battery");
+        QTest::addColumn<QPointF>("offset");
+        QTest::newRow("first generation")
+            << HorzBattery1WithBoltView { 37 }.body(blackOnClear) << horz1(37, {}) << QPointF(0, 0);
+        for (const BatteryStyle style :
+             { BatteryStyle::normal, BatteryStyle::inverted, BatteryStyle::black }) {
+            QTest::addRow("second generation, style %d", int(style))
+                << HorzBattery2WithBoltView { 37, style }.body(blackOnClear)
+                << horz2(37, {}, style, HorzBatt2BorderThickness::mid) << QPointF(1.0, -0.5);
+        }
+    }
+
+    void theBoltAndItsGapStandWhereTheBatteryWantsThem()
+    {
+        QFETCH(AnyView, glyph);
+        QFETCH(AnyView, battery);
+        QFETCH(QPointF, offset);
+        const TemplateImageView mask { .name = u"customBoltMask"_s };
+        const TemplateImageView bolt { .name = u"customBolt"_s, .opacity = 0.875 };
+        const AnyView expected = OverlayView {
+            .layers
+            = { CutOutView { battery, OffsetView { mask, offset } }, OffsetView { bolt, offset } },
+        };
+        QVERIFY(glyph == expected);
     }
 
     void theBoltStandsInAGapOfTheBattery_data()

@@ -5,6 +5,7 @@
 #include "menubar/iconview.h"
 #include "menubar/itemviews.h"
 #include "menubar/stackviews.h"
+#include "menubar/templateimageview.h"
 #include "menubar/textview.h"
 
 #include <QTest>
@@ -163,6 +164,17 @@ private Q_SLOTS:
         const QImage plain = painted(battery, { 22, 22 }, 2);
         QVERIFY(inkedRect(crossed).contains(inkedRect(plain)));
         QVERIFY(inkedRect(crossed).width() > 2 * inkedRect(plain).width());
+    }
+
+    void theFaultImageIsTheBatteryAsItStandsBelowACross()
+    {
+        const MenuBarBatteryFaultView fault { 7, BatteryChargingStatus::discharging };
+        const AnyView expected = OverlayView {
+            .layers
+            = { IconView { Icon::battery1V, 7, BatteryChargingStatus::discharging },
+                TemplateImageView { .name = u"xmark"_s, .height = 16.5, .opacity = 0.875 } },
+        };
+        QVERIFY(fault.body(blackOnClear) == expected);
     }
 
     void theFaultImageFollowsTheCharge()
