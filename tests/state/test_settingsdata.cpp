@@ -217,11 +217,15 @@ private Q_SLOTS:
         Fixture f;
         const auto settings = f.start();
         (void)f.log.take();
+        int told = 0;
+        const auto notifier
+            = settings->bindableDischargingIconSelected().addNotifier([&told] { ++told; });
 
         settings->setDischargingIconSelected(static_cast<Icon>(52));
         QCOMPARE(f.log.take(),
                  QStringList { u"error: Unable to encode key dischargingIconSelected"_s });
         QCOMPARE(f.store.writes, QStringList());
+        QCOMPARE(told, 1);
         QCOMPARE(settings->dischargingIconSelected(), Icon::battery2V);
     }
 
