@@ -20,6 +20,8 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
+#include <utility>
+
 using namespace ferrin;
 
 namespace {
@@ -34,7 +36,8 @@ void describe(const Bundle &bundle)
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-/// Gives the content of the status item its parts; what it shows is read when it is first built.
+/// Makes the process-wide provider of the item's content; what that shows is read when it is first
+/// built.
 void prepareItem(const DesktopPlatform &desktop, PowerPlatform &power)
 {
     MenuBarItemProvider::setParts(
@@ -79,13 +82,14 @@ int main(int argc, char **argv)
     BatteryDataProvider::setPlatform(power.parts());
     DesktopPlatform desktop(session);
 
-    FerrinApp ferrin({ .loadWindows = &loadWindows, .fillStatusItem = &fillStatusItem });
+    FerrinApp ferrin({ .loadWindows = &loadWindows,
+                       .fillStatusItem = [&, first = true](StatusItem &item) mutable {
+                           if (std::exchange(first, false))
+                               prepareItem(desktop, power);
+                           fillStatusItem(item);
+                       } });
     QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
-                     [&, first = true]() mutable {
-                         if (std::exchange(first, false))
-                             prepareItem(desktop, power);
-                         ferrin.useStatusBar(desktop.statusBar());
-                     });
+                     [&] { ferrin.useStatusBar(desktop.statusBar()); });
     desktop.start();
     return QGuiApplication::exec();
 }
