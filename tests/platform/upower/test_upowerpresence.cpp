@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "tests/platform/upower/serviceonthebus.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace ferrin;
+using namespace ferrin::test;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// The service while the daemon is not there, comes, goes and hangs.
+class UPowerPresenceTest : public ServiceOnTheBus
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void livesWithoutTheDaemon();
+    void takesUpADaemonThatStartsLate();
+    void startsADaemonThatTheBusCanStart();
+    void forgetsADaemonThatDiedAndTakesUpTheNext();
+    void isNotStoppedByADaemonThatHangsFromTheStart();
+    void isNotStoppedByADaemonThatHangsLater();
+    void forgetsADaemonThatDiesWhileItHangs();
+    void mayGoWhileTheDaemonOwesAnAnswer();
+    void livesWithoutABus();
+    void livesOnWhenTheBusDies();
+};
+
+void UPowerPresenceTest::livesWithoutTheDaemon()
+{
+    const auto service = makeService();
+    QCOMPARE(namesOf(service.get()), none());
+    QCOMPARE(namesOf(service.get()), none());
+    QCOMPARE(m_log->takeCount(u"error: UPower cannot be reached: "_s), 1);
+}
+
+void UPowerPresenceTest::takesUpADaemonThatStartsLate()
+{
+    const auto service = makeService();
+    QCOMPARE(m_log->takeCount(u"error: UPower cannot be reached: "_s), 1);
+    const QSignalSpy spy(service.get(), &UPowerService::powerStateChanged);
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    QTRY_COMPARE(namesOf(service.get()), dell());
+    QCOMPARE(m_log->take(), QStringList(connected()));
+    QVERIFY(spy.count() > 0);
+}
+
+void UPowerPresenceTest::startsADaemonThatTheBusCanStart()
+{
+    m_bus->addService(u"org.freedesktop.UPower"_s,
+                      FakeUPower::program() + u" --battery "_s + m_bus->address());
+    const auto service = makeService();
+    QTRY_COMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
+    QCOMPARE(m_log->take(), QStringList(connected()));
+}
+
+void UPowerPresenceTest::forgetsADaemonThatDiedAndTakesUpTheNext()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    const auto service = makeService();
+    QCOMPARE(m_log->take(), QStringList(connected()));
+    for (int time = 0; time < 3; ++time) {
+        m_daemon.reset();
+        QTRY_COMPARE(namesOf(service.get()), none());
+        QCOMPARE(m_log->take(), QStringList(u"error: UPower has left the bus"_s));
+        startDaemon();
+        const QString name = u"battery %1"_s.arg(time);
+        m_daemon->setDevice(u"battery_BAT0"_s, battery({ { u"Model"_s, name } }));
+        QTRY_COMPARE(namesOf(service.get()), QStringList(name));
+        QCOMPARE(m_log->take(), QStringList(connected()));
+    }
+}
+
+void UPowerPresenceTest::isNotStoppedByADaemonThatHangsFromTheStart()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    m_daemon->hang();
+    // Would never return if it waited for the answer, which comes only after resume().
+    const auto service = makeService();
+    QCOMPARE(namesOf(service.get()), none());
+    QCOMPARE(m_log->take(), QStringList());
+    m_time += 30s;
+    QCOMPARE(namesOf(service.get()), none());
+    QCOMPARE(namesOf(service.get()), none());
+    QCOMPARE(m_log->take(), QStringList(u"error: UPower does not answer"_s));
+    m_daemon->resume();
+    QTRY_COMPARE(namesOf(service.get()), dell());
+    QCOMPARE(m_log->take(), QStringList(connected()));
+}
+
+void UPowerPresenceTest::isNotStoppedByADaemonThatHangsLater()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    const auto service = makeService();
+    QCOMPARE(m_log->take(), QStringList(connected()));
+    m_daemon->hang();
+    m_time += 30s;
+    QCOMPARE(namesOf(service.get()), dell());
+    m_daemon->resume();
+    m_daemon->setDevice(u"battery_BAT0"_s, { { u"TimeToEmpty"_s, qlonglong(600) } });
+    QTRY_COMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(10));
+}
+
+void UPowerPresenceTest::forgetsADaemonThatDiesWhileItHangs()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    m_daemon->hang();
+    const auto service = makeService();
+    m_daemon->kill();
+    QTRY_COMPARE(allLines(), QStringList(u"error: UPower has left the bus"_s));
+    QCOMPARE(namesOf(service.get()), none());
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    QTRY_COMPARE(namesOf(service.get()), dell());
+    QCOMPARE(m_log->take(), QStringList(connected()));
+}
+
+void UPowerPresenceTest::mayGoWhileTheDaemonOwesAnAnswer()
+{
+    startDaemon();
+    m_daemon->hang();
+    makeService().reset();
+    m_daemon->resume();
+    QTRY_VERIFY(m_daemon->questions() > 0);
+    QCoreApplication::processEvents();
+}
+
+void UPowerPresenceTest::livesWithoutABus()
+{
+    UPowerService service { QDBusConnection(u"there is no such connection"_s) };
+    QCOMPARE(namesOf(&service), none());
+    QCOMPARE(m_log->take(),
+             QStringList(u"error: The system bus cannot be reached, so UPower cannot either"_s));
+}
+
+void UPowerPresenceTest::livesOnWhenTheBusDies()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    const auto service = makeService();
+    QCOMPARE(namesOf(service.get()), dell());
+    QCOMPARE(m_log->take(), QStringList(connected()));
+    m_bus->stop();
+    QTRY_COMPARE(namesOf(service.get()), none());
+    QTRY_COMPARE(allLines(), QStringList(u"error: UPower has left the bus"_s));
+}
+
+QTEST_GUILESS_MAIN(UPowerPresenceTest)
+#include "test_upowerpresence.moc"
