@@ -9,6 +9,7 @@ import ctypes
 import os
 import signal
 import subprocess
+import sys
 
 import gi
 
@@ -17,6 +18,14 @@ from gi.repository import Gio, GLib  # noqa: E402
 
 UPOWERD = "/usr/libexec/upowerd"
 PR_SET_PDEATHSIG = 1
+# The mock names a listener to the kernel's news after the number of its descriptor, and of two by
+# one name the older goes deaf. UPower's numbers begin here, above those of the programs under test.
+FIRST_DESCRIPTOR = 256
+START_ABOVE = f"""import os, sys
+nothing = os.open(os.devnull, os.O_RDONLY)
+for number in range(3, {FIRST_DESCRIPTOR}):
+    os.dup2(nothing, number)
+os.execv(sys.argv[1], sys.argv[1:])"""
 LIBC = ctypes.CDLL(None, use_errno=True)
 
 # Anybody may own and call anything, and nothing is started on demand.
@@ -112,8 +121,9 @@ class UPower:
         environment = os.environ | {
             "UPOWER_HISTORY_DIR": self._history, "UPOWER_CONF_FILE_NAME": self._configuration}
         self._process = subprocess.Popen(
-            [UPOWERD], env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
+            [sys.executable, "-c", START_ABOVE, UPOWERD], env=environment,
+            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            preexec_fn=end_with_parent)
         while self.devices() is None:
             if self._process.poll() is not None:
                 raise RuntimeError(f"upowerd ended with {self._process.returncode}")
