@@ -60,6 +60,7 @@ private Q_SLOTS:
     void namesADeviceWithoutAModelAfterItsPath();
     void keepsTheOrderOfPacksThatAreAlike();
     void putsThePackInUseFirst();
+    void putsThePackWithATimeBeforeThoseThatOnlySeemToBeInUse();
     void putsBatteriesBeforeUpses();
     void leavesOutWhatIsNoPowerSource();
     void settlesInTheDirectionThatApplies_data();
@@ -206,9 +207,19 @@ void UPowerDescriptionTest::namesADeviceWithoutAModelAfterItsPath()
 
 void UPowerDescriptionTest::keepsTheOrderOfPacksThatAreAlike()
 {
-    const QList<UPowerDevice> packs { named(pack(UPowerState::Discharging), u"first"_s),
+    const QList<UPowerDevice> packs { named(pack(UPowerState::Discharging, 2h), u"first"_s),
                                       named(pack(UPowerState::Discharging, 1h), u"second"_s) };
     QCOMPARE(namesOf(powerSourcesInOrder(packs, true)), QStringList({ u"first"_s, u"second"_s }));
+}
+
+void UPowerDescriptionTest::putsThePackWithATimeBeforeThoseThatOnlySeemToBeInUse()
+{
+    const QList<UPowerDevice> packs { named(pack(UPowerState::Unknown), u"waits"_s),
+                                      named(pack(UPowerState::Discharging, 0s), u"empty"_s),
+                                      named(pack(UPowerState::Discharging, 80min), u"used"_s),
+                                      named(pack(UPowerState::PendingCharge), u"rests"_s) };
+    QCOMPARE(namesOf(powerSourcesInOrder(packs, true)),
+             QStringList({ u"used"_s, u"waits"_s, u"empty"_s, u"rests"_s }));
 }
 
 void UPowerDescriptionTest::putsThePackInUseFirst()

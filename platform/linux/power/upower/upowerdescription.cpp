@@ -65,11 +65,20 @@ bool isDrawnFrom(PowerFlow flow, std::optional<bool> onBattery)
     return onBattery.value_or(false);
 }
 
+bool hasTime(const UPowerDevice &device, PowerFlow flow)
+{
+    const auto time = flow == PowerFlow::Charging ? device.timeToFull : device.timeToEmpty;
+    return time && minutesOf(*time) != stillEstimating;
+}
+
 int rankOf(const UPowerDevice &device, std::optional<bool> onBattery)
 {
-    const bool isBattery = device.kind == UPowerKind::Battery;
-    const bool isInUse = flowOf(device, onBattery) != PowerFlow::Resting;
-    return (isBattery ? 0 : 2) + (isInUse ? 0 : 1);
+    const int kind = device.kind == UPowerKind::Battery ? 0 : 3;
+    const PowerFlow flow = flowOf(device, onBattery);
+    if (flow == PowerFlow::Resting)
+        return kind + 2;
+    // A pack that waits its turn may say Unknown, or Discharging at no rate.
+    return kind + (hasTime(device, flow) ? 0 : 1);
 }
 
 } // namespace

@@ -34,7 +34,8 @@ enum class PowerFlow { Discharging, Charging, Resting };
 
 /// The power sources in the order in which they are told: batteries before others, and the pack
 /// in use before those that wait for their turn, since packs work one after the other and only the
-/// one in use has a time. Otherwise the order of the list stands.
+/// one in use has a time; of several that seem to be in use, those with a time come first.
+/// Otherwise the order of the list stands.
 [[nodiscard]] QList<UPowerDevice> powerSourcesInOrder(const QList<UPowerDevice> &devices,
                                                       std::optional<bool> onBattery);
 
