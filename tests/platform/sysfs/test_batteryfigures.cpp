@@ -103,7 +103,7 @@ void TestBatteryFigures::hasNoFiguresWithoutPacks()
     QVERIFY(!fullMilliampHours({}));
     QVERIFY(!remainingMilliampHours({}));
     QVERIFY(!externalConnected({}));
-    QVERIFY(!isCharging({}, true));
+    QVERIFY(!isCharging({}));
     QVERIFY(!isFullyCharged({}, true));
 }
 
@@ -161,7 +161,9 @@ void TestBatteryFigures::isFullOnlyWhenEveryPackIs()
     const BatterySupply waiting = battery(ChargeStatus::NotCharging, 40);
     QCOMPARE(isFullyCharged(packsOf({ full, full }), true), true);
     QCOMPARE(isFullyCharged(packsOf({ full, waiting }), true), false);
-    QCOMPARE(isFullyCharged(packsOf({ full, battery({}, 100) }), true), std::nullopt);
+    QCOMPARE(isFullyCharged(packsOf({ full, battery({}, 100) }), true), true);
+    QCOMPARE(isFullyCharged(packsOf({ full, battery({}, 60) }), true), false);
+    QCOMPARE(isFullyCharged(packsOf({ full, battery({}) }), true), std::nullopt);
 }
 
 void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly_data()
@@ -194,9 +196,10 @@ void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly()
 
 void TestBatteryFigures::knowsNoChargingWithoutAStatus()
 {
-    QVERIFY(!isCharging(packsOf({ battery({}, 50) }), true));
-    QCOMPARE(isCharging(packsOf({ battery(ChargeStatus::Unknown, 50) }), false), false);
-    QCOMPARE(isCharging(packsOf({ battery({}), battery(ChargeStatus::Charging) }), true), true);
+    QVERIFY(!isCharging(packsOf({ battery({}) })));
+    QCOMPARE(isCharging(packsOf({ battery({}, 50) })), false);
+    QCOMPARE(isCharging(packsOf({ battery(ChargeStatus::Unknown, 50) })), false);
+    QCOMPARE(isCharging(packsOf({ battery({}), battery(ChargeStatus::Charging) })), true);
 }
 
 QTEST_GUILESS_MAIN(TestBatteryFigures)

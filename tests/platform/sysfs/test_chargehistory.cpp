@@ -22,7 +22,8 @@ private Q_SLOTS:
     void believesAnEmptyPackBesideAFullOne();
     void keepsEachPacksChargeApart();
     void forgetsAPackThatWasTakenOut();
-    void leavesAbsentChargesAbsent();
+    void keepsTheLastChargeForHalfAMinuteWhereNoneCanBeRead();
+    void hasNoChargeBeforeTheFirstThatCouldBeRead();
 };
 
 namespace {
@@ -124,12 +125,24 @@ void TestChargeHistory::forgetsAPackThatWasTakenOut()
     QCOMPARE(gauges.sample({ 40, 0 }), (Percents { 40, 0 }));
 }
 
-void TestChargeHistory::leavesAbsentChargesAbsent()
+void TestChargeHistory::keepsTheLastChargeForHalfAMinuteWhereNoneCanBeRead()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
-    QCOMPARE(gauges.sample({ std::nullopt }), Percents { std::nullopt });
+    QCOMPARE(gauges.sample({ std::nullopt }), Percents { 62 });
     QCOMPARE(gauges.sample({ 0 }), Percents { 62 });
+    QCOMPARE(gauges.sample({ std::nullopt }, 24s), Percents { 62 });
+    QCOMPARE(gauges.sample({ std::nullopt }, 1s), Percents { std::nullopt });
+    QCOMPARE(gauges.sample({ std::nullopt }), Percents { std::nullopt });
+    QCOMPARE(gauges.sample({ 61 }), Percents { 61 });
+    QCOMPARE(gauges.sample({ std::nullopt }), Percents { 61 });
+}
+
+void TestChargeHistory::hasNoChargeBeforeTheFirstThatCouldBeRead()
+{
+    Gauges gauges;
+    QCOMPARE(gauges.sample({ std::nullopt }), Percents { std::nullopt });
+    QCOMPARE(gauges.sample({ 0 }, 60s, true), Percents { 0 });
 }
 
 QTEST_GUILESS_MAIN(TestChargeHistory)

@@ -9,6 +9,7 @@
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace test;
 
 /// What a broken sysfs may do: figures turn absent one by one, nothing else happens.
@@ -128,6 +129,8 @@ void TestFaults::losesOneFigureWithOneBrokenFile()
     breakFile(laptop.sysfs, battery + u"capacity"_s);
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 50);
     breakFile(laptop.sysfs, battery + u"energy_now"_s);
+    QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 50);
+    laptop.pass(30s);
     QVERIFY(laptop.absent(u"CurrentCapacity"));
     QVERIFY(!laptop.said(u"MaxCapacity").isValid());
     QCOMPARE(laptop.said(u"AppleRawMaxCapacity").toInt(), 5000);

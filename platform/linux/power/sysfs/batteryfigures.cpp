@@ -9,8 +9,6 @@ namespace ferrin {
 
 namespace {
 constexpr int chargedPercent = 95;
-// Below this nothing flows that deserves a direction.
-constexpr std::int64_t idleRate = 100'000;
 
 std::int64_t usualFull(const std::vector<Pack> &packs)
 {
@@ -149,26 +147,20 @@ std::optional<bool> externalConnected(const PowerSupplies &supplies)
     return mainsOnline || otherOnline;
 }
 
-std::optional<bool> isCharging(const std::vector<Pack> &packs, std::optional<bool> external)
+std::optional<bool> isCharging(const std::vector<Pack> &packs)
 {
     if (anyIs(packs, ChargeStatus::Charging))
         return true;
-    bool told = false;
-    bool settled = external == false;
-    for (const Pack &pack : packs) {
-        told |= pack.status.has_value();
-        const bool says = pack.status && pack.status != ChargeStatus::Unknown;
-        const bool idle = pack.rate && *pack.rate < idleRate;
-        settled |= says || idle || isFull(pack, external);
-    }
-    return told && settled ? std::optional(false) : std::nullopt;
+    const bool told = std::any_of(packs.begin(), packs.end(),
+                                  [](const Pack &pack) { return pack.status || pack.percent; });
+    return told ? std::optional(false) : std::nullopt;
 }
 
 std::optional<bool> isFullyCharged(const std::vector<Pack> &packs, std::optional<bool> external)
 {
     bool full = !packs.empty();
     for (const Pack &pack : packs) {
-        if (!pack.status)
+        if (!pack.status && !pack.percent)
             return std::nullopt;
         full = full && isFull(pack, external);
     }

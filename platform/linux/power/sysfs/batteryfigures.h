@@ -37,14 +37,15 @@ namespace ferrin {
 /// Absent when nobody tells.
 [[nodiscard]] std::optional<bool> externalConnected(const PowerSupplies &supplies);
 
-/// Some pack charges. Absent when no pack has a status that could be read, or when all say Unknown
-/// while power flows that may go either way.
-[[nodiscard]] std::optional<bool> isCharging(const std::vector<Pack> &packs,
-                                             std::optional<bool> external);
+/// Some pack says that it charges. A pack that says nothing, or Unknown, does not: its charge is
+/// known all the same, and would be lost to the user if its state were not. Absent when no pack
+/// tells its status or its charge.
+[[nodiscard]] std::optional<bool> isCharging(const std::vector<Pack> &packs);
 
 /// Every pack is full: it says so; or it stopped charging at 95 % or more on external power, which
 /// controllers call Not charging and older drivers Unknown; or it is Unknown, all full and not
-/// known to run the machine. Absent when a pack's status could not be read.
+/// known to run the machine. A status that could not be read counts as Unknown. Absent when a pack
+/// tells neither its status nor its charge.
 [[nodiscard]] std::optional<bool> isFullyCharged(const std::vector<Pack> &packs,
                                                  std::optional<bool> external);
 

@@ -39,17 +39,23 @@ ChargeHistory::Entry ChargeHistory::take(const std::string &name)
 
 void ChargeHistory::settle(Entry &entry, Pack &pack, Time moment, bool alone)
 {
-    if (pack.percent != 0) {
-        entry.zeroSince.reset();
-        if (pack.percent)
-            entry.lastPercent = pack.percent;
+    if (pack.percent.value_or(0) > 0) {
+        entry.doubtedSince.reset();
+        entry.lastPercent = pack.percent;
         return;
     }
-    if (!entry.zeroSince)
-        entry.zeroSince = moment;
+    if (!entry.doubtedSince)
+        entry.doubtedSince = moment;
+    const bool overdue = moment - *entry.doubtedSince >= believedAfter;
+    if (!pack.percent) {
+        if (overdue)
+            entry.lastPercent.reset();
+        pack.percent = entry.lastPercent;
+        return;
+    }
     const bool known = entry.lastPercent.has_value();
     const bool expected = known ? *entry.lastPercent <= nearlyEmpty : pack.drained || !alone;
-    if (expected || moment - *entry.zeroSince >= believedAfter) {
+    if (expected || overdue) {
         entry.lastPercent = 0;
         return;
     }

@@ -17,7 +17,8 @@ namespace ferrin {
 /// the first sample on is believed at once when its voltage or its level agrees or when it is not
 /// the only one, else after the same time; until then its charge is absent.
 ///
-/// Absent samples are left absent: only zeros lie.
+/// A charge that cannot be read is the last one for as long, because the user would be shown that
+/// nothing is known; after that, and before there was any, it is absent.
 class ChargeHistory
 {
 public:
@@ -32,7 +33,8 @@ private:
     {
         std::string name;
         std::optional<int> lastPercent;
-        std::optional<Time> zeroSince;
+        /// Since when there was no charge above 0.
+        std::optional<Time> doubtedSince;
     };
 
     [[nodiscard]] Entry take(const std::string &name);

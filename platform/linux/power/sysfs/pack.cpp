@@ -19,6 +19,10 @@ constexpr std::int64_t greatestEnergy = 1'000 * million;
 constexpr std::int64_t greatestCharge = 100 * million;
 constexpr std::int64_t greatestRate = 10'000 * million;
 constexpr std::int64_t longestTime = std::int64_t { 48 } * 3600;
+// A register of 16 bits at its end, in whatever unit the driver took it to be.
+constexpr std::int64_t endlessTime = 65'535;
+// A tenth of a small phone's. What is less was counted in another unit.
+constexpr std::int64_t leastMilliampHours = 100;
 // Firmware has been seen to round up to 111.
 constexpr std::int64_t greatestCapacity = 120;
 
@@ -64,11 +68,12 @@ Reading milliampHours(const BatterySupply &battery, Reading charge, Reading ener
     const Reading voltage = voltageOf(battery);
     charge = within(charge, 1, greatestCharge);
     energy = within(energy, 1, greatestEnergy);
+    Reading full;
     if (charge)
-        return rounded(*charge, 1000);
-    if (energy && voltage)
-        return rounded(*energy * 1000, *voltage);
-    return std::nullopt;
+        full = rounded(*charge, 1000);
+    else if (energy && voltage)
+        full = rounded(*energy * 1000, *voltage);
+    return full >= leastMilliampHours ? full : std::nullopt;
 }
 
 struct Family
@@ -120,11 +125,16 @@ Reading trustedNow(const Family &family, std::optional<int> percent)
     return percent ? Reading(*family.full * *percent / 100) : std::nullopt;
 }
 
+Reading knownTime(Reading seconds)
+{
+    return seconds == endlessTime ? std::nullopt : within(seconds, 1, longestTime);
+}
+
 // The average goes first: it is the steadier of the two.
 Reading timeOf(Reading average, Reading now)
 {
-    const Reading settled = within(average, 1, longestTime);
-    return settled ? settled : within(now, 1, longestTime);
+    const Reading settled = knownTime(average);
+    return settled ? settled : knownTime(now);
 }
 
 bool isDrained(const BatterySupply &battery)

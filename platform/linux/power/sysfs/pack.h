@@ -31,11 +31,11 @@ struct Pack
     /// µWh.
     Reading now;
     Reading full;
-    /// mAh, rounded to the nearest.
+    /// mAh, rounded to the nearest, at least 100: less was counted in another unit.
     Reading fullMilliampHours;
     /// µW, magnitude; what the gauge says at this moment, noise and nonsense included.
     Reading rate;
-    /// Seconds, more than 0 and at most 48 h.
+    /// Seconds, more than 0 and at most 48 h, and not a 16-bit register at its end.
     Reading timeToEmpty;
     Reading timeToFull;
     /// The pack says by other means than its charge that there is nothing left in it.

@@ -3,7 +3,17 @@
 
 #include "platform/linux/power/sysfs/powersupply.h"
 
+#include <QByteArrayView>
+
 namespace ferrin {
+
+namespace {
+// Drivers from outside the kernel write the words in letters of their own liking.
+bool isWord(std::string_view text, std::string_view word) noexcept
+{
+    return QByteArrayView(text).compare(QByteArrayView(word), Qt::CaseInsensitive) == 0;
+}
+} // namespace
 
 SupplyType supplyTypeOf(std::string_view text) noexcept
 {
@@ -23,13 +33,13 @@ std::optional<ChargeStatus> chargeStatusOf(std::string_view text) noexcept
 {
     if (text.empty())
         return std::nullopt;
-    if (text == "Charging")
+    if (isWord(text, "Charging"))
         return ChargeStatus::Charging;
-    if (text == "Discharging")
+    if (isWord(text, "Discharging"))
         return ChargeStatus::Discharging;
-    if (text == "Not charging")
+    if (isWord(text, "Not charging"))
         return ChargeStatus::NotCharging;
-    if (text == "Full")
+    if (isWord(text, "Full"))
         return ChargeStatus::Full;
     return ChargeStatus::Unknown;
 }

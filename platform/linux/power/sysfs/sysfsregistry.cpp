@@ -183,7 +183,7 @@ std::unique_ptr<SysfsRegistry::Moment> SysfsRegistry::read()
     m_history.settle(moment->supplies.batteries, packs, now);
     moment->packs = realPacks(std::move(packs));
     moment->external = externalConnected(moment->supplies);
-    moment->charging = isCharging(moment->packs, moment->external);
+    moment->charging = isCharging(moment->packs);
     moment->fullyCharged = isFullyCharged(moment->packs, moment->external);
     moment->direction = directionOf(moment->packs, moment->charging, moment->external);
     moment->time = m_estimate.update(moment->packs, moment->direction, now);
