@@ -28,7 +28,8 @@ public:
     /// Opens the window with this identifier; an open one comes to the front.
     virtual void openWindow(const QString &identifier) = 0;
 
-    /// Called when the dashboard closed by itself: a click elsewhere, Escape, the focus lost.
+    /// Called when the dashboard closes by itself: a click elsewhere, Escape, the focus lost, its own
+    /// settings item. Set before anything is opened.
     std::function<void()> dashboardClosed;
 };
 

@@ -11,3 +11,34 @@ function(ferrin_add_room name)
     target_include_directories(ferrin_${name} PUBLIC "${PROJECT_SOURCE_DIR}")
     target_link_libraries(ferrin_${name} PUBLIC ${room_LIBRARIES} PRIVATE ferrin_options)
 endfunction()
+
+# ferrin_add_qml_room(NAME URI SOURCES file... QML_FILES file... [LIBRARIES target...])
+#
+# A room with a QML module. It links Qt Quick and the QML rooms below it, but none of the others:
+# those are the program's, and the module of the windows takes them from the program that loads it.
+# A test links them beside the room.
+#
+# The sources name the module once, with FERRIN_USE_QML_MODULE of quick/quickengine.h: nothing else
+# would make a linker take its types out of a static library.
+function(ferrin_add_qml_room name uri)
+    cmake_parse_arguments(PARSE_ARGV 2 room "" "" "SOURCES;QML_FILES;LIBRARIES")
+    ferrin_add_room(${name} SOURCES ${room_SOURCES} LIBRARIES Qt6::Quick ${room_LIBRARIES})
+    string(REPLACE "." "/" path ${uri})
+    qt_add_qml_module(ferrin_${name} URI ${uri} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /qt/qml
+        IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+        OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" QML_FILES ${room_QML_FILES})
+    # The generated registration includes headers by their names alone.
+    target_include_directories(ferrin_${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    get_target_property(sources ferrin_${name} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -Wno-shadow)
+endfunction()
+
+# ferrin_export_rooms(TARGET)
+#
+# Makes the executable offer all of the lower rooms to the module of the windows.
+function(ferrin_export_rooms target)
+    target_link_libraries(${target} PRIVATE ferrin_menubar)
+    set_target_properties(${target} PROPERTIES ENABLE_EXPORTS ON LINK_LIBRARY_OVERRIDE
+        "WHOLE_ARCHIVE,ferrin_sources,ferrin_state,ferrin_core,ferrin_menubar")
+endfunction()

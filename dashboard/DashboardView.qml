@@ -2,12 +2,25 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Quick
 
-// The popover's content. Its sections are still to come.
+// The popover's content: the menu of sections and, beside it, the selected one.
 Rectangle {
-    implicitWidth: 420
-    implicitHeight: 300
+    id: root
+
+    implicitWidth: row.implicitWidth + 20
+    implicitHeight: row.implicitHeight + 20
     radius: 10
-    color: palette.window
-    border.color: Qt.alpha(palette.windowText, 0.2)
+    color: Colours.dashboardColor
+
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: 10
+
+        MainMenuView {}
+
+        MainContentView {}
+    }
 }

@@ -4,20 +4,24 @@
 #include "dashboard/dashboardwindow.h"
 
 #include "dashboard/popoverplacement.h"
+#include "quick/quickengine.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQmlEngine>
 #include <QScreen>
 
+FERRIN_USE_QML_MODULE(Ferrin_Dashboard, ferrin_dashboard)
+
 namespace ferrin {
 
-DashboardWindow::DashboardWindow()
+DashboardWindow::DashboardWindow(QQmlEngine &engine)
+    : QQuickView(&engine, nullptr)
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setTitle(QGuiApplication::applicationDisplayName());
     setColor(Qt::transparent);
-    setSource(QUrl(QStringLiteral("qrc:/Ferrin/Dashboard/DashboardView.qml")));
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Dashboard/DashboardView.qml")));
 }
 
 void DashboardWindow::openAt(const QRect &item, const QPoint &pointer)

@@ -14,7 +14,8 @@ class DashboardWindow final : public QQuickView
     Q_OBJECT
 
 public:
-    DashboardWindow();
+    /// The engine outlives it.
+    explicit DashboardWindow(QQmlEngine &engine);
 
     /// Shows the popover beside the item, wholly inside the item's screen. Either place may be
     /// null.

@@ -3,8 +3,12 @@
 
 #include "settingswindow/settingswindow.h"
 
+#include "quick/quickengine.h"
+
 #include <QGuiApplication>
 #include <QScreen>
+
+FERRIN_USE_QML_MODULE(Ferrin_Settings, ferrin_settingswindow)
 
 namespace ferrin {
 
@@ -13,13 +17,14 @@ QString SettingsWindow::identifier()
     return QStringLiteral("FerrinSettings");
 }
 
-SettingsWindow::SettingsWindow()
+SettingsWindow::SettingsWindow(QQmlEngine &engine)
+    : QQuickView(&engine, nullptr)
 {
     setObjectName(identifier());
     setTitle(QStringLiteral("Ferrin Settings"));
     setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
              | Qt::WindowCloseButtonHint);
-    setSource(QUrl(QStringLiteral("qrc:/Ferrin/Settings/SettingsView.qml")));
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/SettingsView.qml")));
     setMinimumSize(size());
     setMaximumSize(size());
     QRect frame(QPoint(), size());

@@ -14,7 +14,8 @@ class SettingsWindow final : public QQuickView
     Q_OBJECT
 
 public:
-    SettingsWindow();
+    /// The engine outlives it.
+    explicit SettingsWindow(QQmlEngine &engine);
 
     /// The name by which the window is asked for.
     [[nodiscard]] static QString identifier();

@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include <QBindable>
+#include <QProperty>
+#include <QString>
+
 #include <optional>
 
 namespace ferrin {
@@ -10,7 +14,7 @@ namespace ferrin {
 enum class Appearance { light, dark };
 
 /// The appearance of the whole running application. The platform implements it; while its object
-/// lives it is the one that AppColorSchemeProvider reaches.
+/// lives it is the one that AppColorSchemeProvider reaches. Every value may change at any time.
 class ApplicationAppearance
 {
 public:
@@ -24,6 +28,23 @@ public:
 
     /// Forces an appearance; absent leaves it to the desktop, whose changes are then followed.
     virtual void setAppearance(std::optional<Appearance> appearance) = 0;
+
+    /// What holds: what is forced, else what the desktop prefers.
+    [[nodiscard]] bool isDark() const { return m_isDark; }
+    /// The interface font; never empty while there is a graphical application.
+    [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
+    /// The desktop asks for no animations.
+    [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
+
+    /// All three are read-only.
+    [[nodiscard]] QBindable<bool> bindableIsDark() const { return &m_isDark; }
+    [[nodiscard]] QBindable<QString> bindableFontFamily() const { return &m_fontFamily; }
+    [[nodiscard]] QBindable<bool> bindableReducesMotion() const { return &m_reducesMotion; }
+
+protected:
+    QProperty<bool> m_isDark { false };
+    QProperty<QString> m_fontFamily;
+    QProperty<bool> m_reducesMotion { false };
 };
 
 } // namespace ferrin

@@ -2,8 +2,15 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "app/windows.h"
+#include "core/batterydataprovider.h"
+#include "core/storeddata.h"
+#include "dashboard/adapter.h"
+#include "dashboard/battery.h"
+#include "dashboard/dashboard.h"
 #include "dashboard/dashboardwindow.h"
+#include "quick/quickengine.h"
 #include "settingswindow/settingswindow.h"
+#include "state/appstatus.h"
 
 #include <QObject>
 
@@ -15,13 +22,22 @@ namespace {
 class QuickWindows final : public Windows
 {
 public:
+    QuickWindows()
+        : m_battery(*BatteryDataProvider::shared().data(), &m_engine)
+        , m_adapter(StoredData::shared(), *BatteryDataProvider::shared().data(), &m_engine)
+        , m_dashboardState(AppStatus::shared(), &m_engine)
+    {
+        QObject::connect(&m_dashboardState, &Dashboard::closeRequested, &m_engine,
+                         [this] { dashboardClosed(); });
+        QObject::connect(&m_dashboardState, &Dashboard::settingsRequested, &m_engine,
+                         [this] { openWindow(SettingsWindow::identifier()); });
+    }
+
     void showDashboard(const QRect &item, const QPoint &pointer) override
     {
-        m_dashboard = std::make_unique<DashboardWindow>();
-        QObject::connect(m_dashboard.get(), &DashboardWindow::dismissed, m_dashboard.get(), [this] {
-            if (dashboardClosed)
-                dashboardClosed();
-        });
+        m_dashboard = std::make_unique<DashboardWindow>(m_engine);
+        QObject::connect(m_dashboard.get(), &DashboardWindow::dismissed, m_dashboard.get(),
+                         [this] { dashboardClosed(); });
         m_dashboard->openAt(item, pointer);
     }
 
@@ -37,11 +53,16 @@ public:
         if (identifier != SettingsWindow::identifier())
             return;
         if (!m_settings)
-            m_settings = std::make_unique<SettingsWindow>();
+            m_settings = std::make_unique<SettingsWindow>(m_engine);
         m_settings->open();
     }
 
 private:
+    // The engine goes last, and nothing of a scene outlives what it was bound to.
+    QuickEngine m_engine;
+    Battery m_battery;
+    Adapter m_adapter;
+    Dashboard m_dashboardState;
     std::unique_ptr<DashboardWindow> m_dashboard;
     std::unique_ptr<SettingsWindow> m_settings;
 };

@@ -2,6 +2,13 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "app/windows.h"
+#include "core/batterydataprovider.h"
+#include "core/storeddata.h"
+#include "state/shareddefaults.h"
+#include "tests/support/fakepowersources.h"
+#include "tests/support/fakeprocesslauncher.h"
+#include "tests/support/fakeregistry.h"
+#include "tests/support/memorydefaultsstore.h"
 
 #include <QGuiApplication>
 #include <QPluginLoader>
@@ -44,6 +51,9 @@ private Q_SLOTS:
     void closesTheDashboardByEscape();
 
 private:
+    test::FakeRegistry m_registry;
+    test::FakePowerSources m_powerSources;
+    test::FakeProcessLauncher m_launcher;
     std::unique_ptr<Windows> m_windows;
 };
 
@@ -51,6 +61,11 @@ void TestWindows::initTestCase()
 {
     QGuiApplication::setApplicationDisplayName(u"Ferrin"_s);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
+    BatteryDataProvider::setPlatform({ .registry = m_registry,
+                                       .powerSources = m_powerSources,
+                                       .processLauncher = m_launcher,
+                                       .storedData = &StoredData::shared });
 }
 
 void TestWindows::init()

@@ -15,11 +15,12 @@ FLOORS = {
     "state": {"sources"},
     "core": {"state", "sources"},
     "menubar": {"core", "state", "sources"},
-    "dashboard": {"menubar", "core", "state", "sources"},
-    "settingswindow": {"menubar", "core", "state", "sources"},
+    "quick": {"menubar", "core", "state", "sources"},
+    "dashboard": {"quick", "menubar", "core", "state", "sources"},
+    "settingswindow": {"quick", "menubar", "core", "state", "sources"},
     "platform": {"menubar", "core", "state", "sources"},
     "tools": {"platform", "menubar", "core", "state", "sources"},
-    "app": {"platform", "dashboard", "settingswindow", "menubar", "core", "state", "sources"},
+    "app": {"platform", "dashboard", "settingswindow", "quick", "menubar", "core", "state", "sources"},
 }
 INCLUDE = re.compile(r'^\s*#include "([^"/]+)/', re.MULTILINE)
 
@@ -50,7 +51,7 @@ class Floors(unittest.TestCase):
 
     def test_no_file_has_outgrown_400_lines(self):
         for room in [*FLOORS, "tests", "bench"]:
-            for path in source_files(room):
+            for path in [*source_files(room), *(ROOT / room).rglob("*.qml")]:
                 with self.subTest(file=str(path.relative_to(ROOT))):
                     self.assertLessEqual(len(path.read_text().splitlines()), 400)
 

@@ -17,11 +17,14 @@ namespace {
 
 const QString schemeGroup = u"org.freedesktop.appearance"_s;
 const QString schemeKey = u"color-scheme"_s;
-const QString gnomeFontGroup = u"org.gnome.desktop.interface"_s;
+const QString gnomeGroup = u"org.gnome.desktop.interface"_s;
 const QString gnomeFontKey = u"font-name"_s;
 // Only KDE's portal tells this one, so where it is told it is the right one of the two.
 const QString kdeFontGroup = u"org.kde.kdeglobals.General"_s;
 const QString kdeFontKey = u"font"_s;
+const QString gnomeAnimationsKey = u"enable-animations"_s;
+const QString kdeAnimationsGroup = u"org.kde.kdeglobals.KDE"_s;
+const QString kdeAnimationsKey = u"AnimationDurationFactor"_s;
 
 std::optional<bool> prefersDark(const QVariant &value)
 {
@@ -37,6 +40,19 @@ std::optional<bool> prefersDark(const QVariant &value)
 QString textOf(const QVariant &value)
 {
     return value.typeId() == QMetaType::QString ? value.toString() : QString();
+}
+
+bool animates(const QVariant &gnomeSetting)
+{
+    return gnomeSetting.typeId() != QMetaType::Bool || gnomeSetting.toBool();
+}
+
+/// KDE multiplies the length of every animation by a number that it writes as text.
+bool animatesByFactor(const QVariant &kdeSetting)
+{
+    bool isNumber = false;
+    const double factor = kdeSetting.toDouble(&isNumber);
+    return !isNumber || factor > 0;
 }
 
 bool isPaletteDark()
@@ -57,8 +73,10 @@ SystemAppearance::SystemAppearance(const QDBusConnection &session, QObject *pare
 {
     connect(&m_portal, &SettingsPortal::valueChanged, this, &SystemAppearance::take);
     m_portal.watch(schemeGroup, schemeKey);
-    m_portal.watch(gnomeFontGroup, gnomeFontKey);
+    m_portal.watch(gnomeGroup, gnomeFontKey);
     m_portal.watch(kdeFontGroup, kdeFontKey);
+    m_portal.watch(gnomeGroup, gnomeAnimationsKey);
+    m_portal.watch(kdeAnimationsGroup, kdeAnimationsKey);
     update();
 }
 
@@ -75,7 +93,11 @@ void SystemAppearance::take(const QString &group, const QString &key, const QVar
 {
     if (group == schemeGroup && key == schemeKey)
         m_desktopPrefersDark = prefersDark(value);
-    else if (group == gnomeFontGroup)
+    else if (group == gnomeGroup && key == gnomeAnimationsKey)
+        m_gnomeAnimates = animates(value);
+    else if (group == kdeAnimationsGroup)
+        m_kdeAnimates = animatesByFactor(value);
+    else if (group == gnomeGroup)
         m_gnomeFont = familyOfPangoName(textOf(value));
     else if (group == kdeFontGroup)
         m_kdeFont = familyOfQtName(textOf(value));
@@ -94,6 +116,7 @@ void SystemAppearance::update()
     m_isDark = m_forced ? *m_forced == Appearance::dark : isDesktopDark;
     const QString desktopsFont = m_kdeFont.isEmpty() ? m_gnomeFont : m_kdeFont;
     m_fontFamily = desktopsFont.isEmpty() ? toolkitsFont() : desktopsFont;
+    m_reducesMotion = !m_gnomeAnimates || !m_kdeAnimates;
 }
 
 } // namespace ferrin

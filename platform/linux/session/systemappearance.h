@@ -15,15 +15,14 @@
 
 namespace ferrin {
 
-/// How the application looks on this desktop: dark or light, forced or as the desktop prefers, and
-/// in which font. The desktop is asked through its settings portal, without waiting; until it
-/// answers, and where there is none, the toolkit's palette and font decide. Every value may change
-/// at any time. Owned by the application; it repaints nothing itself.
+/// How the application looks on this desktop: dark or light, forced or as the desktop prefers, in
+/// which font, and whether anything moves. The desktop is asked through its settings portal,
+/// without waiting; until it answers, and where there is none, the toolkit's palette and font
+/// decide. Every value may change at any time. Owned by the application; it repaints nothing
+/// itself.
 class SystemAppearance : public QObject, public ApplicationAppearance
 {
     Q_OBJECT
-    Q_PROPERTY(bool isDark READ isDark NOTIFY changed BINDABLE bindableIsDark)
-    Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed BINDABLE bindableFontFamily)
 
 public:
     explicit SystemAppearance(const QDBusConnection &session, QObject *parent = nullptr);
@@ -34,16 +33,8 @@ public:
     [[nodiscard]] std::optional<Appearance> forcedAppearance() const { return m_forced; }
     /// What the desktop prefers, whatever is forced.
     [[nodiscard]] bool isDesktopDark() const { return m_isDesktopDark; }
-    /// The interface font; never empty while there is a graphical application.
-    [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
-
-    /// What holds: what is forced, else what the desktop prefers.
-    [[nodiscard]] bool isDark() const { return m_isDark; }
-
-    /// All three are read-only.
-    [[nodiscard]] QBindable<bool> bindableIsDark() const { return &m_isDark; }
+    /// Read-only.
     [[nodiscard]] QBindable<bool> bindableIsDesktopDark() const { return &m_isDesktopDark; }
-    [[nodiscard]] QBindable<QString> bindableFontFamily() const { return &m_fontFamily; }
 
 Q_SIGNALS:
     /// One of the values above is another.
@@ -59,9 +50,9 @@ private:
     std::optional<bool> m_desktopPrefersDark;
     QString m_gnomeFont;
     QString m_kdeFont;
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemAppearance, bool, m_isDark, false)
+    bool m_gnomeAnimates = true;
+    bool m_kdeAnimates = true;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemAppearance, bool, m_isDesktopDark, false)
-    Q_OBJECT_BINDABLE_PROPERTY(SystemAppearance, QString, m_fontFamily)
 };
 
 } // namespace ferrin

@@ -177,6 +177,34 @@ private Q_SLOTS:
         QCOMPARE(f.appearance->fontFamily(), QGuiApplication::font().family());
     }
 
+    void reducesMotionWhereTheDesktopAnimatesNothing_data()
+    {
+        QTest::addColumn<QString>("group");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("still");
+        QTest::addColumn<QVariant>("moving");
+        QTest::newRow("GNOME") << gnomeGroup << u"enable-animations"_s << QVariant(false)
+                               << QVariant(true);
+        QTest::newRow("KDE") << u"org.kde.kdeglobals.KDE"_s << u"AnimationDurationFactor"_s
+                             << QVariant(u"0"_s) << QVariant(u"0.5"_s);
+    }
+
+    void reducesMotionWhereTheDesktopAnimatesNothing()
+    {
+        QFETCH(QString, group);
+        QFETCH(QString, key);
+        QFETCH(QVariant, still);
+        QFETCH(QVariant, moving);
+        Fixture f;
+        f.startPortal();
+        f.portal->put(group, key, still);
+        f.start();
+        QVERIFY(!f.appearance->reducesMotion());
+        QTRY_VERIFY(f.appearance->reducesMotion());
+        f.portal->change(group, key, moving);
+        QTRY_VERIFY(!f.appearance->reducesMotion());
+    }
+
     void doesNotWaitForAPortalThatHangs()
     {
         Fixture f;

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// The selected section. Another one slides in from the left while the last one leaves to the right,
+// both fading; the settings have no section here.
+Item {
+    id: root
+
+    readonly property int section: Dashboard.selected
+
+    implicitWidth: 210
+    implicitHeight: 210
+    clip: true
+
+    onSectionChanged: root.turn()
+    Component.onCompleted: front.sourceComponent = root.viewOf(section)
+
+    function viewOf(button: int): Component {
+        switch (button) {
+        case Dashboard.MenuButton.Status:
+            return status;
+        case Dashboard.MenuButton.Health:
+            return health;
+        case Dashboard.MenuButton.Adapter:
+            return adapter;
+        default:
+            return null;
+        }
+    }
+
+    function turn() {
+        slide.complete();
+        back.sourceComponent = front.sourceComponent;
+        front.sourceComponent = viewOf(section);
+        if (Theme.reducesMotion)
+            back.sourceComponent = null;
+        else
+            slide.start();
+    }
+
+    Loader {
+        id: front
+
+        width: root.width
+        height: root.height
+    }
+
+    Loader {
+        id: back
+
+        width: root.width
+        height: root.height
+        enabled: false
+    }
+
+    ParallelAnimation {
+        id: slide
+
+        Slide { target: front; from: -root.width; to: 0 }
+        Fade { target: front; from: 0; to: 1 }
+        Slide { target: back; from: 0; to: root.width }
+        Fade { target: back; from: 1; to: 0 }
+
+        onFinished: back.sourceComponent = null
+    }
+
+    component Slide: NumberAnimation {
+        property: "x"
+        duration: 500
+        easing.type: Easing.InQuad
+    }
+
+    component Fade: NumberAnimation {
+        property: "opacity"
+        duration: 500
+        easing.type: Easing.InQuad
+    }
+
+    Component {
+        id: status
+
+        StatusView {}
+    }
+
+    Component {
+        id: health
+
+        HealthView {}
+    }
+
+    Component {
+        id: adapter
+
+        PowerAdapterView {}
+    }
+}

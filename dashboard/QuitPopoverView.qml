@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// Asks before the program ends. Shown in a popover of the settings window.
+FocusScope {
+    id: root
+
+    // Whether the popover that holds this view is shown; "No" takes it back.
+    property bool isShown: true
+
+    // The user wants the program to end, at once.
+    signal quitConfirmed
+
+    implicitWidth: 180
+    implicitHeight: 80
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: question.text
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 10
+
+        Text {
+            id: question
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: "Do you want quit Ferrin?"
+            textFormat: Text.PlainText
+            font: Fonts.regular12
+            color: Colours.primaryText
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 10
+
+            ProminentButton {
+                text: "Yes"
+                onPressed: root.quitConfirmed()
+            }
+
+            ProminentButton {
+                text: "No"
+                focus: true
+                onPressed: root.isShown = false
+            }
+        }
+    }
+}

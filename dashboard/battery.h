@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "core/batterytypes.h"
+
+#include <QObject>
+#include <QVariant>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace ferrin {
+
+class BatteryData;
+
+/// The snapshot of the battery in the form that QML can name: its enumerations with capital
+/// letters, its absent numbers as `undefined`. It holds nothing of its own, and each property
+/// notifies when the snapshot's does. A child of the engine; the snapshot outlives it.
+class Battery final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
+    /// Percent, 0 to 100.
+    Q_PROPERTY(QVariant charge READ charge NOTIFY chargeChanged)
+    /// Of the remaining time.
+    Q_PROPERTY(QVariant hours READ hours NOTIFY timeRemainingChanged)
+    Q_PROPERTY(QVariant minutes READ minutes NOTIFY timeRemainingChanged)
+    Q_PROPERTY(ChargingStatus chargingStatus READ chargingStatus NOTIFY chargingStatusChanged)
+    Q_PROPERTY(PowerSource powerSource READ powerSource NOTIFY powerSourceChanged)
+    /// Percent of the design capacity.
+    Q_PROPERTY(QVariant maxCapacity READ maxCapacity NOTIFY maxCapacityChanged)
+    Q_PROPERTY(QVariant chargeCycles READ chargeCycles NOTIFY chargeCyclesChanged)
+    Q_PROPERTY(QVariant designCycles READ designCycles NOTIFY designCyclesChanged)
+    Q_PROPERTY(Health health READ health NOTIFY healthChanged)
+    Q_PROPERTY(Lifespan lifespan READ lifespan NOTIFY lifespanChanged)
+
+public:
+    enum class ChargingStatus {
+        Charging = int(BatteryChargingStatus::charging),
+        Discharging = int(BatteryChargingStatus::discharging),
+        Charged = int(BatteryChargingStatus::charged),
+        FinishingCharge = int(BatteryChargingStatus::finishingCharge),
+        Unknown = int(BatteryChargingStatus::unknown),
+    };
+    Q_ENUM(ChargingStatus)
+
+    enum class PowerSource {
+        Battery = int(ferrin::PowerSource::battery),
+        External = int(ferrin::PowerSource::external),
+        Unknown = int(ferrin::PowerSource::unknown),
+    };
+    Q_ENUM(PowerSource)
+
+    enum class Health {
+        Normal = int(BatteryHealth::normal),
+        Service = int(BatteryHealth::service),
+        Unknown = int(BatteryHealth::unknown),
+    };
+    Q_ENUM(Health)
+
+    enum class Lifespan {
+        Good = int(BatteryLifespan::good),
+        ReducedMaxCap = int(BatteryLifespan::reducedMaxCap),
+        ReducedCycles = int(BatteryLifespan::reducedCycles),
+        ReducedMaxCapAndCycles = int(BatteryLifespan::reducedMaxCapAndCycles),
+        Unknown = int(BatteryLifespan::unknown),
+    };
+    Q_ENUM(Lifespan)
+
+    explicit Battery(BatteryData &data, QObject *parent = nullptr);
+
+    /// The engine's child.
+    static Battery *create(QQmlEngine *engine, QJSEngine *);
+
+    [[nodiscard]] QVariant charge() const;
+    [[nodiscard]] QVariant hours() const;
+    [[nodiscard]] QVariant minutes() const;
+    [[nodiscard]] ChargingStatus chargingStatus() const;
+    [[nodiscard]] PowerSource powerSource() const;
+    [[nodiscard]] QVariant maxCapacity() const;
+    [[nodiscard]] QVariant chargeCycles() const;
+    [[nodiscard]] QVariant designCycles() const;
+    [[nodiscard]] Health health() const;
+    [[nodiscard]] Lifespan lifespan() const;
+
+Q_SIGNALS:
+    void chargeChanged();
+    void timeRemainingChanged();
+    void chargingStatusChanged();
+    void powerSourceChanged();
+    void maxCapacityChanged();
+    void chargeCyclesChanged();
+    void designCyclesChanged();
+    void healthChanged();
+    void lifespanChanged();
+
+private:
+    BatteryData &m_data;
+};
+
+} // namespace ferrin

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+pragma Singleton
+
+import QtQuick
+
+// The named colours, each for a light and a dark appearance. Green means good and red attention,
+// yellow marks cycles, time and power, blue the power source and volts. Every text has a contrast
+// of at least 4.5 to 1 on its ground, every symbol one of 3 to 1.
+QtObject {
+    readonly property color greenIcon: Theme.isDark ? "#4cc38a" : "#1f7a4d"
+    readonly property color redIcon: Theme.isDark ? "#ff7b72" : "#c4281f"
+    readonly property color yellowIcon: Theme.isDark ? "#e9b949" : "#8f6200"
+    readonly property color blueIcon: Theme.isDark ? "#6cb2ff" : "#1b63c6"
+    readonly property color greyIcon: Theme.isDark ? "#4a4d52" : "#d4d6da"
+    readonly property color unknownColor: Theme.isDark ? "#a5a9b0" : "#62666d"
+
+    readonly property color dashboardColor: Theme.isDark ? "#232528" : "#f3f4f6"
+    readonly property color cardColor: Theme.isDark ? "#2f3236" : "#ffffff"
+    readonly property color cardTitleColor: Theme.isDark ? "#b9bdc4" : "#565a61"
+    readonly property color cardTextColor: Theme.isDark ? "#f0f1f3" : "#1d1f22"
+    readonly property color menuSelected: Theme.isDark ? "#3d4a5c" : "#d3e2f7"
+    readonly property color menuHovered: Theme.isDark ? "#32353a" : "#e5e7ea"
+    // The menu's own words and symbols, on any of its grounds.
+    readonly property color menuText: cardTextColor
+    readonly property color focusRing: blueIcon
+
+    readonly property color primaryText: cardTextColor
+    readonly property color accent: "#1b63c6"
+    readonly property color accentText: "#ffffff"
+}

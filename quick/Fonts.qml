@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+pragma Singleton
+
+import QtQuick
+
+// The fonts that views use by role, all of the desktop's interface font. Sizes are logical pixels.
+QtObject {
+    readonly property font heavy13: make(13, Font.ExtraBold)
+    readonly property font bold14: make(14, Font.Bold)
+    readonly property font regular13: make(13, Font.Normal)
+    readonly property font regular12: make(12, Font.Normal)
+    readonly property font regular10: make(10, Font.Normal)
+    readonly property font regular8: make(8, Font.Normal)
+
+    // Of the cards and what they open.
+    readonly property font cardTitle: make(10, Font.DemiBold)
+    readonly property font cardValue: bold14
+    readonly property font cardPairValue: make(12, Font.Bold)
+    readonly property font cardUnit: make(9, Font.DemiBold)
+    readonly property font cardVerdict: make(12, Font.DemiBold)
+    readonly property font header: make(12, Font.Bold)
+    readonly property font caption: make(9, Font.DemiBold)
+
+    // Of the dashboard's menu.
+    readonly property font menuItem: make(11, Font.DemiBold)
+
+    function make(pixelSize: int, weight: int): font {
+        return Qt.font({ family: Theme.fontFamily, pixelSize: pixelSize, weight: weight });
+    }
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+
+// A push button in the accent colour, for what a view mainly offers.
+Item {
+    id: root
+
+    required property string text
+
+    signal pressed
+
+    implicitWidth: Math.max(56, label.implicitWidth + 20)
+    implicitHeight: label.implicitHeight + 10
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.focusable: true
+    Accessible.onPressAction: root.pressed()
+
+    Keys.onReturnPressed: root.pressed()
+    Keys.onEnterPressed: root.pressed()
+    Keys.onSpacePressed: root.pressed()
+
+    Rectangle {
+        id: ground
+
+        anchors.fill: parent
+        radius: 5
+        color: tap.pressed ? Qt.darker(Colours.accent, 1.2) : Colours.accent
+    }
+
+    FocusRing {
+        anchors.margins: -3
+        radius: ground.radius + 3
+        owner: root
+    }
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        text: root.text
+        textFormat: Text.PlainText
+        font: Fonts.regular12
+        color: Colours.accentText
+    }
+
+    TapHandler {
+        id: tap
+
+        onTapped: root.pressed()
+    }
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "quick/keyboardfocus.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace ferrin {
+
+KeyboardFocus::KeyboardFocus(QObject *parent)
+    : QObject(parent)
+{
+    qGuiApp->installEventFilter(this);
+}
+
+bool KeyboardFocus::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched->isWindowType()) {
+        if (event->type() == QEvent::KeyPress)
+            setVisible(true);
+        else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+            setVisible(false);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void KeyboardFocus::setVisible(bool visible)
+{
+    if (std::exchange(m_isVisible, visible) != visible)
+        Q_EMIT isVisibleChanged();
+}
+
+} // namespace ferrin

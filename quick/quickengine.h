@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QQmlEngine>
+
+/// Has the types and the compiled files of a QML module linked in. `name` is the module's URI with
+/// underscores, `target` the room's.
+#define FERRIN_USE_QML_MODULE(name, target)                                                        \
+    extern void qml_register_types_##name();                                                       \
+    extern int qInitResources_qmlcache_##target();                                                 \
+    [[maybe_unused]] static const bool uses_##name = [] {                                          \
+        const volatile auto types = &qml_register_types_##name;                                    \
+        return types && qInitResources_qmlcache_##target();                                        \
+    }();
+
+namespace ferrin {
+
+/// The engine of both windows. It knows our QML modules and no other place on the disk than Qt's
+/// own. What a singleton needs is found among its children: whoever makes the engine puts it there.
+class QuickEngine final : public QQmlEngine
+{
+    Q_OBJECT
+
+public:
+    explicit QuickEngine(QObject *parent = nullptr);
+};
+
+/// The engine's child of this type, which the engine does not own; for a singleton's `create`. Its
+/// absence is a programming error and stops the process.
+template <typename T>
+[[nodiscard]] T *engineChild(const QQmlEngine &engine)
+{
+    T *const child = engine.findChild<T *>(QString(), Qt::FindDirectChildrenOnly);
+    if (!child)
+        qFatal("The engine was not given its %s.", T::staticMetaObject.className());
+    QJSEngine::setObjectOwnership(child, QJSEngine::CppOwnership);
+    return child;
+}
+
+} // namespace ferrin

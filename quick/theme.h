@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QBindable>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace ferrin {
+
+/// How the application looks, as QML reads it: what `Colours` and `Fonts` choose by. It follows the
+/// application's appearance and decides nothing.
+class Theme final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged BINDABLE bindableIsDark)
+    Q_PROPERTY(
+        QString fontFamily READ fontFamily NOTIFY fontFamilyChanged BINDABLE bindableFontFamily)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged BINDABLE
+                   bindableReducesMotion)
+
+public:
+    /// Follows the application's appearance, if there is one.
+    explicit Theme(QObject *parent = nullptr);
+
+    static Theme *create(QQmlEngine *engine, QJSEngine *);
+
+    [[nodiscard]] bool isDark() const { return m_isDark; }
+    [[nodiscard]] QBindable<bool> bindableIsDark() { return &m_isDark; }
+    [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
+    [[nodiscard]] QBindable<QString> bindableFontFamily() { return &m_fontFamily; }
+    /// Nothing may move: the desktop asks for it.
+    [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
+    [[nodiscard]] QBindable<bool> bindableReducesMotion() { return &m_reducesMotion; }
+
+Q_SIGNALS:
+    void isDarkChanged();
+    void fontFamilyChanged();
+    void reducesMotionChanged();
+
+private:
+    Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_isDark, &Theme::isDarkChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(Theme, QString, m_fontFamily, &Theme::fontFamilyChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_reducesMotion, &Theme::reducesMotionChanged)
+};
+
+} // namespace ferrin
