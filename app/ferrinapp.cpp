@@ -54,8 +54,8 @@ void FerrinApp::showOrHideDashboard()
         return;
     }
     const StatusItem *const item = m_statusBar ? m_statusBar->item() : nullptr;
-    m_windows->showDashboard(item ? item->geometry() : QRect(),
-                             m_menuBarExtra ? m_menuBarExtra->lastClick() : QPoint());
+    const ItemPlace place = item ? item->place() : ItemPlace();
+    m_windows->showDashboard(place.item, place.item.center());
 }
 
 void FerrinApp::openSettings()

@@ -36,11 +36,9 @@ void MenuBarExtraAccess::handOver()
 
     m_statusItemIntrospectionSetup = true;
     m_item = item;
-    connect(item, &StatusItem::activated, this, [this](QPoint position) {
-        if (!isStatusItemEnabled())
-            return;
-        m_lastClick = position;
-        setMenuPresented(!isMenuPresented());
+    connect(item, &StatusItem::activated, this, [this] {
+        if (isStatusItemEnabled() && (!m_clickFilter || m_clickFilter()))
+            setMenuPresented(!isMenuPresented());
     });
     highlightItem();
     if (m_statusItemIntrospection)

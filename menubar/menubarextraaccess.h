@@ -4,11 +4,11 @@
 #pragma once
 
 #include <QObject>
-#include <QPoint>
 #include <QPointer>
 #include <QProperty>
 
 #include <functional>
+#include <utility>
 
 namespace ferrin {
 
@@ -46,8 +46,8 @@ public:
     void setStatusItemEnabled(bool enabled) { m_isStatusItemEnabled = enabled; }
     [[nodiscard]] QBindable<bool> bindableIsStatusItemEnabled() { return &m_isStatusItemEnabled; }
 
-    /// Where the pointer was at the last click, null where the host does not tell.
-    [[nodiscard]] QPoint lastClick() const noexcept { return m_lastClick; }
+    /// Asked at each click on the item; a click that it answers with false changes nothing.
+    void setClickFilter(std::function<bool()> filter) { m_clickFilter = std::move(filter); }
 
 Q_SIGNALS:
     void isMenuPresentedChanged();
@@ -60,7 +60,7 @@ private:
     StatusBar &m_statusBar;
     StatusItemIntrospection m_statusItemIntrospection;
     QPointer<StatusItem> m_item;
-    QPoint m_lastClick;
+    std::function<bool()> m_clickFilter;
     bool m_statusItemIntrospectionSetup = false;
     Q_OBJECT_BINDABLE_PROPERTY(MenuBarExtraAccess, bool, m_isMenuPresented,
                                &MenuBarExtraAccess::isMenuPresentedChanged)

@@ -35,7 +35,7 @@ public:
     void addContentView(std::unique_ptr<ItemHostingView>) override { }
     void setContextMenu(const std::vector<MenuEntry> &) override { }
     void setHighlighted(bool) override { }
-    [[nodiscard]] QRect geometry() const override { return {}; }
+    [[nodiscard]] ItemPlace place() const override { return {}; }
 
 private:
     qreal m_length = 0;

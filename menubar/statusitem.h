@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "menubar/itemplace.h"
+
 #include <QObject>
-#include <QPoint>
-#include <QRect>
 #include <QString>
 
 #include <memory>
@@ -50,13 +50,12 @@ public:
     /// The dashboard is open (true) or not: the button may look pressed.
     virtual void setHighlighted(bool highlighted) = 0;
 
-    /// Where the item stands on the screen, null where the platform does not tell.
-    [[nodiscard]] virtual QRect geometry() const = 0;
+    /// Where the item stands, or stood when it was last activated.
+    [[nodiscard]] virtual ItemPlace place() const = 0;
 
 Q_SIGNALS:
-    /// The primary click. `position` is where the pointer is if the host is known to tell the
-    /// truth, else null.
-    void activated(QPoint position);
+    /// The primary click, or what the platform has for it.
+    void activated();
     void menuEntryTriggered(const QString &id);
 };
 

@@ -118,9 +118,9 @@ void TestFerrinApp::fillsTheItemOfEachLaterBar()
     QTRY_COMPARE(stage.log.count(u"fill another"_s), 1);
 
     // Only the item in use is listened to.
-    Q_EMIT stage.item.activated({});
+    Q_EMIT stage.item.activated();
     QVERIFY(!stage.app.isDashboardShown());
-    Q_EMIT other.activated({});
+    Q_EMIT other.activated();
     QVERIFY(stage.app.isDashboardShown());
 }
 
@@ -142,10 +142,10 @@ void TestFerrinApp::opensAndClosesTheDashboardByTheItem()
     QTRY_COMPARE(stage.log.count(u"fill"_s), 1);
     stage.log.clear();
 
-    Q_EMIT stage.item.activated({});
+    Q_EMIT stage.item.activated();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"show"_s }));
     QVERIFY(stage.item.highlighted);
-    Q_EMIT stage.item.activated({});
+    Q_EMIT stage.item.activated();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"show"_s, u"hide"_s }));
     QVERIFY(!stage.item.highlighted);
 }

@@ -30,8 +30,9 @@ public:
     }
     void setContextMenu(const std::vector<MenuEntry> &entries) override { menu = entries; }
     void setHighlighted(bool on) override { highlighted = on; }
-    [[nodiscard]] QRect geometry() const override { return {}; }
+    [[nodiscard]] ItemPlace place() const override { return stands; }
 
+    ItemPlace stands;
     bool button = true;
     bool highlighted = false;
     int removals = 0;

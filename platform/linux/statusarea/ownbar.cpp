@@ -51,9 +51,9 @@ void OwnBarItem::setHighlighted(bool highlighted)
     m_window.setPressed(highlighted);
 }
 
-QRect OwnBarItem::geometry() const
+ItemPlace OwnBarItem::place() const
 {
-    return m_window.geometry();
+    return { .item = m_window.geometry(), .panel = m_window.geometry() };
 }
 
 void OwnBarItem::showContent()

@@ -33,7 +33,7 @@ public:
     void addContentView(std::unique_ptr<ItemHostingView> view) override;
     void setContextMenu(const std::vector<MenuEntry> &entries) override { m_entries = entries; }
     void setHighlighted(bool highlighted) override;
-    [[nodiscard]] QRect geometry() const override;
+    [[nodiscard]] ItemPlace place() const override;
 
     [[nodiscard]] OwnBarWindow &window() noexcept { return m_window; }
 

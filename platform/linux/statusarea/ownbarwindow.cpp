@@ -29,8 +29,7 @@ OwnBarWindow::OwnBarWindow()
         return std::vector { AccessiblePart { .role = QAccessible::Button,
                                               .name = m_words,
                                               .bounds = QRect(QPoint(), size()),
-                                              .press
-                                              = [this] { Q_EMIT clicked(geometry().center()); } } };
+                                              .press = [this] { Q_EMIT clicked(); } } };
     })
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
@@ -143,7 +142,7 @@ void OwnBarWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     const bool isInside = QRectF(QPointF(), QSizeF(size())).contains(event->position());
     if (event->button() == Qt::LeftButton && isInside)
-        Q_EMIT clicked(event->globalPosition().toPoint());
+        Q_EMIT clicked();
 }
 
 bool OwnBarWindow::event(QEvent *event)

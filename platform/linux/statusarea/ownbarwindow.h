@@ -37,7 +37,7 @@ public:
     }
 
 Q_SIGNALS:
-    void clicked(QPoint position);
+    void clicked();
     void menuRequested();
 
 protected:

@@ -4,11 +4,14 @@
 #include "platform/linux/statusarea/statusnotifierbar.h"
 
 #include "menubar/itemhostingview.h"
+#include "platform/linux/statusarea/clickplace.h"
 #include "platform/linux/statusarea/panelcolours.h"
+#include "platform/linux/statusarea/x11dock.h"
 
 #include <QCoreApplication>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -17,10 +20,20 @@ namespace ferrin {
 namespace {
 
 // X11 tells where the pointer is to everybody, which no host can get wrong.
-QPoint trueClick(QPoint told)
+std::optional<QPoint> trueClick(QPoint told)
 {
-    const bool asksPointer = QGuiApplication::platformName() == u"xcb";
-    return asksPointer ? QCursor::pos() : told;
+    if (QGuiApplication::platformName() == u"xcb")
+        return QCursor::pos();
+    return told.isNull() ? std::nullopt : std::optional(told);
+}
+
+ItemPlace placeAt(std::optional<QPoint> click)
+{
+    const QScreen *const screen = click ? QGuiApplication::screenAt(*click) : nullptr;
+    if (!screen)
+        return {};
+    return placeOfClick(*click, dockUnderPointer(),
+                        { .geometry = screen->geometry(), .ratio = screen->devicePixelRatio() });
 }
 
 QString itemServiceName()
@@ -41,7 +54,7 @@ StatusNotifierStatusItem::StatusNotifierStatusItem(const QDBusConnection &connec
     , m_menu(connection)
 {
     connect(&m_item, &StatusNotifierItem::activateRequested, this,
-            [this](QPoint told) { Q_EMIT activated(trueClick(told)); });
+            &StatusNotifierStatusItem::activateAt);
     connect(&m_item, &StatusNotifierItem::contextMenuRequested, this,
             &StatusNotifierStatusItem::popUpMenu);
     connect(&m_menu, &DBusMenu::triggered, this, &StatusItem::menuEntryTriggered);
@@ -69,6 +82,12 @@ void StatusNotifierStatusItem::showContent()
     m_item.setContent(m_view->content());
 }
 
+void StatusNotifierStatusItem::activateAt(QPoint told)
+{
+    m_place = placeAt(trueClick(told));
+    Q_EMIT activated();
+}
+
 void StatusNotifierStatusItem::setContextMenu(const std::vector<MenuEntry> &entries)
 {
     m_menu.setEntries(entries);
@@ -81,7 +100,7 @@ void StatusNotifierStatusItem::popUpMenu(QPoint told)
         connect(m_popup.get(), &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
     }
     m_popup->popUp(
-        m_menu.entries(), trueClick(told),
+        m_menu.entries(), trueClick(told).value_or(QPoint()),
         { .isDark = m_colours.isOwnBarDark(), .fontFamily = m_colours.appearance().fontFamily });
 }
 

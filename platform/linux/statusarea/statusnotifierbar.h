@@ -35,10 +35,11 @@ public:
     void addContentView(std::unique_ptr<ItemHostingView> view) override;
     void setContextMenu(const std::vector<MenuEntry> &entries) override;
     void setHighlighted(bool) override { }
-    [[nodiscard]] QRect geometry() const override { return {}; }
+    [[nodiscard]] ItemPlace place() const override { return m_place; }
 
 private:
     void showContent();
+    void activateAt(QPoint told);
     void popUpMenu(QPoint told);
 
     const PanelColours &m_colours;
@@ -46,6 +47,7 @@ private:
     DBusMenu m_menu;
     std::unique_ptr<ItemHostingView> m_view;
     std::unique_ptr<PopupMenu> m_popup;
+    ItemPlace m_place;
     qreal m_length = 0;
 };
 
