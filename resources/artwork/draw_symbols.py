@@ -3,8 +3,9 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """Draw Ferrin's symbols, battery outlines and bolts as SVG files.
 
-One file per name, one path per file, filled even-odd in black: whoever shows a picture tints it.
-One unit is one logical pixel. A new picture is one more entry in `symbols()` or `battery_parts()`.
+One file per name, one path per file, filled in black: whoever shows a picture tints it. One unit is
+one logical pixel. A new picture of the item is one more entry in `symbols()` or `battery_parts()`;
+those of the windows, in frames 18 high that a font size maps on, are in window_symbols.py.
 
     draw_symbols.py           write the files beside this folder, in symbols/
     draw_symbols.py --check   only tell whether they are what would be written
@@ -13,10 +14,10 @@ One unit is one logical pixel. A new picture is one more entry in `symbols()` or
 import argparse
 import math
 import sys
-from dataclasses import dataclass
 from pathlib import Path
 
-from shapes import circle, flipped, inset, moved, path_data, polygon, rectangle, ring
+import window_symbols
+from shapes import Picture, circle, flipped, inset, moved, polygon, rectangle, ring
 
 SYMBOLS = Path(__file__).resolve().parent.parent / "symbols"
 
@@ -35,26 +36,6 @@ SQUARE_RADIUS = 3.5
 STROKE = 1.5
 SIGN_STROKE = 2.0
 SOFT = 0.75
-
-
-@dataclass(frozen=True)
-class Picture:
-    """A frame in logical pixels and the outlines within it, filled even-odd."""
-
-    width: float
-    height: float
-    outlines: list
-
-    def svg(self):
-        width, height = f"{self.width:g}", f"{self.height:g}"
-        return (
-            "<!-- SPDX-License-Identifier: GPL-3.0-or-later -->\n"
-            "<!-- SPDX-FileCopyrightText: 2026 The Ferrin developers -->\n"
-            f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
-            f'viewBox="0 0 {width} {height}">\n'
-            f'  <path fill-rule="evenodd" d="{path_data(self.outlines)}"/>\n'
-            "</svg>\n"
-        )
 
 
 def arrow(top, bottom, half_width, stroke=SIGN_STROKE):
@@ -248,7 +229,7 @@ def battery_parts():
 
 
 def files():
-    pictures = symbols() | battery_parts()
+    pictures = symbols() | battery_parts() | window_symbols.symbols()
     return {SYMBOLS / f"{name}.svg": picture.svg() for name, picture in pictures.items()}
 
 
