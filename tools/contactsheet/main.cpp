@@ -25,6 +25,8 @@ int main(int argc, char *argv[])
     const SheetTheme dark = darkTheme(family);
     const bool saved = iconSheet(light).save(folder.filePath(u"icons-light.png"_s))
         && iconSheet(dark).save(folder.filePath(u"icons-dark.png"_s))
+        && symbolSheet(light).save(folder.filePath(u"symbols-light.png"_s))
+        && symbolSheet(dark).save(folder.filePath(u"symbols-dark.png"_s))
         && formSheet(light).save(folder.filePath(u"forms-light.png"_s))
         && formSheet(dark).save(folder.filePath(u"forms-dark.png"_s));
     if (!saved)

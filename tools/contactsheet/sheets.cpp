@@ -5,12 +5,15 @@
 
 #include "menubar/iconview.h"
 #include "menubar/itemform.h"
+#include "menubar/templateimageview.h"
 #include "state/icon.h"
 
+#include <QDir>
 #include <QFont>
 #include <QPainter>
 
 #include <array>
+#include <cmath>
 
 namespace ferrin {
 
@@ -50,6 +53,37 @@ QImage iconPicture(Icon icon, int charge, qreal scale, const SheetTheme &theme)
     QPainter painter(&image);
     painter.scale(scale, scale);
     AnyView(view).paint(painter, QRectF(0, 0, 26, 22), contextOf(theme));
+    return image;
+}
+
+/// The artwork that is no icon of the item and no part of one, and what of the icons the windows
+/// show too.
+QStringList windowSymbols()
+{
+    QStringList names { u"bolt.circle"_s, u"bolt.fill"_s };
+    QStringList ofTheItem;
+    for (const Icon icon : allIcons())
+        ofTheItem.append(rawValue(icon));
+    for (QString name : QDir(u":/symbols"_s).entryList(QDir::Files)) {
+        name.chop(4);
+        const bool part = name.contains(u"Batt"_s) || name.contains(u"Bolt"_s);
+        if (!part && !ofTheItem.contains(name))
+            names.append(name);
+    }
+    names.sort();
+    return names;
+}
+
+QImage symbolPicture(const QString &name, int height, qreal scale, const SheetTheme &theme)
+{
+    const TemplateImageView view { .name = name, .height = height };
+    const ViewContext context = contextOf(theme);
+    const QSizeF size(std::ceil(view.idealSize(context).width()), height);
+    QImage image((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    view.paint(painter, QRectF(QPointF(0, 0), size), context);
     return image;
 }
 
@@ -156,6 +190,34 @@ QImage iconSheet(const SheetTheme &theme)
                 const QImage picture = iconPicture(icons[i], charge, scale, theme);
                 painter.drawImage(x, origin.y() + (rowHeight - picture.height()) / 2, picture);
                 x += picture.width() + 4;
+            }
+        }
+    }
+    return sheet;
+}
+
+QImage symbolSheet(const SheetTheme &theme)
+{
+    constexpr std::array heights { 11, 18, 26 };
+    constexpr int rows = 16;
+    constexpr int rowHeight = 64;
+    constexpr int labelWidth = 280;
+    constexpr int blockWidth = labelWidth + 3 * (11 + 18 + 26) * 3 / 2 + 6 * 10 + 2 * margin;
+    const QStringList names = windowSymbols();
+    const int blocks = int(names.size() + rows - 1) / rows;
+    QImage sheet(blocks * blockWidth, rows * rowHeight + 2 * margin, QImage::Format_RGB32);
+    sheet.fill(theme.bar);
+
+    QPainter painter(&sheet);
+    for (int i = 0; i < names.size(); ++i) {
+        const QPoint origin(i / rows * blockWidth + margin, i % rows * rowHeight + margin);
+        drawLabel(painter, QRect(origin, QSize(labelWidth, rowHeight)), names[i], theme);
+        int x = origin.x() + labelWidth;
+        for (const qreal scale : { 1.0, 2.0 }) {
+            for (const int height : heights) {
+                const QImage picture = symbolPicture(names[i], height, scale, theme);
+                painter.drawImage(x, origin.y() + (rowHeight - picture.height()) / 2, picture);
+                x += int(height * scale * 1.5) + 10;
             }
         }
     }

@@ -24,6 +24,9 @@ struct SheetTheme
 /// Every icon at four charges, at 1x and at 2x.
 [[nodiscard]] QImage iconSheet(const SheetTheme &theme);
 
+/// Every symbol of the windows at three heights, at 1x and at 2x.
+[[nodiscard]] QImage symbolSheet(const SheetTheme &theme);
+
 /// Every form at a choice of contents and of the sizes that hosts ask for.
 [[nodiscard]] QImage formSheet(const SheetTheme &theme);
 
