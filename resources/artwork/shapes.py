@@ -152,7 +152,7 @@ def path_data(outlines):
 
 @dataclass(frozen=True)
 class Picture:
-    """A frame in logical pixels and the outlines within it, filled even-odd if not said otherwise."""
+    """A frame in logical pixels and the outlines in it, filled even-odd unless said otherwise."""
 
     width: float
     height: float

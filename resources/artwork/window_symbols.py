@@ -136,7 +136,8 @@ def exclamationmark_triangle():
 
 def waveform():
     halves = (2, 5, 8, 3.5, 1)
-    return sign(HEIGHT, [line((1 + 4 * i, 9 - h), (1 + 4 * i, 9 + h)) for i, h in enumerate(halves)])
+    bars = [line((x, MIDDLE - h), (x, MIDDLE + h)) for x, h in zip(range(1, HEIGHT, 4), halves)]
+    return sign(HEIGHT, bars)
 
 
 def text_bubble():
