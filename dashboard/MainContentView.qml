@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 import Ferrin.Quick
 
 // The selected section. Another one slides in from the left while the last one leaves to the right,

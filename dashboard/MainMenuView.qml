@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The dashboard's menu. It owns the states of its items, which start afresh with each opening.
 FocusScope {
@@ -44,8 +45,12 @@ FocusScope {
 
     component MenuItem: MenuItemView {
         anchors { left: parent.left; right: parent.right }
-        menu: root
         buttonState: root.states[button]
+        onHovered: inside => root.setHovered(button, inside)
+        onSelected: {
+            root.select(button);
+            Dashboard.selected = button;
+        }
 
         KeyNavigation.priority: KeyNavigation.BeforeItem
         Keys.onUpPressed: root.moveFocus(this, -1)

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 import Ferrin.Quick
 
 // One row of the dashboard's menu: a symbol, a label, and behind them the mark of its state.
@@ -15,12 +16,15 @@ Item {
     required property string text
     // What a tap does instead of selecting the section; absent for most.
     property var customOnTap
-    required property MainMenuView menu
     // Absent: an item without a state of its own shows as hovered.
     required property var buttonState
 
     readonly property bool isSelected: buttonState === Dashboard.ButtonState.Selected
-    property alias hovered: hover.hovered
+
+    // The pointer came or went.
+    signal hovered(inside: bool)
+    // The item becomes the selected one.
+    signal selected
 
     implicitHeight: 32
     activeFocusOnTab: true
@@ -42,8 +46,7 @@ Item {
             return;
         }
         fade.enabled = !Theme.reducesMotion;
-        menu.select(button);
-        Dashboard.selected = button;
+        selected();
         fade.enabled = false;
     }
 
@@ -103,7 +106,7 @@ Item {
     HoverHandler {
         id: hover
 
-        onHoveredChanged: root.menu.setHovered(root.button, hovered)
+        onHoveredChanged: root.hovered(hovered)
     }
 
     TapHandler {

@@ -4,6 +4,7 @@
 pragma Singleton
 
 import QtQuick
+import Ferrin.Quick
 
 // The named colours, each for a light and a dark appearance. Green means good and red attention,
 // yellow marks cycles, time and power, blue the power source and volts. Every text has a contrast
@@ -15,6 +16,13 @@ QtObject {
     readonly property color blueIcon: Theme.isDark ? "#6cb2ff" : "#1b63c6"
     readonly property color greyIcon: Theme.isDark ? "#4a4d52" : "#d4d6da"
     readonly property color unknownColor: Theme.isDark ? "#a5a9b0" : "#62666d"
+
+    // The charge and capacity rings, from empty to full, on what of them is empty.
+    readonly property color gaugeRed: Theme.isDark ? "#ff6259" : "#dc3a2e"
+    readonly property color gaugeOrange: Theme.isDark ? "#ff9f43" : "#ee7b1c"
+    readonly property color gaugeYellow: Theme.isDark ? "#f2cf4a" : "#e3b20c"
+    readonly property color gaugeGreen: Theme.isDark ? "#4cc38a" : "#2c9a60"
+    readonly property color gaugeTrack: Theme.isDark ? "#484c52" : "#e1e3e7"
 
     readonly property color dashboardColor: Theme.isDark ? "#232528" : "#f3f4f6"
     readonly property color cardColor: Theme.isDark ? "#2f3236" : "#ffffff"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Quick
 
 // A push button in the accent colour, for what a view mainly offers.
 Item {

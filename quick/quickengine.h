@@ -17,7 +17,8 @@
 
 namespace ferrin {
 
-/// The engine of both windows. It knows our QML modules and no other place on the disk than Qt's
+/// The engine of both windows, made before either: it also decides that they are painted in
+/// software. It knows our QML modules and no other place on the disk than Qt's
 /// own. What a singleton needs is found among its children: whoever makes the engine puts it there.
 class QuickEngine final : public QQmlEngine
 {
