@@ -5,6 +5,8 @@
 
 #include "platform/linux/session/systemappearance.h"
 #include "platform/linux/statusarea/statusarea.h"
+#include "platform/linux/statusarea/x11popoverdesktop.h"
+#include "platform/linux/statusarea/x11presswatcher.h"
 
 #include <QObject>
 
@@ -27,6 +29,10 @@ public:
 
     [[nodiscard]] StatusBar &statusBar() const { return *m_statusArea.bar(); }
 
+    /// What the windows that open at the item need of the desktop.
+    [[nodiscard]] PressWatcher &presses() noexcept { return m_presses; }
+    [[nodiscard]] PopoverDesktop &popovers() noexcept { return m_popovers; }
+
     /// What the item's widths are measured with.
     [[nodiscard]] ViewContext measuringContext() const;
 
@@ -40,6 +46,8 @@ private:
 
     SystemAppearance m_appearance;
     StatusAreaChooser m_statusArea;
+    X11PressWatcher m_presses;
+    X11PopoverDesktop m_popovers;
 };
 
 } // namespace ferrin

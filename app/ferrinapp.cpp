@@ -15,7 +15,11 @@ namespace ferrin {
 FerrinApp::FerrinApp(Parts parts)
     : m_parts(std::move(parts))
     , m_appColor(AppColor::shared())
+    , m_dismissal(m_parts.presses, [this](const QWindow &window) {
+        return m_windows && m_windows->isOfDashboard(window);
+    })
 {
+    connect(&m_dismissal, &PopoverDismissal::dismissed, this, [this] { setDashboardShown(false); });
     connect(this, &FerrinApp::isDashboardShownChanged, this, &FerrinApp::showOrHideDashboard);
 }
 
@@ -28,6 +32,7 @@ void FerrinApp::useStatusBar(StatusBar &bar)
         bar, [this](StatusItem &item) { takeStatusItem(item); });
 
     MenuBarExtraAccess *const extra = m_menuBarExtra.get();
+    extra->setClickFilter([this] { return m_dismissal.isNewClick(); });
     extra->setMenuPresented(isDashboardShown());
     connect(extra, &MenuBarExtraAccess::isMenuPresentedChanged, this,
             [this, extra] { setDashboardShown(extra->isMenuPresented()); });
@@ -45,6 +50,7 @@ void FerrinApp::takeStatusItem(StatusItem &item)
 void FerrinApp::showOrHideDashboard()
 {
     if (!isDashboardShown()) {
+        m_dismissal.popoverHidden();
         if (m_windows)
             m_windows->hideDashboard();
         return;
@@ -54,8 +60,8 @@ void FerrinApp::showOrHideDashboard()
         return;
     }
     const StatusItem *const item = m_statusBar ? m_statusBar->item() : nullptr;
-    const ItemPlace place = item ? item->place() : ItemPlace();
-    m_windows->showDashboard(place.item, place.item.center());
+    m_windows->showDashboard(item ? item->place() : ItemPlace());
+    m_dismissal.popoverShown();
 }
 
 void FerrinApp::openSettings()
@@ -68,8 +74,10 @@ Windows *FerrinApp::windows()
 {
     if (!m_windows && m_parts.loadWindows) {
         m_windows = m_parts.loadWindows();
-        if (m_windows)
+        if (m_windows) {
             m_windows->dashboardClosed = [this] { setDashboardShown(false); };
+            m_windows->dashboardLostFocus = [this] { m_dismissal.focusLost(); };
+        }
     }
     return m_windows.get();
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "app/popoverdismissal.h"
 #include "app/windows.h"
 
 #include <QObject>
@@ -15,6 +16,7 @@ namespace ferrin {
 
 class AppColor;
 class MenuBarExtraAccess;
+class PressWatcher;
 class StatusBar;
 class StatusItem;
 
@@ -33,6 +35,9 @@ public:
     {
         /// Loads the module of the windows when the first of them opens; may answer null.
         std::function<std::unique_ptr<Windows>()> loadWindows;
+        /// Hears presses that are meant for others; null where nobody does. Outlives the
+        /// application.
+        PressWatcher *presses = nullptr;
         /// Puts the item into the process-wide provider of its content and has that built.
         std::function<void(StatusItem &)> fillStatusItem;
     };
@@ -62,6 +67,7 @@ private:
 
     Parts m_parts;
     AppColor &m_appColor;
+    PopoverDismissal m_dismissal;
     std::unique_ptr<Windows> m_windows;
     StatusBar *m_statusBar = nullptr;
     std::unique_ptr<MenuBarExtraAccess> m_menuBarExtra;

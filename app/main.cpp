@@ -82,12 +82,14 @@ int main(int argc, char **argv)
     BatteryDataProvider::setPlatform(power.parts());
     DesktopPlatform desktop(session);
 
-    FerrinApp ferrin({ .loadWindows = &loadWindows,
-                       .fillStatusItem = [&, first = true](StatusItem &item) mutable {
-                           if (std::exchange(first, false))
-                               prepareItem(desktop, power);
-                           fillStatusItem(item);
-                       } });
+    FerrinApp ferrin({ .loadWindows = [&] { return loadWindows(desktop.popovers()); },
+                       .presses = &desktop.presses(),
+                       .fillStatusItem =
+                           [&, first = true](StatusItem &item) mutable {
+                               if (std::exchange(first, false))
+                                   prepareItem(desktop, power);
+                               fillStatusItem(item);
+                           } });
     QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
                      [&] { ferrin.useStatusBar(desktop.statusBar()); });
     desktop.start();

@@ -3,14 +3,18 @@
 
 #pragma once
 
-#include <QPoint>
-#include <QRect>
+#include "menubar/itemplace.h"
+
 #include <QtPlugin>
 
 #include <functional>
 #include <memory>
 
+class QWindow;
+
 namespace ferrin {
+
+class PopoverDesktop;
 
 /// The two windows of the application, the dashboard's popover and the settings window. They live
 /// in a module of their own that is loaded when the first of them opens, so that the status item,
@@ -20,17 +24,20 @@ class Windows
 public:
     virtual ~Windows() = default;
 
-    /// Opens the dashboard at the item. `item` is the item's place on the screen, null where the
-    /// host does not tell; `pointer` is where the click was, null where that is not known.
-    virtual void showDashboard(const QRect &item, const QPoint &pointer) = 0;
+    /// Opens the dashboard at the item.
+    virtual void showDashboard(const ItemPlace &place) = 0;
     virtual void hideDashboard() = 0;
+    /// Whether this is the dashboard, or a window that belongs to it.
+    [[nodiscard]] virtual bool isOfDashboard(const QWindow &window) const = 0;
 
     /// Opens the window with this identifier; an open one comes to the front.
     virtual void openWindow(const QString &identifier) = 0;
 
-    /// Called when the dashboard closes by itself: a click elsewhere, Escape, the focus lost, its own
-    /// settings item. Set before anything is opened.
+    /// Called when the dashboard closes by itself: Escape, its own settings item, its screen gone.
+    /// Set before anything is opened, as the others.
     std::function<void()> dashboardClosed;
+    /// Called when the dashboard has lost the focus, which leaves it open.
+    std::function<void()> dashboardLostFocus;
 };
 
 /// What the module offers.
@@ -38,10 +45,11 @@ class WindowsFactory
 {
 public:
     virtual ~WindowsFactory() = default;
-    [[nodiscard]] virtual std::unique_ptr<Windows> create() = 0;
+    /// The desktop outlives the windows.
+    [[nodiscard]] virtual std::unique_ptr<Windows> create(PopoverDesktop &desktop) = 0;
 };
 
 } // namespace ferrin
 
-#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/1"
+#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/2"
 Q_DECLARE_INTERFACE(ferrin::WindowsFactory, FerrinWindowsFactory_iid)

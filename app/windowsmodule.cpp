@@ -10,11 +10,11 @@
 
 namespace ferrin {
 
-std::unique_ptr<Windows> loadWindows()
+std::unique_ptr<Windows> loadWindows(PopoverDesktop &desktop)
 {
     QPluginLoader loader(privateFolder() + QStringLiteral("/ferrin-windows.so"));
     if (auto *factory = qobject_cast<WindowsFactory *>(loader.instance()))
-        return factory->create();
+        return factory->create(desktop);
     qCCritical(logger, "The windows cannot be opened: %s", qUtf8Printable(loader.errorString()));
     return nullptr;
 }

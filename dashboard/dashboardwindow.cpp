@@ -3,48 +3,88 @@
 
 #include "dashboard/dashboardwindow.h"
 
-#include "dashboard/popoverplacement.h"
+#include "menubar/popoverdesktop.h"
 #include "quick/quickengine.h"
+#include "sources/logging.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QQmlEngine>
+#include <QQmlComponent>
+#include <QQuickItem>
 #include <QScreen>
 
-FERRIN_USE_QML_MODULE(Ferrin_Dashboard, ferrin_dashboard)
+FERRIN_USE_QML_TYPES(Ferrin_Dashboard)
+FERRIN_USE_QML_FILES(ferrin_dashboard)
 
 namespace ferrin {
 
-DashboardWindow::DashboardWindow(QQmlEngine &engine)
-    : QQuickView(&engine, nullptr)
+DashboardWindow::DashboardWindow(PopoverDesktop &desktop, QQmlEngine &engine)
+    : FramedWindow(desktop, engine)
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setTitle(QGuiApplication::applicationDisplayName());
-    setColor(Qt::transparent);
-    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Dashboard/DashboardView.qml")));
+    QQmlComponent view(&engine,
+                       QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Dashboard/DashboardView.qml")));
+    std::unique_ptr<QQuickItem> content(qobject_cast<QQuickItem *>(view.create()));
+    if (content)
+        setContent(std::move(content));
+    else
+        qCCritical(logger, "The dashboard has no content: %s", qUtf8Printable(view.errorString()));
+    connect(this, &FramedWindow::contentSizeChanged, this, &DashboardWindow::placeAtItem);
 }
 
-void DashboardWindow::openAt(const QRect &item, const QPoint &pointer)
+void DashboardWindow::openAt(const ItemPlace &place)
 {
-    QRect anchor = item.isNull() ? QRect(pointer, QSize(1, 1)) : item;
-    const QScreen *const host = QGuiApplication::screenAt(anchor.center());
-    const QRect available = (host ? host : QGuiApplication::primaryScreen())->availableGeometry();
-    if (item.isNull() && pointer.isNull())
-        anchor.moveCenter(available.topRight());
-    setPosition(popoverPosition(anchor, size(), available));
+    m_item = place;
+    QScreen *const under = QGuiApplication::screenAt(place.item.center());
+    m_screen = under && !place.item.isEmpty() ? under : QGuiApplication::primaryScreen();
+    followScreen();
+    placeAtItem();
+    desktop().prepare(*this);
     show();
-    requestActivate();
+    desktop().focus(*this);
+}
+
+void DashboardWindow::followScreen()
+{
+    if (!m_screen)
+        return;
+    setScreen(m_screen);
+    connect(m_screen, &QScreen::geometryChanged, this, &DashboardWindow::placeAtItem);
+    connect(m_screen, &QScreen::availableGeometryChanged, this, &DashboardWindow::placeAtItem);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](const QScreen *removed) {
+        if (removed == m_screen)
+            Q_EMIT dismissed();
+    });
+}
+
+void DashboardWindow::placeAtItem()
+{
+    if (!m_screen)
+        return;
+    const ScreenArea area { .whole = m_screen->geometry(),
+                            .available = m_screen->availableGeometry() };
+    place(spotAtItem(m_item, contentSize(), area), ArrowUse::Without);
+}
+
+bool DashboardWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::Close) {
+        Q_EMIT dismissed();
+        event->ignore();
+        return true;
+    }
+    return FramedWindow::event(event);
 }
 
 void DashboardWindow::focusOutEvent(QFocusEvent *event)
 {
-    QQuickView::focusOutEvent(event);
-    Q_EMIT dismissed();
+    FramedWindow::focusOutEvent(event);
+    Q_EMIT focusLost();
 }
 
 void DashboardWindow::keyPressEvent(QKeyEvent *event)
 {
-    QQuickView::keyPressEvent(event);
+    FramedWindow::keyPressEvent(event);
     if (event->key() == Qt::Key_Escape)
         Q_EMIT dismissed();
 }

@@ -3,30 +3,44 @@
 
 #pragma once
 
-#include <QQuickView>
+#include "menubar/itemplace.h"
+#include "quick/framedwindow.h"
+
+#include <QPointer>
+
+class QScreen;
 
 namespace ferrin {
 
-/// The popover under the status item. Made when it opens and dropped when it closes; it closes by
-/// itself on Escape and when it loses the focus, and then says so.
-class DashboardWindow final : public QQuickView
+/// The popover at the status item. Made when it opens and dropped when it closes. It says when it
+/// ought to close and leaves that to its owner.
+class DashboardWindow final : public FramedWindow
 {
     Q_OBJECT
 
 public:
-    /// The engine outlives it.
-    explicit DashboardWindow(QQmlEngine &engine);
+    /// The desktop and the engine outlive it.
+    DashboardWindow(PopoverDesktop &desktop, QQmlEngine &engine);
 
-    /// Shows the popover beside the item, wholly inside the item's screen. Either place may be
-    /// null.
-    void openAt(const QRect &item, const QPoint &pointer);
+    /// Shows the popover beside the item, wholly inside the item's screen.
+    void openAt(const ItemPlace &place);
 
 Q_SIGNALS:
+    /// The user, or the desktop, has closed it.
     void dismissed();
+    void focusLost();
 
 protected:
+    bool event(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void followScreen();
+    void placeAtItem();
+
+    ItemPlace m_item;
+    QPointer<QScreen> m_screen;
 };
 
 } // namespace ferrin

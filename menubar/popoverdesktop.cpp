@@ -3,6 +3,7 @@
 
 #include "menubar/popoverdesktop.h"
 
+#include <QGuiApplication>
 #include <QPainterPath>
 #include <QRegion>
 #include <QWindow>
@@ -18,7 +19,9 @@ void PopoverDesktop::focus(QWindow &window)
 
 void PopoverDesktop::setOutline(QWindow &window, const QPainterPath &outline)
 {
-    window.setMask(QRegion(outline.toFillPolygon().toPolygon()));
+    // The others draw no pointer that could press.
+    if (QGuiApplication::platformName().startsWith(u"wayland"))
+        window.setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 
 } // namespace ferrin

@@ -22,8 +22,9 @@ namespace {
 class QuickWindows final : public Windows
 {
 public:
-    QuickWindows()
-        : m_battery(*BatteryDataProvider::shared().data(), &m_engine)
+    explicit QuickWindows(PopoverDesktop &desktop)
+        : m_desktop(desktop)
+        , m_battery(*BatteryDataProvider::shared().data(), &m_engine)
         , m_adapter(StoredData::shared(), *BatteryDataProvider::shared().data(), &m_engine)
         , m_dashboardState(AppStatus::shared(), &m_engine)
     {
@@ -33,19 +34,30 @@ public:
                          [this] { openWindow(SettingsWindow::identifier()); });
     }
 
-    void showDashboard(const QRect &item, const QPoint &pointer) override
+    void showDashboard(const ItemPlace &place) override
     {
-        m_dashboard = std::make_unique<DashboardWindow>(m_engine);
-        QObject::connect(m_dashboard.get(), &DashboardWindow::dismissed, m_dashboard.get(),
+        m_dashboard = std::make_unique<DashboardWindow>(m_desktop, m_engine);
+        QObject::connect(m_dashboard.get(), &DashboardWindow::dismissed, &m_engine,
                          [this] { dashboardClosed(); });
-        m_dashboard->openAt(item, pointer);
+        QObject::connect(m_dashboard.get(), &DashboardWindow::focusLost, &m_engine,
+                         [this] { dashboardLostFocus(); });
+        m_dashboard->openAt(place);
     }
 
     void hideDashboard() override
     {
+        if (!m_dashboard)
+            return;
         // The window may be in the middle of telling that it closed.
-        if (m_dashboard)
-            m_dashboard.release()->deleteLater();
+        DashboardWindow *const window = m_dashboard.release();
+        window->disconnect(&m_engine);
+        window->hide();
+        window->deleteLater();
+    }
+
+    [[nodiscard]] bool isOfDashboard(const QWindow &window) const override
+    {
+        return m_dashboard && (&window == m_dashboard.get() || m_dashboard->isAncestorOf(&window));
     }
 
     void openWindow(const QString &identifier) override
@@ -58,6 +70,7 @@ public:
     }
 
 private:
+    PopoverDesktop &m_desktop;
     // The engine goes last, and nothing of a scene outlives what it was bound to.
     QuickEngine m_engine;
     Battery m_battery;
@@ -76,9 +89,9 @@ class WindowsPlugin final : public QObject, public WindowsFactory
     Q_INTERFACES(ferrin::WindowsFactory)
 
 public:
-    [[nodiscard]] std::unique_ptr<Windows> create() override
+    [[nodiscard]] std::unique_ptr<Windows> create(PopoverDesktop &desktop) override
     {
-        return std::make_unique<QuickWindows>();
+        return std::make_unique<QuickWindows>(desktop);
     }
 };
 

@@ -18,12 +18,16 @@ public:
     {
     }
 
-    void showDashboard(const QRect &, const QPoint &) override
+    void showDashboard(const ItemPlace &place) override
     {
         m_log.append(QStringLiteral("show"));
+        shownAt = place;
     }
+    [[nodiscard]] bool isOfDashboard(const QWindow &) const override { return false; }
     void hideDashboard() override { m_log.append(QStringLiteral("hide")); }
     void openWindow(const QString &identifier) override { m_log.append(identifier); }
+
+    ItemPlace shownAt;
 
 private:
     QStringList &m_log;

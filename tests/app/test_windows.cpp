@@ -4,6 +4,7 @@
 #include "app/windows.h"
 #include "core/batterydataprovider.h"
 #include "core/storeddata.h"
+#include "menubar/popoverdesktop.h"
 #include "state/shareddefaults.h"
 #include "tests/support/fakepowersources.h"
 #include "tests/support/fakeprocesslauncher.h"
@@ -13,7 +14,6 @@
 #include <QGuiApplication>
 #include <QPluginLoader>
 #include <QPointer>
-#include <QQuickWindow>
 #include <QScreen>
 #include <QTest>
 
@@ -49,18 +49,20 @@ private Q_SLOTS:
     void placesTheSettingsInTheMiddleOfTheScreen();
     void dropsTheDashboardWhenItCloses();
     void closesTheDashboardByEscape();
+    void knowsTheWindowsOfTheDashboard();
+    void saysThatTheDashboardLostTheFocusAndLeavesItOpen();
 
 private:
     test::FakeRegistry m_registry;
     test::FakePowerSources m_powerSources;
     test::FakeProcessLauncher m_launcher;
+    PopoverDesktop m_desktop;
     std::unique_ptr<Windows> m_windows;
 };
 
 void TestWindows::initTestCase()
 {
     QGuiApplication::setApplicationDisplayName(u"Ferrin"_s);
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
     BatteryDataProvider::setPlatform({ .registry = m_registry,
                                        .powerSources = m_powerSources,
@@ -73,7 +75,7 @@ void TestWindows::init()
     QPluginLoader loader(QStringLiteral(FERRIN_WINDOWS_MODULE));
     auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
     QVERIFY2(factory, qPrintable(loader.errorString()));
-    m_windows = factory->create();
+    m_windows = factory->create(m_desktop);
 }
 
 void TestWindows::showsOneWindowWhenTheSettingsAreOpenedTwice()
@@ -108,7 +110,7 @@ void TestWindows::placesTheSettingsInTheMiddleOfTheScreen()
 
 void TestWindows::dropsTheDashboardWhenItCloses()
 {
-    m_windows->showDashboard({}, { 100, 10 });
+    m_windows->showDashboard({ .item { 100, 10, 1, 1 } });
     QCOMPARE(visibleWindows(u"Ferrin"_s).size(), 1);
     const QPointer<QWindow> window = visibleWindows(u"Ferrin"_s).first();
     m_windows->hideDashboard();
@@ -119,9 +121,36 @@ void TestWindows::closesTheDashboardByEscape()
 {
     int closed = 0;
     m_windows->dashboardClosed = [&] { ++closed; };
-    m_windows->showDashboard({}, { 100, 10 });
+    m_windows->showDashboard({ .item { 100, 10, 1, 1 } });
     QTest::keyClick(visibleWindows(u"Ferrin"_s).first(), Qt::Key_Escape);
     QCOMPARE(closed, 1);
+}
+
+void TestWindows::knowsTheWindowsOfTheDashboard()
+{
+    QWindow other;
+    QVERIFY(!m_windows->isOfDashboard(other));
+    m_windows->showDashboard({});
+    QWindow *const dashboard = visibleWindows(u"Ferrin"_s).first();
+    QWindow explanation;
+    explanation.setTransientParent(dashboard);
+    QVERIFY(m_windows->isOfDashboard(*dashboard));
+    QVERIFY(m_windows->isOfDashboard(explanation));
+    QVERIFY(!m_windows->isOfDashboard(other));
+}
+
+void TestWindows::saysThatTheDashboardLostTheFocusAndLeavesItOpen()
+{
+    int lost = 0;
+    m_windows->dashboardLostFocus = [&] { ++lost; };
+    m_windows->showDashboard({});
+    QWindow *const dashboard = visibleWindows(u"Ferrin"_s).first();
+    QVERIFY(QTest::qWaitForWindowActive(dashboard));
+    QWindow other;
+    other.show();
+    other.requestActivate();
+    QTRY_VERIFY(lost > 0);
+    QVERIFY(dashboard->isVisible());
 }
 
 QTEST_MAIN(TestWindows)

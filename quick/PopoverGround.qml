@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// The frame of a popover in the application's colours.
+PopoverFrame {
+    ground: Colours.dashboardColor
+    isDark: Theme.isDark
+}

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "quick/framedwindow.h"
+
+#include "menubar/popoverdesktop.h"
+#include "quick/popoverframe.h"
+#include "sources/logging.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ferrin {
+
+FramedWindow::FramedWindow(PopoverDesktop &desktop, QQmlEngine &engine)
+    : m_desktop(desktop)
+    , m_isBlended(desktop.blends())
+{
+    setTitle(QGuiApplication::applicationDisplayName());
+    setColor(Qt::transparent);
+    QQmlComponent ground(&engine,
+                         QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Quick/PopoverGround.qml")));
+    m_frameItem.reset(qobject_cast<PopoverFrame *>(ground.create()));
+    if (m_frameItem)
+        m_frameItem->setParentItem(contentItem());
+    else
+        qCCritical(logger, "A popover has no frame: %s", qUtf8Printable(ground.errorString()));
+    connect(this, &QQuickWindow::frameSwapped, this, &FramedWindow::firstFrameShown,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+FramedWindow::~FramedWindow() = default;
+
+void FramedWindow::setContent(std::unique_ptr<QQuickItem> content)
+{
+    m_content = std::move(content);
+    m_content->setParentItem(contentItem());
+    connect(m_content.get(), &QQuickItem::widthChanged, this, &FramedWindow::contentSizeChanged);
+    connect(m_content.get(), &QQuickItem::heightChanged, this, &FramedWindow::contentSizeChanged);
+}
+
+QSize FramedWindow::contentSize() const
+{
+    if (!m_content)
+        return {};
+    return { int(std::ceil(m_content->width())), int(std::ceil(m_content->height())) };
+}
+
+QMargins FramedWindow::marginsFor(const PopoverSpot &spot, ArrowUse arrowUse) const
+{
+    const bool isAlone = !m_isBlended && arrowUse == ArrowUse::Without;
+    const int wanted = isAlone ? 0 : PopoverFrame::shadowReach;
+    const QRect &frame = spot.frame;
+    const QRect &bounds = spot.bounds;
+    return { std::clamp(frame.left() - bounds.left(), 0, wanted),
+             std::clamp(frame.top() - bounds.top(), 0, wanted),
+             std::clamp(bounds.right() - frame.right(), 0, wanted),
+             std::clamp(bounds.bottom() - frame.bottom(), 0, wanted) };
+}
+
+void FramedWindow::place(const PopoverSpot &spot, ArrowUse arrowUse)
+{
+    const QMargins margins = marginsFor(spot, arrowUse);
+    m_frameRect = spot.frame;
+    const QRect whole = spot.frame.marginsAdded(margins);
+    // Tiling Wayland compositors leave a window of one size alone.
+    setMinimumSize(whole.size());
+    setMaximumSize(whole.size());
+    setGeometry(whole);
+    if (m_content)
+        m_content->setPosition(QPointF(margins.left(), margins.top()));
+    auto *const frame = qobject_cast<PopoverFrame *>(m_frameItem.get());
+    if (!frame)
+        return;
+    frame->setSize(whole.size());
+    std::optional<PopoverFrame::Arrow> arrow;
+    if (arrowUse == ArrowUse::With)
+        arrow = { .side = spot.side, .along = qreal(spot.arrow) };
+    frame->setFraming(margins, arrow, m_isBlended);
+    create();
+    m_desktop.setOutline(*this, frame->outline());
+}
+
+} // namespace ferrin

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "quick/popoverplacement.h"
+
+#include <QMargins>
+#include <QPainterPath>
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+
+namespace ferrin {
+
+/// What a popover is drawn on: its ground with round corners, an arrow if it has one, a border that
+/// is seen on any wallpaper, and the shadow around it. Its window says how it is framed; its
+/// colours are bound in QML.
+class PopoverFrame : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged REQUIRED)
+    Q_PROPERTY(bool isDark READ isDark WRITE setDark NOTIFY isDarkChanged REQUIRED)
+
+public:
+    static constexpr int radius = 12;
+    /// How far the shadow reaches where it has room, an arrow's length included.
+    static constexpr int shadowReach = 22;
+
+    /// An arrow on the frame's side that faces away from `side`.
+    struct Arrow
+    {
+        PopoverSide side = PopoverSide::Below;
+        qreal along = 0;
+
+        bool operator==(const Arrow &) const = default;
+    };
+
+    explicit PopoverFrame(QQuickItem *parent = nullptr);
+
+    [[nodiscard]] const QColor &ground() const noexcept { return m_ground; }
+    void setGround(const QColor &ground);
+    [[nodiscard]] bool isDark() const noexcept { return m_isDark; }
+    void setDark(bool isDark);
+
+    /// How much of the item lies around the frame. Without blending there is no shadow, and no
+    /// half-transparent pixel either.
+    void setFraming(const QMargins &margins, const std::optional<Arrow> &arrow, bool isBlended);
+
+    /// The border's outer edge, in the item's pixels.
+    [[nodiscard]] QPainterPath outline() const { return outline(0); }
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void groundChanged();
+    void isDarkChanged();
+
+private:
+    /// A line that runs `inset` pixels inside the outline.
+    [[nodiscard]] QPainterPath outline(qreal inset) const;
+    void paintShadow(QPainter &painter) const;
+    void paintBorder(QPainter &painter) const;
+
+    QColor m_ground;
+    bool m_isDark = false;
+    QMargins m_margins;
+    std::optional<Arrow> m_arrow;
+    bool m_isBlended = true;
+};
+
+} // namespace ferrin

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/itemplace.h"
+
+#include <QRect>
+#include <QSize>
+
+namespace ferrin {
+
+/// Where a popover stands, seen from what it belongs to.
+enum class PopoverSide { Below, Above, Right, Left };
+
+/// The place of a popover. All in logical pixels of the desktop.
+struct PopoverSpot
+{
+    /// The popover as it is seen, without its shadow and arrow.
+    QRect frame {};
+    /// What its shadow must not leave, either.
+    QRect bounds {};
+    PopoverSide side = PopoverSide::Below;
+    /// Where an arrow points from, counted along the side of the frame that faces what the popover
+    /// belongs to, from its left or top end.
+    int arrow = 0;
+
+    bool operator==(const PopoverSpot &) const = default;
+};
+
+struct ScreenArea
+{
+    QRect whole {};
+    /// The part that is free of panels, as far as the desktop tells.
+    QRect available {};
+};
+
+/// Between a popover and the panel, and the edges of the screen where there is room for it.
+inline constexpr int popoverGap = 6;
+
+/// A popover of the status item: off the panel, on the panel's inner side, centred on the item and
+/// moved as little as needed to lie wholly on the screen. Without a panel the nearest edge of the
+/// screen is taken for it; without any place the popover stands in the corner where status areas
+/// usually are.
+[[nodiscard]] PopoverSpot spotAtItem(const ItemPlace &place, const QSize &size,
+                                     const ScreenArea &screen);
+
+/// A popover that explains a part of a window: on the first of below, above, right and left of it
+/// where there is room, else where there is most, and always wholly on the screen.
+[[nodiscard]] PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &available);
+
+} // namespace ferrin
