@@ -18,8 +18,8 @@ endfunction()
 # those are the program's, and the module of the windows takes them from the program that loads it.
 # A test links them beside the room.
 #
-# The sources name the module once, with FERRIN_USE_QML_MODULE of quick/quickengine.h: nothing else
-# would make a linker take its types out of a static library.
+# A source names the module once, with FERRIN_USE_QML_TYPES and FERRIN_USE_QML_FILES of
+# quick/quickengine.h: nothing else would make a linker take them out of a static library.
 function(ferrin_add_qml_room name uri)
     cmake_parse_arguments(PARSE_ARGV 2 room "" "" "SOURCES;QML_FILES;LIBRARIES")
     ferrin_add_room(${name} SOURCES ${room_SOURCES} LIBRARIES Qt6::Quick ${room_LIBRARIES})

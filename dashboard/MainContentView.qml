@@ -4,6 +4,7 @@
 import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Quick
+import Ferrin.Theme
 
 // The selected section. Another one slides in from the left while the last one leaves to the right,
 // both fading; the settings have no section here.

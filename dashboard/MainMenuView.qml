@@ -22,25 +22,25 @@ FocusScope {
     Component.onCompleted: root.select(Dashboard.selected)
 
     // Marks one item as the selected one and all others as neither selected nor hovered.
-    function select(button: int) {
+    function select(button) {
         const marked = {};
-        for (const item of items)
-            marked[item.button] = Dashboard.ButtonState.None;
+        for (let i = 0; i < items.length; ++i)
+            marked[items[i].button] = Dashboard.ButtonState.None;
         marked[button] = Dashboard.ButtonState.Selected;
         states = marked;
     }
 
-    function setHovered(button: int, hovered: bool) {
+    function setHovered(button, hovered) {
         if (states[button] === Dashboard.ButtonState.Selected)
             return;
         const state = hovered ? Dashboard.ButtonState.Hovered : Dashboard.ButtonState.None;
         states = Object.assign({}, states, { [button]: state });
     }
 
-    function moveFocus(from: Item, step: int) {
-        const next = items[items.indexOf(from) + step];
-        if (next)
-            next.forceActiveFocus(Qt.TabFocusReason);
+    // The sections are numbered in the order of the menu.
+    function moveFocus(from: int, step: int) {
+        if (items[from + step])
+            items[from + step].forceActiveFocus(Qt.TabFocusReason);
     }
 
     component MenuItem: MenuItemView {
@@ -52,9 +52,8 @@ FocusScope {
             Dashboard.selected = button;
         }
 
-        KeyNavigation.priority: KeyNavigation.BeforeItem
-        Keys.onUpPressed: root.moveFocus(this, -1)
-        Keys.onDownPressed: root.moveFocus(this, 1)
+        Keys.onUpPressed: root.moveFocus(button, -1)
+        Keys.onDownPressed: root.moveFocus(button, 1)
     }
 
     Column {

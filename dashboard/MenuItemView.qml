@@ -4,6 +4,7 @@
 import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Quick
+import Ferrin.Theme
 
 // One row of the dashboard's menu: a symbol, a label, and behind them the mark of its state.
 Item {

@@ -4,7 +4,7 @@
 pragma Singleton
 
 import QtQuick
-import Ferrin.Quick
+import Ferrin.Theme
 
 // The named colours, each for a light and a dark appearance. Green means good and red attention,
 // yellow marks cycles, time and power, blue the power source and volts. Every text has a contrast

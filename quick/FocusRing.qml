@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
-import Ferrin.Quick
+import Ferrin.Theme
 
 // Marks what the keyboard acts on: an outline around its parent, shown while the owner has the
 // focus and got it by a key.

@@ -4,7 +4,7 @@
 pragma Singleton
 
 import QtQuick
-import Ferrin.Quick
+import Ferrin.Theme
 
 // The fonts that views use by role, all of the desktop's interface font. Sizes are logical pixels.
 QtObject {

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import Ferrin.Quick
+import Ferrin.Theme
 
 // The frame of a popover in the application's colours.
 PopoverFrame {

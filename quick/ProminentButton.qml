@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
-import Ferrin.Quick
 
 // A push button in the accent colour, for what a view mainly offers.
 Item {

@@ -111,7 +111,7 @@ void PopoverFrame::paintShadow(QPainter &painter) const
     const int darkness = m_isDark ? 150 : 90;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(
-        QPointF(),
+        QRectF(QPointF(), size()),
         softShadow(outline().translated(0, shadowDrop), size().toSize(), shadowSoftness, darkness));
 }
 

@@ -5,7 +5,9 @@
 
 #include <QQuickWindow>
 
-FERRIN_USE_QML_MODULE(Ferrin_Quick, ferrin_quick)
+FERRIN_USE_QML_TYPES(Ferrin_Theme)
+FERRIN_USE_QML_TYPES(Ferrin_Quick)
+FERRIN_USE_QML_FILES(ferrin_quick)
 
 namespace ferrin {
 

@@ -5,15 +5,15 @@
 
 #include <QQmlEngine>
 
-/// Has the types and the compiled files of a QML module linked in. `name` is the module's URI with
-/// underscores, `target` the room's.
-#define FERRIN_USE_QML_MODULE(name, target)                                                        \
+/// Has the C++ types of a QML module linked in; `name` is its URI with underscores.
+#define FERRIN_USE_QML_TYPES(name)                                                                 \
     extern void qml_register_types_##name();                                                       \
+    [[maybe_unused]] static const volatile auto typesOf_##name = &qml_register_types_##name;
+
+/// Has the compiled files of a QML module linked in; `target` is its room's.
+#define FERRIN_USE_QML_FILES(target)                                                               \
     extern int qInitResources_qmlcache_##target();                                                 \
-    [[maybe_unused]] static const bool uses_##name = [] {                                          \
-        const volatile auto types = &qml_register_types_##name;                                    \
-        return types && qInitResources_qmlcache_##target();                                        \
-    }();
+    [[maybe_unused]] static const int filesOf_##target = qInitResources_qmlcache_##target();
 
 namespace ferrin {
 

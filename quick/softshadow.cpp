@@ -60,7 +60,6 @@ QImage softShadow(const QPainterPath &outline, const QSize &size, qreal softness
     const int radius = std::max(1, int(std::lround(softness / reduction / 3)));
     for (int pass = 0; pass < 3; ++pass)
         blur(mask, radius);
-    mask.setDevicePixelRatio(1.0 / reduction);
     return mask;
 }
 

@@ -11,8 +11,9 @@ class QSize;
 
 namespace ferrin {
 
-/// The soft shadow of a filled outline in a picture of this size, both in logical pixels. The
-/// picture is of half the resolution, which a shadow's softness does not show.
+/// The soft shadow of a filled outline within this size, both in logical pixels. The picture has
+/// half as many pixels each way and is to be drawn over the whole size: a shadow's softness hides
+/// that.
 [[nodiscard]] QImage softShadow(const QPainterPath &outline, const QSize &size, qreal softness,
                                 int darkness);
 

@@ -8,7 +8,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-FERRIN_USE_QML_MODULE(Ferrin_Settings, ferrin_settingswindow)
+FERRIN_USE_QML_TYPES(Ferrin_Settings)
+FERRIN_USE_QML_FILES(ferrin_settingswindow)
 
 namespace ferrin {
 

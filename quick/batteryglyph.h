@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+
+namespace ferrin {
+
+/// The lying battery of the menu bar as a picture in a window, in one colour and a fifth larger
+/// than it is there. Decoration: it is nothing to a screen reader.
+class BatteryGlyph : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    /// The charge inside, 0 to 100.
+    Q_PROPERTY(qreal percent READ percent WRITE setPercent NOTIFY percentChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+
+public:
+    explicit BatteryGlyph(QQuickItem *parent = nullptr);
+
+    [[nodiscard]] qreal percent() const noexcept { return m_percent; }
+    void setPercent(qreal percent);
+    [[nodiscard]] QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void percentChanged();
+    void colorChanged();
+
+private:
+    qreal m_percent = 0;
+    QColor m_color = Qt::black;
+};
+
+} // namespace ferrin
