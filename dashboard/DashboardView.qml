@@ -2,16 +2,14 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
-import Ferrin.Quick
 
-// The popover's content: the menu of sections and, beside it, the selected one.
-Rectangle {
+// The popover's content: the menu of sections and, beside it, the selected one. Its window draws the
+// ground, which is round at the corners.
+Item {
     id: root
 
     implicitWidth: row.implicitWidth + 20
     implicitHeight: row.implicitHeight + 20
-    radius: 10
-    color: Colours.dashboardColor
 
     Row {
         id: row

@@ -98,12 +98,13 @@ QPainterPath PopoverFrame::outline(qreal inset) const
 void PopoverFrame::paint(QPainter *painter)
 {
     painter->setRenderHint(QPainter::Antialiasing);
-    if (m_isBlended)
+    if (m_isBlended) {
         paintShadow(*painter);
-    else
-        painter->fillRect(boundingRect(), m_ground);
-    painter->fillPath(outline(), m_ground);
-    paintBorder(*painter);
+        painter->fillPath(outline(), m_ground);
+        paintBorder(*painter);
+    } else {
+        paintCutOut(*painter);
+    }
 }
 
 void PopoverFrame::paintShadow(QPainter &painter) const
@@ -120,14 +121,17 @@ void PopoverFrame::paintBorder(QPainter &painter) const
 {
     constexpr qreal half = 0.5;
     painter.setBrush(Qt::NoBrush);
-    if (m_isBlended) {
-        painter.setPen(QColor(0, 0, 0, m_isDark ? 140 : 52));
-        painter.drawPath(outline(-half));
-    }
-    const QColor blendedWithin(255, 255, 255, m_isDark ? 40 : 160);
-    const QColor aloneWithin = m_isDark ? QColor(0x6b6f76) : QColor(0xa9adb4);
-    painter.setPen(m_isBlended ? blendedWithin : aloneWithin);
+    painter.setPen(QColor(0, 0, 0, m_isDark ? 140 : 52));
+    painter.drawPath(outline(-half));
+    painter.setPen(QColor(255, 255, 255, m_isDark ? 40 : 160));
     painter.drawPath(outline(half));
+}
+
+// The window ends in steps of whole pixels, all of which are the border's.
+void PopoverFrame::paintCutOut(QPainter &painter) const
+{
+    painter.fillRect(boundingRect(), m_isDark ? QColor(0x6b6f76) : QColor(0x9599a0));
+    painter.fillPath(outline(1), m_ground);
 }
 
 } // namespace ferrin

@@ -63,6 +63,7 @@ private:
     [[nodiscard]] QPainterPath outline(qreal inset) const;
     void paintShadow(QPainter &painter) const;
     void paintBorder(QPainter &painter) const;
+    void paintCutOut(QPainter &painter) const;
 
     QColor m_ground;
     bool m_isDark = false;

@@ -3,6 +3,8 @@
 
 #include "platform/linux/statusarea/x11popoverdesktop.h"
 
+#include <QBitmap>
+#include <QPainter>
 #include <QPainterPath>
 #include <QRegion>
 #include <QTransform>
@@ -16,6 +18,16 @@
 namespace ferrin {
 
 namespace {
+
+// Whole pixels: those with their middle inside.
+QRegion pixelsInside(const QPainterPath &path)
+{
+    const QRect bounds = path.boundingRect().toAlignedRect();
+    QBitmap mask(bounds.right() + 1, bounds.bottom() + 1);
+    mask.clear();
+    QPainter(&mask).fillPath(path, Qt::color1);
+    return mask;
+}
 
 std::vector<xcb_rectangle_t> rectangles(const QRegion &region)
 {
@@ -84,8 +96,7 @@ void X11PopoverDesktop::setOutline(QWindow &window, const QPainterPath &outline)
         return;
     }
     const qreal ratio = window.devicePixelRatio();
-    const QPolygonF device = QTransform::fromScale(ratio, ratio).map(outline.toFillPolygon());
-    const auto parts = rectangles(QRegion(device.toPolygon()));
+    const auto parts = rectangles(pixelsInside(QTransform::fromScale(ratio, ratio).map(outline)));
     const auto set = [&](quint8 kind) {
         xcb_shape_rectangles(m_x11.get(), XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED,
                              quint32(window.winId()), 0, 0, quint32(parts.size()), parts.data());
