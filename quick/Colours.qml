@@ -12,7 +12,7 @@ import Ferrin.Theme
 QtObject {
     readonly property color greenIcon: Theme.isDark ? "#4cc38a" : "#1f7a4d"
     readonly property color redIcon: Theme.isDark ? "#ff7b72" : "#c4281f"
-    readonly property color yellowIcon: Theme.isDark ? "#e9b949" : "#8f6200"
+    readonly property color yellowIcon: Theme.isDark ? "#e9b949" : "#a87000"
     readonly property color blueIcon: Theme.isDark ? "#6cb2ff" : "#1b63c6"
     readonly property color greyIcon: Theme.isDark ? "#4a4d52" : "#d4d6da"
     readonly property color unknownColor: Theme.isDark ? "#a5a9b0" : "#62666d"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-import QtQuick
-
-Item {}
+// The charge as a ring.
+PercentGauge {}

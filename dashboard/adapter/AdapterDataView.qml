@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Dashboard
+
+// The card of the adapter's voltage and current.
+AdapterCardView {
+    id: root
+
+    // V and A; undefined while nothing is stored.
+    required property var voltage
+    required property var current
+
+    title: "Volts & amps"
+    isPresent: voltage !== undefined && current !== undefined
+    isEmpty: voltage === 0 || current === 0
+    adapterImageView: image
+    adapterTextView: text
+    adapterValue: isPresent ? `${Adapter.decimalText(voltage)} volts, ${Adapter.decimalText(current)} amps`
+                            : ""
+
+    Component {
+        id: image
+
+        AdapterDataImageView {}
+    }
+
+    Component {
+        id: text
+
+        AdapterDataTextView {
+            voltage: root.voltage ?? 0
+            current: root.current ?? 0
+        }
+    }
+}

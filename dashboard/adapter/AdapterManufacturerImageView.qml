@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Dashboard
+import Ferrin.Quick
+
+// The mark of a maker whose mark we have, a badge for all others.
+Symbol {
+    required property string manufacturer
+    readonly property bool isApple: Adapter.isApple(manufacturer)
+
+    name: isApple ? "apple.logo" : "person.text.rectangle"
+    size: isApple ? 20 : 16
+    color: Colours.cardTitleColor
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+
+// The card of what the adapter calls itself.
+AdapterCardView {
+    id: root
+
+    // Undefined while nothing is stored.
+    required property var name
+
+    title: "Description"
+    isPresent: name !== undefined
+    isEmpty: name === ""
+    adapterImageView: image
+    adapterTextView: text
+    adapterValue: name ?? ""
+
+    Component {
+        id: image
+
+        AdapterNameImageView {}
+    }
+
+    Component {
+        id: text
+
+        GenericTextView { text: root.name ?? "" }
+    }
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+// The adapter's power as a number.
+CardFigures {
+    id: root
+
+    required property real watts
+
+    CardFigure {
+        id: figure
+
+        padding: 2
+        text: root.watts
+    }
+
+    CardUnit {
+        anchors.baseline: figure.baseline
+        text: "watts"
+    }
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+
+// The card of the adapter's power.
+AdapterCardView {
+    id: root
+
+    // W; undefined while nothing is stored.
+    required property var watts
+
+    title: "Power"
+    isPresent: watts !== undefined
+    isEmpty: watts === 0
+    adapterImageView: image
+    adapterTextView: text
+    adapterValue: `${watts} watts`
+
+    Component {
+        id: image
+
+        AdapterWattsImageView {}
+    }
+
+    Component {
+        id: text
+
+        AdapterWattsTextView { watts: root.watts ?? 0 }
+    }
+}

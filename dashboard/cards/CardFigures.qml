@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// A card's figures and their units in a row on the card's ground line, smaller where they would
+// not fit.
+Item {
+    id: root
+
+    default property alias figures: row.data
+    // How far above the ground line the row stands.
+    property real raised: 0
+
+    implicitHeight: 40
+
+    FontMetrics {
+        id: ground
+
+        font: Fonts.cardVerdict
+    }
+
+    Row {
+        id: row
+
+        readonly property real firstBaseline: children.length > 0 ? children[0].baselineOffset : 0
+
+        x: (root.width - width) / 2
+        y: Math.round(root.height - 10 - ground.descent - firstBaseline - root.raised)
+        transformOrigin: Item.Bottom
+        scale: Math.min(1, 90 / implicitWidth)
+    }
+}

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// What stands small beside a number on a card.
+Text {
+    textFormat: Text.PlainText
+    font: Fonts.cardUnit
+    color: Colours.cardTextColor
+    Accessible.ignored: true
+}

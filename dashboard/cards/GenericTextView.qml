@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// A plain card text, such as a name.
+CardTextCommonStyle {
+    color: Colours.cardTextColor
+}

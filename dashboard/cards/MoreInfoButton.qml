@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// The small button of a card that opens its popover and, while that is shown, closes it.
+Item {
+    id: root
+
+    // What the popover is about.
+    required property string title
+    required property bool cardHovered
+    required property bool isPopoverShown
+    // The click under way began on an open popover, which the press may have closed already.
+    required property bool justTapped
+
+    // Whether the pointer was over the card when the popover opened: while it is shown, the card
+    // does not hear of every move.
+    property bool lastCardHover: false
+    // The pointer is over the card, as far as is known.
+    readonly property bool cardHoverEntered: isPopoverShown ? lastCardHover : cardHovered
+
+    signal openRequested
+    signal closeRequested
+
+    implicitWidth: 15
+    implicitHeight: 15
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: `More about ${title}`
+    Accessible.focusable: true
+    Accessible.checkable: true
+    Accessible.checked: isPopoverShown
+    Accessible.onPressAction: root.toggle()
+
+    Keys.onReturnPressed: root.toggle()
+    Keys.onEnterPressed: root.toggle()
+    Keys.onSpacePressed: root.toggle()
+
+    onCardHoveredChanged: {
+        if (!isPopoverShown)
+            lastCardHover = cardHovered;
+    }
+
+    function toggle() {
+        if (isPopoverShown)
+            closeRequested();
+        else
+            openRequested();
+    }
+
+    Rectangle {
+        id: ground
+
+        anchors.fill: parent
+        radius: width / 2
+        color: Colours.menuHovered
+        visible: hover.hovered || root.isPopoverShown
+    }
+
+    FocusRing {
+        anchors.margins: -2
+        radius: ground.radius + 2
+        owner: root
+    }
+
+    Symbol {
+        anchors.fill: parent
+        name: root.isPopoverShown ? "xmark" : "chevron.down"
+        size: 10
+        color: root.cardHoverEntered || root.isPopoverShown ? Colours.cardTextColor
+                                                            : Colours.unknownColor
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    TapHandler {
+        property bool closes: false
+
+        // A small target may be missed by a little.
+        margin: 4
+        onPressedChanged: {
+            if (pressed)
+                closes = root.isPopoverShown || root.justTapped;
+        }
+        onTapped: {
+            if (closes)
+                root.closeRequested();
+            else
+                root.openRequested();
+        }
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// The content of an explanatory popover: a header, a verdict in one text or two, and a summary of
+// what it is about. The texts are markdown.
+Column {
+    id: root
+
+    property string text
+    property string secondText
+    property string summary
+    property string imageName
+    property color imageColor
+
+    Row {
+        height: 36
+
+        Symbol {
+            id: symbol
+
+            width: Math.max(implicitWidth, 16) + 20
+            height: parent.height
+            name: root.imageName
+            size: 16
+            color: root.imageColor
+        }
+
+        Text {
+            height: parent.height
+            text: "YOUR BATTERY"
+            textFormat: Text.PlainText
+            font: Fonts.header
+            color: Colours.cardTextColor
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Colours.greyIcon
+    }
+
+    MoreInfoText { text: root.text }
+
+    MoreInfoText { text: root.secondText }
+
+    MoreInfoText { text: root.summary }
+}

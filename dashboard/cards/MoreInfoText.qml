@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// A paragraph or more of an explanatory popover, in markdown. Nothing at all while it is empty.
+Text {
+    width: parent?.width ?? 0
+    padding: 10
+    textFormat: Text.MarkdownText
+    font: Fonts.regular12
+    color: Colours.cardTextColor
+    wrapMode: Text.Wrap
+    visible: text !== ""
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text.replace(/\*\*/g, "")
+}

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// A percentage as a ring from red to green.
+Gauge {
+    required property real percent
+
+    value: percent / 100
+    colors: [Colours.gaugeRed, Colours.gaugeOrange, Colours.gaugeYellow, Colours.gaugeGreen]
+    trackColor: Colours.gaugeTrack
+}

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// The image of a card whose value is not known.
+Symbol {
+    name: "questionmark.circle"
+    size: 18
+    color: Colours.unknownColor
+}

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// The text of a card whose value is not known.
+CardTextCommonStyle {
+    text: "Unknown"
+    color: Colours.unknownColor
+}

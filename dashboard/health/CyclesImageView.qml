@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// The turning arrow of the cycles card.
+Symbol {
+    name: "arrow.clockwise"
+    size: 21
+    color: Colours.yellowIcon
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Dashboard
+import Ferrin.Quick
+
+// The card of what the battery is doing.
+CardView {
+    id: root
+
+    required property int status
+    readonly property bool isKnown: status !== Battery.ChargingStatus.Unknown
+    readonly property string verdict: verdictOf(status)
+
+    title: "Battery is"
+    value: isKnown ? verdict : "Unknown"
+    imageView: isKnown ? image : unknownImage
+    textView: isKnown ? text : unknownText
+
+    function verdictOf(batteryStatus: int): string {
+        switch (batteryStatus) {
+        case Battery.ChargingStatus.Discharging:
+            return "Discharging";
+        case Battery.ChargingStatus.Charging:
+            return "Charging";
+        case Battery.ChargingStatus.Charged:
+            return "Charged";
+        case Battery.ChargingStatus.FinishingCharge:
+            return "Finishing charge";
+        default:
+            return "";
+        }
+    }
+
+    function symbolOf(batteryStatus: int): string {
+        switch (batteryStatus) {
+        case Battery.ChargingStatus.Discharging:
+            return "arrow.down";
+        case Battery.ChargingStatus.Charging:
+            return "arrow.up";
+        default:
+            return "arrow.up.to.line";
+        }
+    }
+
+    Component {
+        id: image
+
+        Symbol {
+            name: root.symbolOf(root.status)
+            size: 18
+            color: root.status === Battery.ChargingStatus.Discharging ? Colours.redIcon
+                                                                      : Colours.greenIcon
+        }
+    }
+
+    Component {
+        id: text
+
+        GenericTextView { text: root.verdict }
+    }
+}

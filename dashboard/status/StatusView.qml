@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Dashboard
+
+// The status section: the charge, the time left, what the battery does, where the power comes from.
+Column {
+    spacing: 10
+
+    Row {
+        spacing: 10
+
+        ChargeNowView {
+            id: chargeNow
+
+            percent: Battery.charge
+            KeyNavigation.right: timeTo
+            KeyNavigation.down: currently
+        }
+
+        TimeToView {
+            id: timeTo
+
+            chargeStatus: Battery.chargingStatus
+            time: ({ hours: Battery.hours, minutes: Battery.minutes })
+            KeyNavigation.down: powerSource
+        }
+    }
+
+    Row {
+        spacing: 10
+
+        CurrentlyView {
+            id: currently
+
+            status: Battery.chargingStatus
+            KeyNavigation.right: powerSource
+        }
+
+        PowerSourceView {
+            id: powerSource
+
+            powerSource: Battery.powerSource
+            charge: Battery.charge
+        }
+    }
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// What the time on a full battery means.
+Text {
+    width: 200
+    padding: 10
+    text: "Time you can use your laptop approximately if the power adapter is unplugged."
+    textFormat: Text.PlainText
+    font: Fonts.regular12
+    color: Colours.cardTextColor
+    wrapMode: Text.Wrap
+}

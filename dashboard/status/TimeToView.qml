@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Dashboard
+
+// The card of the time to empty or to full. On a full battery it is the time that the charge would
+// last, which takes an explanation.
+CardView {
+    id: root
+
+    required property int chargeStatus
+    // Its hours and minutes, either undefined while unknown.
+    required property var time
+    readonly property bool isKnown: chargeStatus !== Battery.ChargingStatus.Unknown
+        && time.hours !== undefined && time.minutes !== undefined
+    readonly property bool isFull: chargeStatus === Battery.ChargingStatus.Charged
+        || chargeStatus === Battery.ChargingStatus.FinishingCharge
+
+    title: isKnown ? titleOf(chargeStatus) : "Time"
+    value: isKnown ? `${counted(time.hours, "hour")} ${counted(time.minutes, "minute")}`
+                   : "Unknown"
+    imageView: isKnown ? image : unknownImage
+    textView: isKnown ? text : unknownText
+    moreInfoView: isKnown && isFull ? moreInfo : null
+
+    function titleOf(status: int): string {
+        switch (status) {
+        case Battery.ChargingStatus.Discharging:
+            return "Time to empty";
+        case Battery.ChargingStatus.Charging:
+            return "Time to full";
+        default:
+            return "Time available";
+        }
+    }
+
+    function counted(count: int, noun: string): string {
+        return count === 1 ? `1 ${noun}` : `${count} ${noun}s`;
+    }
+
+    Component {
+        id: image
+
+        TimeToImageView {}
+    }
+
+    Component {
+        id: text
+
+        TimeToTextView {
+            hours: root.time.hours ?? 0
+            minutes: root.time.minutes ?? 0
+        }
+    }
+
+    Component {
+        id: moreInfo
+
+        TimeToMoreInfoView {}
+    }
+}
