@@ -25,6 +25,7 @@ function(ferrin_add_qml_room name uri)
     ferrin_add_room(${name} SOURCES ${room_SOURCES} LIBRARIES Qt6::Quick ${room_LIBRARIES})
     string(REPLACE "." "/" path ${uri})
     qt_add_qml_module(ferrin_${name} URI ${uri} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /qt/qml
+        DEPENDENCIES QtQuick
         IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
         OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" QML_FILES ${room_QML_FILES})
     # The generated registration includes headers by their names alone.

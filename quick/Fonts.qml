@@ -16,7 +16,7 @@ QtObject {
     readonly property font regular8: make(8, Font.Normal)
 
     // Of the cards and what they open.
-    readonly property font cardTitle: make(10, Font.DemiBold)
+    readonly property font cardTitle: make(10, Font.DemiBold, 0.5)
     readonly property font cardValue: bold14
     readonly property font cardPairValue: make(12, Font.Bold)
     readonly property font cardUnit: make(9, Font.DemiBold)
@@ -25,9 +25,14 @@ QtObject {
     readonly property font caption: make(9, Font.DemiBold)
 
     // Of the dashboard's menu.
-    readonly property font menuItem: make(11, Font.DemiBold)
+    readonly property font menuItem: make(10, Font.DemiBold)
 
-    function make(pixelSize: int, weight: int): font {
-        return Qt.font({ family: Theme.fontFamily, pixelSize: pixelSize, weight: weight });
+    function make(pixelSize: int, weight: int, letterSpacing: real): font {
+        return Qt.font({
+            family: Theme.fontFamily,
+            pixelSize: pixelSize,
+            weight: weight,
+            letterSpacing: letterSpacing || 0
+        });
     }
 }

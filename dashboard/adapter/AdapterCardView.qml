@@ -14,12 +14,10 @@ CardView {
     required property bool isPresent
     // ...but says nothing.
     required property bool isEmpty
-    required property Component adapterImageView
-    required property Component adapterTextView
-    // Of a value that says something.
-    required property string adapterValue
+    // Both of a value that says something.
+    required property Item valueView
+    required property string valueInWords
 
-    readonly property bool isKnown: powerSource !== Battery.PowerSource.Unknown
     // In place of the value; empty where there is one.
     readonly property string status: {
         if (!isPresent)
@@ -27,13 +25,22 @@ CardView {
         return isEmpty ? "Not available" : "";
     }
 
-    value: !isKnown ? "Unknown" : status || adapterValue
-    imageView: isKnown ? adapterImageView : unknownImage
-    textView: !isKnown ? unknownText : status ? statusText : adapterTextView
+    isKnown: powerSource !== Battery.PowerSource.Unknown
+    value: status || valueInWords
+    textView: Item {
+        GenericTextView {
+            anchors.fill: parent
+            visible: root.status !== ""
+            text: root.status
+        }
 
-    Component {
-        id: statusText
+        Item {
+            id: valueFrame
 
-        GenericTextView { text: root.status }
+            anchors.fill: parent
+            visible: root.status === ""
+        }
     }
+
+    Component.onCompleted: place(valueView, valueFrame)
 }

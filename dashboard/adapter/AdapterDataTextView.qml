@@ -12,8 +12,6 @@ Item {
     required property real voltage
     required property real current
 
-    implicitHeight: 40
-
     CardFigures {
         anchors.fill: parent
         raised: 15

@@ -15,23 +15,11 @@ AdapterCardView {
     title: "Volts & amps"
     isPresent: voltage !== undefined && current !== undefined
     isEmpty: voltage === 0 || current === 0
-    adapterImageView: image
-    adapterTextView: text
-    adapterValue: isPresent ? `${Adapter.decimalText(voltage)} volts, ${Adapter.decimalText(current)} amps`
+    imageView: AdapterDataImageView {}
+    valueView: AdapterDataTextView {
+        voltage: root.voltage ?? 0
+        current: root.current ?? 0
+    }
+    valueInWords: isPresent ? `${Adapter.decimalText(voltage)} volts, ${Adapter.decimalText(current)} amps`
                             : ""
-
-    Component {
-        id: image
-
-        AdapterDataImageView {}
-    }
-
-    Component {
-        id: text
-
-        AdapterDataTextView {
-            voltage: root.voltage ?? 0
-            current: root.current ?? 0
-        }
-    }
 }

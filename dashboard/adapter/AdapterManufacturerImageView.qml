@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Quick
 

@@ -13,19 +13,7 @@ AdapterCardView {
     title: "Manufacturer"
     isPresent: manufacturer !== undefined
     isEmpty: manufacturer === ""
-    adapterImageView: image
-    adapterTextView: text
-    adapterValue: manufacturer ?? ""
-
-    Component {
-        id: image
-
-        AdapterManufacturerImageView { manufacturer: root.manufacturer ?? "" }
-    }
-
-    Component {
-        id: text
-
-        GenericTextView { text: root.manufacturer ?? "" }
-    }
+    imageView: AdapterManufacturerImageView { manufacturer: root.manufacturer ?? "" }
+    valueView: GenericTextView { text: root.manufacturer ?? "" }
+    valueInWords: manufacturer ?? ""
 }

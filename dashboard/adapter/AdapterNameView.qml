@@ -13,19 +13,7 @@ AdapterCardView {
     title: "Description"
     isPresent: name !== undefined
     isEmpty: name === ""
-    adapterImageView: image
-    adapterTextView: text
-    adapterValue: name ?? ""
-
-    Component {
-        id: image
-
-        AdapterNameImageView {}
-    }
-
-    Component {
-        id: text
-
-        GenericTextView { text: root.name ?? "" }
-    }
+    imageView: AdapterNameImageView {}
+    valueView: GenericTextView { text: root.name ?? "" }
+    valueInWords: name ?? ""
 }

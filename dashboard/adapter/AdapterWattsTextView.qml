@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+import QtQuick
+
 // The adapter's power as a number.
 CardFigures {
     id: root

@@ -13,19 +13,7 @@ AdapterCardView {
     title: "Power"
     isPresent: watts !== undefined
     isEmpty: watts === 0
-    adapterImageView: image
-    adapterTextView: text
-    adapterValue: `${watts} watts`
-
-    Component {
-        id: image
-
-        AdapterWattsImageView {}
-    }
-
-    Component {
-        id: text
-
-        AdapterWattsTextView { watts: root.watts ?? 0 }
-    }
+    imageView: AdapterWattsImageView {}
+    valueView: AdapterWattsTextView { watts: root.watts ?? 0 }
+    valueInWords: `${watts} watts`
 }

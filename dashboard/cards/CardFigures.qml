@@ -13,8 +13,6 @@ Item {
     // How far above the ground line the row stands.
     property real raised: 0
 
-    implicitHeight: 40
-
     FontMetrics {
         id: ground
 

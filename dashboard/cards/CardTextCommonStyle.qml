@@ -7,7 +7,6 @@ import Ferrin.Quick
 // The style of a card's text on the card's ground line: two lines of it fit, and where there is
 // more it is smaller instead of being cut.
 Text {
-    height: 40
     leftPadding: 5
     rightPadding: 5
     bottomPadding: 10

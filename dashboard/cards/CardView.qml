@@ -10,12 +10,15 @@ Item {
     id: root
 
     required property string title
-    // The value in words, for those who hear the card.
+    // In words, for those who hear the card.
     required property string value
-    required property Component imageView
-    required property Component textView
-    // Absent: there is nothing more to say.
+    required property Item imageView
+    required property Item textView
+    // Without a value to show the card says so instead.
+    property bool isKnown: true
+    // Absent: there is nothing more to say. Of an unknown value there never is.
     property Component moreInfoView: null
+    readonly property bool hasMoreInfo: isKnown && moreInfoView !== null
 
     // The pointer is over the card.
     property bool cardHovered: false
@@ -26,17 +29,23 @@ Item {
     // A press has just closed the popover; the click that it begins opens nothing.
     property bool justTapped: false
 
-    // What a card shows for a value that is not known.
-    readonly property Component unknownImage: Component { UnknownImageView {} }
-    readonly property Component unknownText: Component { UnknownTextView {} }
-
     implicitWidth: 100
     implicitHeight: 100
     activeFocusOnTab: true
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: `${title}: ${value}`
+    Accessible.name: `${title}: ${isKnown ? value : "Unknown"}`
     Accessible.focusable: true
+
+    Component.onCompleted: {
+        place(imageView, imageFrame);
+        place(textView, textFrame);
+    }
+
+    function place(view: Item, frame: Item) {
+        view.parent = frame;
+        view.anchors.fill = frame;
+    }
 
     function open() {
         afterTap.stop();
@@ -87,24 +96,41 @@ Item {
         Accessible.ignored: true
     }
 
-    Loader {
+    Item {
+        id: imageFrame
+
         x: 30
         y: 33
         width: 40
         height: 28
-        sourceComponent: root.imageView
+        visible: root.isKnown
     }
 
     Loader {
-        anchors.bottom: parent.bottom
+        anchors.fill: imageFrame
+        active: !root.isKnown
+        sourceComponent: UnknownImageView {}
+    }
+
+    Item {
+        id: textFrame
+
+        y: 60
         width: parent.width
-        sourceComponent: root.textView
+        height: 40
+        visible: root.isKnown
+    }
+
+    Loader {
+        anchors.fill: textFrame
+        active: !root.isKnown
+        sourceComponent: UnknownTextView {}
     }
 
     MoreInfoButton {
         x: 80
         y: 40
-        visible: root.moreInfoView !== null
+        visible: root.hasMoreInfo
         title: root.title
         cardHovered: root.cardHovered
         isPopoverShown: root.isPopoverShown
@@ -118,7 +144,7 @@ Item {
     }
 
     TapHandler {
-        enabled: root.moreInfoView !== null
+        enabled: root.hasMoreInfo
         onTapped: root.tap()
     }
 
@@ -137,7 +163,7 @@ Item {
         id: popover
 
         anchor: root
-        content: root.moreInfoView
+        content: root.hasMoreInfo ? root.moreInfoView : null
         onPressedElsewhere: {
             root.justTapped = true;
             afterTap.restart();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+import QtQuick
 import Ferrin.Quick
 
 // The turning arrow of the cycles card.

@@ -10,35 +10,19 @@ CardView {
     // Undefined while unknown.
     required property var currentCycles
     required property var designCycles
-    readonly property bool isKnown: currentCycles !== undefined && designCycles !== undefined
 
     title: "Charge cycles"
-    value: isKnown ? `${currentCycles} of ${designCycles}` : "Unknown"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? text : unknownText
-    moreInfoView: isKnown ? moreInfo : null
-
-    Component {
-        id: image
-
-        CyclesImageView {}
+    isKnown: currentCycles !== undefined && designCycles !== undefined
+    value: `${currentCycles} of ${designCycles}`
+    imageView: CyclesImageView {}
+    textView: CyclesTextView {
+        currentCycles: root.currentCycles ?? 0
+        designCycles: root.designCycles ?? 0
     }
-
-    Component {
-        id: text
-
-        CyclesTextView {
-            currentCycles: root.currentCycles ?? 0
-            designCycles: root.designCycles ?? 0
-        }
-    }
-
-    Component {
-        id: moreInfo
-
-        CyclesToMoreInfoView {
-            currentCycles: root.currentCycles ?? 0
-            designCycles: root.designCycles ?? 0
-        }
+    moreInfoView: CyclesToMoreInfoView {
+        // qmllint disable unqualified
+        currentCycles: root.currentCycles ?? 0
+        designCycles: root.designCycles ?? 0
+        // qmllint enable unqualified
     }
 }

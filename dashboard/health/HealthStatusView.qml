@@ -9,31 +9,15 @@ CardView {
     id: root
 
     required property int status
-    readonly property bool isKnown: status !== Battery.Health.Unknown
-    readonly property string verdict: status === Battery.Health.Normal ? "Normal"
-                                                                       : "Service recommended"
 
     title: "Health"
-    value: isKnown ? verdict : "Unknown"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? text : unknownText
-    moreInfoView: isKnown ? moreInfo : null
-
-    Component {
-        id: image
-
-        HealthStatusImageView { status: root.status }
-    }
-
-    Component {
-        id: text
-
-        HealthStatusTextView { text: root.verdict }
-    }
-
-    Component {
-        id: moreInfo
-
-        HealthStatusMoreInfoView { status: root.status }
+    isKnown: status !== Battery.Health.Unknown
+    value: status === Battery.Health.Normal ? "Normal" : "Service recommended"
+    imageView: HealthStatusImageView { status: root.status }
+    textView: HealthStatusTextView { text: root.value }
+    moreInfoView: HealthStatusMoreInfoView {
+        // qmllint disable unqualified
+        status: root.status
+        // qmllint enable unqualified
     }
 }

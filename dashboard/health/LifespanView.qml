@@ -14,8 +14,6 @@ CardView {
     required property var currentCycles
     required property var designCycles
     required property var maxCapacity
-    readonly property bool isKnown: lifespan !== Battery.Lifespan.Unknown
-        && currentCycles !== undefined && designCycles !== undefined && maxCapacity !== undefined
     readonly property bool isGood: lifespan === Battery.Lifespan.Good
         || lifespan === Battery.Lifespan.ReducedCycles
 
@@ -33,10 +31,19 @@ CardView {
     readonly property color imageColor: isKnown && isGood ? Colours.greenIcon : Colours.redIcon
 
     title: "Lifespan"
-    value: !isKnown ? "Unknown" : isGood ? "Good" : "Reduced"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? verdict : unknownText
-    moreInfoView: isKnown ? moreInfo : null
+    isKnown: lifespan !== Battery.Lifespan.Unknown
+        && currentCycles !== undefined && designCycles !== undefined && maxCapacity !== undefined
+    value: isGood ? "Good" : "Reduced"
+    imageView: LifespanImageView { lifespan: root.lifespan }
+    textView: LifespanTextView { text: root.value }
+    moreInfoView: LifespanMoreInfoView {
+        // qmllint disable unqualified
+        text: root.text
+        summary: root.summary
+        imageName: root.imageName
+        imageColor: root.imageColor
+        // qmllint enable unqualified
+    }
 
     function textOf(verdictOnAge: int): string {
         switch (verdictOnAge) {
@@ -56,29 +63,6 @@ CardView {
                 + "You may want to consider replacing the battery.";
         default:
             return "";
-        }
-    }
-
-    Component {
-        id: image
-
-        LifespanImageView { lifespan: root.lifespan }
-    }
-
-    Component {
-        id: verdict
-
-        LifespanTextView { text: root.value }
-    }
-
-    Component {
-        id: moreInfo
-
-        LifespanMoreInfoView {
-            text: root.text
-            summary: root.summary
-            imageName: root.imageName
-            imageColor: root.imageColor
         }
     }
 }

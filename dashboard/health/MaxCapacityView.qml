@@ -9,29 +9,15 @@ CardView {
 
     // Percent; undefined while unknown.
     required property var percent
-    readonly property bool isKnown: percent !== undefined
 
     title: "Max capacity"
-    value: isKnown ? `${percent}%` : "Unknown"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? text : unknownText
-    moreInfoView: isKnown ? moreInfo : null
-
-    Component {
-        id: image
-
-        MaxCapacityImageView { percent: root.percent ?? 0 }
-    }
-
-    Component {
-        id: text
-
-        MaxCapacityTextView { percent: root.percent ?? 0 }
-    }
-
-    Component {
-        id: moreInfo
-
-        MaxCapacityMoreInfoView { percent: root.percent ?? 0 }
+    isKnown: percent !== undefined
+    value: `${percent}%`
+    imageView: MaxCapacityImageView { percent: root.percent ?? 0 }
+    textView: MaxCapacityTextView { percent: root.percent ?? 0 }
+    moreInfoView: MaxCapacityMoreInfoView {
+        // qmllint disable unqualified
+        percent: root.percent ?? 0
+        // qmllint enable unqualified
     }
 }

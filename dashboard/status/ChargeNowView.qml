@@ -9,22 +9,10 @@ CardView {
 
     // Percent; undefined while unknown.
     required property var percent
-    readonly property bool isKnown: percent !== undefined
 
     title: "Charge now"
-    value: isKnown ? `${percent}%` : "Unknown"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? text : unknownText
-
-    Component {
-        id: image
-
-        ChargeNowImageView { percent: root.percent ?? 0 }
-    }
-
-    Component {
-        id: text
-
-        ChargeNowTextView { percent: root.percent ?? 0 }
-    }
+    isKnown: percent !== undefined
+    value: `${percent}%`
+    imageView: ChargeNowImageView { percent: root.percent ?? 0 }
+    textView: ChargeNowTextView { percent: root.percent ?? 0 }
 }

@@ -10,13 +10,17 @@ CardView {
     id: root
 
     required property int status
-    readonly property bool isKnown: status !== Battery.ChargingStatus.Unknown
-    readonly property string verdict: verdictOf(status)
 
     title: "Battery is"
-    value: isKnown ? verdict : "Unknown"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? text : unknownText
+    isKnown: status !== Battery.ChargingStatus.Unknown
+    value: verdictOf(status)
+    imageView: Symbol {
+        name: root.symbolOf(root.status)
+        size: 18
+        color: root.status === Battery.ChargingStatus.Discharging ? Colours.redIcon
+                                                                  : Colours.greenIcon
+    }
+    textView: GenericTextView { text: root.value }
 
     function verdictOf(batteryStatus: int): string {
         switch (batteryStatus) {
@@ -42,22 +46,5 @@ CardView {
         default:
             return "arrow.up.to.line";
         }
-    }
-
-    Component {
-        id: image
-
-        Symbol {
-            name: root.symbolOf(root.status)
-            size: 18
-            color: root.status === Battery.ChargingStatus.Discharging ? Colours.redIcon
-                                                                      : Colours.greenIcon
-        }
-    }
-
-    Component {
-        id: text
-
-        GenericTextView { text: root.verdict }
     }
 }

@@ -12,37 +12,26 @@ CardView {
     required property int powerSource
     // Of the battery in the picture, percent; undefined while unknown.
     property var charge
-    readonly property bool isKnown: powerSource !== Battery.PowerSource.Unknown
     readonly property bool isExternal: powerSource === Battery.PowerSource.External
-    readonly property string verdict: isExternal ? "AC Power" : "Battery"
 
     title: "Power source"
-    value: isKnown ? verdict : "Unknown"
-    imageView: isKnown ? isExternal ? bolt : glyph : unknownImage
-    textView: isKnown ? text : unknownText
-
-    Component {
-        id: bolt
-
+    isKnown: powerSource !== Battery.PowerSource.Unknown
+    value: isExternal ? "AC Power" : "Battery"
+    imageView: Item {
         Symbol {
+            anchors.fill: parent
+            visible: root.isExternal
             name: "bolt.fill"
             size: 18
             color: Colours.blueIcon
         }
-    }
-
-    Component {
-        id: glyph
 
         BatteryGlyph {
+            anchors.centerIn: parent
+            visible: !root.isExternal
             percent: root.charge ?? 50
             color: Colours.blueIcon
         }
     }
-
-    Component {
-        id: text
-
-        GenericTextView { text: root.verdict }
-    }
+    textView: GenericTextView { text: root.value }
 }

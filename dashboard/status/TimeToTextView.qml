@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+import QtQuick
+
 // Hours and minutes, both always.
 CardFigures {
     id: root

@@ -12,17 +12,19 @@ CardView {
     required property int chargeStatus
     // Its hours and minutes, either undefined while unknown.
     required property var time
-    readonly property bool isKnown: chargeStatus !== Battery.ChargingStatus.Unknown
-        && time.hours !== undefined && time.minutes !== undefined
     readonly property bool isFull: chargeStatus === Battery.ChargingStatus.Charged
         || chargeStatus === Battery.ChargingStatus.FinishingCharge
 
+    isKnown: chargeStatus !== Battery.ChargingStatus.Unknown
+        && time.hours !== undefined && time.minutes !== undefined
     title: isKnown ? titleOf(chargeStatus) : "Time"
-    value: isKnown ? `${counted(time.hours, "hour")} ${counted(time.minutes, "minute")}`
-                   : "Unknown"
-    imageView: isKnown ? image : unknownImage
-    textView: isKnown ? text : unknownText
-    moreInfoView: isKnown && isFull ? moreInfo : null
+    value: `${counted(time.hours, "hour")} ${counted(time.minutes, "minute")}`
+    imageView: TimeToImageView {}
+    textView: TimeToTextView {
+        hours: root.time.hours ?? 0
+        minutes: root.time.minutes ?? 0
+    }
+    moreInfoView: isFull ? moreInfo : null
 
     function titleOf(status: int): string {
         switch (status) {
@@ -37,21 +39,6 @@ CardView {
 
     function counted(count: int, noun: string): string {
         return count === 1 ? `1 ${noun}` : `${count} ${noun}s`;
-    }
-
-    Component {
-        id: image
-
-        TimeToImageView {}
-    }
-
-    Component {
-        id: text
-
-        TimeToTextView {
-            hours: root.time.hours ?? 0
-            minutes: root.time.minutes ?? 0
-        }
     }
 
     Component {
