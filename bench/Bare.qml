@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+
+// As little as a Qt Quick window can show.
+Rectangle {
+    color: "white"
+}

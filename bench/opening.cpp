@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+// From a click to the first frame: `bench_opening COUNT` opens the dashboard again and again and
+// prints one line of milliseconds for each opening. As the program, it knows nothing of Qt Quick
+// before the first.
+
+#include "app/windowsmodule.h"
+#include "core/batterydataprovider.h"
+#include "core/storeddata.h"
+#include "menubar/popoverdesktop.h"
+#include "menubar/textview.h"
+#include "state/shareddefaults.h"
+#include "tests/support/fakepowersources.h"
+#include "tests/support/fakeprocesslauncher.h"
+#include "tests/support/fakeregistry.h"
+#include "tests/support/memorydefaultsstore.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QTimer>
+#include <QWindow>
+
+#include <cstdio>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int dashboardWidth = 370;
+
+class Opener
+{
+public:
+    Opener()
+    {
+        setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
+        BatteryDataProvider::setPlatform({ .registry = m_registry,
+                                           .powerSources = m_powerSources,
+                                           .processLauncher = m_launcher,
+                                           .storedData = &StoredData::shared });
+        // What the item has done long before the first click.
+        [[maybe_unused]] auto &provider = BatteryDataProvider::shared();
+        [[maybe_unused]] const QSizeF text = TextView { .text = u"37%"_s }.idealSize({});
+    }
+    void open()
+    {
+        if (!m_windows) {
+            m_windows = loadWindows(m_desktop);
+            m_windows->dashboardClosed = m_windows->dashboardLostFocus = [] {};
+        }
+        m_windows->showDashboard({ .item = QRect(400, 0, 24, 24) });
+    }
+    void close() { m_windows->hideDashboard(); }
+
+private:
+    test::FakeRegistry m_registry;
+    test::FakePowerSources m_powerSources;
+    test::FakeProcessLauncher m_launcher;
+    PopoverDesktop m_desktop;
+    std::unique_ptr<Windows> m_windows;
+};
+
+double millisecondsToFirstFrame(Opener &opener)
+{
+    QElapsedTimer timer;
+    timer.start();
+    opener.open();
+    QEventLoop loop;
+    for (QWindow *window : QGuiApplication::topLevelWindows()) {
+        if (window->isVisible() && window->width() >= dashboardWidth)
+            QObject::connect(window, SIGNAL(frameSwapped()), &loop, SLOT(quit()));
+    }
+    loop.exec();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+/// Lets the closed window go before the next one comes.
+void settle()
+{
+    QEventLoop loop;
+    QTimer::singleShot(300, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QGuiApplication::setDesktopSettingsAware(false);
+    const QGuiApplication app(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    Opener opener;
+    for (int i = 0; i < app.arguments().value(1).toInt(); ++i) {
+        std::printf("%.2f\n", millisecondsToFirstFrame(opener));
+        opener.close();
+        settle();
+    }
+    return EXIT_SUCCESS;
+}
