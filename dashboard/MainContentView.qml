@@ -7,7 +7,8 @@ import Ferrin.Quick
 import Ferrin.Theme
 
 // The selected section. Another one slides in from the left while the last one leaves to the right,
-// both fading; the settings have no section here.
+// both fading; the settings have no section here. A section is named by its file, so that only what
+// is shown is loaded.
 Item {
     id: root
 
@@ -18,27 +19,27 @@ Item {
     clip: true
 
     onSectionChanged: root.turn()
-    Component.onCompleted: front.sourceComponent = root.viewOf(section)
+    Component.onCompleted: front.source = root.viewOf(section)
 
-    function viewOf(button: int): Component {
+    function viewOf(button: int): string {
         switch (button) {
         case Dashboard.MenuButton.Status:
-            return status;
+            return "StatusView.qml";
         case Dashboard.MenuButton.Health:
-            return health;
+            return "HealthView.qml";
         case Dashboard.MenuButton.Adapter:
-            return adapter;
+            return "PowerAdapterView.qml";
         default:
-            return null;
+            return "";
         }
     }
 
     function turn() {
         slide.complete();
-        back.sourceComponent = front.sourceComponent;
-        front.sourceComponent = viewOf(section);
+        back.source = front.source;
+        front.source = viewOf(section);
         if (Theme.reducesMotion)
-            back.sourceComponent = null;
+            back.source = "";
         else
             slide.start();
     }
@@ -66,7 +67,7 @@ Item {
         Slide { target: back; from: 0; to: root.width }
         Fade { target: back; from: 1; to: 0 }
 
-        onFinished: back.sourceComponent = null
+        onFinished: back.source = ""
     }
 
     component Slide: NumberAnimation {
@@ -79,23 +80,5 @@ Item {
         property: "opacity"
         duration: 500
         easing.type: Easing.InQuad
-    }
-
-    Component {
-        id: status
-
-        StatusView {}
-    }
-
-    Component {
-        id: health
-
-        HealthView {}
-    }
-
-    Component {
-        id: adapter
-
-        PowerAdapterView {}
     }
 }

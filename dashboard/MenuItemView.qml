@@ -79,7 +79,7 @@ Item {
     Symbol {
         id: symbol
 
-        anchors { left: parent.left; leftMargin: 8 }
+        anchors { left: parent.left; leftMargin: 6 }
         width: 18
         height: parent.height
         name: root.image
@@ -91,9 +91,9 @@ Item {
     Text {
         anchors {
             left: symbol.right
-            leftMargin: 6
+            leftMargin: 4
             right: parent.right
-            rightMargin: 4
+            rightMargin: 2
             verticalCenter: parent.verticalCenter
         }
         text: root.text
