@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "quick/quickengine.h"
+#include "tests/quick/namedcolours.h"
+#include "tests/support/chosenappearance.h"
+
+#include <QColor>
+#include <QTest>
+
+#include <cmath>
+
+using namespace ferrin;
+using namespace ferrin::test;
+
+namespace {
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminanceOf(const QColor &colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+/// As the accessibility guidelines for web content compute it, 1 to 21.
+double contrast(const QColor &one, const QColor &other)
+{
+    const double a = luminanceOf(one) + 0.05;
+    const double b = luminanceOf(other) + 0.05;
+    return a > b ? a / b : b / a;
+}
+
+QColor over(const QColor &ground, const QColor &colour, double opacity)
+{
+    const auto mixed = [opacity](float top, float below) {
+        return float(opacity * top + (1 - opacity) * below);
+    };
+    return QColor::fromRgbF(mixed(colour.redF(), ground.redF()),
+                            mixed(colour.greenF(), ground.greenF()),
+                            mixed(colour.blueF(), ground.blueF()));
+}
+
+} // namespace
+
+/// Every pairing of the dashboard, in both appearances.
+class ColoursTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void measuresContrastAsAgreed();
+    void textsReadOnTheirGrounds_data();
+    void textsReadOnTheirGrounds();
+    void symbolsStandOutFromTheirGrounds_data();
+    void symbolsStandOutFromTheirGrounds();
+    void menuSymbolsStandOutAlthoughTheyAreFaint_data();
+    void menuSymbolsStandOutAlthoughTheyAreFaint();
+    void gaugesStandOutFromTheirTracks_data();
+    void gaugesStandOutFromTheirTracks();
+    void cardsStandOutFromTheDashboard_data();
+    void cardsStandOutFromTheDashboard();
+    void everyNameHasAColour();
+    void followTheAppearance();
+
+private:
+    [[nodiscard]] QColor named(const QByteArray &name)
+    {
+        const QColor colour = namedColour(m_engine, name.constData());
+        if (!colour.isValid())
+            qWarning("There is no colour %s.", name.constData());
+        return colour;
+    }
+
+    void addPairs(const QList<std::pair<QByteArray, QByteArray>> &pairs)
+    {
+        QTest::addColumn<Appearance>("appearance");
+        QTest::addColumn<QByteArray>("top");
+        QTest::addColumn<QByteArray>("ground");
+        for (const auto &[top, ground] : pairs) {
+            QTest::addRow("light: %s on %s", top.constData(), ground.constData())
+                << Appearance::light << top << ground;
+            QTest::addRow("dark: %s on %s", top.constData(), ground.constData())
+                << Appearance::dark << top << ground;
+        }
+    }
+
+    ChosenAppearance m_appearance;
+    QuickEngine m_engine;
+};
+
+void ColoursTest::measuresContrastAsAgreed()
+{
+    QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
+    QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
+    QVERIFY(std::abs(contrast(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.01);
+}
+
+void ColoursTest::textsReadOnTheirGrounds_data()
+{
+    addPairs({ { "cardTitleColor", "cardColor" },
+               { "cardTextColor", "cardColor" },
+               { "unknownColor", "cardColor" },
+               { "cardTextColor", "dashboardColor" },
+               { "primaryText", "dashboardColor" },
+               { "menuText", "dashboardColor" },
+               { "menuText", "menuHovered" },
+               { "menuText", "menuSelected" },
+               { "accentText", "accent" } });
+}
+
+void ColoursTest::textsReadOnTheirGrounds()
+{
+    QFETCH(Appearance, appearance);
+    QFETCH(QByteArray, top);
+    QFETCH(QByteArray, ground);
+    m_appearance.setAppearance(appearance);
+    const double ratio = contrast(named(top), named(ground));
+    QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
+}
+
+void ColoursTest::symbolsStandOutFromTheirGrounds_data()
+{
+    addPairs({ { "greenIcon", "cardColor" },
+               { "redIcon", "cardColor" },
+               { "yellowIcon", "cardColor" },
+               { "blueIcon", "cardColor" },
+               { "unknownColor", "cardColor" },
+               { "cardTitleColor", "cardColor" },
+               { "greenIcon", "dashboardColor" },
+               { "redIcon", "dashboardColor" },
+               { "yellowIcon", "dashboardColor" },
+               { "cardTextColor", "menuHovered" },
+               { "unknownColor", "menuHovered" },
+               { "focusRing", "cardColor" },
+               { "focusRing", "dashboardColor" },
+               { "focusRing", "menuSelected" } });
+}
+
+void ColoursTest::symbolsStandOutFromTheirGrounds()
+{
+    QFETCH(Appearance, appearance);
+    QFETCH(QByteArray, top);
+    QFETCH(QByteArray, ground);
+    m_appearance.setAppearance(appearance);
+    const double ratio = contrast(named(top), named(ground));
+    QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
+}
+
+void ColoursTest::menuSymbolsStandOutAlthoughTheyAreFaint_data()
+{
+    addPairs({ { "menuText", "dashboardColor" }, { "menuText", "menuHovered" } });
+}
+
+void ColoursTest::menuSymbolsStandOutAlthoughTheyAreFaint()
+{
+    QFETCH(Appearance, appearance);
+    QFETCH(QByteArray, top);
+    QFETCH(QByteArray, ground);
+    m_appearance.setAppearance(appearance);
+    const double ratio = contrast(over(named(ground), named(top), 0.7), named(ground));
+    QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
+}
+
+void ColoursTest::gaugesStandOutFromTheirTracks_data()
+{
+    addPairs({ { "gaugeRed", "gaugeTrack" },
+               { "gaugeOrange", "gaugeTrack" },
+               { "gaugeGreen", "gaugeTrack" } });
+}
+
+void ColoursTest::gaugesStandOutFromTheirTracks()
+{
+    QFETCH(Appearance, appearance);
+    QFETCH(QByteArray, top);
+    QFETCH(QByteArray, ground);
+    m_appearance.setAppearance(appearance);
+    const double ratio = contrast(named(top), named(ground));
+    QVERIFY2(ratio >= 2, qPrintable(QString::number(ratio)));
+}
+
+void ColoursTest::cardsStandOutFromTheDashboard_data()
+{
+    addPairs({ { "greyIcon", "cardColor" }, { "greyIcon", "dashboardColor" } });
+}
+
+void ColoursTest::cardsStandOutFromTheDashboard()
+{
+    QFETCH(Appearance, appearance);
+    QFETCH(QByteArray, top);
+    QFETCH(QByteArray, ground);
+    m_appearance.setAppearance(appearance);
+    const double ratio = contrast(named(top), named(ground));
+    QVERIFY2(ratio >= 1.25, qPrintable(QString::number(ratio)));
+}
+
+void ColoursTest::everyNameHasAColour()
+{
+    for (const char *name : { "greenIcon", "redIcon", "yellowIcon", "blueIcon", "greyIcon",
+                              "unknownColor", "cardColor", "cardTitleColor", "cardTextColor",
+                              "dashboardColor", "menuSelected", "menuHovered" }) {
+        const QColor colour = named(name);
+        QVERIFY2(colour.isValid() && colour.alpha() == 255, name);
+    }
+}
+
+void ColoursTest::followTheAppearance()
+{
+    m_appearance.setAppearance(Appearance::light);
+    const QColor light = named("cardColor");
+    m_appearance.setAppearance(Appearance::dark);
+    QVERIFY(luminanceOf(named("cardColor")) < luminanceOf(light));
+    m_appearance.setAppearance(Appearance::light);
+    QCOMPARE(named("cardColor"), light);
+}
+
+QTEST_MAIN(ColoursTest)
+#include "test_colours.moc"

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "state/applicationappearance.h"
+
+namespace ferrin::test {
+
+/// An appearance that the test decides; light at first.
+class ChosenAppearance final : public ApplicationAppearance
+{
+public:
+    ChosenAppearance() { m_fontFamily = QStringLiteral("DejaVu Sans"); }
+
+    void setAppearance(std::optional<Appearance> appearance) override
+    {
+        m_isDark = appearance == Appearance::dark;
+    }
+    void setFontFamily(const QString &family) { m_fontFamily = family; }
+    void setReducesMotion(bool reduces) { m_reducesMotion = reduces; }
+};
+
+} // namespace ferrin::test
