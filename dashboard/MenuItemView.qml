@@ -107,6 +107,8 @@ Item {
     HoverHandler {
         id: hover
 
+        objectName: "hover"
+
         onHoveredChanged: root.hovered(hovered)
     }
 

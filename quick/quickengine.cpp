@@ -16,7 +16,8 @@ QuickEngine::QuickEngine(QObject *parent)
 {
     // No graphics card wakes up for a battery tool: a first frame in a fifth of the time, and a third
     // of the memory.
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    if (QQuickWindow::graphicsApi() != QSGRendererInterface::Software)
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     addImportPath(QStringLiteral("qrc:/qt/qml"));
 }
 
