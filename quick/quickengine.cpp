@@ -16,7 +16,7 @@ QuickEngine::QuickEngine(QObject *parent)
 {
     // No graphics card wakes up for a battery tool: a first frame in a fifth of the time, and a third
     // of the memory.
-    if (QQuickWindow::graphicsApi() != QSGRendererInterface::Software)
+    if (QQuickWindow::sceneGraphBackend() != u"software")
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     addImportPath(QStringLiteral("qrc:/qt/qml"));
 }

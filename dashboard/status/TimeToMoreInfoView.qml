@@ -13,4 +13,7 @@ Text {
     font: Fonts.regular12
     color: Colours.cardTextColor
     wrapMode: Text.Wrap
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

@@ -37,7 +37,7 @@ CardView {
         }
     }
 
-    function counted(count: int, noun: string): string {
+    function counted(count: real, noun: string): string {
         return count === 1 ? `1 ${noun}` : `${count} ${noun}s`;
     }
 
