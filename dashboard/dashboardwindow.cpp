@@ -68,11 +68,9 @@ void DashboardWindow::placeAtItem()
 
 bool DashboardWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::Close) {
+    // Not refused: a window that does not let itself be closed keeps the program from ending.
+    if (event->type() == QEvent::Close)
         Q_EMIT dismissed();
-        event->ignore();
-        return true;
-    }
     return FramedWindow::event(event);
 }
 
