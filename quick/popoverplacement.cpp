@@ -90,6 +90,14 @@ QRect cutAt(QRect room, const QRect &thing, PopoverSide side)
     return room;
 }
 
+// The room without the gap at its edges, if that is enough.
+QRect offTheEdges(const QRect &room, const QSize &size)
+{
+    const QRect inner = room.adjusted(popoverGap, popoverGap, -popoverGap, -popoverGap);
+    const bool fits = inner.width() >= size.width() && inner.height() >= size.height();
+    return fits ? inner : room;
+}
+
 PopoverSide sideOfPanel(const QRect &panel, const QRect &screen)
 {
     const QPoint middle = screen.center();
@@ -148,14 +156,10 @@ PopoverSpot spotAtItem(const ItemPlace &place, const QSize &size, const ScreenAr
     QRect room = cutAt(screen.available, panel, side);
     if (room.width() < size.width() || room.height() < size.height())
         room = screen.available;
-    const QMargins gaps(popoverGap, popoverGap, popoverGap, popoverGap);
-    const QRect inner = room.marginsRemoved(gaps);
-    const bool fits = inner.width() >= size.width() && inner.height() >= size.height();
-
     const QRect along = isBesides(side)
         ? QRect(panel.x(), place.item.y(), panel.width(), place.item.height())
         : QRect(place.item.x(), panel.y(), place.item.width(), panel.height());
-    const QRect frame = movedInside(beside(along, size, side, popoverGap), fits ? inner : room);
+    const QRect frame = movedInside(beside(along, size, side, popoverGap), offTheEdges(room, size));
     return {
         .frame = frame, .bounds = room, .side = side, .arrow = arrowAlong(frame, place.item, side)
     };
@@ -172,7 +176,8 @@ PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &availa
     const auto *fitting = std::ranges::find_if(sides, [&](auto side) { return spare(side) >= 0; });
     const PopoverSide side
         = fitting != sides.end() ? *fitting : *std::ranges::max_element(sides, {}, spare);
-    const QRect frame = movedInside(beside(part, size, side, partGap), available);
+    const QRect frame
+        = movedInside(beside(part, size, side, partGap), offTheEdges(available, size));
     return {
         .frame = frame, .bounds = available, .side = side, .arrow = arrowAlong(frame, part, side)
     };

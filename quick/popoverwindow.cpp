@@ -63,7 +63,10 @@ void PopoverWindow::open()
     if (m_window || !m_content || !engine || !parent || !parent->isVisible())
         return;
     auto window = std::make_unique<FramedWindow>(desktopOf(*parent), *engine);
-    window->setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+    // On X11 a tool tip has all of these; were they not said, its window would be made anew when it
+    // is shown, and lose its outline.
+    window->setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+                     | Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
     window->setTransientParent(parent);
     window->setScreen(parent->screen());
     if (!fill(*window))

@@ -41,6 +41,9 @@ public:
                          [this] { dashboardClosed(); });
         QObject::connect(m_dashboard.get(), &DashboardWindow::focusLost, &m_engine,
                          [this] { dashboardLostFocus(); });
+        // The report tool takes its time, and whoever opened the dashboard sees it first.
+        QObject::connect(m_dashboard.get(), &DashboardWindow::firstFrameShown,
+                         &BatteryDataProvider::shared(), &BatteryDataProvider::updateStaticData);
         m_dashboard->openAt(place);
     }
 
