@@ -6,6 +6,7 @@ import os
 import unittest
 
 from harness import desktop
+from harness.dashboard import Dashboard
 from harness.program import Program, store_settings
 from virtuallaptop import VirtualLaptop
 
@@ -32,6 +33,23 @@ class OnADesktop(unittest.TestCase):
 
     def start(self, **environment):
         return Program(self.session, self.laptop, environment)
+
+
+class WithADashboard(OnADesktop):
+    """The program runs, and its dashboard has not been opened yet."""
+
+    says = AT_START
+
+    def setUp(self):
+        super().setUp()
+        self.prepare()
+        self.dashboard = self.start_dashboard()
+
+    def prepare(self):
+        """What happens to the laptop before the program starts."""
+
+    def start_dashboard(self):
+        return self.enterContext(Dashboard(self.session, self.laptop, self.says))
 
 
 def main():

@@ -178,6 +178,10 @@ class Screen(Session):
         """A click of the real pointer."""
         self._on_screen("xdotool", "mousemove", *map(str, place), "click", str(button))
 
+    def press(self, *keys):
+        """Presses of real keys, one after the other."""
+        self._on_screen("xdotool", "key", *keys)
+
     def item_box(self, before):
         """Where the item stands, given a picture of the screen without it."""
         return before.difference(self.picture())

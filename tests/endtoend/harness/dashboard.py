@@ -1,0 +1,159 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""The dashboard as people meet it: opened and worked with a real pointer and real keys, and read
+as a screen reader reads it."""
+
+import re
+
+from harness.accessible import ENVIRONMENT, ScreenReader
+from harness.processes import a_moment, eventually
+from harness.program import Program
+
+SECTIONS = ["STATUS", "HEALTH", "POWER ADAPTER", "SETTINGS"]
+TAB = "page tab"
+CARD = "label"
+BUTTON = "push button"
+
+
+class Dashboard:
+    """The program on a desktop, with its item in the panel and its dashboard closed."""
+
+    def __init__(self, session, laptop, said, environment=None):
+        self._session = session
+        before = session.picture()
+        self.program = Program(session, laptop, ENVIRONMENT | (environment or {}))
+        self.program.item()
+        self.program.says(said)
+        self.reader = ScreenReader(session, self.program.pid)
+        self.item = eventually(lambda: session.item_box(before), "the item is on the screen").centre
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.reader.close()
+
+    # The windows.
+
+    def windows(self):
+        """All visible windows of the program."""
+        return self._session.windows_of(self.program.pid)
+
+    def root(self):
+        """The dashboard as it is read out, or None while it is closed."""
+        return next((window for window in self._frames() if window.find("STATUS", TAB)), None)
+
+    def settings_window(self):
+        return next((window for window in self._frames() if window.name == "Ferrin Settings"), None)
+
+    def popover(self):
+        """The explanation that is open beside the dashboard, or None."""
+        return next((window for window in self._frames()
+                     if window.name != "Ferrin Settings" and not window.find("STATUS", TAB)), None)
+
+    def open(self):
+        """Opens it with a click on the item."""
+        self._session.click(self.item)
+        eventually(lambda: self.root() and self.windows(), "the dashboard has opened")
+
+    def close(self):
+        """Closes it with another click on the item."""
+        a_moment()
+        self._session.click(self.item)
+        self.has_closed()
+        a_moment()
+
+    def has_closed(self):
+        eventually(lambda: not self.root() and not self.windows(), "the dashboard has closed")
+
+    # What is in it.
+
+    def find(self, pattern, role=None):
+        """Waits for an object of the dashboard to be there, and to stay where it is."""
+        last = None
+
+        def at_rest():
+            nonlocal last
+            root = self.root()
+            found, last = last, root and root.find(pattern, role)
+            return last and found and found.box == last.box
+        try:
+            eventually(at_rest, pattern)
+        except AssertionError as error:
+            raise AssertionError(f"no {pattern!r} at rest among {self.told()}") from error
+        return last
+
+    def told(self):
+        """All names that the dashboard tells, in order."""
+        root = self.root()
+        return [each.name for each in root.everything()] if root else []
+
+    def cards(self):
+        """The cards' values by their titles."""
+        root = self.root()
+        names = root.named(CARD) if root else []
+        return dict(name.split(": ", 1) for name in names if ": " in name)
+
+    def shows(self, **expected):
+        """Waits until the cards are exactly these; the values are patterns, and an underscore in
+        a title stands for a space."""
+        expected = {title.replace("_", " "): value for title, value in expected.items()}
+        self.shows_all(expected)
+
+    def shows_all(self, expected):
+        cards = {}
+
+        def matches():
+            nonlocal cards
+            cards = self.cards()
+            return cards.keys() == expected.keys() and all(
+                re.fullmatch(pattern, cards[title]) for title, pattern in expected.items())
+        try:
+            eventually(matches, str(expected))
+        except AssertionError as error:
+            raise AssertionError(f"the cards are {cards}, not {expected}; the program logged:\n"
+                                 + self.program.log()) from error
+
+    def buttons(self):
+        """The names of the buttons that can be seen."""
+        root = self.root()
+        return [each.name for each in root.everything()
+                if each.role == BUTTON and "showing" in each.states] if root else []
+
+    def selected(self):
+        """The sections that are told as selected."""
+        root = self.root()
+        return [each.name for each in root.everything()
+                if each.role == TAB and "selected" in each.states] if root else []
+
+    def focused(self):
+        """The name of what the keyboard acts on, or None."""
+        root = self.root()
+        return next((each.name for each in root.everything() if "focused" in each.states
+                     and each.role != "frame"), None) if root else None
+
+    # What is done to it.
+
+    def click(self, pattern, role=None):
+        self._session.click(self.find(pattern, role).box.centre)
+
+    def select(self, section):
+        """Shows a section by a click on its entry."""
+        self.click(section, TAB)
+        eventually(lambda: self.selected() == [section], f"{section} is selected")
+
+    def explain(self, title):
+        """Opens a card's explanation with a click on its button, and returns all that it says."""
+        self.click(f"More about {title}")
+        return eventually(self.explanation, f"the explanation of {title} is open")
+
+    def explanation(self):
+        popover = self.popover()
+        return [each.name for each in popover.everything() if each.role == CARD] if popover else []
+
+    def press(self, *keys):
+        self._session.press(*keys)
+
+    def _frames(self):
+        root = self.reader.read()
+        return [window for window in root.children if "showing" in window.states] if root else []
