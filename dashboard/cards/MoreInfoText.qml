@@ -15,5 +15,6 @@ Text {
     visible: text !== ""
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: text.replace(/\*\*/g, "")
+    // Without the markers of bold spans; one that has no partner is shown, and read, as typed.
+    Accessible.name: text.replace(/\*\*([^*]+)\*\*/g, "$1")
 }
