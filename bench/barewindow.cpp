@@ -1,41 +1,55 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// The floor of opening a window: `bench_barewindow COUNT` opens a bare Qt Quick window of the
-// dashboard's size, with an engine of its own as the toolkit makes it, and prints one line of
-// milliseconds for each opening.
+// The floor of opening a window: in the place of the dashboard a bare Qt Quick window of its size,
+// made as the toolkit's own examples make one.
 
-#include <QElapsedTimer>
-#include <QEventLoop>
-#include <QGuiApplication>
+#include "app/windows.h"
+
+#include <QObject>
 #include <QQuickView>
-#include <QTimer>
 
-#include <cstdio>
+namespace ferrin {
 
-using namespace Qt::StringLiterals;
+namespace {
 
-int main(int argc, char **argv)
+class BareWindows final : public Windows
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QGuiApplication::setDesktopSettingsAware(false);
-    const QGuiApplication app(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+public:
+    BareWindows() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
 
-    for (int i = 0; i < app.arguments().value(1).toInt(); ++i) {
-        QEventLoop loop;
-        QElapsedTimer timer;
-        timer.start();
-        {
-            QQuickView view(QUrl(u"qrc:/bench/Bare.qml"_s));
-            view.resize(370, 230);
-            QObject::connect(&view, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
-            view.show();
-            loop.exec();
-            std::printf("%.2f\n", double(timer.nsecsElapsed()) / 1e6);
-        }
-        QTimer::singleShot(300, &loop, &QEventLoop::quit);
-        loop.exec();
+    void showDashboard(const ItemPlace &) override
+    {
+        m_view = std::make_unique<QQuickView>(QUrl(QStringLiteral("qrc:/bench/Bare.qml")));
+        m_view->resize(414, 274);
+        m_view->show();
     }
-    return EXIT_SUCCESS;
-}
+    void hideDashboard() override { m_view.release()->deleteLater(); }
+    [[nodiscard]] bool isOfDashboard(const QWindow &window) const override
+    {
+        return &window == m_view.get();
+    }
+    void openWindow(const QString &) override { }
+
+private:
+    std::unique_ptr<QQuickView> m_view;
+};
+
+} // namespace
+
+class BareWindowsPlugin final : public QObject, public WindowsFactory
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID FerrinWindowsFactory_iid)
+    Q_INTERFACES(ferrin::WindowsFactory)
+
+public:
+    [[nodiscard]] std::unique_ptr<Windows> create(PopoverDesktop &) override
+    {
+        return std::make_unique<BareWindows>();
+    }
+};
+
+} // namespace ferrin
+
+#include "barewindow.moc"

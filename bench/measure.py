@@ -30,10 +30,15 @@ TREE = pathlib.Path(sys.argv[1]).resolve()
 FERRIN = TREE / "bin" / "ferrin"
 REFRESH = TREE / "bench" / "bench_refresh"
 BARE_ITEM = TREE / "bench" / "bench_bareitem"
+OPENING = TREE / "bench" / "bench_opening"
+OUR_WINDOWS = TREE / "libexec" / "ferrin" / "ferrin-windows.so"
+BARE_WINDOWS = TREE / "bench" / "bench_barewindow.so"
 
 SETTLING_SECONDS = 8
 WATCHED_SECONDS = 60
 STARTS = 15
+FIRST_OPENINGS = 9
+LATER_OPENINGS = 20
 REFRESHES = 1000
 CHANGING_REFRESHES = 100_000
 
@@ -159,6 +164,23 @@ def starting():
         f"{bare:.0f} ms a bare `QGuiApplication`", verdict(ours / bare, 1.5))
 
 
+def opening():
+    first = {module: [] for module in (OUR_WINDOWS, BARE_WINDOWS)}
+    later = {module: [] for module in first}
+    with desktop.BareScreen() as session:
+        for _ in range(FIRST_OPENINGS):
+            for module in first:
+                told = session.start([str(OPENING), str(module), str(1 + LATER_OPENINGS)],
+                                     stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+                milliseconds = [float(line) for line in told.communicate()[0].split()]
+                first[module].append(milliseconds[0])
+                later[module] += milliseconds[1:]
+    for name, taken, limit in (("first", first, 3), ("a later", later, 1.5)):
+        ours, bare = (statistics.median(milliseconds) for milliseconds in taken.values())
+        row(f"From the click to the first frame, {name} opening", f"{ours:.1f} ms",
+            f"{bare:.1f} ms a bare `QQuickView`", verdict(ours / bare, limit))
+
+
 def main():
     os.environ["FERRIN_BINARY"] = str(FERRIN)
     print("| what | Ferrin | beside | ratio |\n|---|---:|---:|---|")
@@ -167,6 +189,7 @@ def main():
     memory(desktop.XfceScreen, "in the Xfce panel", {"XDG_CURRENT_DESKTOP": "XFCE"})
     memory(desktop.BareScreen, "without any panel", {"XDG_CURRENT_DESKTOP": "GNOME"})
     starting()
+    opening()
     wake_ups()
 
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// From a click to the first frame: `bench_opening COUNT` opens the dashboard again and again and
-// prints one line of milliseconds for each opening. As the program, it knows nothing of Qt Quick
-// before the first.
+// From a click to the first frame: `bench_opening MODULE COUNT` opens the dashboard of a module of
+// windows again and again and prints one line of milliseconds for each opening. As the program, it
+// knows nothing of Qt Quick before the first.
 
-#include "app/windowsmodule.h"
+#include "app/windows.h"
 #include "core/batterydataprovider.h"
 #include "core/storeddata.h"
 #include "menubar/popoverdesktop.h"
 #include "menubar/textview.h"
+#include "state/applicationappearance.h"
 #include "state/shareddefaults.h"
 #include "tests/support/fakepowersources.h"
 #include "tests/support/fakeprocesslauncher.h"
@@ -19,10 +20,12 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QPluginLoader>
 #include <QTimer>
 #include <QWindow>
 
 #include <cstdio>
+#include <utility>
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -31,10 +34,18 @@ namespace {
 
 constexpr int dashboardWidth = 370;
 
+/// The desktop's font, as the item has it.
+struct DesktopAppearance final : ApplicationAppearance
+{
+    DesktopAppearance() { m_fontFamily = u"DejaVu Sans"_s; }
+    void setAppearance(std::optional<Appearance>) override { }
+};
+
 class Opener
 {
 public:
-    Opener()
+    explicit Opener(QString module)
+        : m_module(std::move(module))
     {
         setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
         BatteryDataProvider::setPlatform({ .registry = m_registry,
@@ -43,12 +54,17 @@ public:
                                            .storedData = &StoredData::shared });
         // What the item has done long before the first click.
         [[maybe_unused]] auto &provider = BatteryDataProvider::shared();
-        [[maybe_unused]] const QSizeF text = TextView { .text = u"37%"_s }.idealSize({});
+        [[maybe_unused]] const QSizeF text = TextView { .text = u"37%"_s }.idealSize(
+            { .text = {}, .red = {}, .fontFamily = m_appearance.fontFamily() });
     }
     void open()
     {
         if (!m_windows) {
-            m_windows = loadWindows(m_desktop);
+            QPluginLoader loader(m_module);
+            auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
+            if (!factory)
+                qFatal("%s", qUtf8Printable(loader.errorString()));
+            m_windows = factory->create(m_desktop);
             m_windows->dashboardClosed = m_windows->dashboardLostFocus = [] {};
         }
         m_windows->showDashboard({ .item = QRect(400, 0, 24, 24) });
@@ -56,6 +72,8 @@ public:
     void close() { m_windows->hideDashboard(); }
 
 private:
+    QString m_module;
+    DesktopAppearance m_appearance;
     test::FakeRegistry m_registry;
     test::FakePowerSources m_powerSources;
     test::FakeProcessLauncher m_launcher;
@@ -92,8 +110,8 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopSettingsAware(false);
     const QGuiApplication app(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    Opener opener;
-    for (int i = 0; i < app.arguments().value(1).toInt(); ++i) {
+    Opener opener(app.arguments().value(1));
+    for (int i = 0; i < app.arguments().value(2).toInt(); ++i) {
         std::printf("%.2f\n", millisecondsToFirstFrame(opener));
         opener.close();
         settle();
