@@ -99,9 +99,12 @@ void PopoverWindow::follow(QQuickWindow &parent)
 {
     parent.installEventFilter(this);
     connect(m_window, &FramedWindow::contentSizeChanged, this, &PopoverWindow::place);
-    connect(&parent, &QWindow::visibleChanged, m_window, [this] { close(); });
-    connect(m_anchor, &QQuickItem::visibleChanged, m_window, [this] { close(); });
-    connect(m_anchor, &QQuickItem::windowChanged, m_window, [this] { close(); });
+    // These outlive the window, and this may end before it is deleted.
+    connect(&parent, &QWindow::visibleChanged, this, &PopoverWindow::close, Qt::UniqueConnection);
+    connect(m_anchor, &QQuickItem::visibleChanged, this, &PopoverWindow::close,
+            Qt::UniqueConnection);
+    connect(m_anchor, &QQuickItem::windowChanged, this, &PopoverWindow::close,
+            Qt::UniqueConnection);
 }
 
 void PopoverWindow::place()

@@ -49,9 +49,9 @@ Item {
 
     function open() {
         afterTap.stop();
-        justTapped = false;
+        root.justTapped = false;
         popover.open();
-        showPopover = popover.shown;
+        root.showPopover = popover.shown;
     }
 
     function close() {
@@ -61,7 +61,7 @@ Item {
     // A click that leaves the card half open closes it a moment later.
     function tap() {
         if (showPopover)
-            justTapped = false;
+            root.justTapped = false;
         else
             afterTap.restart();
     }

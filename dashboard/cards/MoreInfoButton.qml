@@ -41,7 +41,7 @@ Item {
 
     onCardHoveredChanged: {
         if (!isPopoverShown)
-            lastCardHover = cardHovered;
+            root.lastCardHover = cardHovered;
     }
 
     function toggle() {
@@ -79,16 +79,18 @@ Item {
     }
 
     TapHandler {
+        id: tap
+
         property bool closes: false
 
         // A small target may be missed by a little.
         margin: 4
         onPressedChanged: {
             if (pressed)
-                closes = root.isPopoverShown || root.justTapped;
+                tap.closes = root.isPopoverShown || root.justTapped;
         }
         onTapped: {
-            if (closes)
+            if (tap.closes)
                 root.closeRequested();
             else
                 root.openRequested();
