@@ -40,7 +40,8 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
     <value type="int" value="1"/>
     <property name="dark-mode" type="bool" value="{dark}"/>
     <property name="panel-1" type="empty">
-      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="position" type="string" value="p={position};x=0;y=0"/>
+      <property name="mode" type="uint" value="{mode}"/>
       <property name="position-locked" type="bool" value="true"/>
       <property name="length" type="uint" value="100"/>
       <property name="size" type="uint" value="30"/>
@@ -206,21 +207,60 @@ class Screen(Session):
 class BareScreen(Screen):
     """An X session with a window manager and nothing else."""
 
+    def __init__(self, user=None, compositing=False):
+        super().__init__(user)
+        self._compositing = compositing
+
     def boot(self):
         super().boot()
         self.start(["openbox", "--sm-disable"])
         eventually(lambda: b"window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    "the window manager is there")
+        if self._compositing:
+            self.start(["picom"])
+            eventually(lambda: b'"picom"' in self.all_windows(), "the compositing manager is there")
+
+    def all_windows(self):
+        """The tree of all windows, as the X server tells it."""
+        return self.run("xwininfo", "-root", "-tree")
+
+    def open_another_program(self):
+        """Shows a window of another program, in the middle of the screen, and gives its process."""
+        other = self.start(["xmessage", "-center", "-buttons", "Goodbye", "A window like any other"])
+        eventually(lambda: self.windows_of(other.pid) or self._named("xmessage"),
+                   "the other program's window is open")
+        return other
+
+    def button_of_another_program(self):
+        """The place of the button that ends it."""
+        box = self.box_of(self._named("xmessage")[0])
+        return box.left + 25, box.bottom - 18
+
+    def focus_another_program(self):
+        """As a window manager does when somebody asks for that window by the keyboard."""
+        self.run("xdotool", "windowactivate", self._named("xmessage")[0])
+
+    def focused_window(self):
+        return self.run("xdotool", "getwindowfocus").strip()
+
+    def states_of(self, window):
+        """What the window manager was told of a window: in which lists it is not, and so on."""
+        told = self.run("xprop", "-id", window, "_NET_WM_STATE").decode()
+        return set(re.findall(r"_NET_WM_STATE_(\w+)", told))
+
+    def _named(self, name):
+        return self.run("xdotool", "search", "--onlyvisible", "--classname", name).split()
 
     def windows_of(self, process_id):
         """The visible windows of a process."""
         return self.run("xdotool", "search", "--onlyvisible", "--pid", str(process_id)).split()
 
     def box_of(self, window):
-        told = self.run("xdotool", "getwindowgeometry", "--shell", window).decode()
-        values = dict(line.split("=") for line in told.split())
-        left, top = int(values["X"]), int(values["Y"])
-        return Box(left, top, left + int(values["WIDTH"]), top + int(values["HEIGHT"]))
+        told = self.run("xwininfo", "-id", window).decode()
+        left, top, width, height = (
+            int(re.search(rf"{what}: +(-?\d+)", told).group(1))
+            for what in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        return Box(left, top, left + width, top + height)
 
     def _start_display(self):
         super()._start_display()
@@ -230,8 +270,8 @@ class BareScreen(Screen):
 class PanelScreen(BareScreen):
     """An X screen with a panel that holds a status area."""
 
-    def __init__(self, user=None, panel=True):
-        super().__init__(user)
+    def __init__(self, user=None, panel=True, **options):
+        super().__init__(user, **options)
         self.panel = None
         self._with_panel = panel
 
@@ -256,15 +296,24 @@ class PanelScreen(BareScreen):
 class XfceScreen(PanelScreen):
     desktop = "XFCE"
     panel_box = Box(480, 0, 800, 30)
+    # The panel's own numbers for the edges, and for lying or standing there.
+    edges = {"top": (6, 0), "bottom": (10, 0), "left": (5, 1), "right": (1, 1)}
 
-    def __init__(self, dark=True, **options):
+    def __init__(self, dark=True, edge="top", **options):
         super().__init__(**options)
         self._dark = "true" if dark else "false"
+        self._edge = edge
+
+    def whole_panel(self):
+        """The place of the whole panel."""
+        windows = self.run("xdotool", "search", "--onlyvisible", "--classname", "xfce4-panel")
+        return self.box_of(windows.split()[0])
 
     def command(self):
         path = "config/xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml"
         if not os.path.exists(os.path.join(self.folder, path)):
-            self.write(path, XFCE_PANEL.format(dark=self._dark))
+            position, mode = self.edges[self._edge]
+            self.write(path, XFCE_PANEL.format(dark=self._dark, position=position, mode=mode))
         return ["xfce4-panel", "--disable-wm-check"]
 
 
