@@ -21,7 +21,8 @@ CardView {
     // In place of the value; empty where there is one.
     readonly property string status: {
         if (!isPresent)
-            return powerSource === Battery.PowerSource.External ? "Getting info..." : "Not connected";
+            return powerSource === Battery.PowerSource.External ? "Getting info..."
+                                                                : "Not connected";
         return isEmpty ? "Not available" : "";
     }
 

@@ -20,6 +20,6 @@ AdapterCardView {
         voltage: root.voltage ?? 0
         current: root.current ?? 0
     }
-    valueInWords: isPresent ? `${Adapter.decimalText(voltage)} volts, ${Adapter.decimalText(current)} amps`
-                            : ""
+    valueInWords: `${Adapter.decimalText(voltage ?? 0)} volts, `
+        + `${Adapter.decimalText(current ?? 0)} amps`
 }

@@ -14,8 +14,8 @@ MoreInfoSummaryView {
     imageColor: status === Battery.Health.Normal ? Colours.greenIcon : Colours.redIcon
     text: textOf(status)
     summary: "You may see any of the following conditions:\n\n**Normal**: The battery is "
-        + "functioning normally.\n\n**Service recommended**: The battery is performing normally, but "
-        + "its ability to hold a charge is less than when it was new. You may want to consider "
+        + "functioning normally.\n\n**Service recommended**: The battery is performing normally, "
+        + "but its ability to hold a charge is less than when it was new. You may want to consider "
         + "replacing the battery."
 
     function imageOf(health: int): string {

@@ -59,8 +59,8 @@ CardView {
                 + `${designCycles} charge cycles, the lifespan of your battery is still **good**.`;
         case Battery.Lifespan.ReducedMaxCapAndCycles:
             return `As your maximum capacity is ${maxCapacity}% (less than 80%) and you have done `
-                + `more than ${designCycles} charge cycles, the lifespan of your battery is reduced. `
-                + "You may want to consider replacing the battery.";
+                + `more than ${designCycles} charge cycles, the lifespan of your battery is `
+                + "reduced. You may want to consider replacing the battery.";
         default:
             return "";
         }

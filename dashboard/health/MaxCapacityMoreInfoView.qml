@@ -11,8 +11,8 @@ MoreInfoSummaryView {
     width: 300
     imageName: "bolt.circle"
     imageColor: Colours.greenIcon
-    text: `Your battery has a **${percent}% maximum capacity**, meaning that it can retain ${percent}% `
-        + "of charge compared to when it was new."
+    text: `Your battery has a **${percent}% maximum capacity**, meaning that it can retain `
+        + `${percent}% of charge compared to when it was new.`
     summary: "As lithium-ion batteries chemically age, the amount of charge they can hold "
         + "diminishes, resulting in shorter amounts of time before a device needs to be recharged."
         + "\n\nThis can be referred to as the battery’s **maximum capacity** — the measure of "
