@@ -17,7 +17,7 @@ Item {
         anchors.centerIn: parent
         spacing: 10
 
-        MainMenuView {}
+        MainMenuView { focus: true }
 
         MainContentView {}
     }

@@ -56,6 +56,15 @@ void PopoverWindow::setContent(QQmlComponent *content)
     Q_EMIT contentChanged();
 }
 
+void PopoverWindow::setTitle(const QString &title)
+{
+    if (std::exchange(m_title, title) == title)
+        return;
+    if (m_window)
+        m_window->setTitle(title);
+    Q_EMIT titleChanged();
+}
+
 void PopoverWindow::open()
 {
     QQuickWindow *const parent = m_anchor ? m_anchor->window() : nullptr;
@@ -67,6 +76,7 @@ void PopoverWindow::open()
     // is shown, and lose its outline.
     window->setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
                      | Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
+    window->setTitle(m_title);
     window->setTransientParent(parent);
     window->setScreen(parent->screen());
     if (!fill(*window))

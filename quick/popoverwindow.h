@@ -26,6 +26,8 @@ class PopoverWindow : public QObject
     Q_CLASSINFO("DefaultProperty", "content")
     Q_PROPERTY(QQuickItem *anchor READ anchor WRITE setAnchor NOTIFY anchorChanged)
     Q_PROPERTY(QQmlComponent *content READ content WRITE setContent NOTIFY contentChanged)
+    /// Told to those who do not see which part the arrow points to.
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
 
 public:
@@ -36,6 +38,8 @@ public:
     void setAnchor(QQuickItem *anchor);
     [[nodiscard]] QQmlComponent *content() const { return m_content; }
     void setContent(QQmlComponent *content);
+    [[nodiscard]] QString title() const { return m_title; }
+    void setTitle(const QString &title);
     [[nodiscard]] bool isShown() const { return !m_window.isNull(); }
 
     /// Does nothing while it is shown, and without an anchor in a visible window.
@@ -47,6 +51,7 @@ public:
 Q_SIGNALS:
     void anchorChanged();
     void contentChanged();
+    void titleChanged();
     void shownChanged();
     void opened();
     void closed();
@@ -61,6 +66,7 @@ private:
 
     QPointer<QQuickItem> m_anchor;
     QPointer<QQmlComponent> m_content;
+    QString m_title;
     QPointer<FramedWindow> m_window;
 };
 

@@ -163,6 +163,7 @@ Item {
         id: popover
 
         anchor: root
+        title: root.title
         content: root.hasMoreInfo ? root.moreInfoView : null
         onPressedElsewhere: {
             root.justTapped = true;
