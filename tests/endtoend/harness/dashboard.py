@@ -127,10 +127,15 @@ class Dashboard:
                 if each.role == TAB and "selected" in each.states] if root else []
 
     def focused(self):
-        """The name of what the keyboard acts on, or None."""
+        """What the keyboard acts on, or None."""
         root = self.root()
-        return next((each.name for each in root.everything() if "focused" in each.states
-                     and each.role != "frame"), None) if root else None
+        # What holds it tells that it has the focus, too.
+        return next((each for each in root.everything()
+                     if {"focused", "focusable"} <= each.states), None) if root else None
+
+    def focused_name(self):
+        focused = self.focused()
+        return focused and focused.name
 
     # What is done to it.
 

@@ -4,7 +4,7 @@
 """A screen reader without a voice: it answers each line of its input with one line of JSON.
 
     tree PROCESS              what the program of that number shows, or null
-    press PROCESS [INDEX...]  the first action of the object on that path of children
+    press PROCESS [INDEX...]  whether the object on that path of children could be pressed, and was
 """
 
 import json
@@ -48,7 +48,9 @@ def answer(command, process, *path):
         return accessible and told(accessible)
     for number in path:
         accessible = accessible.get_child_at_index(int(number))
-    return accessible.do_action(0)
+    actions = map(accessible.get_action_name, range(accessible.get_n_actions()))
+    return any(name == "Press" and accessible.do_action(number)
+               for number, name in enumerate(actions))
 
 
 def main():
