@@ -225,6 +225,14 @@ class ItsWindow(WithAPopover):
         a_moment()
         self.open()
 
+    def test_it_moves_when_the_screen_becomes_smaller(self):
+        self.open()
+        self.session.resize(640, 480)
+        eventually(lambda: self.box().right <= 640, "the popover is on the smaller screen")
+        self.assertGreaterEqual(self.box().top, self.panel.bottom)
+        self.session.press("Escape")
+        self.has_closed()
+
     def test_a_hundred_openings_leave_nothing_behind(self):
         self.open()
         self.session.press("Escape")

@@ -183,6 +183,14 @@ class Screen(Session):
         """Presses of real keys, one after the other."""
         self._on_screen("xdotool", "key", *keys)
 
+    def resize(self, width, height):
+        """Gives the screen another size, of at most the one that it began with."""
+        timings = (30, width, width + 10, width + 20, width + 30,
+                   height, height + 10, height + 20, height + 30)
+        self._on_screen("xrandr", "--newmode", "other", *map(str, timings))
+        self._on_screen("xrandr", "--addmode", "screen", "other")
+        self._on_screen("xrandr", "--output", "screen", "--mode", "other")
+
     def item_box(self, before):
         """Where the item stands, given a picture of the screen without it."""
         return before.difference(self.picture())
