@@ -3,7 +3,6 @@
 
 import QtQuick
 import Ferrin.Dashboard
-import Ferrin.Quick
 import Ferrin.Theme
 
 // The selected section. Another one slides in from the left while the last one leaves to the right,

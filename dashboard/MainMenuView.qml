@@ -43,6 +43,7 @@ FocusScope {
             items[from + step].forceActiveFocus(Qt.TabFocusReason);
     }
 
+    // qmllint disable unqualified
     component MenuItem: MenuItemView {
         anchors { left: parent.left; right: parent.right }
         buttonState: root.states[button]
@@ -55,6 +56,7 @@ FocusScope {
         Keys.onUpPressed: root.moveFocus(button, -1)
         Keys.onDownPressed: root.moveFocus(button, 1)
     }
+    // qmllint enable unqualified
 
     Column {
         anchors { fill: parent; margins: 5 }

@@ -43,7 +43,7 @@ Item {
 
     function tap() {
         if (customOnTap) {
-            customOnTap();
+            customOnTap.call();
             return;
         }
         fade.enabled = !Theme.reducesMotion;

@@ -14,8 +14,8 @@ namespace ferrin {
 QuickEngine::QuickEngine(QObject *parent)
     : QQmlEngine(parent)
 {
-    // No graphics card wakes up for a battery tool: a first frame in a fifth of the time, and a third
-    // of the memory.
+    // No graphics card wakes up for a battery tool: a first frame in a fifth of the time, and a
+    // third of the memory.
     if (QQuickWindow::sceneGraphBackend() != u"software")
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -127,16 +127,21 @@ Item {
         sourceComponent: UnknownTextView {}
     }
 
-    MoreInfoButton {
+    // Most cards have nothing more to say, and half of what a card costs is its button.
+    Loader {
         x: 80
         y: 40
-        visible: root.hasMoreInfo
-        title: root.title
-        cardHovered: root.cardHovered
-        isPopoverShown: root.isPopoverShown
-        justTapped: root.justTapped
-        onOpenRequested: root.open()
-        onCloseRequested: root.close()
+        active: root.hasMoreInfo
+        // qmllint disable unqualified
+        sourceComponent: MoreInfoButton {
+            title: root.title
+            cardHovered: root.cardHovered
+            isPopoverShown: root.isPopoverShown
+            justTapped: root.justTapped
+            onOpenRequested: root.open()
+            onCloseRequested: root.close()
+        }
+        // qmllint enable unqualified
     }
 
     HoverHandler {
