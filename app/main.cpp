@@ -9,6 +9,7 @@
 #include "platform/linux/session/applicationsetup.h"
 #include "platform/linux/session/loghandler.h"
 #include "platform/linux/session/singleinstance.h"
+#include "platform/linux/session/spentmemory.h"
 #include "platform/linux/session/termination.h"
 #include "state/bundle.h"
 #include "state/displayswitches.h"
@@ -82,7 +83,12 @@ int main(int argc, char **argv)
     BatteryDataProvider::setPlatform(power.parts());
     DesktopPlatform desktop(session);
 
-    FerrinApp ferrin({ .loadWindows = [&] { return loadWindows(desktop.popovers()); },
+    SpentMemory memory;
+    FerrinApp ferrin({ .loadWindows =
+                           [&] {
+                               memory.rememberLibraries();
+                               return loadWindows(desktop.popovers());
+                           },
                        .presses = &desktop.presses(),
                        .fillStatusItem =
                            [&, first = true](StatusItem &item) mutable {
@@ -90,6 +96,8 @@ int main(int argc, char **argv)
                                    prepareItem(desktop, power);
                                fillStatusItem(item);
                            } });
+    QObject::connect(&ferrin, &FerrinApp::isDashboardShownChanged, &memory,
+                     [&] { ferrin.isDashboardShown() ? memory.keep() : memory.giveBackSoon(); });
     QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
                      [&] { ferrin.useStatusBar(desktop.statusBar()); });
     desktop.start();
