@@ -9,8 +9,10 @@ import subprocess
 from dataclasses import dataclass
 
 from harness.picture import Box
+from harness.processes import eventually
 
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
+MEETING_PLACE = "org.a11y.Bus"
 READER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "screenreader.py")
 # A program talks to screen readers where this is set, and else where the desktop has one running.
 ENVIRONMENT = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
@@ -46,10 +48,17 @@ class Accessible:
 
 class ScreenReader:
     """A process in the session that reads out one program. The program has to be started with
-    ENVIRONMENT."""
+    ENVIRONMENT, after the session has been prepared."""
+
+    @staticmethod
+    def prepare(session):
+        """Starts what screen readers and programs meet on. Were it left to the first that asks, two
+        at once could be sent to different ones."""
+        if session.bus.owner(MEETING_PLACE) is None:
+            session.start([LAUNCHER, "--launch-immediately"])
+            eventually(lambda: session.bus.owner(MEETING_PLACE), "programs can be read out")
 
     def __init__(self, session, process_id):
-        session.start([LAUNCHER, "--launch-immediately"])
         self._process_id = process_id
         self._reader = session.start(["/usr/bin/python3", "-B", READER], stdin=subprocess.PIPE,
                                      stdout=subprocess.PIPE, text=True)

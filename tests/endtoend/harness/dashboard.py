@@ -13,6 +13,7 @@ SECTIONS = ["STATUS", "HEALTH", "POWER ADAPTER", "SETTINGS"]
 TAB = "page tab"
 CARD = "label"
 BUTTON = "push button"
+LARGEST_CELL = 40
 
 
 class Dashboard:
@@ -20,12 +21,19 @@ class Dashboard:
 
     def __init__(self, session, laptop, said, environment=None):
         self._session = session
+        ScreenReader.prepare(session)
         before = session.picture()
         self.program = Program(session, laptop, ENVIRONMENT | (environment or {}))
         self.program.item()
         self.program.says(said)
         self.reader = ScreenReader(session, self.program.pid)
-        self.item = eventually(lambda: session.item_box(before), "the item is on the screen").centre
+        self.item = eventually(lambda: self._drawn(before), "the item is on the screen").centre
+
+    def _drawn(self, before):
+        # The panel shows an empty cell first, and may draw the whole of itself anew.
+        box = self._session.item_box(before)
+        is_cell = box and max(box.width, box.height) <= LARGEST_CELL
+        return box if is_cell and len(set(self._session.picture().pixels(box))) > 8 else None
 
     def __enter__(self):
         return self
