@@ -22,7 +22,7 @@ sys.path[:0] = [str(ROOT / "tests"), str(ROOT / "tests" / "endtoend")]
 
 from gi.repository import Gio, GLib  # noqa: E402
 from harness import desktop  # noqa: E402
-from harness.processes import end  # noqa: E402
+from harness.processes import end, eventually  # noqa: E402
 from harness.program import MOCK, Program  # noqa: E402
 from virtuallaptop import VirtualLaptop  # noqa: E402
 
@@ -37,6 +37,7 @@ BARE_WINDOWS = TREE / "bench" / "bench_barewindow.so"
 SETTLING_SECONDS = 8
 WATCHED_SECONDS = 60
 STARTS = 15
+OPENINGS = 10
 FIRST_OPENINGS = 9
 LATER_OPENINGS = 20
 REFRESHES = 1000
@@ -106,10 +107,25 @@ def memory(session_type, where, environment):
         verdict(ours["Rss"] / 32, 1))
 
 
-def wake_ups_of(pid):
-    counts = (re.search(r"^voluntary_ctxt_switches:\s+(\d+)", task.read_text(), re.M)[1]
-              for task in pathlib.Path(f"/proc/{pid}/task").glob("*/status"))
-    return sum(int(count) for count in counts)
+def wake_ups_by_thread(pid):
+    return {task.name: int(re.search(r"^voluntary_ctxt_switches:\s+(\d+)",
+                                     (task / "status").read_text(), re.M)[1])
+            for task in pathlib.Path(f"/proc/{pid}/task").iterdir()}
+
+
+def watched_wake_ups(pid):
+    time.sleep(SETTLING_SECONDS)
+    before = wake_ups_by_thread(pid)
+    time.sleep(WATCHED_SECONDS)
+    after = wake_ups_by_thread(pid)
+    # A thread that has ended has taken its count with it.
+    return sum(count - before.get(thread, 0) for thread, count in after.items())
+
+
+def wake_up_row(where, counted):
+    expected = WATCHED_SECONDS / 5
+    row(f"Wake-ups in {WATCHED_SECONDS} seconds {where}", counted, f"{expected:.0f} of the timer",
+        verdict(counted / expected, 1.1))
 
 
 def wake_ups():
@@ -117,13 +133,7 @@ def wake_ups():
     with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
         program = Program(session, laptop)
         program.item()
-        time.sleep(SETTLING_SECONDS)
-        before = wake_ups_of(program.pid)
-        time.sleep(WATCHED_SECONDS)
-        counted = wake_ups_of(program.pid) - before
-    expected = WATCHED_SECONDS / 5
-    row(f"Wake-ups in {WATCHED_SECONDS} seconds at rest", counted, f"{expected:.0f} of the timer",
-        verdict(counted / expected, 1.1))
+        wake_up_row("at rest", watched_wake_ups(program.pid))
 
 
 class Registrations:
@@ -164,6 +174,32 @@ def starting():
         f"{bare:.0f} ms a bare `QGuiApplication`", verdict(ours / bare, 1.5))
 
 
+def switch_dashboard(program, session, shown):
+    program.item().activate()
+    eventually(lambda: bool(session.windows_of(program.pid)) == shown, "the dashboard has turned")
+
+
+def after_the_dashboard():
+    with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
+        program = Program(session, laptop)
+        program.item()
+        time.sleep(SETTLING_SECONDS)
+        before = memory_of(program.pid)
+        for _ in range(OPENINGS):
+            switch_dashboard(program, session, True)
+            time.sleep(1)
+            switch_dashboard(program, session, False)
+            time.sleep(1)
+        time.sleep(SETTLING_SECONDS)
+        after = memory_of(program.pid)
+        switch_dashboard(program, session, True)
+        counted = watched_wake_ups(program.pid)
+    left = after["Pss"] - before["Pss"]
+    row(f"PSS left by {OPENINGS} openings of the dashboard", f"{left:.1f} MiB",
+        f"{before['Pss']:.1f} MiB before the first", f"{left:.1f} (limit 15)")
+    wake_up_row("with the dashboard open", counted)
+
+
 def opening():
     first = {module: [] for module in (OUR_WINDOWS, BARE_WINDOWS)}
     later = {module: [] for module in first}
@@ -190,6 +226,7 @@ def main():
     memory(desktop.BareScreen, "without any panel", {"XDG_CURRENT_DESKTOP": "GNOME"})
     starting()
     opening()
+    after_the_dashboard()
     wake_ups()
 
 
