@@ -21,12 +21,14 @@ FocusScope {
 
     Component.onCompleted: root.select(Dashboard.selected)
 
-    // Marks one item as the selected one and all others as neither selected nor hovered.
+    // Marks one item as the selected one and all others as neither selected nor hovered. The keys
+    // go on from there.
     function select(button) {
         const marked = {};
         for (let i = 0; i < items.length; ++i)
             marked[items[i].button] = Dashboard.ButtonState.None;
         marked[button] = Dashboard.ButtonState.Selected;
+        items[button].focus = true;
         states = marked;
     }
 
@@ -68,7 +70,6 @@ FocusScope {
             button: Dashboard.MenuButton.Status
             image: "chart.bar.fill"
             text: "STATUS"
-            focus: true
         }
 
         MenuItem {

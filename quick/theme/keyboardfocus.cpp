@@ -5,10 +5,21 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QWindow>
 
 #include <utility>
 
 namespace ferrin {
+
+namespace {
+
+// Not an explanation, which a key may have opened beside the focus.
+bool isOnItsOwn(const QWindow &window)
+{
+    return !window.transientParent();
+}
+
+} // namespace
 
 KeyboardFocus::KeyboardFocus(QObject *parent)
     : QObject(parent)
@@ -22,6 +33,8 @@ bool KeyboardFocus::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::KeyPress)
             setVisible(true);
         else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+            setVisible(false);
+        else if (event->type() == QEvent::Show && isOnItsOwn(*static_cast<QWindow *>(watched)))
             setVisible(false);
     }
     return QObject::eventFilter(watched, event);

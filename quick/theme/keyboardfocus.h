@@ -9,7 +9,8 @@
 namespace ferrin {
 
 /// Whether the focus is worth showing: the last that the user did in one of our windows was done
-/// with a key, not with the pointer.
+/// with a key, not with the pointer. A window that has just
+/// opened begins without.
 class KeyboardFocus final : public QObject
 {
     Q_OBJECT

@@ -77,6 +77,23 @@ class ByKeys(OfACharged):
         for section in reversed(SECTIONS[:-1]):
             self.press("Up", section)
 
+    def test_each_opening_begins_unmarked_at_the_selected_section(self):
+        at_first = self.session.picture()
+        self.move_to("HEALTH")
+        self.dashboard.press("Return")
+        self.dashboard.find("Max capacity: .*")
+        marked = self.session.picture()
+        self.dashboard.press("Escape")
+        self.dashboard.has_closed()
+        a_moment()
+        self.dashboard.open()
+        self.session.point((5, 500))
+        eventually(lambda: self.dashboard.focused_name() == "HEALTH", "HEALTH has the focus")
+        self.assertEqual(self.dashboard.selected(), ["HEALTH"])
+        box = self.dashboard.focused().box
+        self.assertTrue(self.differs(marked, box))
+        self.assertTrue(self.differs(at_first, box))
+
     def test_enter_and_space_select_a_section(self):
         for key, section in (("Return", "HEALTH"), ("space", "POWER ADAPTER"),
                              ("KP_Enter", "STATUS")):
