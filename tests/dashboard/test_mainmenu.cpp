@@ -199,6 +199,28 @@ private Q_SLOTS:
         QVERIFY(!isRinged(adapter));
     }
 
+    void beginsWithTheKeysAtTheSelectedSection()
+    {
+        Menu f;
+        f.stage.status.setDashboardItemSelected(DashboardMenuButton::adapter);
+        f.menu = f.stage.show("MainMenuView { focus: true }");
+        f.items = test::itemsOfType(f.menu, "MenuItemView");
+        QVERIFY(f.items[adapter]->hasActiveFocus());
+        QTest::keyClick(&f.stage.window, Qt::Key_Up);
+        QVERIFY(f.items[health]->hasActiveFocus());
+    }
+
+    void hidesTheFocusWhenAWindowOpens()
+    {
+        Menu f;
+        f.items[health]->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(&f.stage.window, Qt::Key_Down);
+        QCOMPARE(test::visibleItemsOfType(f.menu, "FocusRing").size(), 1);
+        f.stage.window.hide();
+        f.stage.window.show();
+        QCOMPARE(test::visibleItemsOfType(f.menu, "FocusRing").size(), 0);
+    }
+
     void fitsEveryLabelInTheSameSize()
     {
         Menu f;
