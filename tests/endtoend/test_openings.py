@@ -57,8 +57,8 @@ class AHundredOpenings(OnADesktop):
         self.assertTrue(self.program.is_running())
         self.assertEqual(len(self.all_windows()), warm_windows)
         self.assertLessEqual(warm_windows - windows, 1)
-        for kind, kilobytes in end.items():
-            self.assertLess(kilobytes - warm[kind], TOLERANCE_KB, kind)
+        # The share of what is shared is told above, but it depends on who else is running.
+        self.assertLess(end["Private_Dirty"] - warm["Private_Dirty"], TOLERANCE_KB)
         self.program.says(AT_START)
 
 
