@@ -5,6 +5,7 @@
 
 #include "core/batterytime.h"
 #include "core/batterytypes.h"
+#include "sources/variantcast.h"
 
 #include <QObject>
 #include <QProperty>
@@ -124,11 +125,6 @@ Q_SIGNALS:
     void adapterCurrentChanged();
 
 private:
-    template <typename T>
-    [[nodiscard]] static QVariant toVariant(const std::optional<T> &value)
-    {
-        return value ? QVariant(*value) : QVariant();
-    }
     [[nodiscard]] QVariant chargeValue() const { return toVariant(charge()); }
     [[nodiscard]] QVariant chargeCyclesValue() const { return toVariant(chargeCycles()); }
     [[nodiscard]] QVariant designCyclesValue() const { return toVariant(designCycles()); }

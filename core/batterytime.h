@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "sources/variantcast.h"
+
 #include <QMetaType>
 #include <QVariant>
 
@@ -27,11 +29,8 @@ public:
     /// or whose minutes do not fit 64 bits, is a programming error and stops the process.
     [[nodiscard]] static BatteryTime fractionalHours(std::optional<float> hours);
 
-    [[nodiscard]] QVariant hoursValue() const { return hours ? QVariant(*hours) : QVariant(); }
-    [[nodiscard]] QVariant minutesValue() const
-    {
-        return minutes ? QVariant(*minutes) : QVariant();
-    }
+    [[nodiscard]] QVariant hoursValue() const { return toVariant(hours); }
+    [[nodiscard]] QVariant minutesValue() const { return toVariant(minutes); }
 
     friend bool operator==(const BatteryTime &, const BatteryTime &) = default;
 };

@@ -20,12 +20,6 @@ const QString wattsKey = u"adapterWattsStored"_s;
 const QString voltageKey = u"adapterVoltageStored"_s;
 const QString currentKey = u"adapterCurrentStored"_s;
 
-template <typename T>
-QVariant toVariant(const std::optional<T> &value)
-{
-    return value ? QVariant(*value) : QVariant();
-}
-
 /// Says whether anything was written.
 template <typename T>
 bool writeIfDifferent(DefaultsStore &defaults, const QString &key, const std::optional<T> &value)

@@ -6,6 +6,7 @@
 #include "core/batterydata.h"
 #include "core/storeddata.h"
 #include "quick/quickengine.h"
+#include "sources/variantcast.h"
 
 #include <QLocale>
 
@@ -13,16 +14,6 @@
 #include <utility>
 
 namespace ferrin {
-
-namespace {
-
-template <typename T>
-QVariant toVariant(const std::optional<T> &value)
-{
-    return value ? QVariant(*value) : QVariant();
-}
-
-} // namespace
 
 Adapter::Adapter(StoredData &stored, BatteryData &data, QObject *parent)
     : QObject(parent)

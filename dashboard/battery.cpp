@@ -5,18 +5,9 @@
 
 #include "core/batterydata.h"
 #include "quick/quickengine.h"
+#include "sources/variantcast.h"
 
 namespace ferrin {
-
-namespace {
-
-template <typename T>
-QVariant toVariant(const std::optional<T> &value)
-{
-    return value ? QVariant(*value) : QVariant();
-}
-
-} // namespace
 
 Battery::Battery(BatteryData &data, QObject *parent)
     : QObject(parent)

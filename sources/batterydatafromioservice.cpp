@@ -18,12 +18,6 @@ const QString BatteryDataFromIOService::IOSERVICE_BATTERY = u"AppleSmartBattery"
 namespace {
 
 template <typename T>
-QVariant toVariant(const std::optional<T> &value)
-{
-    return value ? QVariant::fromValue(*value) : QVariant();
-}
-
-template <typename T>
 QVariant only(const QVariant &value)
 {
     return toVariant(variantCast<T>(value));

@@ -42,4 +42,11 @@ std::optional<QByteArray> variantCast(const QVariant &value);
 template <>
 std::optional<QVariantMap> variantCast(const QVariant &value);
 
+/// The way back. An absent value is an invalid one, which QML reads as `undefined`.
+template <typename T>
+[[nodiscard]] QVariant toVariant(const std::optional<T> &value)
+{
+    return value ? QVariant(*value) : QVariant();
+}
+
 } // namespace ferrin
