@@ -30,6 +30,8 @@ QtObject {
     readonly property color cardTextColor: Theme.isDark ? "#f0f1f3" : "#1d1f22"
     readonly property color menuSelected: Theme.isDark ? "#3d4a5c" : "#d3e2f7"
     readonly property color menuHovered: Theme.isDark ? "#32353a" : "#e5e7ea"
+    // Behind a button on a card that the pointer is on.
+    readonly property color cardButton: Theme.isDark ? "#474b52" : "#e5e7ea"
     // The menu's own words and symbols, on any of its grounds.
     readonly property color menuText: cardTextColor
     readonly property color focusRing: blueIcon

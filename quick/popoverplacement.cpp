@@ -91,9 +91,9 @@ QRect cutAt(QRect room, const QRect &thing, PopoverSide side)
 }
 
 // The room without the gap at its edges, if that is enough.
-QRect offTheEdges(const QRect &room, const QSize &size)
+QRect offTheEdges(const QRect &room, const QSize &size, int gap)
 {
-    const QRect inner = room.adjusted(popoverGap, popoverGap, -popoverGap, -popoverGap);
+    const QRect inner = room.adjusted(gap, gap, -gap, -gap);
     const bool fits = inner.width() >= size.width() && inner.height() >= size.height();
     return fits ? inner : room;
 }
@@ -159,7 +159,8 @@ PopoverSpot spotAtItem(const ItemPlace &place, const QSize &size, const ScreenAr
     const QRect along = isBesides(side)
         ? QRect(panel.x(), place.item.y(), panel.width(), place.item.height())
         : QRect(place.item.x(), panel.y(), place.item.width(), panel.height());
-    const QRect frame = movedInside(beside(along, size, side, popoverGap), offTheEdges(room, size));
+    const QRect frame
+        = movedInside(beside(along, size, side, popoverGap), offTheEdges(room, size, popoverGap));
     return {
         .frame = frame, .bounds = room, .side = side, .arrow = arrowAlong(frame, place.item, side)
     };
@@ -176,8 +177,8 @@ PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &availa
     const auto *fitting = std::ranges::find_if(sides, [&](auto side) { return spare(side) >= 0; });
     const PopoverSide side
         = fitting != sides.end() ? *fitting : *std::ranges::max_element(sides, {}, spare);
-    const QRect frame
-        = movedInside(beside(part, size, side, partGap), offTheEdges(available, size));
+    const QRect frame = movedInside(beside(part, size, side, partGap),
+                                    offTheEdges(available, size, explanationGap));
     return {
         .frame = frame, .bounds = available, .side = side, .arrow = arrowAlong(frame, part, side)
     };

@@ -37,6 +37,8 @@ struct ScreenArea
 
 /// Between a popover and the panel, and the edges of the screen where there is room for it.
 inline constexpr int popoverGap = 6;
+/// The same of an explanation, so that its border does not run along that of what it explains.
+inline constexpr int explanationGap = 16;
 
 /// A popover of the status item: off the panel, on the panel's inner side, centred on the item and
 /// moved as little as needed to lie wholly on the screen. Without a panel the nearest edge of the

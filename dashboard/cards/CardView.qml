@@ -100,7 +100,7 @@ Item {
         id: imageFrame
 
         x: 30
-        y: 33
+        y: 31
         width: 40
         height: 28
         visible: root.isKnown
@@ -130,7 +130,7 @@ Item {
     // Most cards have nothing more to say, and half of what a card costs is its button.
     Loader {
         x: 80
-        y: 40
+        y: 38
         active: root.hasMoreInfo
         // qmllint disable unqualified
         sourceComponent: MoreInfoButton {

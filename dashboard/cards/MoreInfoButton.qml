@@ -57,7 +57,7 @@ Item {
 
         anchors.fill: parent
         radius: width / 2
-        color: Colours.menuHovered
+        color: Colours.cardButton
         visible: hover.hovered || root.isPopoverShown
     }
 

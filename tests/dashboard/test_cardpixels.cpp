@@ -120,10 +120,10 @@ void CardPixelsTest::keepsItsPartsApart()
         QVERIFY2(inkIn(*tile, QRectF(95.5, 10, 2.5, 80)).isEmpty(), name);
         QVERIFY2(inkIn(*tile, QRectF(10, 91, 80, 7)).isEmpty(), name);
         // ...nor between title, image, text and button.
-        QVERIFY2(inkIn(*tile, QRectF(4, 25, 92, 8)).isEmpty(), name);
-        QVERIFY2(inkIn(*tile, QRectF(66, 33, 14, 26)).isEmpty(), name);
+        QVERIFY2(inkIn(*tile, QRectF(4, 25, 92, 6)).isEmpty(), name);
+        QVERIFY2(inkIn(*tile, QRectF(66, 31, 14, 26)).isEmpty(), name);
         QVERIFY2(!inkIn(*tile, QRectF(4, 9, 92, 16)).isEmpty(), name);
-        QVERIFY2(!inkIn(*tile, QRectF(30, 33, 36, 28)).isEmpty(), name);
+        QVERIFY2(!inkIn(*tile, QRectF(30, 31, 36, 28)).isEmpty(), name);
         QVERIFY2(!inkIn(*tile, QRectF(4, 75, 92, 15)).isEmpty(), name);
     }
 }
@@ -139,9 +139,9 @@ void CardPixelsTest::hasItsImageInTheMiddle()
     show(section);
     const QList<QQuickItem *> cards = itemsOfType(m_stage.item.get(), "CardView");
     for (const QQuickItem *tile : cards) {
-        const QPointF middle = inkIn(*tile, QRectF(30, 33, 40, 25)).center();
+        const QPointF middle = inkIn(*tile, QRectF(30, 31, 40, 25)).center();
         QVERIFY2(qAbs(middle.x() - 50) <= 2, tile->metaObject()->className());
-        QVERIFY2(qAbs(middle.y() - 47) <= 3, tile->metaObject()->className());
+        QVERIFY2(qAbs(middle.y() - 45) <= 3, tile->metaObject()->className());
     }
 }
 

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "quick/quickengine.h"
-#include "tests/quick/namedcolours.h"
+#include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"
 
 #include <QColor>
@@ -133,8 +133,8 @@ void ColoursTest::symbolsStandOutFromTheirGrounds_data()
                { "greenIcon", "dashboardColor" },
                { "redIcon", "dashboardColor" },
                { "yellowIcon", "dashboardColor" },
-               { "cardTextColor", "menuHovered" },
-               { "unknownColor", "menuHovered" },
+               { "cardTextColor", "cardButton" },
+               { "unknownColor", "cardButton" },
                { "focusRing", "cardColor" },
                { "focusRing", "dashboardColor" },
                { "focusRing", "menuSelected" } });

@@ -234,7 +234,7 @@ void TestPopoverPlacement::pointsAtThePart()
 {
     const QRect part(620, 50, 100, 100);
     const PopoverSpot below = spotAtPart(part, { 300, 260 }, screen);
-    QCOMPARE(below.frame.right(), 799 - popoverGap);
+    QCOMPARE(below.frame.right(), 799 - explanationGap);
     QCOMPARE(below.frame.left() + below.arrow, 670);
     const PopoverSpot right = spotAtPart({ 10, 250, 100, 100 }, { 300, 260 }, screen);
     QCOMPARE(right.frame.top() + right.arrow, 300);
