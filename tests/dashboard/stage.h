@@ -10,7 +10,7 @@
 #include "dashboard/dashboard.h"
 #include "quick/quickengine.h"
 #include "state/appstatus.h"
-#include "tests/quick/namedcolours.h"
+#include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"
 #include "tests/support/memorydefaultsstore.h"
 

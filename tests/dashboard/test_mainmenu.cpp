@@ -35,16 +35,7 @@ struct Menu
         return colours;
     }
 
-    [[nodiscard]] QColor colour(const char *name)
-    {
-        QQmlComponent asking(&stage.engine);
-        asking.setData(
-            "import QtQuick\nimport Ferrin.Quick\nQtObject { property color named: Colours."
-                + QByteArray(name) + " }",
-            QUrl(u"asking"_s));
-        const std::unique_ptr<QObject> answer(asking.create());
-        return answer->property("named").value<QColor>();
-    }
+    [[nodiscard]] QColor colour(const char *name) { return test::namedColour(stage.engine, name); }
 
     void point(int index) { QTest::mouseMove(&stage.window, middle(index)); }
     void pointElsewhere() { QTest::mouseMove(&stage.window, QPoint(70, 205)); }
