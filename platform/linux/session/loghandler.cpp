@@ -81,10 +81,14 @@ bool isReadDirectly(int fileDescriptor)
 QByteArrayList journalFields(QtMsgType type, const char *category, const QString &text,
                              const QString &subsystem)
 {
+    const QByteArray name(category);
+    const qsizetype slash = name.indexOf('/');
     return {
-        "MESSAGE=" + text.toUtf8(),        "PRIORITY=" + QByteArray::number(levelOf(type).priority),
-        "SYSLOG_IDENTIFIER=ferrin",        "CATEGORY=" + QByteArray(category),
-        "SUBSYSTEM=" + subsystem.toUtf8(),
+        "MESSAGE=" + text.toUtf8(),
+        "PRIORITY=" + QByteArray::number(levelOf(type).priority),
+        "SYSLOG_IDENTIFIER=ferrin",
+        "CATEGORY=" + name.mid(slash + 1),
+        "SUBSYSTEM=" + (slash < 0 ? subsystem.toUtf8() : name.first(slash)),
     };
 }
 

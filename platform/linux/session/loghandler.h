@@ -17,7 +17,8 @@ void installLogHandler(const QString &subsystem);
 /// Somebody reads this file descriptor as it is: a terminal or a pipe.
 [[nodiscard]] bool isReadDirectly(int fileDescriptor);
 
-/// One message as the journal's fields, "NAME=value" each. The priority is syslog's.
+/// One message as the journal's fields, "NAME=value" each. The priority is syslog's. A category of
+/// the form "subsystem/category" names its own subsystem, any other belongs to the one given.
 [[nodiscard]] QByteArrayList journalFields(QtMsgType type, const char *category,
                                            const QString &text, const QString &subsystem);
 

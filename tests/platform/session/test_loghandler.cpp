@@ -67,6 +67,14 @@ private Q_SLOTS:
                                   "SUBSYSTEM=org.ferrin.Ferrin" }));
     }
 
+    void keepsTheSubsystemThatACategoryNames()
+    {
+        QCOMPARE(
+            journalFields(QtCriticalMsg, "org.ferrin.Part/main", u"text"_s, u"org.ferrin.Ferrin"_s),
+            QByteArrayList({ "MESSAGE=text", "PRIORITY=3", "SYSLOG_IDENTIFIER=ferrin",
+                             "CATEGORY=main", "SUBSYSTEM=org.ferrin.Part" }));
+    }
+
     void writesAPlainLineForPeople()
     {
         QCOMPARE(plainLine(QtCriticalMsg, u"Unable to \u00e9"_s),
