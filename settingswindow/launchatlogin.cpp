@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "settingswindow/launchatlogin.h"
+
+#include "settingswindow/loginitem.h"
+
+#include <QLoggingCategory>
+
+namespace ferrin {
+
+namespace {
+
+// The component's own subsystem and category, which whoever keeps the log tells apart.
+Q_LOGGING_CATEGORY(launchAtLoginLogger, "org.ferrin.LaunchAtLogin/main")
+
+} // namespace
+
+LaunchAtLoginObservable &LaunchAtLoginObservable::shared()
+{
+    static LaunchAtLoginObservable observable;
+    return observable;
+}
+
+LaunchAtLogin::LaunchAtLogin(LoginItem &item, Observable &observable, QObject *parent)
+    : QObject(parent)
+    , m_item(item)
+    , m_observable(observable)
+{
+}
+
+bool LaunchAtLogin::isEnabled() const
+{
+    return m_item.status() == LoginItemStatus::enabled;
+}
+
+void LaunchAtLogin::setIsEnabled(bool enabled)
+{
+    Q_EMIT m_observable.willChange();
+    // A session that lists the item already takes a new program only from a new registration.
+    if (enabled && isEnabled())
+        static_cast<void>(m_item.unregisterItem());
+    if (const auto error = enabled ? m_item.registerItem() : m_item.unregisterItem()) {
+        qCCritical(launchAtLoginLogger, "Failed to %s launch at login: %s",
+                   enabled ? "enable" : "disable", qUtf8Printable(*error));
+    }
+    Q_EMIT isEnabledChanged();
+}
+
+} // namespace ferrin
