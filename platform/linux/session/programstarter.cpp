@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/session/programstarter.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace ferrin {
+
+bool DetachedProgramStarter::isInstalled(const QString &program) const
+{
+    return !QStandardPaths::findExecutable(program).isEmpty();
+}
+
+bool DetachedProgramStarter::start(const CommandLine &command)
+{
+    QProcess process;
+    process.setProgram(command.program);
+    process.setArguments(command.arguments);
+    process.setWorkingDirectory(QDir::homePath());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
+}
+
+} // namespace ferrin
