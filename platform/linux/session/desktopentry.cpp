@@ -16,7 +16,7 @@ const QByteArray header = "[Desktop Entry]";
 QByteArray keyOf(const QByteArray &line)
 {
     const qsizetype equals = line.indexOf('=');
-    return equals < 0 || line.startsWith('#') ? QByteArray() : line.first(equals).trimmed();
+    return equals < 0 ? QByteArray() : line.first(equals).trimmed();
 }
 
 QString unescaped(const QString &value)

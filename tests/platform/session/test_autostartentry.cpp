@@ -265,6 +265,7 @@ private Q_SLOTS:
         const Fixture f;
         const QByteArray other = "[Desktop Entry]\nName=Other\nExec=/bin/true\nX-Other=1\n";
         writeFile(f.usersFile, other);
+        writeFile(f.systemsFile, f.ours());
         AutostartEntry entry = f.entry();
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
         QCOMPARE(entry.unregisterItem(), std::nullopt);
