@@ -18,6 +18,13 @@ FERRIN_USE_QML_FILES(ferrin_dashboard)
 
 namespace ferrin {
 
+namespace {
+
+// Nobody can have opened the popover and turned to something else in so short a time.
+constexpr std::chrono::milliseconds settlingTime { 400 };
+
+} // namespace
+
 DashboardWindow::DashboardWindow(PopoverDesktop &desktop, QQmlEngine &engine)
     : FramedWindow(desktop, engine)
 {
@@ -40,6 +47,7 @@ void DashboardWindow::openAt(const ItemPlace &place)
     followScreen();
     placeAtItem();
     desktop().prepare(*this);
+    m_settling.setRemainingTime(settlingTime);
     show();
     desktop().focus(*this);
 }
@@ -77,7 +85,11 @@ bool DashboardWindow::event(QEvent *event)
 void DashboardWindow::focusOutEvent(QFocusEvent *event)
 {
     FramedWindow::focusOutEvent(event);
-    Q_EMIT focusLost();
+    // A window manager that was busy with another window's end gives its focus on only now.
+    if (isVisible() && !m_settling.hasExpired())
+        desktop().focus(*this);
+    else
+        Q_EMIT focusLost();
 }
 
 void DashboardWindow::keyPressEvent(QKeyEvent *event)

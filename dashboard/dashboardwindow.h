@@ -6,6 +6,7 @@
 #include "menubar/itemplace.h"
 #include "quick/framedwindow.h"
 
+#include <QDeadlineTimer>
 #include <QPointer>
 
 class QScreen;
@@ -41,6 +42,7 @@ private:
 
     ItemPlace m_item;
     QPointer<QScreen> m_screen;
+    QDeadlineTimer m_settling;
 };
 
 } // namespace ferrin

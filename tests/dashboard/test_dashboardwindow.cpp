@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "dashboard/dashboardwindow.h"
+#include "menubar/popoverdesktop.h"
+#include "tests/dashboard/stage.h"
+
+#include <QSignalSpy>
+
+using namespace ferrin;
+
+namespace {
+
+struct FakeDesktop final : PopoverDesktop
+{
+    void focus(QWindow &) override { ++requests; }
+
+    int requests = 0;
+};
+
+void takeFocus(QWindow &window)
+{
+    QFocusEvent event(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+} // namespace
+
+class TestDashboardWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void asksForTheFocusAgainWhenItIsTakenWhileItOpens()
+    {
+        test::Stage stage;
+        FakeDesktop desktop;
+        DashboardWindow window(desktop, stage.engine);
+        const QSignalSpy lost(&window, &DashboardWindow::focusLost);
+        window.openAt({});
+        QCOMPARE(desktop.requests, 1);
+        takeFocus(window);
+        QCOMPARE(desktop.requests, 2);
+        QCOMPARE(lost.count(), 0);
+    }
+
+    void tellsOfTheFocusThatIsLostLater()
+    {
+        test::Stage stage;
+        FakeDesktop desktop;
+        DashboardWindow window(desktop, stage.engine);
+        const QSignalSpy lost(&window, &DashboardWindow::focusLost);
+        window.openAt({});
+        QTRY_VERIFY((takeFocus(window), lost.count() > 0));
+    }
+};
+
+QTEST_MAIN(TestDashboardWindow)
+#include "test_dashboardwindow.moc"
