@@ -148,8 +148,8 @@ void TestWindows::saysThatTheDashboardLostTheFocusAndLeavesItOpen()
     QVERIFY(QTest::qWaitForWindowActive(dashboard));
     QWindow other;
     other.show();
-    other.requestActivate();
-    QTRY_VERIFY(lost > 0);
+    // A popover that has just opened asks for the focus back.
+    QTRY_VERIFY((other.requestActivate(), lost > 0));
     QVERIFY(dashboard->isVisible());
 }
 
