@@ -74,16 +74,15 @@ void FramedWindow::place(const PopoverSpot &spot, ArrowUse arrowUse)
     setGeometry(whole);
     if (m_content)
         m_content->setPosition(QPointF(margins.left(), margins.top()));
-    auto *const frame = qobject_cast<PopoverFrame *>(m_frameItem.get());
-    if (!frame)
+    if (!m_frameItem)
         return;
-    frame->setSize(whole.size());
+    m_frameItem->setSize(whole.size());
     std::optional<PopoverFrame::Arrow> arrow;
     if (arrowUse == ArrowUse::With)
         arrow = { .side = spot.side, .along = qreal(spot.arrow) };
-    frame->setFraming(margins, arrow, m_isBlended);
+    m_frameItem->setFraming(margins, arrow, m_isBlended);
     create();
-    m_desktop.setOutline(*this, frame->outline());
+    m_desktop.setOutline(*this, m_frameItem->outline());
 }
 
 } // namespace ferrin

@@ -49,7 +49,7 @@ private:
     [[nodiscard]] QMargins marginsFor(const PopoverSpot &spot, ArrowUse arrowUse) const;
 
     PopoverDesktop &m_desktop;
-    std::unique_ptr<QQuickItem> m_frameItem;
+    std::unique_ptr<PopoverFrame> m_frameItem;
     std::unique_ptr<QQuickItem> m_content;
     QRect m_frameRect;
     bool m_isBlended = true;

@@ -28,7 +28,6 @@ Item {
     implicitHeight: 15
     activeFocusOnTab: true
 
-    Accessible.ignored: !visible
     Accessible.role: Accessible.Button
     Accessible.name: `More about ${title}`
     Accessible.focusable: true
