@@ -4,12 +4,17 @@
 #include "app/desktopplatform.h"
 
 #include "menubar/statusitem.h"
+#include "platform/linux/session/desktopnames.h"
+
+#include <QCoreApplication>
 
 namespace ferrin {
 
-DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus)
+DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus, const QString &identifier)
     : m_appearance(sessionBus)
     , m_statusArea(sessionBus)
+    , m_links(m_programs, currentDesktopNames())
+    , m_loginItem(identifier, QCoreApplication::applicationFilePath())
 {
     connect(&m_appearance, &SystemAppearance::changed, this, &DesktopPlatform::followAppearance);
     connect(&m_statusArea, &StatusAreaChooser::itemAvailable, this,

@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include "app/windows.h"
+#include "platform/linux/session/autostartentry.h"
+#include "platform/linux/session/desktoplinkopener.h"
+#include "platform/linux/session/programstarter.h"
 #include "platform/linux/session/systemappearance.h"
 #include "platform/linux/statusarea/statusarea.h"
 #include "platform/linux/statusarea/x11popoverdesktop.h"
@@ -22,16 +26,20 @@ class DesktopPlatform final : public QObject
     Q_OBJECT
 
 public:
-    explicit DesktopPlatform(const QDBusConnection &sessionBus);
+    /// The login item is named after the identifier.
+    DesktopPlatform(const QDBusConnection &sessionBus, const QString &identifier);
 
     /// Offers the item to the desktop; `itemAvailable` follows.
     void start();
 
     [[nodiscard]] StatusBar &statusBar() const { return *m_statusArea.bar(); }
 
-    /// What the windows that open at the item need of the desktop.
+    /// What the windows need of the desktop.
     [[nodiscard]] PressWatcher &presses() noexcept { return m_presses; }
-    [[nodiscard]] PopoverDesktop &popovers() noexcept { return m_popovers; }
+    [[nodiscard]] WindowsPlatform windows() noexcept
+    {
+        return { m_popovers, m_loginItem, m_links };
+    }
 
     /// What the item's widths are measured with.
     [[nodiscard]] ViewContext measuringContext() const;
@@ -48,6 +56,9 @@ private:
     StatusAreaChooser m_statusArea;
     X11PressWatcher m_presses;
     X11PopoverDesktop m_popovers;
+    DetachedProgramStarter m_programs;
+    DesktopLinkOpener m_links;
+    AutostartEntry m_loginItem;
 };
 
 } // namespace ferrin

@@ -81,13 +81,13 @@ int main(int argc, char **argv)
         bundle.identifier()));
     PowerPlatform power(QDBusConnection::systemBus());
     BatteryDataProvider::setPlatform(power.parts());
-    DesktopPlatform desktop(session);
+    DesktopPlatform desktop(session, bundle.identifier());
 
     SpentMemory memory;
     FerrinApp ferrin({ .loadWindows =
                            [&] {
                                memory.rememberLibraries();
-                               return loadWindows(desktop.popovers());
+                               return loadWindows(desktop.windows());
                            },
                        .presses = &desktop.presses(),
                        .fillStatusItem =

@@ -14,6 +14,8 @@ class QWindow;
 
 namespace ferrin {
 
+class LinkOpener;
+class LoginItem;
 class PopoverDesktop;
 
 /// The two windows of the application, the dashboard's popover and the settings window. They live
@@ -40,16 +42,23 @@ public:
     std::function<void()> dashboardLostFocus;
 };
 
+/// What the windows need of the desktop. All of it outlives them.
+struct WindowsPlatform
+{
+    PopoverDesktop &popovers;
+    LoginItem &loginItem;
+    LinkOpener &links;
+};
+
 /// What the module offers.
 class WindowsFactory
 {
 public:
     virtual ~WindowsFactory() = default;
-    /// The desktop outlives the windows.
-    [[nodiscard]] virtual std::unique_ptr<Windows> create(PopoverDesktop &desktop) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Windows> create(const WindowsPlatform &platform) = 0;
 };
 
 } // namespace ferrin
 
-#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/2"
+#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/3"
 Q_DECLARE_INTERFACE(ferrin::WindowsFactory, FerrinWindowsFactory_iid)

@@ -10,11 +10,11 @@
 
 namespace ferrin {
 
-std::unique_ptr<Windows> loadWindows(PopoverDesktop &desktop)
+std::unique_ptr<Windows> loadWindows(const WindowsPlatform &platform)
 {
     QPluginLoader loader(privateFolder() + QStringLiteral("/ferrin-windows.so"));
     if (auto *factory = qobject_cast<WindowsFactory *>(loader.instance()))
-        return factory->create(desktop);
+        return factory->create(platform);
     qCCritical(logger, "The windows cannot be opened: %s", qUtf8Printable(loader.errorString()));
     return nullptr;
 }

@@ -9,6 +9,6 @@ namespace ferrin {
 
 /// Loads the module of the windows beside the program and makes its windows; null with one log line
 /// when the module is missing or not ours.
-[[nodiscard]] std::unique_ptr<Windows> loadWindows(PopoverDesktop &desktop);
+[[nodiscard]] std::unique_ptr<Windows> loadWindows(const WindowsPlatform &platform);
 
 } // namespace ferrin

@@ -44,7 +44,7 @@ class BareWindowsPlugin final : public QObject, public WindowsFactory
     Q_INTERFACES(ferrin::WindowsFactory)
 
 public:
-    [[nodiscard]] std::unique_ptr<Windows> create(PopoverDesktop &) override
+    [[nodiscard]] std::unique_ptr<Windows> create(const WindowsPlatform &) override
     {
         return std::make_unique<BareWindows>();
     }

@@ -8,10 +8,10 @@
 #include "app/windows.h"
 #include "core/batterydataprovider.h"
 #include "core/storeddata.h"
-#include "menubar/popoverdesktop.h"
 #include "menubar/textview.h"
 #include "state/applicationappearance.h"
 #include "state/shareddefaults.h"
+#include "tests/app/windowsplatform.h"
 #include "tests/support/fakepowersources.h"
 #include "tests/support/fakeprocesslauncher.h"
 #include "tests/support/fakeregistry.h"
@@ -64,7 +64,7 @@ public:
             auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
             if (!factory)
                 qFatal("%s", qUtf8Printable(loader.errorString()));
-            m_windows = factory->create(m_desktop);
+            m_windows = factory->create(m_platform.all());
             m_windows->dashboardClosed = m_windows->dashboardLostFocus = [] {};
         }
         m_windows->showDashboard({ .item = QRect(400, 0, 24, 24) });
@@ -77,7 +77,7 @@ private:
     test::FakeRegistry m_registry;
     test::FakePowerSources m_powerSources;
     test::FakeProcessLauncher m_launcher;
-    PopoverDesktop m_desktop;
+    test::FakeWindowsPlatform m_platform;
     std::unique_ptr<Windows> m_windows;
 };
 

@@ -3,47 +3,20 @@
 
 import QtQuick
 import Ferrin.Dashboard
+import Ferrin.Quick
 
-// The dashboard's menu. It owns the states of its items, which start afresh with each opening.
-FocusScope {
+// The dashboard's menu of sections.
+MenuView {
     id: root
 
-    // The state of each item, by its button; every item may reset the others.
-    property var states: ({})
-
-    readonly property list<MenuItemView> items: [status, health, adapter, settings]
+    items: [status, health, adapter, settings]
 
     implicitWidth: 140
     implicitHeight: 210
 
-    Accessible.role: Accessible.PageTabList
     Accessible.name: "Sections"
 
     Component.onCompleted: root.select(Dashboard.selected)
-
-    // Marks one item as the selected one and all others as neither selected nor hovered. The keys
-    // go on from there.
-    function select(button) {
-        const marked = {};
-        for (let i = 0; i < items.length; ++i)
-            marked[items[i].button] = Dashboard.ButtonState.None;
-        marked[button] = Dashboard.ButtonState.Selected;
-        items[button].focus = true;
-        states = marked;
-    }
-
-    function setHovered(button, hovered) {
-        if (states[button] === Dashboard.ButtonState.Selected)
-            return;
-        const state = hovered ? Dashboard.ButtonState.Hovered : Dashboard.ButtonState.None;
-        states = Object.assign({}, states, { [button]: state });
-    }
-
-    // The sections are numbered in the order of the menu.
-    function moveFocus(from: int, step: int) {
-        if (items[from + step])
-            items[from + step].forceActiveFocus(Qt.TabFocusReason);
-    }
 
     // qmllint disable unqualified
     component MenuItem: MenuItemView {

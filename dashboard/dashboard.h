@@ -35,13 +35,6 @@ public:
     };
     Q_ENUM(MenuButton)
 
-    enum class ButtonState {
-        Selected = int(ferrin::ButtonState::selected),
-        Hovered = int(ferrin::ButtonState::hovered),
-        None = int(ferrin::ButtonState::none),
-    };
-    Q_ENUM(ButtonState)
-
     explicit Dashboard(AppStatus &status, QObject *parent = nullptr);
 
     /// The engine's child.

@@ -25,8 +25,8 @@ constexpr std::chrono::milliseconds settlingTime { 400 };
 
 } // namespace
 
-DashboardWindow::DashboardWindow(PopoverDesktop &desktop, QQmlEngine &engine)
-    : FramedWindow(desktop, engine)
+DashboardWindow::DashboardWindow(QuickEngine &engine)
+    : FramedWindow(engine)
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     QQmlComponent view(&engine,

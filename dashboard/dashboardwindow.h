@@ -20,8 +20,8 @@ class DashboardWindow final : public FramedWindow
     Q_OBJECT
 
 public:
-    /// The desktop and the engine outlive it.
-    DashboardWindow(PopoverDesktop &desktop, QQmlEngine &engine);
+    /// The engine outlives it.
+    explicit DashboardWindow(QuickEngine &engine);
 
     /// Shows the popover beside the item, wholly inside the item's screen.
     void openAt(const ItemPlace &place);

@@ -39,4 +39,33 @@ QtObject {
     readonly property color primaryText: cardTextColor
     readonly property color accent: "#1b63c6"
     readonly property color accentText: "#ffffff"
+
+    readonly property color secondaryText: cardTitleColor
+    readonly property color link: blueIcon
+    readonly property color switchOff: Theme.isDark ? "#7b8088" : "#85898f"
+    readonly property color switchKnob: "#ffffff"
+
+    // Behind the white symbols of the settings window, at 0.7 of their strength, too.
+    readonly property color systemOrange: Theme.isDark ? "#c2640a" : "#b85c00"
+    readonly property color systemBlue: Theme.isDark ? "#2a72d4" : "#1b63c6"
+    readonly property color systemGray: Theme.isDark ? "#70757d" : "#5f636a"
+    readonly property color systemBrown: Theme.isDark ? "#8f6a4a" : "#7a5636"
+    readonly property color systemRed: Theme.isDark ? "#d2453c" : "#c4281f"
+    readonly property color systemGreen: Theme.isDark ? "#2f8a5c" : "#1f7a4d"
+    readonly property color tileSymbol: "#ffffff"
+
+    readonly property color settingsMenu: Theme.isDark ? "#1d1f22" : "#e6e8ec"
+    readonly property color settingsMenuSelected: Theme.isDark ? "#3d4a5c" : "#cadcf5"
+    readonly property color settingsBackground: Theme.isDark ? "#232528" : "#f3f4f6"
+    readonly property color settingsDivider: greyIcon
+    readonly property color settingsRectangle: Theme.isDark ? "#2b2e32" : "#fafbfc"
+    readonly property color settingsRectBorder: greyIcon
+    readonly property color settingsRectTextTitle: cardTextColor
+    // Behind the icon that is chosen or pointed at, and the icons themselves.
+    readonly property color settingsIconOptions: menuSelected
+    readonly property color settingsPopoverIcon: cardTextColor
+    readonly property color settingsPopBorder: Theme.isDark ? "#555a61" : "#c4c7cc"
+    readonly property color settingsPopBckg1: Theme.isDark ? "#34383d" : "#ffffff"
+    readonly property color settingsPopBckg2: Theme.isDark ? "#2b2e32" : "#f3f4f6"
+    readonly property color settingsAck: secondaryText
 }

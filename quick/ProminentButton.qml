@@ -2,34 +2,24 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Quick
 
 // A push button in the accent colour, for what a view mainly offers.
-Item {
+Pressable {
     id: root
 
     required property string text
 
-    signal pressed
-
+    spokenName: text
     implicitWidth: Math.max(56, label.implicitWidth + 20)
     implicitHeight: label.implicitHeight + 10
-    activeFocusOnTab: true
-
-    Accessible.role: Accessible.Button
-    Accessible.name: text
-    Accessible.focusable: true
-    Accessible.onPressAction: root.pressed()
-
-    Keys.onReturnPressed: root.pressed()
-    Keys.onEnterPressed: root.pressed()
-    Keys.onSpacePressed: root.pressed()
 
     Rectangle {
         id: ground
 
         anchors.fill: parent
         radius: 5
-        color: tap.pressed ? Qt.darker(Colours.accent, 1.2) : Colours.accent
+        color: root.isDown ? Qt.darker(Colours.accent, 1.2) : Colours.accent
     }
 
     FocusRing {
@@ -46,11 +36,5 @@ Item {
         textFormat: Text.PlainText
         font: Fonts.regular12
         color: Colours.accentText
-    }
-
-    TapHandler {
-        id: tap
-
-        onTapped: root.pressed()
     }
 }

@@ -5,11 +5,11 @@
 
 #include "menubar/popoverdesktop.h"
 #include "quick/popoverframe.h"
+#include "quick/quickengine.h"
 #include "sources/logging.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
-#include <QQmlEngine>
 
 #include <algorithm>
 #include <cmath>
@@ -17,9 +17,9 @@
 
 namespace ferrin {
 
-FramedWindow::FramedWindow(PopoverDesktop &desktop, QQmlEngine &engine)
-    : m_desktop(desktop)
-    , m_isBlended(desktop.blends())
+FramedWindow::FramedWindow(QuickEngine &engine)
+    : m_desktop(engine.popovers())
+    , m_isBlended(m_desktop.blends())
 {
     setTitle(QGuiApplication::applicationDisplayName());
     setColor(Qt::transparent);

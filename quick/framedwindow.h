@@ -10,12 +10,11 @@
 
 #include <memory>
 
-class QQmlEngine;
-
 namespace ferrin {
 
 class PopoverDesktop;
 class PopoverFrame;
+class QuickEngine;
 
 /// A window that is a popover: a frame with round corners and a shadow around one item, which
 /// decides the size. Its owner says where it stands. It never closes by itself.
@@ -24,8 +23,8 @@ class FramedWindow : public QQuickWindow
     Q_OBJECT
 
 public:
-    /// The desktop and the engine outlive it.
-    FramedWindow(PopoverDesktop &desktop, QQmlEngine &engine);
+    /// The engine outlives it.
+    explicit FramedWindow(QuickEngine &engine);
     ~FramedWindow() override;
 
     [[nodiscard]] PopoverDesktop &desktop() const noexcept { return m_desktop; }

@@ -3,6 +3,7 @@
 
 #include "quick/popoverframe.h"
 
+#include "quick/popoverplacement.h"
 #include "quick/softshadow.h"
 
 #include <QImage>
@@ -93,6 +94,18 @@ QPainterPath PopoverFrame::outline(qreal inset) const
         return path;
     const Arrow arrow { m_arrow->side, m_arrow->along - inset };
     return path.united(toArrow(frame, arrow).map(arrowOnTop())).simplified();
+}
+
+QPointF PopoverFrame::standBeside(const QRectF &part, const QSizeF &content, const QRectF &within)
+{
+    const PopoverSpot spot
+        = spotAtPart(part.toRect(), content.toSize(), within.toRect(), innerSides);
+    const QMargins margins(shadowReach, shadowReach, shadowReach, shadowReach);
+    const QRect whole = spot.frame.marginsAdded(margins);
+    setPosition(whole.topLeft());
+    setSize(whole.size());
+    setFraming(margins, Arrow { .side = spot.side, .along = qreal(spot.arrow) }, true);
+    return { qreal(margins.left()), qreal(margins.top()) };
 }
 
 void PopoverFrame::paint(QPainter *painter)

@@ -49,6 +49,11 @@ public:
     /// half-transparent pixel either.
     void setFraming(const QMargins &margins, const std::optional<Arrow> &arrow, bool isBlended);
 
+    /// Stands beside a part of its own scene, with an arrow to it and wholly inside `within`, and
+    /// answers where content of this size goes, in the item's pixels.
+    Q_INVOKABLE QPointF standBeside(const QRectF &part, const QSizeF &content,
+                                    const QRectF &within);
+
     /// The border's outer edge, in the item's pixels.
     [[nodiscard]] QPainterPath outline() const { return outline(0); }
 

@@ -166,10 +166,9 @@ PopoverSpot spotAtItem(const ItemPlace &place, const QSize &size, const ScreenAr
     };
 }
 
-PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &available)
+PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &available,
+                       const PopoverSides &sides)
 {
-    constexpr std::array sides { PopoverSide::Below, PopoverSide::Above, PopoverSide::Right,
-                                 PopoverSide::Left };
     const auto spare = [&](PopoverSide side) {
         const int needed = (isBesides(side) ? size.width() : size.height()) + partGap;
         return spaceBeside(part, available, side) - needed;

@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <array>
+
 namespace ferrin {
 
 /// Where a popover stands, seen from what it belongs to.
@@ -47,8 +49,19 @@ inline constexpr int explanationGap = 16;
 [[nodiscard]] PopoverSpot spotAtItem(const ItemPlace &place, const QSize &size,
                                      const ScreenArea &screen);
 
-/// A popover that explains a part of a window: on the first of below, above, right and left of it
-/// where there is room, else where there is most, and always wholly on the screen.
-[[nodiscard]] PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &available);
+/// The sides of a part of a window in the order in which a popover tries them.
+using PopoverSides = std::array<PopoverSide, 4>;
+
+/// A popover outside of the window covers least when it stands below or above.
+inline constexpr PopoverSides outerSides { PopoverSide::Below, PopoverSide::Above,
+                                           PopoverSide::Right, PopoverSide::Left };
+/// One inside of it leaves the column of its part in sight.
+inline constexpr PopoverSides innerSides { PopoverSide::Left, PopoverSide::Right,
+                                           PopoverSide::Below, PopoverSide::Above };
+
+/// A popover that belongs to a part of a window: on the first of the sides where there is room,
+/// else where there is most, and always wholly in what is available.
+[[nodiscard]] PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &available,
+                                     const PopoverSides &sides = outerSides);
 
 } // namespace ferrin

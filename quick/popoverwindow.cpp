@@ -3,12 +3,11 @@
 
 #include "quick/popoverwindow.h"
 
-#include "menubar/popoverdesktop.h"
 #include "quick/framedwindow.h"
+#include "quick/quickengine.h"
 #include "sources/logging.h"
 
 #include <QKeyEvent>
-#include <QQmlEngine>
 #include <QScreen>
 
 #include <utility>
@@ -18,13 +17,6 @@ namespace ferrin {
 namespace {
 
 QPointer<PopoverWindow> openOne;
-
-PopoverDesktop &desktopOf(const QQuickWindow &window)
-{
-    static PopoverDesktop common;
-    const auto *framed = qobject_cast<const FramedWindow *>(&window);
-    return framed ? framed->desktop() : common;
-}
 
 } // namespace
 
@@ -68,10 +60,10 @@ void PopoverWindow::setTitle(const QString &title)
 void PopoverWindow::open()
 {
     QQuickWindow *const parent = m_anchor ? m_anchor->window() : nullptr;
-    QQmlEngine *const engine = qmlEngine(this);
+    auto *const engine = qobject_cast<QuickEngine *>(qmlEngine(this));
     if (m_window || !m_content || !engine || !parent || !parent->isVisible())
         return;
-    auto window = std::make_unique<FramedWindow>(desktopOf(*parent), *engine);
+    auto window = std::make_unique<FramedWindow>(*engine);
     // On X11 a tool tip has all of these; were they not said, its window would be made anew when it
     // is shown, and lose its outline.
     window->setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint

@@ -17,6 +17,8 @@
 
 namespace ferrin {
 
+class PopoverDesktop;
+
 /// The engine of both windows, made before either: it also decides that they are painted in
 /// software. It knows our QML modules and no other place on the disk than Qt's
 /// own. What a singleton needs is found among its children: whoever makes the engine puts it there.
@@ -26,6 +28,13 @@ class QuickEngine final : public QQmlEngine
 
 public:
     explicit QuickEngine(QObject *parent = nullptr);
+    /// Popovers are dressed by this desktop, which outlives the engine.
+    explicit QuickEngine(PopoverDesktop &popovers, QObject *parent = nullptr);
+
+    [[nodiscard]] PopoverDesktop &popovers() const noexcept { return m_popovers; }
+
+private:
+    PopoverDesktop &m_popovers;
 };
 
 /// The engine's child of this type, which the engine does not own; for a singleton's `create`. Its

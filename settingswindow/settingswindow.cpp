@@ -4,6 +4,7 @@
 #include "settingswindow/settingswindow.h"
 
 #include "quick/quickengine.h"
+#include "settingswindow/settings.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -9,9 +9,11 @@
 #include "dashboard/dashboard.h"
 #include "dashboard/dashboardwindow.h"
 #include "quick/quickengine.h"
+#include "settingswindow/settings.h"
 #include "settingswindow/settingswindow.h"
 #include "state/appstatus.h"
 
+#include <QCoreApplication>
 #include <QObject>
 
 namespace ferrin {
@@ -22,21 +24,25 @@ namespace {
 class QuickWindows final : public Windows
 {
 public:
-    explicit QuickWindows(PopoverDesktop &desktop)
-        : m_desktop(desktop)
+    explicit QuickWindows(const WindowsPlatform &platform)
+        : m_engine(platform.popovers)
         , m_battery(*BatteryDataProvider::shared().data(), &m_engine)
         , m_adapter(StoredData::shared(), *BatteryDataProvider::shared().data(), &m_engine)
         , m_dashboardState(AppStatus::shared(), &m_engine)
+        , m_settingsState(AppStatus::shared(), &m_engine)
     {
         QObject::connect(&m_dashboardState, &Dashboard::closeRequested, &m_engine,
                          [this] { dashboardClosed(); });
         QObject::connect(&m_dashboardState, &Dashboard::settingsRequested, &m_engine,
                          [this] { openWindow(SettingsWindow::identifier()); });
+        QObject::connect(&m_settingsState, &Settings::dismissRequested, &m_engine,
+                         [this] { m_settings->close(); });
+        QObject::connect(&m_settingsState, &Settings::quitRequested, qApp, &QCoreApplication::quit);
     }
 
     void showDashboard(const ItemPlace &place) override
     {
-        m_dashboard = std::make_unique<DashboardWindow>(m_desktop, m_engine);
+        m_dashboard = std::make_unique<DashboardWindow>(m_engine);
         QObject::connect(m_dashboard.get(), &DashboardWindow::dismissed, &m_engine,
                          [this] { dashboardClosed(); });
         QObject::connect(m_dashboard.get(), &DashboardWindow::focusLost, &m_engine,
@@ -73,12 +79,12 @@ public:
     }
 
 private:
-    PopoverDesktop &m_desktop;
     // The engine goes last, and nothing of a scene outlives what it was bound to.
     QuickEngine m_engine;
     Battery m_battery;
     Adapter m_adapter;
     Dashboard m_dashboardState;
+    Settings m_settingsState;
     std::unique_ptr<DashboardWindow> m_dashboard;
     std::unique_ptr<SettingsWindow> m_settings;
 };
@@ -92,9 +98,9 @@ class WindowsPlugin final : public QObject, public WindowsFactory
     Q_INTERFACES(ferrin::WindowsFactory)
 
 public:
-    [[nodiscard]] std::unique_ptr<Windows> create(PopoverDesktop &desktop) override
+    [[nodiscard]] std::unique_ptr<Windows> create(const WindowsPlatform &platform) override
     {
-        return std::make_unique<QuickWindows>(desktop);
+        return std::make_unique<QuickWindows>(platform);
     }
 };
 

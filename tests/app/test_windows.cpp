@@ -4,8 +4,8 @@
 #include "app/windows.h"
 #include "core/batterydataprovider.h"
 #include "core/storeddata.h"
-#include "menubar/popoverdesktop.h"
 #include "state/shareddefaults.h"
+#include "tests/app/windowsplatform.h"
 #include "tests/support/fakepowersources.h"
 #include "tests/support/fakeprocesslauncher.h"
 #include "tests/support/fakeregistry.h"
@@ -56,7 +56,7 @@ private:
     test::FakeRegistry m_registry;
     test::FakePowerSources m_powerSources;
     test::FakeProcessLauncher m_launcher;
-    PopoverDesktop m_desktop;
+    test::FakeWindowsPlatform m_platform;
     std::unique_ptr<Windows> m_windows;
 };
 
@@ -75,7 +75,7 @@ void TestWindows::init()
     QPluginLoader loader(QStringLiteral(FERRIN_WINDOWS_MODULE));
     auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
     QVERIFY2(factory, qPrintable(loader.errorString()));
-    m_windows = factory->create(m_desktop);
+    m_windows = factory->create(m_platform.all());
 }
 
 void TestWindows::showsOneWindowWhenTheSettingsAreOpenedTwice()

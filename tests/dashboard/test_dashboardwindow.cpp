@@ -33,9 +33,9 @@ class TestDashboardWindow : public QObject
 private Q_SLOTS:
     void asksForTheFocusAgainWhenItIsTakenWhileItOpens()
     {
-        test::Stage stage;
         FakeDesktop desktop;
-        DashboardWindow window(desktop, stage.engine);
+        test::Stage stage(desktop);
+        DashboardWindow window(stage.engine);
         const QSignalSpy lost(&window, &DashboardWindow::focusLost);
         window.openAt({});
         QCOMPARE(desktop.requests, 1);
@@ -46,9 +46,9 @@ private Q_SLOTS:
 
     void tellsOfTheFocusThatIsLostLater()
     {
-        test::Stage stage;
         FakeDesktop desktop;
-        DashboardWindow window(desktop, stage.engine);
+        test::Stage stage(desktop);
+        DashboardWindow window(stage.engine);
         const QSignalSpy lost(&window, &DashboardWindow::focusLost);
         window.openAt({});
         QTRY_VERIFY((takeFocus(window), lost.count() > 0));

@@ -72,7 +72,7 @@ public:
         if (!root)
             qFatal("%s", qPrintable(component.errorString()));
         content = root.get();
-        window = std::make_unique<FramedWindow>(desktop, engine);
+        window = std::make_unique<FramedWindow>(engine);
         window->setContent(std::move(root));
         window->place({ .frame { 200, 100, 300, 200 }, .bounds { 0, 0, 800, 800 } },
                       FramedWindow::ArrowUse::Without);
@@ -95,7 +95,7 @@ public:
     }
 
     FakeDesktop desktop;
-    QuickEngine engine;
+    QuickEngine engine { desktop };
     QQuickItem *content = nullptr;
     std::unique_ptr<FramedWindow> window;
 };

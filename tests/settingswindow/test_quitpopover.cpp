@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "tests/dashboard/stage.h"
+#include "tests/settingswindow/stage.h"
 
 #include <QSignalSpy>
 
@@ -23,7 +23,7 @@ struct Popover
         QTest::mouseClick(&stage.window, Qt::LeftButton, {}, middle.toPoint());
     }
 
-    test::Stage stage;
+    test::SettingsStage stage;
     QQuickItem *view = nullptr;
     QList<QQuickItem *> buttons;
 };

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+
+// What can be pressed, by pointer, key or screen reader. How it looks is added by whoever derives
+// from it.
+Item {
+    id: root
+
+    // In words, for those who hear it.
+    required property string spokenName
+    readonly property alias isHovered: hover.hovered
+    readonly property alias isDown: tap.pressed
+
+    signal pressed
+
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: spokenName
+    Accessible.focusable: true
+    Accessible.onPressAction: root.pressed()
+
+    Keys.onReturnPressed: root.pressed()
+    Keys.onEnterPressed: root.pressed()
+    Keys.onSpacePressed: root.pressed()
+
+    HoverHandler {
+        id: hover
+
+        objectName: "hover"
+    }
+
+    TapHandler {
+        id: tap
+
+        onTapped: root.pressed()
+    }
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Theme
+
+// A switch behind its label. It shows what holds and asks to have it changed: `isOn` is bound by
+// whoever uses it and is never written here.
+Pressable {
+    id: root
+
+    required property string label
+    required property bool isOn
+
+    // The user wants the switch to be this.
+    signal flipped(on: bool)
+
+    spokenName: label
+    implicitWidth: text.implicitWidth + 8 + track.width
+    implicitHeight: Math.max(20, text.implicitHeight)
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: isOn
+    Accessible.onToggleAction: root.flipped(!isOn)
+
+    onPressed: flipped(!isOn)
+
+    Text {
+        id: text
+
+        anchors { left: parent.left; right: track.left; rightMargin: 8 }
+        height: parent.height
+        verticalAlignment: Text.AlignVCenter
+        text: root.label
+        textFormat: Text.PlainText
+        font: Fonts.regular13
+        color: Colours.primaryText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 9
+    }
+
+    Rectangle {
+        id: track
+
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        width: 32
+        height: 18
+        radius: height / 2
+        color: root.isOn ? Colours.accent : Colours.switchOff
+
+        Rectangle {
+            id: knob
+
+            x: root.isOn ? track.width - width - 2 : 2
+            y: 2
+            width: 14
+            height: 14
+            radius: height / 2
+            color: Colours.switchKnob
+
+            Behavior on x {
+                enabled: !Theme.reducesMotion
+
+                NumberAnimation {
+                    duration: 120
+                    easing.type: Easing.InOutQuad
+                }
+            }
+        }
+    }
+
+    FocusRing {
+        anchors.fill: track
+        anchors.margins: -3
+        radius: track.radius + 3
+        owner: root
+    }
+}

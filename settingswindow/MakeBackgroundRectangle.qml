@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// A panel of a page: rounded, with a border, and a title above what it holds. It is as high as that.
+Rectangle {
+    id: root
+
+    required property string title
+    default property alias content: body.data
+
+    implicitHeight: heading.height + body.childrenRect.height + 12
+    radius: 8
+    color: Colours.settingsRectangle
+    border { width: 1; color: Colours.settingsRectBorder }
+
+    Text {
+        id: heading
+
+        anchors { left: parent.left; right: parent.right; leftMargin: 7; rightMargin: 7 }
+        padding: 5
+        text: root.title
+        textFormat: Text.PlainText
+        font: Fonts.bold14
+        color: Colours.settingsRectTextTitle
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    Item {
+        id: body
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: heading.bottom
+            bottom: parent.bottom
+            leftMargin: 12
+            rightMargin: 12
+            bottomMargin: 12
+        }
+    }
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// One row of the settings window's menu: a symbol on a coloured tile, a label, and behind them the
+// mark of its state.
+MenuEntry {
+    id: root
+
+    required property string image
+    required property color color
+    // The states of all rows, by their buttons.
+    required property var control
+
+    buttonState: control[button]
+    implicitHeight: 42
+
+    Rectangle {
+        id: mark
+
+        anchors { fill: parent; margins: 2 }
+        radius: 5
+        color: Colours.settingsMenuSelected
+        opacity: root.buttonState === ButtonState.None ? 0 : 1
+    }
+
+    FocusRing {
+        anchors.margins: 2
+        radius: mark.radius
+        owner: root
+    }
+
+    SymbolTile {
+        id: tile
+
+        anchors { left: parent.left; leftMargin: 7; verticalCenter: parent.verticalCenter }
+        symbol: root.image
+        color: root.color
+        isBright: root.isSelected
+    }
+
+    Text {
+        anchors {
+            left: tile.right
+            leftMargin: 8
+            right: parent.right
+            rightMargin: 7
+            verticalCenter: parent.verticalCenter
+        }
+        text: root.text
+        textFormat: Text.PlainText
+        font: Fonts.regular13
+        color: Colours.primaryText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 9
+    }
+}
