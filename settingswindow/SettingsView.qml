@@ -8,25 +8,28 @@ import Ferrin.Quick
 FocusScope {
     id: root
 
-    implicitWidth: row.implicitWidth
-    implicitHeight: row.implicitHeight
+    implicitWidth: menu.width + divider.width + content.width
+    implicitHeight: Math.max(menu.height, content.height)
 
-    Row {
-        id: row
+    SettingsMenuView {
+        id: menu
 
-        SettingsMenuView {
-            focus: true
-            anchors.verticalCenter: parent.verticalCenter
-        }
+        anchors.verticalCenter: parent.verticalCenter
+        focus: true
+    }
 
-        Rectangle {
-            width: 1
-            height: parent.height
-            color: Colours.settingsDivider
-        }
+    Rectangle {
+        id: divider
 
-        SettingsContentView {
-            anchors.verticalCenter: parent.verticalCenter
-        }
+        anchors.left: menu.right
+        width: 1
+        height: parent.height
+        color: Colours.settingsDivider
+    }
+
+    SettingsContentView {
+        id: content
+
+        anchors { left: divider.right; verticalCenter: parent.verticalCenter }
     }
 }
