@@ -29,8 +29,8 @@ namespace {
 
 void describe(const Bundle &bundle)
 {
-    QGuiApplication::setApplicationName(QStringLiteral("ferrin"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Ferrin"));
+    // Not as the display name, which would follow every window's own title.
+    QGuiApplication::setApplicationName(QStringLiteral("Ferrin"));
     QGuiApplication::setApplicationVersion(bundle.shortVersion());
     QGuiApplication::setDesktopFileName(bundle.identifier());
     // The item, not a window, is what keeps the application alive.

@@ -62,7 +62,7 @@ private:
 
 void TestWindows::initTestCase()
 {
-    QGuiApplication::setApplicationDisplayName(u"Ferrin"_s);
+    QGuiApplication::setApplicationName(u"Ferrin"_s);
     setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
     BatteryDataProvider::setPlatform({ .registry = m_registry,
                                        .powerSources = m_powerSources,
