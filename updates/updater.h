@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "updates/updateconditions.h"
+#include "updates/updaterecords.h"
+#include "updates/updatesession.h"
+
+#include <QBindable>
+#include <QDateTime>
+#include <QObject>
+#include <QProperty>
+#include <QTimer>
+
+#include <functional>
+
+namespace ferrin {
+
+class DefaultsStore;
+
+/// Keeps the program current: looks by itself once a day where the user lets it, and whenever the
+/// user asks. It shows nothing; `session()` is what a window shows, and `presentationRequested`
+/// there is when. A build without a feed has no timer and reads and writes nothing. Owned by its
+/// controller, for the life of the process.
+class Updater : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool hasFeed READ hasFeed CONSTANT)
+    Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates BINDABLE bindableCanCheckForUpdates)
+    Q_PROPERTY(bool automaticallyChecksForUpdates READ automaticallyChecksForUpdates WRITE
+                   setAutomaticallyChecksForUpdates BINDABLE bindableAutomaticallyChecksForUpdates)
+    Q_PROPERTY(bool automaticallyDownloadsUpdates READ automaticallyDownloadsUpdates WRITE
+                   setAutomaticallyDownloadsUpdates BINDABLE bindableAutomaticallyDownloadsUpdates)
+
+public:
+    struct Parts
+    {
+        UpdateFeed feed;
+        QString installedVersion;
+        /// Where downloads go, absolute.
+        QString folder;
+        DefaultsStore &store;
+        UpdateEngine &engine;
+        PackageInstaller &installer;
+        NetworkCost &network;
+        std::function<BatteryReserve()> battery;
+        std::function<QDateTime()> now = &QDateTime::currentDateTimeUtc;
+    };
+
+    /// All of the parts outlive the updater. Nothing happens before `start`.
+    explicit Updater(const Parts &parts);
+
+    /// From now on it looks by itself.
+    void start();
+
+    /// False in a build that the system's package manager keeps current.
+    [[nodiscard]] bool hasFeed() const { return m_parts.feed.exists(); }
+
+    /// False while a check is running, and without a feed.
+    [[nodiscard]] bool canCheckForUpdates() const { return m_canCheck; }
+    [[nodiscard]] QBindable<bool> bindableCanCheckForUpdates() const { return &m_canCheck; }
+    /// The user wants to know: a check begins now, on any network and battery, and the session asks
+    /// to be shown.
+    Q_INVOKABLE void checkForUpdates();
+
+    /// Both are kept across launches.
+    [[nodiscard]] bool automaticallyChecksForUpdates() const { return m_automaticallyChecks; }
+    void setAutomaticallyChecksForUpdates(bool checks);
+    [[nodiscard]] bool automaticallyDownloadsUpdates() const { return m_automaticallyDownloads; }
+    void setAutomaticallyDownloadsUpdates(bool downloads);
+    /// Read-only: the switches are set by their setters.
+    [[nodiscard]] QBindable<bool> bindableAutomaticallyChecksForUpdates() const
+    {
+        return &m_automaticallyChecks;
+    }
+    [[nodiscard]] QBindable<bool> bindableAutomaticallyDownloadsUpdates() const
+    {
+        return &m_automaticallyDownloads;
+    }
+
+    [[nodiscard]] UpdateSession &session() noexcept { return m_session; }
+
+    /// Begins a quiet check if one is due and the machine can well afford it. The timer calls it.
+    void look();
+    [[nodiscard]] const QTimer &timer() const noexcept { return m_timer; }
+
+private:
+    [[nodiscard]] bool mayLook() const;
+    void beginQuietCheck();
+    void waitForNextLook();
+
+    Parts m_parts;
+    UpdateRecords m_records;
+    UpdateSession m_session;
+    QTimer m_timer;
+    Q_OBJECT_BINDABLE_PROPERTY(Updater, bool, m_canCheck)
+    Q_OBJECT_BINDABLE_PROPERTY(Updater, bool, m_automaticallyChecks)
+    Q_OBJECT_BINDABLE_PROPERTY(Updater, bool, m_automaticallyDownloads)
+};
+
+} // namespace ferrin
