@@ -29,11 +29,10 @@ UpdateSession::UpdateSession(const Parts &parts)
 
 void UpdateSession::begin()
 {
-    m_isQuiet = false;
     m_downloadsByItself = false;
     if (!isAnyOf({ Stage::checking, Stage::downloading }))
         check();
-    Q_EMIT presentationRequested();
+    present();
 }
 
 void UpdateSession::beginQuietly(bool downloads)
@@ -152,7 +151,7 @@ void UpdateSession::takeOffer(const UpdateOffer &offer)
     if (m_downloadsByItself)
         download();
     else
-        Q_EMIT presentationRequested();
+        present();
 }
 
 void UpdateSession::takePackage(const QString &path)
@@ -161,7 +160,7 @@ void UpdateSession::takePackage(const QString &path)
     m_packagePath = path;
     m_received = m_total.value();
     m_stage = Stage::readyToInstall;
-    Q_EMIT presentationRequested();
+    present();
 }
 
 void UpdateSession::fail(const UpdateTrouble &trouble)
@@ -184,6 +183,12 @@ void UpdateSession::setRelease(const std::optional<Release> &release)
     m_notes = release ? release->notes : QString();
     m_received = 0;
     m_total = release ? release->package.length : 0;
+}
+
+void UpdateSession::present()
+{
+    m_isQuiet = false;
+    Q_EMIT presentationRequested();
 }
 
 void UpdateSession::end()

@@ -123,6 +123,7 @@ private:
     void takePackage(const QString &path);
     void fail(const UpdateTrouble &trouble);
     void setRelease(const std::optional<Release> &release);
+    void present();
     void end();
     [[nodiscard]] bool isAnyOf(std::initializer_list<Stage> stages) const;
 

@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "tests/support/logcapture.h"
+#include "tests/support/memorydefaultsstore.h"
+#include "tests/updates/fakeengine.h"
+#include "tests/updates/fakeinstaller.h"
+#include "tests/updates/testfeed.h"
+#include "updates/appupdater.h"
+
+#include <QTest>
+
+using namespace ferrin;
+using namespace ferrin::test;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Stage = UpdateSession::Stage;
+
+namespace {
+
+struct FakeNetwork final : NetworkCost
+{
+    void ask(std::function<void(NetworkReach)> answer) override
+    {
+        ++asked;
+        if (answersLater)
+            waiting = std::move(answer);
+        else
+            answer(reach);
+    }
+
+    NetworkReach reach = NetworkReach::free;
+    bool answersLater = false;
+    std::function<void(NetworkReach)> waiting;
+    int asked = 0;
+};
+
+struct Bench
+{
+    [[nodiscard]] Updater::Parts parts()
+    {
+        return { .feed = feed,
+                 .installedVersion = u"1.2.9"_s,
+                 .folder = u"/nowhere"_s,
+                 .store = store,
+                 .engine = engine,
+                 .installer = installer,
+                 .network = network,
+                 .battery = [this] { return battery; },
+                 .now = [this] { return now; } };
+    }
+
+    /// The launch that begins now.
+    [[nodiscard]] Updater &launch()
+    {
+        updater.emplace(parts());
+        updater->start();
+        return *updater;
+    }
+
+    UpdateFeed feed { QUrl(u"https://example.org/feed"_s), QByteArray(32, 'k'), u"amd64"_s };
+    MemoryDefaultsStore store;
+    FakeEngine engine;
+    FakeInstaller installer;
+    FakeNetwork network;
+    BatteryReserve battery { 80, true };
+    QDateTime now = readingTime;
+    std::optional<Updater> updater;
+    LogCapture log;
+};
+
+} // namespace
+
+class TestUpdater : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_bench.emplace(); }
+    void cleanup() { m_bench.reset(); }
+
+    void checksByItselfOnceADay();
+    void checksAgainTheSameDayOnlyWhenTheUserAsks();
+    void countsTheUsersOwnChecks();
+    void doesNotLookInTheFirstMinute();
+    void hasOneTimerAndACoarseOne();
+    void looksAgainWithinTheHour();
+    void waitsAnHourWhereTheConditionsAreNotRight();
+    void staysOffAMeteredConnection();
+    void waitsForAConnection();
+    void sparesALowBattery_data();
+    void sparesALowBattery();
+    void checksOnAnyNetworkAndBatteryWhenTheUserAsks();
+    void keepsItsSwitchesAcrossLaunches();
+    void checksAndDoesNotDownloadByDefault();
+    void stopsItsTimerWithTheSwitch();
+    void doesNotBeginWhatTheUserSwitchedOffMeanwhile();
+    void downloadsByItselfWhereTheUserLetsIt();
+    void survivesAnAnswerOfTheNetworkThatComesTooLate();
+    void cannotCheckWhileACheckIsRunning();
+    void canCheckAgainWhateverTheCheckFound();
+    void doesNothingAtAllWithoutAFeed();
+    void isStartedByItsController();
+
+private:
+    std::optional<Bench> m_bench;
+};
+
+void TestUpdater::checksByItselfOnceADay()
+{
+    Updater &updater = m_bench->launch();
+    for (int hour = 0; hour < 49; ++hour) {
+        updater.look();
+        if (updater.session().stage() == Stage::checking)
+            Q_EMIT m_bench->engine.checked({ m_bench->now, std::nullopt });
+        m_bench->now = m_bench->now.addSecs(3600);
+    }
+    QCOMPARE(m_bench->engine.checks.size(), 3);
+    QCOMPARE(m_bench->log.take().size(), 3);
+}
+
+void TestUpdater::checksAgainTheSameDayOnlyWhenTheUserAsks()
+{
+    m_bench->launch().look();
+    m_bench->updater->session().cancel();
+    // The program was ended and started again.
+    m_bench->launch().look();
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+    m_bench->updater->checkForUpdates();
+    QCOMPARE(m_bench->engine.checks.size(), 2);
+}
+
+void TestUpdater::countsTheUsersOwnChecks()
+{
+    m_bench->launch().checkForUpdates();
+    m_bench->updater->session().cancel();
+    m_bench->updater->look();
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+}
+
+void TestUpdater::doesNotLookInTheFirstMinute()
+{
+    QCOMPARE(m_bench->launch().timer().intervalAsDuration(), 60s);
+    QVERIFY(m_bench->updater->timer().isActive());
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    QCOMPARE(m_bench->network.asked, 0);
+}
+
+void TestUpdater::hasOneTimerAndACoarseOne()
+{
+    QVERIFY(m_bench->launch().timer().isSingleShot());
+    QCOMPARE(m_bench->updater->timer().timerType(), Qt::VeryCoarseTimer);
+    QCOMPARE(m_bench->updater->findChildren<QTimer *>().size(), 0);
+}
+
+void TestUpdater::looksAgainWithinTheHour()
+{
+    m_bench->launch().look();
+    QVERIFY(m_bench->updater->timer().isActive());
+    QCOMPARE(m_bench->updater->timer().intervalAsDuration(), 1h);
+    m_bench->updater->session().cancel();
+    m_bench->now = m_bench->now.addSecs(24 * 3600 - 600);
+    m_bench->updater->look();
+    QCOMPARE(m_bench->updater->timer().intervalAsDuration(), 10min);
+}
+
+void TestUpdater::waitsAnHourWhereTheConditionsAreNotRight()
+{
+    m_bench->network.reach = NetworkReach::metered;
+    m_bench->launch().look();
+    QCOMPARE(m_bench->updater->timer().intervalAsDuration(), 1h);
+}
+
+void TestUpdater::staysOffAMeteredConnection()
+{
+    m_bench->network.reach = NetworkReach::metered;
+    m_bench->launch().look();
+    QCOMPARE(m_bench->network.asked, 1);
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    m_bench->network.reach = NetworkReach::free;
+    m_bench->updater->look();
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+}
+
+void TestUpdater::waitsForAConnection()
+{
+    m_bench->network.reach = NetworkReach::none;
+    m_bench->launch().look();
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    m_bench->network.reach = NetworkReach::free;
+    m_bench->updater->look();
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+}
+
+void TestUpdater::sparesALowBattery_data()
+{
+    QTest::addColumn<int>("charge");
+    QTest::addColumn<bool>("discharging");
+    QTest::addColumn<bool>("checks");
+    QTest::newRow("19 and falling") << 19 << true << false;
+    QTest::newRow("empty and falling") << 0 << true << false;
+    QTest::newRow("20 and falling") << 20 << true << true;
+    QTest::newRow("19 and rising") << 19 << false << true;
+    QTest::newRow("no battery") << -1 << false << true;
+    QTest::newRow("a battery that says nothing") << -1 << true << true;
+}
+
+void TestUpdater::sparesALowBattery()
+{
+    QFETCH(int, charge);
+    QFETCH(bool, discharging);
+    QFETCH(bool, checks);
+    m_bench->battery = { charge < 0 ? std::nullopt : std::optional<qint64>(charge), discharging };
+    m_bench->launch().look();
+    QCOMPARE(!m_bench->engine.checks.isEmpty(), checks);
+}
+
+void TestUpdater::checksOnAnyNetworkAndBatteryWhenTheUserAsks()
+{
+    m_bench->network.reach = NetworkReach::metered;
+    m_bench->battery = { 3, true };
+    m_bench->launch().setAutomaticallyChecksForUpdates(false);
+    m_bench->updater->checkForUpdates();
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+    QCOMPARE(m_bench->network.asked, 0);
+}
+
+void TestUpdater::keepsItsSwitchesAcrossLaunches()
+{
+    m_bench->launch().setAutomaticallyChecksForUpdates(false);
+    m_bench->updater->setAutomaticallyDownloadsUpdates(true);
+    QVERIFY(!m_bench->launch().automaticallyChecksForUpdates());
+    QVERIFY(m_bench->updater->automaticallyDownloadsUpdates());
+    m_bench->updater->setAutomaticallyChecksForUpdates(true);
+    m_bench->updater->setAutomaticallyDownloadsUpdates(false);
+    QVERIFY(m_bench->launch().automaticallyChecksForUpdates());
+    QVERIFY(!m_bench->updater->automaticallyDownloadsUpdates());
+}
+
+void TestUpdater::checksAndDoesNotDownloadByDefault()
+{
+    QVERIFY(m_bench->launch().automaticallyChecksForUpdates());
+    QVERIFY(!m_bench->updater->automaticallyDownloadsUpdates());
+    QVERIFY(m_bench->store.writes.isEmpty());
+    m_bench->store.stored.insert(u"automaticallyChecksForUpdates"_s, u"no"_s);
+    QVERIFY(m_bench->launch().automaticallyChecksForUpdates());
+}
+
+void TestUpdater::stopsItsTimerWithTheSwitch()
+{
+    m_bench->launch().setAutomaticallyChecksForUpdates(false);
+    QVERIFY(!m_bench->updater->timer().isActive());
+    m_bench->updater->look();
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    m_bench->updater->setAutomaticallyChecksForUpdates(true);
+    QVERIFY(m_bench->updater->timer().isActive());
+}
+
+void TestUpdater::doesNotBeginWhatTheUserSwitchedOffMeanwhile()
+{
+    m_bench->network.answersLater = true;
+    m_bench->launch().look();
+    m_bench->updater->setAutomaticallyChecksForUpdates(false);
+    m_bench->network.waiting(NetworkReach::free);
+    QVERIFY(m_bench->engine.checks.isEmpty());
+}
+
+void TestUpdater::downloadsByItselfWhereTheUserLetsIt()
+{
+    const Release release {
+        u"1.3.0"_s, QDate(2026, 4, 30), {}, packageOf("package", u"ferrin_1.3.0_amd64.deb"_s)
+    };
+    m_bench->launch().setAutomaticallyDownloadsUpdates(true);
+    m_bench->updater->look();
+    Q_EMIT m_bench->engine.checked({ m_bench->now, release });
+    QCOMPARE(m_bench->engine.downloads.size(), 1);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdater::survivesAnAnswerOfTheNetworkThatComesTooLate()
+{
+    m_bench->network.answersLater = true;
+    m_bench->launch().look();
+    m_bench->updater.reset();
+    m_bench->network.waiting(NetworkReach::free);
+    QVERIFY(m_bench->engine.checks.isEmpty());
+}
+
+void TestUpdater::cannotCheckWhileACheckIsRunning()
+{
+    Updater &updater = m_bench->launch();
+    QList<bool> told;
+    const auto handler = updater.bindableCanCheckForUpdates().addNotifier(
+        [&] { told.append(updater.canCheckForUpdates()); });
+    QVERIFY(updater.canCheckForUpdates());
+    updater.checkForUpdates();
+    QVERIFY(!updater.canCheckForUpdates());
+    updater.checkForUpdates();
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+    updater.session().cancel();
+    QCOMPARE(told, QList({ false, true }));
+}
+
+void TestUpdater::canCheckAgainWhateverTheCheckFound()
+{
+    Updater &updater = m_bench->launch();
+    updater.checkForUpdates();
+    Q_EMIT m_bench->engine.failed({ UpdateFailure::tooSlow, {} });
+    QVERIFY(updater.canCheckForUpdates());
+    updater.checkForUpdates();
+    QCOMPARE(updater.session().stage(), Stage::checking);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdater::doesNothingAtAllWithoutAFeed()
+{
+    m_bench->feed = {};
+    Updater &updater = m_bench->launch();
+    QVERIFY(!updater.hasFeed());
+    QVERIFY(!updater.canCheckForUpdates());
+    QVERIFY(!updater.automaticallyChecksForUpdates());
+    updater.setAutomaticallyChecksForUpdates(true);
+    updater.setAutomaticallyDownloadsUpdates(true);
+    updater.checkForUpdates();
+    updater.look();
+    QVERIFY(!updater.timer().isActive());
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    QVERIFY(m_bench->store.writes.isEmpty());
+    QCOMPARE(m_bench->network.asked, 0);
+    QCOMPARE(updater.session().stage(), Stage::idle);
+}
+
+void TestUpdater::isStartedByItsController()
+{
+    AppUpdater app(m_bench->parts());
+    QVERIFY(app.controller()->updater()->timer().isActive());
+    QVERIFY(app.controller()->updater()->hasFeed());
+}
+
+QTEST_GUILESS_MAIN(TestUpdater)
+#include "test_updater.moc"

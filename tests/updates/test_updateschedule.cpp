@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "updates/updateschedule.h"
+
+#include <QTest>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class TestUpdateSchedule : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isDueADayAfterTheLastCheck();
+    void isDueWhenThereWasNone();
+    void isDueWhenTheLastIsYetToCome();
+    void neverWaitsLessThanAMinute();
+    void neverWaitsMoreThanAnHour();
+    void waitsUntilItIsDue();
+
+private:
+    const QDateTime m_now { QDate(2026, 5, 1), QTime(12, 0), Qt::UTC };
+};
+
+void TestUpdateSchedule::isDueADayAfterTheLastCheck()
+{
+    QVERIFY(updateschedule::isDue(m_now.addDays(-1), m_now));
+    QVERIFY(!updateschedule::isDue(m_now.addDays(-1).addMSecs(1), m_now));
+    QVERIFY(!updateschedule::isDue(m_now, m_now));
+}
+
+void TestUpdateSchedule::isDueWhenThereWasNone()
+{
+    QVERIFY(updateschedule::isDue(std::nullopt, m_now));
+}
+
+void TestUpdateSchedule::isDueWhenTheLastIsYetToCome()
+{
+    QVERIFY(updateschedule::isDue(m_now.addYears(30), m_now));
+}
+
+void TestUpdateSchedule::neverWaitsLessThanAMinute()
+{
+    QCOMPARE(updateschedule::untilNextLook(std::nullopt, m_now), 60s);
+    QCOMPARE(updateschedule::untilNextLook(m_now.addYears(-1), m_now), 60s);
+    QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(59), m_now), 60s);
+}
+
+void TestUpdateSchedule::neverWaitsMoreThanAnHour()
+{
+    QCOMPARE(updateschedule::untilNextLook(m_now, m_now), 1h);
+}
+
+void TestUpdateSchedule::waitsUntilItIsDue()
+{
+    QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(600), m_now), 10min);
+}
+
+QTEST_GUILESS_MAIN(TestUpdateSchedule)
+#include "test_updateschedule.moc"

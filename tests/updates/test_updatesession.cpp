@@ -1,0 +1,470 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "tests/support/logcapture.h"
+#include "tests/support/memorydefaultsstore.h"
+#include "tests/updates/fakeengine.h"
+#include "tests/updates/fakeinstaller.h"
+#include "tests/updates/testfeed.h"
+#include "updates/updaterecords.h"
+#include "updates/updatesession.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ferrin;
+using namespace ferrin::test;
+using namespace Qt::StringLiterals;
+using Stage = UpdateSession::Stage;
+
+namespace {
+
+struct Bench
+{
+    Bench()
+    {
+        QObject::connect(&session, &UpdateSession::presentationRequested, [this] { ++shown; });
+    }
+
+    void offer(const std::optional<Release> &offered)
+    {
+        Q_EMIT engine.checked({ readingTime, offered });
+    }
+    void offer() { offer(release); }
+    void fail(UpdateFailure failure) { Q_EMIT engine.failed({ failure, u"for a reason"_s }); }
+    void finishDownload()
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+        file.close();
+        Q_EMIT engine.downloaded(path);
+    }
+    void becomeReady()
+    {
+        session.begin();
+        offer();
+        session.download();
+        finishDownload();
+    }
+
+    LogCapture log;
+    const QTemporaryDir folder;
+    const QByteArray bytes = somePackage(5000);
+    const QString path = folder.filePath(u"ferrin_1.3.0_amd64.deb"_s);
+    const Release release { u"1.3.0"_s, QDate(2026, 4, 30), u"- **Quieter**\n"_s,
+                            packageOf(bytes, u"ferrin_1.3.0_amd64.deb"_s) };
+    MemoryDefaultsStore store;
+    UpdateRecords records { store };
+    FakeEngine engine;
+    FakeInstaller installer;
+    UpdateSession session { { .feed = { QUrl(u"https://example.org/feed"_s), QByteArray(32, 'k'),
+                                        u"amd64"_s },
+                              .installedVersion = u"1.2.9"_s,
+                              .folder = folder.path(),
+                              .engine = engine,
+                              .records = records,
+                              .installer = installer } };
+    int shown = 0;
+};
+
+} // namespace
+
+class TestUpdateSession : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_bench.emplace(); }
+    void cleanup() { m_bench.reset(); }
+
+    void asksTheEngineForTheFeed();
+    void isShownFromItsBeginning();
+    void saysThatFerrinIsUpToDate();
+    void offersANewerRelease();
+    void downloadsWhatIsOffered();
+    void isReadyToInstallWhatWasVerified();
+    void handsTheVerifiedPackageOver();
+    void neverHandsOverAPackageThatHasChangedSince();
+    void saysWhenNobodyInstalls();
+    void tellsAFailureInPlainWords();
+    void triesTheStepAgainThatFailed();
+    void cancelsACheck();
+    void cancelsADownloadAndKeepsTheOffer();
+    void skipsAVersionForQuietSessionsAlone();
+    void offersTheSameAgainLater();
+    void remembersTheNewestFeed();
+    void isQuietWhenFerrinIsUpToDate();
+    void isQuietAboutFailuresThatNobodyAskedFor();
+    void speaksUpWithAnOffer();
+    void speaksUpWhenItHasDownloadedByItself();
+    void tellsOfFailuresOnceItWasShown();
+    void turnsAQuietSessionIntoAShownOne();
+    void leavesAnOfferAloneWhenItIsTimeForAQuietCheck();
+    void ignoresWhatMakesNoSenseNow_data();
+    void ignoresWhatMakesNoSenseNow();
+    void forgetsTheOldOfferWhenItBeginsAnew();
+    void tellsBindingsOfEachStage();
+
+private:
+    std::optional<Bench> m_bench;
+};
+
+void TestUpdateSession::asksTheEngineForTheFeed()
+{
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    m_bench->session.begin();
+    QCOMPARE(m_bench->session.stage(), Stage::checking);
+    const UpdateCheck expected { QUrl(u"https://example.org/feed"_s), QByteArray(32, 'k'),
+                                 u"1.2.9"_s, u"amd64"_s, std::nullopt };
+    QCOMPARE(m_bench->engine.checks, QList { expected });
+}
+
+void TestUpdateSession::isShownFromItsBeginning()
+{
+    m_bench->session.begin();
+    QCOMPARE(m_bench->shown, 1);
+}
+
+void TestUpdateSession::saysThatFerrinIsUpToDate()
+{
+    m_bench->session.begin();
+    m_bench->offer(std::nullopt);
+    QCOMPARE(m_bench->session.stage(), Stage::upToDate);
+    QCOMPARE(m_bench->log.take(), QStringList { u"info: Ferrin is up to date"_s });
+    m_bench->session.later();
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+}
+
+void TestUpdateSession::offersANewerRelease()
+{
+    m_bench->session.begin();
+    m_bench->offer();
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    QCOMPARE(m_bench->session.version(), u"1.3.0"_s);
+    QCOMPARE(m_bench->session.notes(), u"- **Quieter**\n"_s);
+    QCOMPARE(m_bench->session.release(), m_bench->release);
+    QCOMPARE(m_bench->log.take(), QStringList { u"info: Version 1.3.0 is available"_s });
+    QVERIFY(m_bench->engine.downloads.isEmpty());
+}
+
+void TestUpdateSession::downloadsWhatIsOffered()
+{
+    m_bench->session.begin();
+    m_bench->offer();
+    m_bench->session.download();
+    QCOMPARE(m_bench->session.stage(), Stage::downloading);
+    const PackageRequest expected { QUrl(u"https://example.org/feed"_s), m_bench->release.package,
+                                    m_bench->folder.path() };
+    QCOMPARE(m_bench->engine.downloads, QList { expected });
+    QCOMPARE(m_bench->session.received(), 0);
+    QCOMPARE(m_bench->session.total(), 5000);
+    Q_EMIT m_bench->engine.progressed(1234, 5000);
+    QCOMPARE(m_bench->session.received(), 1234);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::isReadyToInstallWhatWasVerified()
+{
+    m_bench->becomeReady();
+    QCOMPARE(m_bench->session.stage(), Stage::readyToInstall);
+    QCOMPARE(m_bench->session.received(), 5000);
+    QVERIFY(m_bench->installer.handedOver.isEmpty());
+    QCOMPARE(m_bench->log.take(),
+             QStringList({ u"info: Version 1.3.0 is available"_s,
+                           u"info: Version 1.3.0 is downloaded and verified"_s }));
+}
+
+void TestUpdateSession::handsTheVerifiedPackageOver()
+{
+    m_bench->becomeReady();
+    m_bench->session.install();
+    QCOMPARE(m_bench->installer.handedOver, QStringList { m_bench->path });
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::neverHandsOverAPackageThatHasChangedSince()
+{
+    m_bench->becomeReady();
+    static_cast<void>(m_bench->log.take());
+    QFile file(m_bench->path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(2500));
+    QVERIFY(file.putChar(static_cast<char>(m_bench->bytes.at(2500) ^ 1)));
+    file.close();
+
+    m_bench->session.install();
+    QVERIFY(m_bench->installer.handedOver.isEmpty());
+    QCOMPARE(m_bench->session.stage(), Stage::failed);
+    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::badPackage));
+    QCOMPARE(
+        m_bench->log.take(),
+        QStringList { u"error: The update failed (badPackage): %1 has changed on the disk"_s.arg(
+            m_bench->path) });
+    // There is nothing to install any more, but something to fetch.
+    m_bench->session.tryAgain();
+    QCOMPARE(m_bench->session.stage(), Stage::downloading);
+    QCOMPARE(m_bench->engine.downloads.size(), 2);
+}
+
+void TestUpdateSession::saysWhenNobodyInstalls()
+{
+    m_bench->installer.isThere = false;
+    m_bench->becomeReady();
+    static_cast<void>(m_bench->log.take());
+    m_bench->session.install();
+    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::noInstaller));
+    QCOMPARE(m_bench->log.take().size(), 1);
+
+    m_bench->installer.isThere = true;
+    m_bench->session.tryAgain();
+    QCOMPARE(m_bench->installer.handedOver, QStringList { m_bench->path });
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+}
+
+void TestUpdateSession::tellsAFailureInPlainWords()
+{
+    m_bench->session.begin();
+    m_bench->fail(UpdateFailure::badSignature);
+    QCOMPARE(m_bench->session.stage(), Stage::failed);
+    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::badSignature));
+    QCOMPARE(m_bench->log.take(),
+             QStringList { u"error: The update failed (badSignature): for a reason"_s });
+    m_bench->session.later();
+    QCOMPARE(m_bench->session.failure(), QString());
+}
+
+void TestUpdateSession::triesTheStepAgainThatFailed()
+{
+    m_bench->session.begin();
+    m_bench->fail(UpdateFailure::noConnection);
+    m_bench->session.tryAgain();
+    QCOMPARE(m_bench->session.stage(), Stage::checking);
+    QCOMPARE(m_bench->session.failure(), QString());
+    QCOMPARE(m_bench->engine.checks.size(), 2);
+
+    m_bench->offer();
+    m_bench->session.download();
+    m_bench->fail(UpdateFailure::noConnection);
+    m_bench->session.tryAgain();
+    QCOMPARE(m_bench->session.stage(), Stage::downloading);
+    QCOMPARE(m_bench->engine.checks.size(), 2);
+    QCOMPARE(m_bench->engine.downloads.size(), 2);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::cancelsACheck()
+{
+    m_bench->session.begin();
+    m_bench->session.cancel();
+    QCOMPARE(m_bench->engine.cancels, 1);
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+}
+
+void TestUpdateSession::cancelsADownloadAndKeepsTheOffer()
+{
+    m_bench->session.begin();
+    m_bench->offer();
+    m_bench->session.download();
+    m_bench->session.cancel();
+    QCOMPARE(m_bench->engine.cancels, 1);
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    m_bench->session.download();
+    QCOMPARE(m_bench->engine.downloads.size(), 2);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::skipsAVersionForQuietSessionsAlone()
+{
+    m_bench->session.beginQuietly(false);
+    m_bench->offer();
+    m_bench->session.skipThisVersion();
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    QCOMPARE(m_bench->shown, 1);
+
+    m_bench->session.beginQuietly(true);
+    m_bench->offer();
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    QVERIFY(m_bench->engine.downloads.isEmpty());
+    QCOMPARE(m_bench->shown, 1);
+
+    Release next = m_bench->release;
+    next.version = u"1.3.1"_s;
+    m_bench->session.beginQuietly(false);
+    m_bench->offer(next);
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    m_bench->session.later();
+
+    m_bench->session.begin();
+    m_bench->offer();
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::offersTheSameAgainLater()
+{
+    m_bench->session.beginQuietly(false);
+    m_bench->offer();
+    m_bench->session.later();
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    m_bench->session.beginQuietly(false);
+    m_bench->offer();
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    QCOMPARE(m_bench->shown, 2);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::remembersTheNewestFeed()
+{
+    m_bench->session.begin();
+    m_bench->offer(std::nullopt);
+    QCOMPARE(m_bench->records.newestIssued(), readingTime);
+    m_bench->session.begin();
+    QCOMPARE(m_bench->engine.checks.last().newestIssued, readingTime);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::isQuietWhenFerrinIsUpToDate()
+{
+    m_bench->session.beginQuietly(true);
+    m_bench->offer(std::nullopt);
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    QCOMPARE(m_bench->shown, 0);
+    QCOMPARE(m_bench->log.take(), QStringList { u"info: Ferrin is up to date"_s });
+}
+
+void TestUpdateSession::isQuietAboutFailuresThatNobodyAskedFor()
+{
+    m_bench->session.beginQuietly(true);
+    m_bench->fail(UpdateFailure::noConnection);
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    m_bench->session.beginQuietly(true);
+    m_bench->offer();
+    m_bench->fail(UpdateFailure::diskFull);
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    QCOMPARE(m_bench->shown, 0);
+    QCOMPARE(m_bench->log.take(),
+             QStringList({ u"error: The update failed (noConnection): for a reason"_s,
+                           u"info: Version 1.3.0 is available"_s,
+                           u"error: The update failed (diskFull): for a reason"_s }));
+}
+
+void TestUpdateSession::speaksUpWithAnOffer()
+{
+    m_bench->session.beginQuietly(false);
+    QCOMPARE(m_bench->shown, 0);
+    m_bench->offer();
+    QCOMPARE(m_bench->shown, 1);
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::speaksUpWhenItHasDownloadedByItself()
+{
+    m_bench->session.beginQuietly(true);
+    m_bench->offer();
+    QCOMPARE(m_bench->session.stage(), Stage::downloading);
+    QCOMPARE(m_bench->shown, 0);
+    m_bench->finishDownload();
+    QCOMPARE(m_bench->session.stage(), Stage::readyToInstall);
+    QCOMPARE(m_bench->shown, 1);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::tellsOfFailuresOnceItWasShown()
+{
+    m_bench->session.beginQuietly(false);
+    m_bench->offer();
+    m_bench->session.download();
+    m_bench->fail(UpdateFailure::tooSlow);
+    QCOMPARE(m_bench->session.stage(), Stage::failed);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::turnsAQuietSessionIntoAShownOne()
+{
+    m_bench->session.beginQuietly(true);
+    m_bench->offer();
+    m_bench->session.begin();
+    QCOMPARE(m_bench->shown, 1);
+    QCOMPARE(m_bench->session.stage(), Stage::downloading);
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+    m_bench->fail(UpdateFailure::noConnection);
+    QCOMPARE(m_bench->session.stage(), Stage::failed);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::leavesAnOfferAloneWhenItIsTimeForAQuietCheck()
+{
+    m_bench->session.begin();
+    m_bench->offer();
+    m_bench->session.beginQuietly(true);
+    QCOMPARE(m_bench->session.stage(), Stage::available);
+    QCOMPARE(m_bench->engine.checks.size(), 1);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::ignoresWhatMakesNoSenseNow_data()
+{
+    QTest::addColumn<Stage>("stage");
+    QTest::newRow("idle") << Stage::idle;
+    QTest::newRow("checking") << Stage::checking;
+    QTest::newRow("up to date") << Stage::upToDate;
+    QTest::newRow("failed") << Stage::failed;
+}
+
+void TestUpdateSession::ignoresWhatMakesNoSenseNow()
+{
+    QFETCH(Stage, stage);
+    if (stage != Stage::idle)
+        m_bench->session.begin();
+    if (stage == Stage::upToDate)
+        m_bench->offer(std::nullopt);
+    if (stage == Stage::failed)
+        m_bench->fail(UpdateFailure::tooSlow);
+    m_bench->log.ignoreRest();
+
+    m_bench->session.download();
+    m_bench->session.install();
+    m_bench->session.skipThisVersion();
+    if (stage != Stage::failed)
+        m_bench->session.tryAgain();
+    if (stage == Stage::checking)
+        m_bench->session.later();
+    else
+        m_bench->session.cancel();
+    QCOMPARE(m_bench->session.stage(), stage);
+    QVERIFY(m_bench->engine.downloads.isEmpty());
+    QVERIFY(m_bench->installer.handedOver.isEmpty());
+    QCOMPARE(m_bench->records.skippedVersion(), QString());
+}
+
+void TestUpdateSession::forgetsTheOldOfferWhenItBeginsAnew()
+{
+    m_bench->becomeReady();
+    m_bench->session.begin();
+    QCOMPARE(m_bench->session.stage(), Stage::checking);
+    QCOMPARE(m_bench->session.version(), QString());
+    QVERIFY(!m_bench->session.release());
+    m_bench->session.install();
+    QVERIFY(m_bench->installer.handedOver.isEmpty());
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdateSession::tellsBindingsOfEachStage()
+{
+    QList<Stage> stages;
+    const auto handler = m_bench->session.bindableStage().addNotifier(
+        [&] { stages.append(m_bench->session.stage()); });
+    m_bench->becomeReady();
+    m_bench->session.install();
+    QCOMPARE(stages,
+             QList({ Stage::checking, Stage::available, Stage::downloading, Stage::readyToInstall,
+                     Stage::idle }));
+    m_bench->log.ignoreRest();
+}
+
+QTEST_GUILESS_MAIN(TestUpdateSession)
+#include "test_updatesession.moc"
