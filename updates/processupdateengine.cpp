@@ -18,8 +18,10 @@ ProcessUpdateEngine::ProcessUpdateEngine(QString helper, QStringList arguments)
 ProcessUpdateEngine::~ProcessUpdateEngine()
 {
     cancel();
-    for (QProcess *const process : findChildren<QProcess *>())
+    for (QProcess *const process : findChildren<QProcess *>()) {
+        process->kill();
         process->waitForFinished();
+    }
 }
 
 void ProcessUpdateEngine::check(const UpdateCheck &check)
@@ -34,13 +36,19 @@ void ProcessUpdateEngine::download(const PackageRequest &request)
 
 void ProcessUpdateEngine::cancel()
 {
+    if (m_process)
+        m_process->kill();
+    letGo();
+}
+
+void ProcessUpdateEngine::letGo()
+{
     if (!m_process)
         return;
-    // It may be telling something right now, and is not to be waited for.
+    // It may be telling something right now, and its end is not to be waited for.
     QProcess *const process = m_process.release();
     process->setParent(this);
     process->disconnect(this);
-    process->kill();
     if (process->state() == QProcess::NotRunning)
         process->deleteLater();
     else
@@ -82,8 +90,8 @@ void ProcessUpdateEngine::tell(const UpdateAnswer &answer)
         Q_EMIT progressed(progress->received, progress->total);
         return;
     }
-    // The last answer: whoever hears it may begin the next task.
-    cancel();
+    // The last answer: the helper ends, and whoever hears it may begin the next task.
+    letGo();
     if (const auto *const offer = std::get_if<UpdateOffer>(&answer))
         Q_EMIT checked(*offer);
     else if (const auto *const package = std::get_if<DownloadedPackage>(&answer))

@@ -34,6 +34,7 @@ private:
     void readAnswers();
     void tell(const UpdateAnswer &answer);
     void breakOff(const QString &detail);
+    void letGo();
 
     QString m_helper;
     QStringList m_arguments;

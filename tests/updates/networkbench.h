@@ -109,11 +109,11 @@ private:
     std::optional<NetworkUpdateEngine> m_engine;
 };
 
-/// The failure of an answer that is one.
-inline std::optional<UpdateFailure> failureOf(const std::optional<NetworkBench::Answer> &answer)
+/// The name of the failure of an answer that is one; else empty.
+inline QString failureOf(const std::optional<NetworkBench::Answer> &answer)
 {
     const auto *const trouble = answer ? std::get_if<UpdateTrouble>(&*answer) : nullptr;
-    return trouble ? std::optional(trouble->failure) : std::nullopt;
+    return trouble ? rawValue(trouble->failure) : QString();
 }
 
 } // namespace ferrin::test

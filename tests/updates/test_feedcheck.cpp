@@ -44,7 +44,7 @@ private Q_SLOTS:
     void fallsSilentWhenItIsCancelled();
 
 private:
-    [[nodiscard]] std::optional<UpdateFailure> failure() { return failureOf(m_bench->check()); }
+    [[nodiscard]] QString failure() { return failureOf(m_bench->check()); }
     void answerFeedWith(const HttpsServer::Answer &answer)
     {
         m_bench->server.answers.insert("/feed", [answer](const auto &) { return answer; });
@@ -93,8 +93,7 @@ void TestFeedCheck::refusesAnAddressWithoutEncryption()
     QTcpServer plain;
     QVERIFY(plain.listen(QHostAddress::LocalHost));
     const QUrl address(u"http://127.0.0.1:%1/feed"_s.arg(plain.serverPort()));
-    QCOMPARE(failureOf(m_bench->check(checkOf(address, m_bench->key))),
-             UpdateFailure::notEncrypted);
+    QCOMPARE(failureOf(m_bench->check(checkOf(address, m_bench->key))), u"notEncrypted"_s);
     QVERIFY(!plain.hasPendingConnections());
 }
 
@@ -103,20 +102,20 @@ void TestFeedCheck::refusesARedirectToPlainHttp()
     QTcpServer plain;
     QVERIFY(plain.listen(QHostAddress::LocalHost));
     redirectFeedTo("http://127.0.0.1:" + QByteArray::number(plain.serverPort()) + "/feed");
-    QCOMPARE(failure(), UpdateFailure::notEncrypted);
+    QCOMPARE(failure(), u"notEncrypted"_s);
     QVERIFY(!plain.hasPendingConnections());
 }
 
 void TestFeedCheck::refusesARedirectToAFile()
 {
     redirectFeedTo("file:///etc/hostname");
-    QCOMPARE(failure(), UpdateFailure::notEncrypted);
+    QCOMPARE(failure(), u"notEncrypted"_s);
 }
 
 void TestFeedCheck::refusesAChainOfRedirectsWithoutEnd()
 {
     redirectFeedTo(m_bench->server.url(u"feed"_s).toEncoded());
-    QCOMPARE(failure(), UpdateFailure::serverTrouble);
+    QCOMPARE(failure(), u"serverTrouble"_s);
     QCOMPARE(m_bench->server.requests.size(), 6);
 }
 
@@ -125,7 +124,7 @@ void TestFeedCheck::refusesACertificateForAnotherName()
     HttpsServer other(m_bench->authority.serverFor(u"DNS:updates.example.org"_s));
     other.files = m_bench->server.files;
     QCOMPARE(failureOf(m_bench->check(checkOf(other.url(u"feed"_s), m_bench->key))),
-             UpdateFailure::notTheServer);
+             u"notTheServer"_s);
     QVERIFY(other.requests.isEmpty());
 }
 
@@ -135,7 +134,7 @@ void TestFeedCheck::refusesACertificateOfAnUnknownAuthority()
     HttpsServer other(stranger.serverFor(u"IP:127.0.0.1"_s));
     other.files = m_bench->server.files;
     QCOMPARE(failureOf(m_bench->check(checkOf(other.url(u"feed"_s), m_bench->key))),
-             UpdateFailure::notTheServer);
+             u"notTheServer"_s);
     QVERIFY(other.requests.isEmpty());
 }
 
@@ -144,14 +143,14 @@ void TestFeedCheck::refusesAFeedWithoutSignature()
     const QByteArray text = QJsonDocument(goodFeed(m_bench->package)).toJson();
     for (const QByteArray &feed : { text, "ferrin-feed-1 \n" + text, "\n" + text, ""_ba }) {
         m_bench->server.files.insert("/feed", feed);
-        QCOMPARE(failure(), UpdateFailure::badSignature);
+        QCOMPARE(failure(), u"badSignature"_s);
     }
 }
 
 void TestFeedCheck::refusesAFeedOfAnotherKey()
 {
     m_bench->server.files.insert("/feed", signedJson(goodFeed(m_bench->package), newSigningKey()));
-    QCOMPARE(failure(), UpdateFailure::badSignature);
+    QCOMPARE(failure(), u"badSignature"_s);
 }
 
 void TestFeedCheck::refusesAFeedThatWasChangedByOneByte()
@@ -162,7 +161,7 @@ void TestFeedCheck::refusesAFeedThatWasChangedByOneByte()
         QByteArray changed = feed;
         changed[at] = static_cast<char>(changed.at(at) ^ 1);
         m_bench->server.files.insert("/feed", changed);
-        QCOMPARE(failure(), UpdateFailure::badSignature);
+        QCOMPARE(failure(), u"badSignature"_s);
     }
 }
 
@@ -170,7 +169,7 @@ void TestFeedCheck::refusesAFeedThatIsTooLong()
 {
     m_bench->policy.feed.maximumLength = m_bench->server.files.value("/feed").size() - 1;
     answerFeedWith({ .body = m_bench->server.files.value("/feed"), .length = -1 });
-    QCOMPARE(failure(), UpdateFailure::tooLarge);
+    QCOMPARE(failure(), u"tooLarge"_s);
 }
 
 void TestFeedCheck::refusesAFeedThatAnnouncesTooMuch()
@@ -179,14 +178,14 @@ void TestFeedCheck::refusesAFeedThatAnnouncesTooMuch()
                      .manner = HttpsServer::Manner::stalled,
                      .count = 1,
                      .length = m_bench->policy.feed.maximumLength + 1 });
-    QCOMPARE(failure(), UpdateFailure::tooLarge);
+    QCOMPARE(failure(), u"tooLarge"_s);
 }
 
 void TestFeedCheck::refusesABodyThatNeverEnds()
 {
     answerFeedWith(
         { .body = QByteArray(4096, '.'), .manner = HttpsServer::Manner::endless, .length = -1 });
-    QCOMPARE(failure(), UpdateFailure::tooLarge);
+    QCOMPARE(failure(), u"tooLarge"_s);
 }
 
 void TestFeedCheck::refusesABodyThatTrickles()
@@ -194,14 +193,14 @@ void TestFeedCheck::refusesABodyThatTrickles()
     m_bench->policy.feed.span = 500ms;
     m_bench->policy.feed.leastProgress = 10'000;
     answerFeedWith({ .manner = HttpsServer::Manner::trickling, .length = -1 });
-    QCOMPARE(failure(), UpdateFailure::tooSlow);
+    QCOMPARE(failure(), u"tooSlow"_s);
 }
 
 void TestFeedCheck::refusesABodyThatNeverBegins()
 {
     m_bench->policy.feed.span = 500ms;
     answerFeedWith({ .body = ".", .manner = HttpsServer::Manner::stalled, .count = 0 });
-    QCOMPARE(failure(), UpdateFailure::tooSlow);
+    QCOMPARE(failure(), u"tooSlow"_s);
 }
 
 void TestFeedCheck::endsAfterItsTimeWhateverComes()
@@ -209,7 +208,7 @@ void TestFeedCheck::endsAfterItsTimeWhateverComes()
     m_bench->policy.feed.totalTime = 500ms;
     m_bench->policy.feed.leastProgress = 0;
     answerFeedWith({ .manner = HttpsServer::Manner::trickling, .length = -1 });
-    QCOMPARE(failure(), UpdateFailure::tooSlow);
+    QCOMPARE(failure(), u"tooSlow"_s);
 }
 
 void TestFeedCheck::refusesAFeedThatWasCutShort()
@@ -217,12 +216,12 @@ void TestFeedCheck::refusesAFeedThatWasCutShort()
     const QByteArray feed = m_bench->server.files.value("/feed");
     answerFeedWith(
         { .body = feed, .manner = HttpsServer::Manner::cutShort, .count = feed.size() / 2 });
-    QCOMPARE(failure(), UpdateFailure::noConnection);
+    QCOMPARE(failure(), u"noConnection"_s);
     answerFeedWith({ .body = feed,
                      .manner = HttpsServer::Manner::cutShort,
                      .count = feed.size() / 2,
                      .length = -1 });
-    QCOMPARE(failure(), UpdateFailure::badSignature);
+    QCOMPARE(failure(), u"badSignature"_s);
 }
 
 void TestFeedCheck::tellsOfAServerThatIsNotThere()
@@ -231,20 +230,19 @@ void TestFeedCheck::tellsOfAServerThatIsNotThere()
     QVERIFY(gone.listen(QHostAddress::LocalHost));
     const QUrl address(u"https://127.0.0.1:%1/feed"_s.arg(gone.serverPort()));
     gone.close();
-    QCOMPARE(failureOf(m_bench->check(checkOf(address, m_bench->key))),
-             UpdateFailure::noConnection);
+    QCOMPARE(failureOf(m_bench->check(checkOf(address, m_bench->key))), u"noConnection"_s);
 }
 
 void TestFeedCheck::tellsOfAServerWithoutTheFeed()
 {
     m_bench->server.files.clear();
-    QCOMPARE(failure(), UpdateFailure::serverTrouble);
+    QCOMPARE(failure(), u"serverTrouble"_s);
     answerFeedWith({ .status = 500, .body = "Oh dear" });
-    QCOMPARE(failure(), UpdateFailure::serverTrouble);
+    QCOMPARE(failure(), u"serverTrouble"_s);
     answerFeedWith({ .status = 204 });
-    QCOMPARE(failure(), UpdateFailure::serverTrouble);
+    QCOMPARE(failure(), u"serverTrouble"_s);
     answerFeedWith({ .status = 206, .body = "part", .headers = { "Content-Range: bytes 5-8/9" } });
-    QCOMPARE(failure(), UpdateFailure::serverTrouble);
+    QCOMPARE(failure(), u"serverTrouble"_s);
 }
 
 void TestFeedCheck::fallsSilentWhenItIsCancelled()

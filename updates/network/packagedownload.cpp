@@ -34,12 +34,12 @@ PackageDownload::PackageDownload(QNetworkAccessManager &network, const QSslConfi
 void PackageDownload::start()
 {
     if (const auto trouble = m_store.open()) {
-        Q_EMIT finished(trouble);
+        end(trouble);
         return;
     }
     if (m_store.isWhole()) {
         m_store.throwAway();
-        Q_EMIT finished(std::nullopt);
+        end(std::nullopt);
         return;
     }
     fetch();
@@ -85,7 +85,7 @@ void PackageDownload::conclude(const std::optional<UpdateTrouble> &fetched)
     const auto trouble = fetched ? fetched : m_store.complete();
     if (trouble && m_isContinued && maySucceedFromTheStart(trouble->failure)) {
         if (const auto stillTrouble = m_store.beginAt(0)) {
-            Q_EMIT finished(stillTrouble);
+            end(stillTrouble);
             return;
         }
         // The fetch that has ended is on the stack.
@@ -96,6 +96,13 @@ void PackageDownload::conclude(const std::optional<UpdateTrouble> &fetched)
     }
     if (trouble && !isWorthKeepingAfter(trouble->failure))
         m_store.throwAway();
+    end(trouble);
+}
+
+void PackageDownload::end(const std::optional<UpdateTrouble> &trouble)
+{
+    // Before anybody hears of it and begins again.
+    m_store.close();
     Q_EMIT finished(trouble);
 }
 

@@ -32,17 +32,17 @@ public:
     /// The rest follows by signals.
     void start();
 
+    [[nodiscard]] const QString &path() const noexcept { return m_store.path(); }
+
 Q_SIGNALS:
     /// Bytes on the disk.
     void progressed(qint64 received, qint64 total);
     /// Absent when the package is whole at `path()`.
     void finished(const std::optional<ferrin::UpdateTrouble> &trouble);
 
-public:
-    [[nodiscard]] const QString &path() const noexcept { return m_store.path(); }
-
 private:
     void fetch();
+    void end(const std::optional<UpdateTrouble> &trouble);
     void conclude(const std::optional<UpdateTrouble> &trouble);
     [[nodiscard]] bool maySucceedFromTheStart(UpdateFailure failure) const;
     [[nodiscard]] std::optional<UpdateTrouble> begin(const HttpsFetch::Head &head);

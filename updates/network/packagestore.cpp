@@ -16,7 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 const QString lockName = u".lock"_s;
-}
+// A helper that was killed a moment ago may not be gone yet.
+constexpr int lockPatience = 2000;
+} // namespace
 
 PackageStore::PackageStore(const QString &folder, Package package)
     : m_package(std::move(package))
@@ -35,7 +37,7 @@ std::optional<UpdateTrouble> PackageStore::open()
     if (!QDir().mkpath(m_folder) || !QFile::setPermissions(m_folder, mine))
         return UpdateTrouble { UpdateFailure::cannotWrite,
                                u"the folder %1 cannot be made"_s.arg(m_folder) };
-    if (!m_lock.tryLock(0)) {
+    if (!m_lock.tryLock(lockPatience)) {
         if (m_lock.error() == QLockFile::LockFailedError)
             return UpdateTrouble { UpdateFailure::alreadyAtWork,
                                    u"another process downloads into %1"_s.arg(m_folder) };
@@ -76,8 +78,13 @@ std::optional<UpdateTrouble> PackageStore::append(const QByteArray &piece)
     if (m_part.size() + piece.size() > m_package.length)
         return UpdateTrouble { UpdateFailure::badPackage,
                                u"%1 is longer than the feed tells"_s.arg(m_package.file) };
-    if (m_part.write(piece) != piece.size())
-        return writeTrouble();
+    // A disk that fills up takes a little first, and only then says why it takes no more.
+    for (qsizetype written = 0; written < piece.size();) {
+        const qint64 count = m_part.write(piece.constData() + written, piece.size() - written);
+        if (count <= 0)
+            return writeTrouble();
+        written += count;
+    }
     return std::nullopt;
 }
 
@@ -90,6 +97,12 @@ std::optional<UpdateTrouble> PackageStore::complete()
     if (fsync(m_part.handle()) != 0 || !m_part.rename(m_path))
         return writeTrouble();
     return std::nullopt;
+}
+
+void PackageStore::close()
+{
+    m_part.close();
+    m_lock.unlock();
 }
 
 void PackageStore::throwAway()

@@ -41,6 +41,8 @@ public:
     [[nodiscard]] std::optional<UpdateTrouble> complete();
 
     void throwAway();
+    /// Lets others have the folder.
+    void close();
 
 private:
     [[nodiscard]] bool isWholeAt(const QString &path) const;
