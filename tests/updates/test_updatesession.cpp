@@ -1,75 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "tests/support/logcapture.h"
-#include "tests/support/memorydefaultsstore.h"
-#include "tests/updates/fakeengine.h"
-#include "tests/updates/fakeinstaller.h"
-#include "tests/updates/testfeed.h"
-#include "updates/updaterecords.h"
-#include "updates/updatesession.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
+#include "tests/updates/sessionbench.h"
 
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 using Stage = UpdateSession::Stage;
-
-namespace {
-
-struct Bench
-{
-    Bench()
-    {
-        QObject::connect(&session, &UpdateSession::presentationRequested, [this] { ++shown; });
-    }
-
-    void offer(const std::optional<Release> &offered)
-    {
-        Q_EMIT engine.checked({ readingTime, offered });
-    }
-    void offer() { offer(release); }
-    void fail(UpdateFailure failure) { Q_EMIT engine.failed({ failure, u"for a reason"_s }); }
-    void finishDownload()
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-        file.close();
-        Q_EMIT engine.downloaded(path);
-    }
-    void becomeReady()
-    {
-        session.begin();
-        offer();
-        session.download();
-        finishDownload();
-    }
-
-    LogCapture log;
-    const QTemporaryDir folder;
-    const QByteArray bytes = somePackage(5000);
-    const QString path = folder.filePath(u"ferrin_1.3.0_amd64.deb"_s);
-    const Release release { u"1.3.0"_s, QDate(2026, 4, 30), u"- **Quieter**\n"_s,
-                            packageOf(bytes, u"ferrin_1.3.0_amd64.deb"_s) };
-    MemoryDefaultsStore store;
-    UpdateRecords records { store };
-    FakeEngine engine;
-    FakeInstaller installer;
-    UpdateSession session { { .feed = { QUrl(u"https://example.org/feed"_s), QByteArray(32, 'k'),
-                                        u"amd64"_s },
-                              .installedVersion = u"1.2.9"_s,
-                              .folder = folder.path(),
-                              .engine = engine,
-                              .records = records,
-                              .installer = installer } };
-    int shown = 0;
-};
-
-} // namespace
 
 class TestUpdateSession : public QObject
 {
@@ -92,23 +29,14 @@ private Q_SLOTS:
     void triesTheStepAgainThatFailed();
     void cancelsACheck();
     void cancelsADownloadAndKeepsTheOffer();
-    void skipsAVersionForQuietSessionsAlone();
-    void offersTheSameAgainLater();
     void remembersTheNewestFeed();
-    void isQuietWhenFerrinIsUpToDate();
-    void isQuietAboutFailuresThatNobodyAskedFor();
-    void speaksUpWithAnOffer();
-    void speaksUpWhenItHasDownloadedByItself();
-    void tellsOfFailuresOnceItWasShown();
-    void turnsAQuietSessionIntoAShownOne();
-    void leavesAnOfferAloneWhenItIsTimeForAQuietCheck();
     void ignoresWhatMakesNoSenseNow_data();
     void ignoresWhatMakesNoSenseNow();
     void forgetsTheOldOfferWhenItBeginsAnew();
     void tellsBindingsOfEachStage();
 
 private:
-    std::optional<Bench> m_bench;
+    std::optional<SessionBench> m_bench;
 };
 
 void TestUpdateSession::asksTheEngineForTheFeed()
@@ -276,46 +204,6 @@ void TestUpdateSession::cancelsADownloadAndKeepsTheOffer()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdateSession::skipsAVersionForQuietSessionsAlone()
-{
-    m_bench->session.beginQuietly(false);
-    m_bench->offer();
-    m_bench->session.skipThisVersion();
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    QCOMPARE(m_bench->shown, 1);
-
-    m_bench->session.beginQuietly(true);
-    m_bench->offer();
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    QVERIFY(m_bench->engine.downloads.isEmpty());
-    QCOMPARE(m_bench->shown, 1);
-
-    Release next = m_bench->release;
-    next.version = u"1.3.1"_s;
-    m_bench->session.beginQuietly(false);
-    m_bench->offer(next);
-    QCOMPARE(m_bench->session.stage(), Stage::available);
-    m_bench->session.later();
-
-    m_bench->session.begin();
-    m_bench->offer();
-    QCOMPARE(m_bench->session.stage(), Stage::available);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::offersTheSameAgainLater()
-{
-    m_bench->session.beginQuietly(false);
-    m_bench->offer();
-    m_bench->session.later();
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    m_bench->session.beginQuietly(false);
-    m_bench->offer();
-    QCOMPARE(m_bench->session.stage(), Stage::available);
-    QCOMPARE(m_bench->shown, 2);
-    m_bench->log.ignoreRest();
-}
-
 void TestUpdateSession::remembersTheNewestFeed()
 {
     m_bench->session.begin();
@@ -323,86 +211,6 @@ void TestUpdateSession::remembersTheNewestFeed()
     QCOMPARE(m_bench->records.newestIssued(), readingTime);
     m_bench->session.begin();
     QCOMPARE(m_bench->engine.checks.last().newestIssued, readingTime);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::isQuietWhenFerrinIsUpToDate()
-{
-    m_bench->session.beginQuietly(true);
-    m_bench->offer(std::nullopt);
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    QCOMPARE(m_bench->shown, 0);
-    QCOMPARE(m_bench->log.take(), QStringList { u"info: Ferrin is up to date"_s });
-}
-
-void TestUpdateSession::isQuietAboutFailuresThatNobodyAskedFor()
-{
-    m_bench->session.beginQuietly(true);
-    m_bench->fail(UpdateFailure::noConnection);
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    m_bench->session.beginQuietly(true);
-    m_bench->offer();
-    m_bench->fail(UpdateFailure::diskFull);
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    QCOMPARE(m_bench->shown, 0);
-    QCOMPARE(m_bench->log.take(),
-             QStringList({ u"error: The update failed (noConnection): for a reason"_s,
-                           u"info: Version 1.3.0 is available"_s,
-                           u"error: The update failed (diskFull): for a reason"_s }));
-}
-
-void TestUpdateSession::speaksUpWithAnOffer()
-{
-    m_bench->session.beginQuietly(false);
-    QCOMPARE(m_bench->shown, 0);
-    m_bench->offer();
-    QCOMPARE(m_bench->shown, 1);
-    QCOMPARE(m_bench->session.stage(), Stage::available);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::speaksUpWhenItHasDownloadedByItself()
-{
-    m_bench->session.beginQuietly(true);
-    m_bench->offer();
-    QCOMPARE(m_bench->session.stage(), Stage::downloading);
-    QCOMPARE(m_bench->shown, 0);
-    m_bench->finishDownload();
-    QCOMPARE(m_bench->session.stage(), Stage::readyToInstall);
-    QCOMPARE(m_bench->shown, 1);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::tellsOfFailuresOnceItWasShown()
-{
-    m_bench->session.beginQuietly(false);
-    m_bench->offer();
-    m_bench->session.download();
-    m_bench->fail(UpdateFailure::tooSlow);
-    QCOMPARE(m_bench->session.stage(), Stage::failed);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::turnsAQuietSessionIntoAShownOne()
-{
-    m_bench->session.beginQuietly(true);
-    m_bench->offer();
-    m_bench->session.begin();
-    QCOMPARE(m_bench->shown, 1);
-    QCOMPARE(m_bench->session.stage(), Stage::downloading);
-    QCOMPARE(m_bench->engine.checks.size(), 1);
-    m_bench->fail(UpdateFailure::noConnection);
-    QCOMPARE(m_bench->session.stage(), Stage::failed);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::leavesAnOfferAloneWhenItIsTimeForAQuietCheck()
-{
-    m_bench->session.begin();
-    m_bench->offer();
-    m_bench->session.beginQuietly(true);
-    QCOMPARE(m_bench->session.stage(), Stage::available);
-    QCOMPARE(m_bench->engine.checks.size(), 1);
     m_bench->log.ignoreRest();
 }
 
