@@ -3,12 +3,15 @@
 
 #include "state/defaultsfile.h"
 
+#include "state/filereplacement.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace ferrin {
@@ -23,13 +26,18 @@ constexpr qint64 greatestSize = 1'048'576;
 QJsonObject salvaged(const QByteArray &text)
 {
     QJsonObject entries;
-    for (QByteArray line : text.split('\n')) {
-        line = line.trimmed();
+    const QByteArrayList lines = text.split('\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        QByteArray line = lines.at(i).trimmed();
+        const bool isComplete = i + 1 < lines.size() || line.endsWith(',');
         if (line.endsWith(','))
             line.chop(1);
         const QJsonObject entry = QJsonDocument::fromJson('{' + line + '}').object();
-        for (auto it = entry.begin(); it != entry.end(); ++it)
-            entries.insert(it.key(), it.value());
+        for (auto it = entry.begin(); it != entry.end(); ++it) {
+            // Of a number alone, a part is another one.
+            if (isComplete || !it.value().isDouble())
+                entries.insert(it.key(), it.value());
+        }
     }
     return entries;
 }
@@ -77,24 +85,38 @@ void DefaultsFile::makeFolder() const
 
 QString DefaultsFile::write(const QJsonObject &entries) const
 {
-    QSaveFile file(m_path);
-    const QByteArray text = encoded(entries);
-    // On a disk that fills up the system writes a part first and fails at the rest. QSaveFile would
-    // take the part for the whole; flushing again writes the rest or learns the reason.
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(text) == text.size()
-        && (file.flush() || file.flush()) && file.commit();
-    return written ? QString() : file.errorString();
+    return replaceFile(m_path, encoded(entries));
+}
+
+void DefaultsFile::removeLeftovers() const
+{
+    removeUnfinishedReplacements(m_path);
 }
 
 QString DefaultsFile::setAside() const
 {
+    const QString damaged = QFileInfo(m_path).canonicalFilePath();
+    const std::filesystem::path source = QFile::encodeName(damaged).toStdString();
     for (int number = 1; number < 1000; ++number) {
-        const QString name = u"%1.damaged-%2"_s.arg(m_path).arg(number);
-        if (QFileInfo::exists(name))
-            continue;
-        return QFile::rename(m_path, name) ? name : QString();
+        QString name = u"%1.damaged-%2"_s.arg(m_path).arg(number);
+        const std::filesystem::path target = QFile::encodeName(name).toStdString();
+        std::error_code error;
+        std::filesystem::create_hard_link(source, target, error);
+        if (!error)
+            return name;
+        if (error != std::errc::file_exists)
+            // Not every file system has links.
+            return QFile::copy(damaged, name) ? name : QString();
+        // A process that ended in the middle of this may have left it.
+        if (std::filesystem::equivalent(source, target, error))
+            return name;
     }
     return {};
+}
+
+void DefaultsFile::forgetSetAside(const QString &name) const
+{
+    QFile::remove(name);
 }
 
 } // namespace ferrin

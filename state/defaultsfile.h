@@ -43,8 +43,15 @@ public:
     /// Replaces the file in one step. Null, or why it failed; the file is then what it was.
     [[nodiscard]] QString write(const QJsonObject &entries) const;
 
-    /// Moves the file aside under a name that nothing has. That name, or null when it failed.
+    /// Removes what processes left that ended while they wrote. Only for who holds the file's lock.
+    void removeLeftovers() const;
+
+    /// Gives the file a second name, which stays when it is replaced: at no time is it missing, so
+    /// that whatever ends the process, the next one finds what this one found. That name, which
+    /// nothing else has, or null when it failed.
     [[nodiscard]] QString setAside() const;
+    /// Takes the second name back: the file was not replaced.
+    void forgetSetAside(const QString &name) const;
 
 private:
     QString m_path;

@@ -31,6 +31,13 @@ public:
     /// the life of the process.
     virtual void setObject(const QString &key, const QVariant &value) = 0;
 
+    /// Stores a value that nobody chose under a key that nothing is stored under. A store that
+    /// could not be read so far keeps what it then turns out to hold.
+    virtual void setMissingObject(const QString &key, const QVariant &value)
+    {
+        setObject(key, value);
+    }
+
     /// Values that are answered while nothing is stored under their keys. Never written.
     virtual void registerDefaults(const QVariantMap &defaults) = 0;
 

@@ -4,13 +4,12 @@
 #include "state/filedefaultsstore.h"
 
 #include "sources/logging.h"
+#include "state/filelock.h"
 #include "state/jsonproperty.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QLockFile>
-#include <QThread>
 
+#include <algorithm>
 #include <chrono>
 
 namespace ferrin {
@@ -21,17 +20,10 @@ namespace {
 
 // A write takes milliseconds: who holds the lock longer is gone or hangs, and is not waited for.
 constexpr std::chrono::milliseconds patience { 1000 };
-constexpr std::chrono::milliseconds betweenAttempts { 5 };
 
-/// Waits for the lock as long as that makes sense. Without it a write can lose another's key;
-/// without the write ours is lost for sure, so the caller goes on in any case.
-void waitFor(QLockFile &lock)
-{
-    lock.setStaleLockTime(patience);
-    const QDeadlineTimer deadline(patience);
-    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
-        QThread::msleep(betweenAttempts.count());
-}
+// A write that failed is repeated after this, and each time after twice as long as before.
+constexpr std::chrono::milliseconds firstRepetition { 1000 };
+constexpr std::chrono::milliseconds rarestRepetition { 64'000 };
 
 // To QVariant alone, true and 1 are equal.
 bool differ(const QVariant &a, const QVariant &b)
@@ -53,6 +45,7 @@ std::unique_ptr<FileDefaultsStore> FileDefaultsStore::open(const QString &config
 
 FileDefaultsStore::FileDefaultsStore(const QString &path)
     : m_file(path)
+    , m_untilNextAttempt(firstRepetition)
 {
     m_flushTimer.setSingleShot(true);
     connect(&m_flushTimer, &QTimer::timeout, this, &FileDefaultsStore::flushPending);
@@ -77,6 +70,19 @@ QVariant FileDefaultsStore::object(const QString &key) const
 
 void FileDefaultsStore::setObject(const QString &key, const QVariant &value)
 {
+    m_givingWay.remove(key);
+    store(key, value);
+}
+
+void FileDefaultsStore::setMissingObject(const QString &key, const QVariant &value)
+{
+    if (!m_entries.contains(key))
+        m_givingWay.insert(key);
+    store(key, value);
+}
+
+void FileDefaultsStore::store(const QString &key, const QVariant &value)
+{
     const QJsonValue json = value.isValid() ? jsonFromProperty(value) : QJsonValue::Undefined;
     if (value.isValid() && json.isUndefined()) {
         qCCritical(logger, "A value of type %s cannot be stored under the key %s", value.typeName(),
@@ -88,7 +94,9 @@ void FileDefaultsStore::setObject(const QString &key, const QVariant &value)
     const QVariant before = object(key);
     m_entries.insert(key, json);
     m_pending.insert(key);
-    m_flushTimer.start();
+    // Starting it anew each time would put it off for as long as there are changes.
+    if (!m_flushTimer.isActive() || m_flushTimer.interval() > 0)
+        m_flushTimer.start(0);
     if (differ(before, object(key)))
         Q_EMIT changed(key);
 }
@@ -110,9 +118,12 @@ void FileDefaultsStore::flush()
     const QString trouble = mergeIntoFile(adopted);
     if (trouble.isNull()) {
         m_pending.clear();
+        m_givingWay.clear();
         m_isInTrouble = false;
+        m_untilNextAttempt = firstRepetition;
     } else {
         tellOnce(trouble);
+        tryAgainLater();
     }
     for (const QString &key : std::as_const(adopted))
         Q_EMIT changed(key);
@@ -122,22 +133,36 @@ void FileDefaultsStore::flush()
 QString FileDefaultsStore::mergeIntoFile(QStringList &adopted)
 {
     m_file.makeFolder();
-    QLockFile lock(m_file.path() + u".lock"_s);
-    waitFor(lock);
+    // Without it a write can lose another's key; without the write ours is lost for sure.
+    const FileLock lock(m_file.path() + u".lock"_s, patience);
     const DefaultsFile::Contents contents = m_file.read();
     if (contents.state == DefaultsFile::State::Unreadable)
         return contents.error;
     adopted = adopt(contents);
-    if (contents.state == DefaultsFile::State::Damaged) {
-        const QString aside = m_file.setAside();
-        if (aside.isNull())
-            return u"It is damaged and cannot be set aside"_s;
-        qCCritical(logger, "The defaults store %s is damaged and was set aside as %s",
-                   qUtf8Printable(m_file.path()), qUtf8Printable(aside));
-    }
     const bool isCurrent
         = contents.state == DefaultsFile::State::Whole && contents.entries == m_entries;
-    return isCurrent ? QString() : m_file.write(m_entries);
+    if (isCurrent)
+        return {};
+    if (lock.isHeld())
+        m_file.removeLeftovers();
+    return replaceFile(contents.state);
+}
+
+/// Null, or why the file is still what it was.
+QString FileDefaultsStore::replaceFile(DefaultsFile::State found)
+{
+    if (found != DefaultsFile::State::Damaged)
+        return m_file.write(m_entries);
+    const QString aside = m_file.setAside();
+    if (aside.isNull())
+        return u"It is damaged and cannot be set aside"_s;
+    const QString trouble = m_file.write(m_entries);
+    if (trouble.isNull())
+        qCCritical(logger, "The defaults store %s is damaged and was set aside as %s",
+                   qUtf8Printable(m_file.path()), qUtf8Printable(aside));
+    else
+        m_file.forgetSetAside(aside);
+    return trouble;
 }
 
 /// Takes over what the file says of the keys that have no change pending; the keys that thereby
@@ -147,8 +172,10 @@ QStringList FileDefaultsStore::adopt(const DefaultsFile::Contents &contents)
     QJsonObject merged = contents.state == DefaultsFile::State::Whole ? QJsonObject() : m_entries;
     for (auto it = contents.entries.begin(); it != contents.entries.end(); ++it)
         merged.insert(it.key(), it.value());
-    for (const QString &key : std::as_const(m_pending))
-        merged.insert(key, m_entries.value(key));
+    for (const QString &key : std::as_const(m_pending)) {
+        if (!m_givingWay.contains(key) || !contents.entries.contains(key))
+            merged.insert(key, m_entries.value(key));
+    }
 
     QStringList changedKeys;
     for (const QString &key : merged.keys() + m_entries.keys()) {
@@ -157,6 +184,14 @@ QStringList FileDefaultsStore::adopt(const DefaultsFile::Contents &contents)
     }
     m_entries = merged;
     return changedKeys;
+}
+
+void FileDefaultsStore::tryAgainLater()
+{
+    if (m_pending.isEmpty())
+        return;
+    m_flushTimer.start(m_untilNextAttempt);
+    m_untilNextAttempt = std::min(2 * m_untilNextAttempt, rarestRepetition);
 }
 
 void FileDefaultsStore::tellOnce(const QString &trouble)

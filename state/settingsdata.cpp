@@ -110,7 +110,7 @@ Icon SettingsData::chargedIconSelected()
 QString SettingsData::releaseVersionNumber()
 {
     if (!m_defaults.string(releaseKey))
-        write(releaseKey, m_shortVersion);
+        write(releaseKey, m_shortVersion, &DefaultsStore::setMissingObject);
     return m_release.value();
 }
 
@@ -150,21 +150,21 @@ std::optional<Icon> SettingsData::readAndDecode(const QString &key) const
     return icon;
 }
 
-void SettingsData::encodeAndWrite(Icon icon, const QString &key)
+void SettingsData::encodeAndWrite(Icon icon, const QString &key, Setter setter)
 {
     if (const auto data = encoded(icon)) {
-        write(key, *data);
+        write(key, *data, setter);
         return;
     }
     qCCritical(logger, "Unable to encode key %s", qUtf8Printable(key));
     notify(key);
 }
 
-void SettingsData::write(const QString &key, const QVariant &value)
+void SettingsData::write(const QString &key, const QVariant &value, Setter setter)
 {
     {
         const QScopedValueRollback guard(m_keyBeingWritten, key);
-        m_defaults.setObject(key, value);
+        (m_defaults.*setter)(key, value);
     }
     notify(key);
 }
@@ -187,7 +187,7 @@ Icon SettingsData::readOrReplace(const QString &key, Icon fallback)
 {
     if (const auto icon = readAndDecode(key))
         return *icon;
-    encodeAndWrite(fallback, key);
+    encodeAndWrite(fallback, key, &DefaultsStore::setMissingObject);
     return fallback;
 }
 

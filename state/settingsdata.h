@@ -4,6 +4,7 @@
 #pragma once
 
 #include "state/bundle.h"
+#include "state/defaultsstore.h"
 #include "state/icon.h"
 
 #include <QBindable>
@@ -15,8 +16,6 @@
 #include <span>
 
 namespace ferrin {
-
-class DefaultsStore;
 
 /// The icons on offer in the three battery states; by default the catalogues.
 struct IconsOnOffer
@@ -106,8 +105,10 @@ public:
 
 private:
     [[nodiscard]] std::optional<Icon> readAndDecode(const QString &key) const;
-    void encodeAndWrite(Icon icon, const QString &key);
-    void write(const QString &key, const QVariant &value);
+    using Setter = void (DefaultsStore::*)(const QString &, const QVariant &);
+    void encodeAndWrite(Icon icon, const QString &key, Setter setter = &DefaultsStore::setObject);
+    void write(const QString &key, const QVariant &value,
+               Setter setter = &DefaultsStore::setObject);
     void notify(const QString &key);
 
     [[nodiscard]] Icon readOrReplace(const QString &key, Icon fallback);

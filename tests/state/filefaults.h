@@ -3,14 +3,22 @@
 
 #pragma once
 
-#include <QFileInfo>
+#include "state/filedefaultsstore.h"
+#include "tests/support/logcapture.h"
+
+#include <QDir>
+#include <QFile>
 #include <QString>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
 
 namespace ferrin::test {
+
+using namespace Qt::StringLiterals;
 
 /// While it lives the process is an ordinary user that owns the folder: permissions bind root's
 /// tests too.
@@ -62,5 +70,62 @@ private:
     rlimit m_before {};
     void (*m_handler)(int) = nullptr;
 };
+
+/// A store's file in a folder of a test's own, and what the log says of it.
+struct FaultyFile
+{
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"defaults.json"_s);
+    LogCapture log;
+
+    void put(const QByteArray &text) const
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+            qFatal("The test cannot write its file");
+    }
+
+    [[nodiscard]] QByteArray text(const QString &name = u"defaults.json"_s) const
+    {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    [[nodiscard]] QStringList files() const
+    {
+        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    /// Puts another file beside the store's, which is named as that with something behind.
+    void putBeside(const QString &suffix) const
+    {
+        QFile file(path + suffix);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("The test cannot write its file");
+    }
+
+    [[nodiscard]] QString trouble(const QString &why) const
+    {
+        return u"error: Unable to keep the defaults store %1: %2"_s.arg(path, why);
+    }
+
+    [[nodiscard]] QString wasSetAside(int number) const
+    {
+        return u"error: The defaults store %1 is damaged and was set aside as %1.damaged-%2"_s
+            .arg(path)
+            .arg(number);
+    }
+};
+
+/// Sets two values with a write each: the trouble is told once, the values are answered.
+inline void setTwo(FileDefaultsStore &store)
+{
+    store.setObject(u"a"_s, 7);
+    store.flush();
+    store.setObject(u"b"_s, u"x"_s);
+    store.flush();
+    QCOMPARE(store.integer(u"a"_s), 7);
+    QCOMPARE(store.string(u"b"_s), u"x"_s);
+}
 
 } // namespace ferrin::test

@@ -9,6 +9,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -105,6 +106,17 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(f.path));
         QCoreApplication::processEvents();
         QCOMPARE(f.entries(), QJsonObject({ { u"a"_s, 1 }, { u"b"_s, 2 } }));
+    }
+
+    void writesWhileThereIsAlwaysAnotherChange()
+    {
+        const Fixture f;
+        FileDefaultsStore store(f.path);
+        QTimer changes;
+        int count = 0;
+        connect(&changes, &QTimer::timeout, this, [&] { store.setObject(u"a"_s, ++count); });
+        changes.start(0);
+        QTRY_VERIFY(QFile::exists(f.path));
     }
 
     void writesWhatIsPendingWhenItEnds()

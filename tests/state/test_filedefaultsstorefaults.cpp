@@ -2,13 +2,12 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/filedefaultsstore.h"
+#include "state/filelock.h"
 #include "tests/state/filefaults.h"
-#include "tests/support/logcapture.h"
 
 #include <QDir>
 #include <QFile>
-#include <QLockFile>
-#include <QTemporaryDir>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -16,142 +15,38 @@
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-namespace {
-
-struct Fixture
-{
-    QTemporaryDir folder;
-    QString path = folder.filePath(u"defaults.json"_s);
-    LogCapture log;
-
-    void put(const QByteArray &text) const
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            qFatal("The test cannot write its file");
-    }
-
-    [[nodiscard]] QByteArray text(const QString &name = u"defaults.json"_s) const
-    {
-        QFile file(folder.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    [[nodiscard]] QString trouble(const QString &why) const
-    {
-        return u"error: Unable to keep the defaults store %1: %2"_s.arg(path, why);
-    }
-
-    [[nodiscard]] QString wasSetAside(int number) const
-    {
-        return u"error: The defaults store %1 is damaged and was set aside as %1.damaged-%2"_s
-            .arg(path)
-            .arg(number);
-    }
-};
-
-/// Sets two values with a write each: the trouble is told once, the values are answered.
-void setTwo(FileDefaultsStore &store)
-{
-    store.setObject(u"a"_s, 7);
-    store.flush();
-    store.setObject(u"b"_s, u"x"_s);
-    store.flush();
-    QCOMPARE(store.integer(u"a"_s), 7);
-    QCOMPARE(store.string(u"b"_s), u"x"_s);
-}
-
-} // namespace
+using Fixture = FaultyFile;
 
 class FileDefaultsStoreFaultsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void setsADamagedFileAsideAndKeepsWhatItStillSays_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<bool>("hasA");
-        QTest::addColumn<bool>("hasZ");
-        const QByteArray a = "\"a\":1,\n";
-        const QByteArray z = "\"z\":{\"data\":\"eA==\"}\n}\n";
-        QTest::newRow("empty") << QByteArray() << false << false;
-        QTest::newRow("zeros") << QByteArray(4096, '\0') << false << false;
-        QTest::newRow("no JSON") << QByteArray("hello\nworld") << false << false;
-        QTest::newRow("an array") << QByteArray("[1, 2]") << false << false;
-        QTest::newRow("cut in an entry") << "{\n" + a + "\"z\":{\"da" << true << false;
-        QTest::newRow("cut after an entry") << "{\n" + a << true << false;
-        QTest::newRow("bytes that are no UTF-8")
-            << "{\n" + a + "\"m\":\"\xff\xfe\",\n" + z << true << true;
-        QTest::newRow("garbage in the middle") << "{\n" + a + "\x01}{,,\n" + z << true << true;
-        QTest::newRow("something behind") << "{\n" + a + z + "}}" << true << true;
-        QTest::newRow("far too large")
-            << "{\n" + a + "\"m\":\"" + QByteArray(2 << 20, 'm') + "\",\n" + z << true << false;
-        QTest::newRow("nested too deeply")
-            << "{\n" + a + "\"m\":" + QByteArray(5000, '[') + "\n" + z << true << true;
-    }
-
-    void setsADamagedFileAsideAndKeepsWhatItStillSays()
-    {
-        QFETCH(QByteArray, text);
-        QFETCH(bool, hasA);
-        QFETCH(bool, hasZ);
-        Fixture f;
-        f.put(text);
-        const FileDefaultsStore store(f.path);
-
-        QCOMPARE(f.log.take(), QStringList { f.wasSetAside(1) });
-        QCOMPARE(f.text(u"defaults.json.damaged-1"_s), text);
-        QCOMPARE(store.integer(u"a"_s), hasA ? std::optional(1) : std::nullopt);
-        QCOMPARE(store.data(u"z"_s), hasZ ? std::optional(QByteArray("x")) : std::nullopt);
-        const FileDefaultsStore next(f.path);
-        QCOMPARE(next.object(u"a"_s), store.object(u"a"_s));
-        QCOMPARE(next.object(u"z"_s), store.object(u"z"_s));
-    }
-
-    void neverOverwritesWhatWasSetAsideBefore()
+    void removesWhatAProcessLeftThatEndedWhileItWrote()
     {
         Fixture f;
-        f.put("first");
-        FileDefaultsStore store(f.path);
-        f.put("second");
-        store.setObject(u"a"_s, 1);
-        store.flush();
-
-        QCOMPARE(f.log.take(), QStringList({ f.wasSetAside(1), f.wasSetAside(2) }));
-        QCOMPARE(f.text(u"defaults.json.damaged-1"_s), QByteArray("first"));
-        QCOMPARE(f.text(u"defaults.json.damaged-2"_s), QByteArray("second"));
-        QCOMPARE(f.text(), QByteArray("{\n\"a\":1\n}\n"));
-    }
-
-    void forgetsNothingWhenTheFileIsDamagedWhileItRuns()
-    {
-        Fixture f;
+        f.putBeside(u".unfinished-aBcDeF"_s);
+        const QStringList others { u"defaults.json.backup"_s, u"defaults.json.damaged-1"_s };
+        f.putBeside(u".backup"_s);
+        f.putBeside(u".damaged-1"_s);
         FileDefaultsStore store(f.path);
         store.setObject(u"a"_s, 1);
-        store.setObject(u"b"_s, 2);
         store.flush();
-        f.put("{\n\"b\":3,\n\"a");
-        store.setObject(u"c"_s, 4);
-        store.flush();
-
-        QCOMPARE(f.log.take(), QStringList { f.wasSetAside(1) });
-        QCOMPARE(f.text(), QByteArray("{\n\"a\":1,\n\"b\":3,\n\"c\":4\n}\n"));
+        QCOMPARE(f.files(), QStringList { u"defaults.json"_s } + others);
     }
 
-    void keepsADamagedFileThatCannotBeSetAside()
+    void removesNothingThatAnotherProcessMayBeWriting()
     {
         Fixture f;
-        f.put("{\n\"a\":1,\n");
-        const AsOrdinaryUser user(f.folder.path());
-        QVERIFY(chmod(f.folder.path().toLocal8Bit().constData(), 0500) == 0);
+        f.putBeside(u".unfinished-aBcDeF"_s);
+        const FileLock lock(f.path + u".lock"_s, 0ms);
+        QVERIFY(lock.isHeld());
         FileDefaultsStore store(f.path);
-        QCOMPARE(store.integer(u"a"_s), 1);
-        setTwo(store);
-        QCOMPARE(f.log.take(),
-                 QStringList { f.trouble(u"It is damaged and cannot be set aside"_s) });
-        QCOMPARE(f.text(), QByteArray("{\n\"a\":1,\n"));
+        store.setObject(u"a"_s, 1);
+        store.flush();
+        QVERIFY(f.files().contains(u"defaults.json.unfinished-aBcDeF"_s));
     }
 
     void survivesAFolderInPlaceOfTheFile()
@@ -214,6 +109,69 @@ private Q_SLOTS:
         QCOMPARE(store.integer(u"a"_s), 1);
     }
 
+    void keepsTheChoicesInAFileThatItMayNotReadAtFirst()
+    {
+        Fixture f;
+        const AsOrdinaryUser user(f.folder.path());
+        f.put("{\"chosen\":\"old\",\"both\":\"old\"}");
+        QVERIFY(chmod(f.path.toLocal8Bit().constData(), 0000) == 0);
+        FileDefaultsStore store(f.path);
+        store.setMissingObject(u"chosen"_s, u"default"_s);
+        store.setMissingObject(u"both"_s, u"default"_s);
+        store.setMissingObject(u"none"_s, u"default"_s);
+        store.flush();
+        QCOMPARE(f.log.take(), QStringList { f.trouble(u"Permission denied"_s) });
+        QCOMPARE(store.string(u"chosen"_s), u"default"_s);
+        // It may be what was put there for want of another, but now it is a choice.
+        store.setObject(u"both"_s, u"default"_s);
+
+        QVERIFY(chmod(f.path.toLocal8Bit().constData(), 0600) == 0);
+        QSignalSpy changed(&store, &FileDefaultsStore::changed);
+        store.flush();
+        QCOMPARE(changed, QList<QVariantList> { { u"chosen"_s } });
+        QCOMPARE(store.string(u"chosen"_s), u"old"_s);
+        QCOMPARE(f.text(),
+                 QByteArray("{\n\"both\":\"default\",\n\"chosen\":\"old\",\n"
+                            "\"none\":\"default\"\n}\n"));
+    }
+
+    void putsADefaultOverAValueThatIsOfNoUse()
+    {
+        Fixture f;
+        f.put("{\"a\":[]}");
+        FileDefaultsStore store(f.path);
+        store.setMissingObject(u"a"_s, 1);
+        store.flush();
+        QCOMPARE(f.text(), QByteArray("{\n\"a\":1\n}\n"));
+    }
+
+    void neverReplacesAFileThatItMayNotWrite()
+    {
+        Fixture f;
+        const AsOrdinaryUser user(f.folder.path());
+        f.put("{\"z\":0}");
+        QVERIFY(chmod(f.path.toLocal8Bit().constData(), 0400) == 0);
+        FileDefaultsStore store(f.path);
+        setTwo(store);
+        QCOMPARE(f.log.take(), QStringList { f.trouble(u"Permission denied"_s) });
+        QCOMPARE(f.text(), QByteArray("{\"z\":0}"));
+        QCOMPARE(f.files(), QStringList { u"defaults.json"_s });
+    }
+
+    void neverReplacesALinkWhoseFileIsAway()
+    {
+        Fixture f;
+        const QString away = f.folder.filePath(u"away/defaults.json"_s);
+        QVERIFY(QFile::link(away, f.path));
+        FileDefaultsStore store(f.path);
+        setTwo(store);
+        QCOMPARE(f.log.take(), QStringList { f.trouble(u"No such file or directory"_s) });
+        QVERIFY(QFileInfo(f.path).isSymLink());
+        QVERIFY(QDir().mkdir(QFileInfo(away).path()));
+        store.flush();
+        QCOMPARE(f.text(u"away/defaults.json"_s), QByteArray("{\n\"a\":7,\n\"b\":\"x\"\n}\n"));
+    }
+
     void keepsValuesWhileTheFolderIsReadOnlyAndWritesThemAfterwards()
     {
         Fixture f;
@@ -248,6 +206,22 @@ private Q_SLOTS:
         QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList { u"defaults.json"_s });
     }
 
+    void writesByItselfWhenTheDiskHasRoomAgain()
+    {
+        Fixture f;
+        FileDefaultsStore store(f.path);
+        {
+            const DiskIsFull full;
+            store.setObject(u"a"_s, u"a value of some length"_s);
+            QStringList said;
+            QTRY_VERIFY(!(said += f.log.take()).isEmpty());
+            QCOMPARE(said, QStringList { f.trouble(u"File too large"_s) });
+        }
+        QVERIFY(f.text().isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(f.text(), QByteArray("{\n\"a\":\"a value of some length\"\n}\n"),
+                                  60'000);
+    }
+
     void tellsOfATroubleThatComesBack()
     {
         Fixture f;
@@ -268,8 +242,8 @@ private Q_SLOTS:
     void writesWithoutALockThatCannotBeHad()
     {
         Fixture f;
-        QLockFile lock(f.path + u".lock"_s);
-        QVERIFY(lock.lock());
+        const FileLock lock(f.path + u".lock"_s, 0ms);
+        QVERIFY(lock.isHeld());
         FileDefaultsStore store(f.path);
         store.setObject(u"a"_s, 1);
         store.flush();

@@ -4,11 +4,11 @@
 #include "platform/linux/session/autostartentry.h"
 
 #include "platform/linux/session/desktopnames.h"
+#include "state/filereplacement.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -175,11 +175,9 @@ std::optional<QString> AutostartEntry::write(const DesktopEntry &entry) const
     const QString folder = QFileInfo(usersFile()).path();
     if (!QDir().mkpath(folder))
         return u"%1: the folder cannot be made"_s.arg(folder);
-    QSaveFile file(usersFile());
-    const QByteArray content = entry.content();
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        return u"%1: %2"_s.arg(file.fileName(), file.errorString());
-    return std::nullopt;
+    removeUnfinishedReplacements(usersFile());
+    const QString trouble = replaceFile(usersFile(), entry.content());
+    return trouble.isNull() ? std::nullopt : std::optional(u"%1: %2"_s.arg(usersFile(), trouble));
 }
 
 } // namespace ferrin
