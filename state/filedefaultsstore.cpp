@@ -156,7 +156,7 @@ QString FileDefaultsStore::replaceFile(DefaultsFile::State found)
     const QString aside = m_file.setAside();
     if (aside.isNull())
         return u"It is damaged and cannot be set aside"_s;
-    const QString trouble = m_file.write(m_entries);
+    QString trouble = m_file.write(m_entries);
     if (trouble.isNull())
         qCCritical(logger, "The defaults store %s is damaged and was set aside as %s",
                    qUtf8Printable(m_file.path()), qUtf8Printable(aside));
