@@ -17,6 +17,14 @@ bool isPanel(const QRect &dock, const QRect &screen)
     return thickness * thickest <= std::min(screen.width(), screen.height());
 }
 
+ItemPlace placeIn(const QRect &dock, const QRect &item, const ScaledScreen &screen)
+{
+    const QRect panel = logicalRect(dock, screen).intersected(screen.geometry);
+    if (dock.isEmpty() || !panel.contains(item.center()) || !isPanel(panel, screen.geometry))
+        return { .item = item };
+    return { .item = item, .panel = panel };
+}
+
 } // namespace
 
 QRect logicalRect(const QRect &device, const ScaledScreen &screen)
@@ -26,13 +34,20 @@ QRect logicalRect(const QRect &device, const ScaledScreen &screen)
     return QRectF(topLeft, device.size().toSizeF() / screen.ratio).toAlignedRect();
 }
 
+QPoint devicePoint(QPoint logical, const ScaledScreen &screen)
+{
+    const QPointF corner = screen.geometry.topLeft();
+    return (corner + (logical - corner) * screen.ratio).toPoint();
+}
+
 ItemPlace placeOfClick(QPoint pointer, const QRect &dock, const ScaledScreen &screen)
 {
-    const QRect spot(pointer, QSize(1, 1));
-    const QRect panel = logicalRect(dock, screen).intersected(screen.geometry);
-    if (dock.isEmpty() || !panel.contains(pointer) || !isPanel(panel, screen.geometry))
-        return { .item = spot };
-    return { .item = spot, .panel = panel };
+    return placeIn(dock, QRect(pointer, QSize(1, 1)), screen);
+}
+
+ItemPlace placeOfItem(const QRect &item, const QRect &dock, const ScaledScreen &screen)
+{
+    return placeIn(dock, logicalRect(item, screen), screen);
 }
 
 } // namespace ferrin

@@ -20,9 +20,16 @@ struct ScaledScreen
 /// The logical rectangle that covers this one of device pixels, whole pixels outwards.
 [[nodiscard]] QRect logicalRect(const QRect &device, const ScaledScreen &screen);
 
+/// The other way round, of a corner.
+[[nodiscard]] QPoint devicePoint(QPoint logical, const ScaledScreen &screen);
+
 /// The place of an item that was clicked at `pointer`, in logical pixels. `dock` is the panel's
 /// window under the pointer in device pixels, null for none; one that is too thick for a panel is
 /// none either.
 [[nodiscard]] ItemPlace placeOfClick(QPoint pointer, const QRect &dock, const ScaledScreen &screen);
+
+/// The same of an item whose window is known; both are in device pixels.
+[[nodiscard]] ItemPlace placeOfItem(const QRect &item, const QRect &dock,
+                                    const ScaledScreen &screen);
 
 } // namespace ferrin

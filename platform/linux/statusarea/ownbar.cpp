@@ -68,10 +68,7 @@ void OwnBarItem::showColours()
 
 void OwnBarItem::popUpMenu()
 {
-    const QRect bar = m_window.geometry();
-    m_popup.popUp(
-        m_entries, { bar.left(), bar.bottom() + 1 },
-        { .isDark = m_colours.isOwnBarDark(), .fontFamily = m_colours.appearance().fontFamily });
+    m_popup.popUpAt(m_entries, m_window.geometry(), ownWindowLook(m_colours));
 }
 
 OwnBar::OwnBar(const PanelColours &colours, QObject *parent)

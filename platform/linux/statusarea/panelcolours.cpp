@@ -73,6 +73,18 @@ ViewContext PanelColours::contextFor(const HostProfile &profile) const
     return contextWith(textFor(profile));
 }
 
+ViewContext PanelColours::contextForTray(const std::optional<QColor> &ground) const
+{
+    if (m_appearance.forcedDark)
+        return contextWith(textOn(*m_appearance.forcedDark));
+    if (m_trayText)
+        return contextWith(*m_trayText);
+    if (ground)
+        return contextWith(textOn(!isLight(*ground)));
+    // The bars that say nothing are dark by default.
+    return contextWith(textOn(true));
+}
+
 bool PanelColours::isOwnBarDark() const noexcept
 {
     return m_appearance.forcedDark.value_or(m_appearance.desktopDark);

@@ -44,6 +44,8 @@ public:
     void setTrayText(const std::optional<QColor> &colour);
 
     [[nodiscard]] ViewContext contextFor(const HostProfile &profile) const;
+    /// In an XEmbed tray, whose ground can be seen in some; `ground` is absent elsewhere.
+    [[nodiscard]] ViewContext contextForTray(const std::optional<QColor> &ground) const;
     /// On a ground of our own, which is dark or light as the desktop is.
     [[nodiscard]] ViewContext contextForOwnBar() const;
     /// The own bar's ground is dark.

@@ -3,6 +3,8 @@
 
 #include "platform/linux/statusarea/popupmenu.h"
 
+#include "platform/linux/statusarea/panelcolours.h"
+
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -28,22 +30,19 @@ constexpr int narrowest = 140;
 constexpr int fontPixelSize = 13;
 constexpr qreal rowRadius = 4;
 
-struct Colours
-{
-    QColor ground;
-    QColor border;
-    QColor text;
-    QColor highlight;
-};
+} // namespace
 
-Colours coloursFor(bool isDark)
+OwnWindowColours coloursFor(bool isDark)
 {
     if (isDark)
         return { 0xff2d2d2f, 0xff4a4a4d, 0xfff2f2f2, 0xff47474b };
     return { 0xfffafafa, 0xffc4c4c8, 0xff1d1d1f, 0xffe2e2e6 };
 }
 
-} // namespace
+OwnWindowLook ownWindowLook(const PanelColours &colours)
+{
+    return { .isDark = colours.isOwnBarDark(), .fontFamily = colours.appearance().fontFamily };
+}
 
 QPoint placeNear(QPoint point, QSize size, const QRect &available)
 {
@@ -51,6 +50,15 @@ QPoint placeNear(QPoint point, QSize size, const QRect &available)
     const int y = fitsBelow ? point.y() : point.y() - size.height();
     const int x = std::min(point.x(), available.right() + 1 - size.width());
     return { std::max(x, available.left()), std::max(y, available.top()) };
+}
+
+QPoint placeBeside(const QRect &item, QSize size, const QRect &available)
+{
+    const bool isLow = item.center().y() > available.center().y();
+    const int y = isLow ? item.top() - size.height() : item.bottom() + 1;
+    const QRect room = available.adjusted(0, 0, -size.width(), -size.height());
+    return { std::clamp(item.left(), room.left(), std::max(room.left(), room.right() + 1)),
+             std::clamp(y, room.top(), std::max(room.top(), room.bottom() + 1)) };
 }
 
 PopupMenu::PopupMenu()
@@ -62,12 +70,26 @@ PopupMenu::PopupMenu()
 
 void PopupMenu::popUp(const std::vector<MenuEntry> &entries, QPoint at, const OwnWindowLook &look)
 {
+    open(entries, look, at,
+         [at](QSize size, const QRect &screen) { return placeNear(at, size, screen); });
+}
+
+void PopupMenu::popUpAt(const std::vector<MenuEntry> &entries, const QRect &item,
+                        const OwnWindowLook &look)
+{
+    open(entries, look, item.center(),
+         [item](QSize size, const QRect &screen) { return placeBeside(item, size, screen); });
+}
+
+void PopupMenu::open(const std::vector<MenuEntry> &entries, const OwnWindowLook &look,
+                     QPoint screenAt, const std::function<QPoint(QSize, const QRect &)> &place)
+{
     if (entries.empty())
         return;
     m_entries = entries;
     m_look = look;
     m_current = -1;
-    const QScreen *under = QGuiApplication::screenAt(at);
+    const QScreen *under = QGuiApplication::screenAt(screenAt);
     if (!under)
         under = QGuiApplication::primaryScreen();
     if (!under)
@@ -76,7 +98,7 @@ void PopupMenu::popUp(const std::vector<MenuEntry> &entries, QPoint at, const Ow
     // Tiling Wayland compositors leave a window of one size alone.
     setMinimumSize(size);
     setMaximumSize(size);
-    setGeometry(QRect(placeNear(at, size, under->geometry()), size));
+    setGeometry(QRect(place(size, under->geometry()), size));
     show();
     requestActivate();
     // Elsewhere the desktop itself sends a menu away when something else comes into focus.
@@ -140,7 +162,7 @@ std::vector<AccessiblePart> PopupMenu::parts()
 
 void PopupMenu::paintEvent(QPaintEvent *)
 {
-    const Colours colours = coloursFor(m_look.isDark);
+    const OwnWindowColours colours = coloursFor(m_look.isDark);
     QPainter painter(this);
     painter.fillRect(QRect(QPoint(), size()), colours.border);
     painter.fillRect(QRect(QPoint(), size()).adjusted(1, 1, -1, -1), colours.ground);

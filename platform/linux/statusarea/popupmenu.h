@@ -6,11 +6,15 @@
 #include "menubar/statusitem.h"
 #include "platform/linux/statusarea/accessiblewindow.h"
 
+#include <QColor>
 #include <QRasterWindow>
 
+#include <functional>
 #include <vector>
 
 namespace ferrin {
+
+class PanelColours;
 
 /// How the small windows of our own are painted.
 struct OwnWindowLook
@@ -19,6 +23,17 @@ struct OwnWindowLook
     /// The desktop's interface font; empty for the default one.
     QString fontFamily {};
 };
+
+struct OwnWindowColours
+{
+    QColor ground;
+    QColor border;
+    QColor text;
+    QColor highlight;
+};
+
+[[nodiscard]] OwnWindowColours coloursFor(bool isDark);
+[[nodiscard]] OwnWindowLook ownWindowLook(const PanelColours &colours);
 
 /// A small menu of our own, for the hosts that leave the menu to the item and for the own bar.
 /// Closes by itself when an entry is chosen, at Escape, and at a click elsewhere.
@@ -31,6 +46,10 @@ public:
 
     /// Opens at the pointer, wholly on its screen; below the place, or above it near the bottom.
     void popUp(const std::vector<MenuEntry> &entries, QPoint at, const OwnWindowLook &look);
+
+    /// Opens beside the item, off it.
+    void popUpAt(const std::vector<MenuEntry> &entries, const QRect &item,
+                 const OwnWindowLook &look);
 
     [[nodiscard]] QAccessibleInterface *accessibleRoot() const override
     {
@@ -50,6 +69,8 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void open(const std::vector<MenuEntry> &entries, const OwnWindowLook &look, QPoint screenAt,
+              const std::function<QPoint(QSize, const QRect &)> &place);
     [[nodiscard]] QFont entryFont() const;
     [[nodiscard]] QSize idealSize() const;
     [[nodiscard]] QRect entryBounds(int entry) const;
@@ -70,5 +91,9 @@ private:
 /// The place for a window of this size near a point: below and to the right, unless that leaves
 /// `available`.
 [[nodiscard]] QPoint placeNear(QPoint point, QSize size, const QRect &available);
+
+/// The place for a window of this size beside an item: below it, or above one in the lower half of
+/// `available`, and wholly inside of that.
+[[nodiscard]] QPoint placeBeside(const QRect &item, QSize size, const QRect &available);
 
 } // namespace ferrin

@@ -6,21 +6,33 @@
 #include "platform/linux/statusarea/ownbar.h"
 #include "platform/linux/statusarea/statusnotifierbar.h"
 #include "platform/linux/statusarea/traycolours.h"
+#include "platform/linux/statusarea/trayitem.h"
+#include "platform/linux/statusarea/x11trayowner.h"
+
+#include <algorithm>
 
 using namespace std::chrono_literals;
 
 namespace ferrin {
 
+namespace {
+
+// A panel that has both kinds of status area takes the tray a moment before or after the other.
+constexpr std::chrono::milliseconds patienceWithTray = 500ms;
+
+} // namespace
+
 StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *parent)
     : QObject(parent)
-    , m_trayColours(std::make_unique<TrayColours>())
+    , m_trayOwner(std::make_unique<TrayOwner>())
+    , m_trayColours(std::make_unique<TrayColours>(*m_trayOwner))
 {
     readTrayColours();
     connect(m_trayColours.get(), &TrayColours::changed, this, &StatusAreaChooser::readTrayColours);
     if (session.isConnected())
         m_notifierBar = std::make_unique<StatusNotifierBar>(session, m_colours);
     m_patienceTimer.setSingleShot(true);
-    connect(&m_patienceTimer, &QTimer::timeout, this, &StatusAreaChooser::useOwnBar);
+    connect(&m_patienceTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);
 }
 
 StatusAreaChooser::~StatusAreaChooser() = default;
@@ -37,23 +49,22 @@ void StatusAreaChooser::readTrayColours()
 
 void StatusAreaChooser::start()
 {
+    connect(m_trayOwner.get(), &TrayOwner::changed, this, &StatusAreaChooser::trayOwnerChanged);
     if (!m_notifierBar) {
-        useOwnBar();
+        standIn();
         return;
     }
-    const ItemRegistration &registration = m_notifierBar->registration();
-    connect(&registration, &ItemRegistration::hostPresentChanged, this,
+    connect(&m_notifierBar->registration(), &ItemRegistration::hostPresentChanged, this,
             &StatusAreaChooser::hostPresentChanged);
-    // A panel takes the tray for itself at about the time at which it starts to show items.
-    connect(&registration, &ItemRegistration::registered, m_trayColours.get(),
-            &TrayColours::refresh);
     m_notifierBar->start();
-    m_patienceTimer.start(m_patience);
+    waitForHost();
     Q_EMIT itemAvailable(item());
 }
 
 StatusBar *StatusAreaChooser::bar() const
 {
+    if (m_trayBar)
+        return m_trayBar.get();
     if (m_ownBar)
         return m_ownBar.get();
     return m_notifierBar.get();
@@ -65,36 +76,90 @@ StatusItem *StatusAreaChooser::item() const
     return inUse ? inUse->item() : nullptr;
 }
 
+bool StatusAreaChooser::isHostPresent() const
+{
+    return m_notifierBar && m_notifierBar->registration().isHostPresent();
+}
+
+void StatusAreaChooser::waitForHost()
+{
+    m_patienceTimer.start(m_trayOwner->window() ? std::min(m_patience, patienceWithTray)
+                                                : m_patience);
+}
+
 void StatusAreaChooser::hostPresentChanged(bool present)
 {
     if (!present) {
-        m_patienceTimer.start(m_patience);
+        waitForHost();
         return;
     }
     m_patienceTimer.stop();
-    if (m_ownBar)
+    if (m_ownBar || m_trayBar)
         useStatusNotifier();
+}
+
+void StatusAreaChooser::trayOwnerChanged()
+{
+    // A bar that is restarted gets its item back at once.
+    if (m_trayBar)
+        m_trayBar->item()->dockInto(m_trayOwner->window());
+    if (!isHostPresent())
+        waitForHost();
+}
+
+void StatusAreaChooser::standIn()
+{
+    if (m_trayOwner->window())
+        useTray();
+    else
+        useOwnBar();
+}
+
+void StatusAreaChooser::emptyItem()
+{
+    if (StatusItem *const inUse = item())
+        inUse->removeContentViews();
+}
+
+void StatusAreaChooser::useTray()
+{
+    if (m_trayBar)
+        return;
+    emptyItem();
+    OwnBar *const former = m_ownBar.release();
+    m_trayBar = std::make_unique<TrayBar>(m_colours);
+    tellOfItem(former);
+    m_trayBar->item()->dockInto(m_trayOwner->window());
 }
 
 void StatusAreaChooser::useOwnBar()
 {
     if (m_ownBar)
         return;
-    if (m_notifierBar)
-        m_notifierBar->item()->removeContentViews();
+    emptyItem();
+    TrayBar *const former = m_trayBar.release();
     m_ownBar = std::make_unique<OwnBar>(m_colours);
-    Q_EMIT itemAvailable(item());
+    tellOfItem(former);
     m_ownBar->show();
 }
 
 void StatusAreaChooser::useStatusNotifier()
 {
-    // Whoever uses the own bar's item may do so until it has heard of the other one.
-    OwnBar *const former = m_ownBar.release();
-    former->item()->removeContentViews();
-    former->hide();
+    emptyItem();
+    StatusBar *former = m_trayBar.release();
+    if (OwnBar *const ownBar = m_ownBar.release()) {
+        ownBar->hide();
+        former = ownBar;
+    }
+    tellOfItem(former);
+}
+
+void StatusAreaChooser::tellOfItem(StatusBar *former)
+{
     Q_EMIT itemAvailable(item());
-    former->deleteLater();
+    // Whoever used the former bar's item might do so until now.
+    if (former)
+        former->deleteLater();
 }
 
 } // namespace ferrin

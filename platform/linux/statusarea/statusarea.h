@@ -18,12 +18,15 @@ class OwnBar;
 class StatusBar;
 class StatusItem;
 class StatusNotifierBar;
+class TrayBar;
 class TrayColours;
+class TrayOwner;
 
-/// Decides where the application's item stands: in the desktop's status area when there is one, in
-/// a small bar of our own when there is none. The item is offered to the desktop from the first
-/// moment and for ever; the own bar appears when no host has been seen for the patience, and is
-/// given up as soon as one comes. Owned by the application; never touches what the item shows.
+/// Decides where the application's item stands: in the desktop's status area when there is one,
+/// else in the X11 tray of somebody's bar, else in a small bar of our own. The item is offered to
+/// the desktop from the first moment and for ever; another place is taken when no host has been
+/// seen for the patience, and given up as soon as one comes. Owned by the application; never
+/// touches what the item shows.
 class StatusAreaChooser : public QObject
 {
     Q_OBJECT
@@ -33,8 +36,8 @@ public:
     explicit StatusAreaChooser(const QDBusConnection &session, QObject *parent = nullptr);
     ~StatusAreaChooser() override;
 
-    /// How long a status area may take to come, or to come back after a crash, before the own bar
-    /// stands in for it.
+    /// How long a status area may take to come, or to come back after a crash, before another place
+    /// stands in for it. Where there is a tray, it takes no longer than panels that bring both.
     void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
 
     /// How the desktop looks and what the user forced. Call before `start` and at every change.
@@ -56,14 +59,24 @@ Q_SIGNALS:
 private:
     void readTrayColours();
     void hostPresentChanged(bool present);
+    void trayOwnerChanged();
+    [[nodiscard]] bool isHostPresent() const;
+    void waitForHost();
+    void standIn();
+    void emptyItem();
+    void useTray();
     void useOwnBar();
     void useStatusNotifier();
+    /// Tells of the item that is in use now, and lets go of the former bar after that.
+    void tellOfItem(StatusBar *former);
 
     PanelColours m_colours;
+    std::unique_ptr<TrayOwner> m_trayOwner;
     std::unique_ptr<TrayColours> m_trayColours;
     /// Null without a session bus.
     std::unique_ptr<StatusNotifierBar> m_notifierBar;
-    /// Null while the desktop's status area is in use.
+    /// The bars that stand in: both null while the desktop's status area is in use, else one.
+    std::unique_ptr<TrayBar> m_trayBar;
     std::unique_ptr<OwnBar> m_ownBar;
     QTimer m_patienceTimer;
     std::chrono::milliseconds m_patience { 3000 };

@@ -5,7 +5,6 @@
 
 #include "platform/linux/statusarea/x11connection.h"
 
-#include <QAbstractNativeEventFilter>
 #include <QColor>
 #include <QObject>
 
@@ -14,19 +13,17 @@
 
 namespace ferrin {
 
-/// The colour of text on the panel, as the owner of the X11 tray selection announces it. Most
-/// panels own that selection too and announce their own theme's colours. Silent where the program
-/// does not run on X11 or nobody owns the tray.
-class TrayColours : public QObject, QAbstractNativeEventFilter
+class TrayOwner;
+
+/// The colour of text on the panel, as the owner of the X11 tray announces it. Most panels own the
+/// tray too and announce their own theme's colours. Silent where nobody owns it.
+class TrayColours : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit TrayColours(QObject *parent = nullptr);
-    ~TrayColours() override;
-
-    /// Looks who owns the tray now. A change by the same owner is noticed without.
-    void refresh();
+    /// The owner outlives it.
+    explicit TrayColours(const TrayOwner &owner, QObject *parent = nullptr);
 
     [[nodiscard]] const std::optional<QColor> &text() const noexcept { return m_text; }
 
@@ -34,15 +31,11 @@ Q_SIGNALS:
     void changed();
 
 private:
-    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
-    void follow(quint32 owner);
     void read();
 
+    const TrayOwner &m_owner;
     X11Connection m_x11;
-    quint32 m_selectionAtom = 0;
     quint32 m_coloursAtom = 0;
-    /// The tray's owner, 0 for none.
-    quint32 m_owner = 0;
     std::optional<QColor> m_text;
 };
 

@@ -18,6 +18,25 @@ X11Connection::X11Connection()
         m_connection = x11->connection();
 }
 
+int X11Connection::screenNumber() const
+{
+    char *host = nullptr;
+    int display = 0;
+    int screen = 0;
+    if (xcb_parse_display(nullptr, &host, &display, &screen) == 0)
+        return 0;
+    std::free(host);
+    return screen;
+}
+
+quint32 X11Connection::rootWindow() const
+{
+    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
+    for (int number = screenNumber(); number > 0 && screens.rem > 1; --number)
+        xcb_screen_next(&screens);
+    return screens.data->root;
+}
+
 quint32 X11Connection::atom(const char *name) const
 {
     const auto request = xcb_intern_atom(m_connection, 0, quint16(qstrlen(name)), name);

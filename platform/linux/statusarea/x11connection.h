@@ -30,6 +30,10 @@ public:
     explicit operator bool() const noexcept { return m_connection != nullptr; }
     [[nodiscard]] xcb_connection_t *get() const noexcept { return m_connection; }
 
+    /// The number of the screen, as the names of its selections count it.
+    [[nodiscard]] int screenNumber() const;
+    [[nodiscard]] quint32 rootWindow() const;
+
     /// The number of a name; 0 when the server does not answer.
     [[nodiscard]] quint32 atom(const char *name) const;
 

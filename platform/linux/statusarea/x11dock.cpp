@@ -19,7 +19,7 @@ class Docks
 public:
     explicit Docks(const X11Connection &x11)
         : m_connection(x11.get())
-        , m_root(xcb_setup_roots_iterator(xcb_get_setup(x11.get())).data->root)
+        , m_root(x11.rootWindow())
         , m_type(x11.atom("_NET_WM_WINDOW_TYPE"))
         , m_dock(x11.atom("_NET_WM_WINDOW_TYPE_DOCK"))
     {
@@ -38,7 +38,37 @@ public:
         return {};
     }
 
+    [[nodiscard]] QRect around(quint32 window) const
+    {
+        for (int height = 0; height < deepest && window != XCB_WINDOW_NONE; ++height) {
+            if (isDock(window))
+                return bounds(window);
+            window = parentOf(window);
+        }
+        return {};
+    }
+
+    [[nodiscard]] QRect bounds(quint32 window) const
+    {
+        const auto size = xcb_get_geometry(m_connection, window);
+        const auto corner = xcb_translate_coordinates(m_connection, window, m_root, 0, 0);
+        const XcbReply<xcb_get_geometry_reply_t> sizeReply(
+            xcb_get_geometry_reply(m_connection, size, nullptr));
+        const XcbReply<xcb_translate_coordinates_reply_t> cornerReply(
+            xcb_translate_coordinates_reply(m_connection, corner, nullptr));
+        if (!sizeReply || !cornerReply)
+            return {};
+        return { cornerReply->dst_x, cornerReply->dst_y, sizeReply->width, sizeReply->height };
+    }
+
 private:
+    [[nodiscard]] quint32 parentOf(quint32 window) const
+    {
+        const XcbReply<xcb_query_tree_reply_t> reply(
+            xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+        return reply ? reply->parent : quint32(XCB_WINDOW_NONE);
+    }
+
     [[nodiscard]] quint32 childUnderPointer(quint32 window) const
     {
         const XcbReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
@@ -55,19 +85,6 @@ private:
             && *static_cast<const quint32 *>(xcb_get_property_value(reply.get())) == m_dock;
     }
 
-    [[nodiscard]] QRect bounds(quint32 window) const
-    {
-        const auto size = xcb_get_geometry(m_connection, window);
-        const auto corner = xcb_translate_coordinates(m_connection, window, m_root, 0, 0);
-        const XcbReply<xcb_get_geometry_reply_t> sizeReply(
-            xcb_get_geometry_reply(m_connection, size, nullptr));
-        const XcbReply<xcb_translate_coordinates_reply_t> cornerReply(
-            xcb_translate_coordinates_reply(m_connection, corner, nullptr));
-        if (!sizeReply || !cornerReply)
-            return {};
-        return { cornerReply->dst_x, cornerReply->dst_y, sizeReply->width, sizeReply->height };
-    }
-
     xcb_connection_t *m_connection;
     quint32 m_root;
     quint32 m_type;
@@ -80,6 +97,18 @@ QRect dockUnderPointer()
 {
     const X11Connection x11;
     return x11 ? Docks(x11).underPointer() : QRect();
+}
+
+QRect dockAround(quint32 window)
+{
+    const X11Connection x11;
+    return x11 ? Docks(x11).around(window) : QRect();
+}
+
+QRect windowBounds(quint32 window)
+{
+    const X11Connection x11;
+    return x11 ? Docks(x11).bounds(window) : QRect();
 }
 
 } // namespace ferrin

@@ -11,4 +11,10 @@ namespace ferrin {
 /// none, and where the program does not run on X11.
 [[nodiscard]] QRect dockUnderPointer();
 
+/// The same of the dock that this window is in.
+[[nodiscard]] QRect dockAround(quint32 window);
+
+/// Where a window is on the screen, in the X server's own pixels; null when it is gone.
+[[nodiscard]] QRect windowBounds(quint32 window);
+
 } // namespace ferrin

@@ -3,10 +3,13 @@
 
 #include "platform/linux/statusarea/x11popoverdesktop.h"
 
+#include "platform/linux/statusarea/clickplace.h"
+
 #include <QBitmap>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegion>
+#include <QScreen>
 #include <QTransform>
 #include <QWindow>
 
@@ -40,11 +43,6 @@ std::vector<xcb_rectangle_t> rectangles(const QRegion &region)
 
 } // namespace
 
-quint32 X11PopoverDesktop::root() const
-{
-    return xcb_setup_roots_iterator(xcb_get_setup(m_x11.get())).data->root;
-}
-
 bool X11PopoverDesktop::blends() const
 {
     if (!m_x11)
@@ -73,6 +71,7 @@ void X11PopoverDesktop::focus(QWindow &window)
     PopoverDesktop::focus(window);
     if (!m_x11)
         return;
+    insistOnPlace(window);
     // The click went to the panel, so to a window manager this window has come by itself, which it
     // may not let take the focus. A request in the user's name is not questioned.
     constexpr quint32 fromTheUser = 2;
@@ -83,10 +82,23 @@ void X11PopoverDesktop::focus(QWindow &window)
     request.type = m_x11.atom("_NET_ACTIVE_WINDOW");
     request.data.data32[0] = fromTheUser;
     request.data.data32[1] = XCB_CURRENT_TIME;
-    xcb_send_event(m_x11.get(), 0, root(),
+    xcb_send_event(m_x11.get(), 0, m_x11.rootWindow(),
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char *>(&request));
     xcb_flush(m_x11.get());
+}
+
+void X11PopoverDesktop::insistOnPlace(const QWindow &window) const
+{
+    // i3 moves a new window by the decoration that it would have had.
+    const QScreen *const screen = window.screen();
+    if (!screen)
+        return;
+    const QPoint corner = devicePoint(
+        window.position(), { .geometry = screen->geometry(), .ratio = screen->devicePixelRatio() });
+    const std::array place { quint32(corner.x()), quint32(corner.y()) };
+    xcb_configure_window(m_x11.get(), quint32(window.winId()),
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, place.data());
 }
 
 void X11PopoverDesktop::setOutline(QWindow &window, const QPainterPath &outline)

@@ -20,7 +20,7 @@ public:
     void setOutline(QWindow &window, const QPainterPath &outline) override;
 
 private:
-    [[nodiscard]] quint32 root() const;
+    void insistOnPlace(const QWindow &window) const;
 
     X11Connection m_x11;
 };

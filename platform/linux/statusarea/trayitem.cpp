@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusarea/trayitem.h"
+
+#include "menubar/itemform.h"
+#include "menubar/itemhostingview.h"
+#include "platform/linux/statusarea/clickplace.h"
+#include "platform/linux/statusarea/panelcolours.h"
+#include "platform/linux/statusarea/x11dockedwindow.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+
+#include <algorithm>
+#include <utility>
+
+namespace ferrin {
+
+namespace {
+
+constexpr qreal highlightOpacity = 0.2;
+constexpr qreal highlightRadius = 0.15;
+
+/// The screen that shows this place of the X server's.
+QScreen *screenAtDevice(QPoint place)
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto shows = [place](const QScreen *screen) {
+        const QRect geometry = screen->geometry();
+        return QRect(geometry.topLeft(), geometry.size() * screen->devicePixelRatio())
+            .contains(place);
+    };
+    const auto found = std::find_if(screens.begin(), screens.end(), shows);
+    return found == screens.end() ? QGuiApplication::primaryScreen() : *found;
+}
+
+} // namespace
+
+TrayItem::TrayItem(const PanelColours &colours, QObject *parent)
+    : StatusItem(parent)
+    , m_colours(colours)
+{
+    connect(&m_colours, &PanelColours::changed, this, &TrayItem::paint);
+    connect(&m_popup, &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
+}
+
+TrayItem::~TrayItem() = default;
+
+void TrayItem::dockInto(quint32 tray)
+{
+    leave();
+    if (!tray)
+        return;
+    m_window = std::make_unique<DockedWindow>(tray);
+    m_window->setTitle(sentenceFor(m_content));
+    DockedWindow *const window = m_window.get();
+    connect(window, &DockedWindow::pictureWanted, this, &TrayItem::paint);
+    connect(window, &DockedWindow::clicked, this, [this] {
+        m_toolTip.hide();
+        Q_EMIT activated();
+    });
+    connect(window, &DockedWindow::menuRequested, this, &TrayItem::popUpMenu);
+    connect(window, &DockedWindow::undocked, this, &TrayItem::leave);
+    connect(window, &DockedWindow::entered, this, [this] {
+        m_toolTip.showSoon(sentenceFor(m_content), place().item, ownWindowLook(m_colours));
+    });
+    connect(window, &DockedWindow::left, &m_toolTip, &ToolTip::hide);
+}
+
+void TrayItem::leave()
+{
+    m_toolTip.hide();
+    if (!m_window)
+        return;
+    // It may be the one who says so.
+    m_window->disconnect(this);
+    m_window.release()->deleteLater();
+}
+
+void TrayItem::removeContentViews()
+{
+    m_view.reset();
+}
+
+void TrayItem::addContentView(std::unique_ptr<ItemHostingView> view)
+{
+    m_view = std::move(view);
+    if (!m_view)
+        return;
+    connect(m_view.get(), &ItemHostingView::contentChanged, this, &TrayItem::showContent);
+    showContent();
+}
+
+void TrayItem::showContent()
+{
+    m_content = m_view->content();
+    if (m_window)
+        m_window->setTitle(sentenceFor(m_content));
+    paint();
+}
+
+void TrayItem::setHighlighted(bool highlighted)
+{
+    if (std::exchange(m_isHighlighted, highlighted) != highlighted)
+        paint();
+}
+
+void TrayItem::paint()
+{
+    const QSize size = m_window ? m_window->size() : QSize();
+    if (size.isEmpty())
+        return;
+    const ViewContext context = m_colours.contextForTray(m_window->ground());
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    const int side = std::min(size.width(), size.height());
+    const QRect cell((size.width() - side) / 2, (size.height() - side) / 2, side, side);
+    if (m_isHighlighted) {
+        QColor lit = context.text;
+        lit.setAlphaF(float(highlightOpacity));
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(lit);
+        painter.drawRoundedRect(cell, side * highlightRadius, side * highlightRadius);
+    }
+    painter.drawImage(cell.topLeft(), paintForm(ItemForm::Square, m_content, side, 1, context));
+    painter.end();
+    m_window->show(picture);
+}
+
+ItemPlace TrayItem::place() const
+{
+    const QRect bounds = m_window ? m_window->bounds() : QRect();
+    const QScreen *const screen = bounds.isEmpty() ? nullptr : screenAtDevice(bounds.center());
+    if (!screen)
+        return {};
+    return placeOfItem(bounds, m_window->panel(),
+                       { .geometry = screen->geometry(), .ratio = screen->devicePixelRatio() });
+}
+
+void TrayItem::popUpMenu()
+{
+    m_toolTip.hide();
+    m_popup.popUpAt(m_entries, place().item, ownWindowLook(m_colours));
+}
+
+TrayBar::TrayBar(const PanelColours &colours, QObject *parent)
+    : StatusBar(parent)
+    , m_item(colours)
+{
+}
+
+} // namespace ferrin

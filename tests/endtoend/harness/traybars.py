@@ -1,0 +1,133 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""Bars that know only the older tray, into which a program docks a window of its own."""
+
+import os
+import re
+
+from harness import processes
+from harness.desktop import BareScreen, Screen
+from harness.processes import eventually
+
+I3 = """# i3 config file (v4)
+font pango:DejaVu Sans 10
+bar {{
+    position {position}
+    i3bar_command true
+    tray_output screen
+    colors {{
+        background {background}
+        statusline {text}
+    }}
+    status_command while echo; do sleep 1000; done
+}}
+"""
+TINT2 = """panel_items = S
+panel_size = 100% 30
+panel_position = top center horizontal
+panel_background_id = 0
+systray_padding = 2 2 4
+systray_icon_size = 0
+systray_monitor = primary
+"""
+POLYBAR = """[bar/b]
+width = 100%
+height = 28
+modules-right = d
+tray-position = right
+tray-maxsize = 28
+background = #333
+[module/d]
+type = custom/text
+content = " "
+"""
+WATCHER = os.path.join(os.path.dirname(__file__), "watcher.py")
+
+
+class TrayBar(BareScreen):
+    """What the bars have in common: an owner of the tray's selection, and no other status area."""
+
+    bar = None
+    bar_class = None
+
+    def boot(self):
+        super().boot()
+        self.start_bar()
+
+    def start_bar(self):
+        self.bar = self.start(self.command())
+        eventually(self.has_tray, "the bar offers a tray")
+
+    def restart_bar(self):
+        """The bar dies without a word, and the next one comes."""
+        self.end_process(self.bar)
+        eventually(lambda: not self.has_tray(), "the tray is gone")
+        self.start_bar()
+
+    def end_process(self, process):
+        processes.end(process, processes.signal.SIGKILL)
+        self._processes.remove(process)
+
+    def start_watcher(self):
+        """Another kind of status area."""
+        watcher = self.start([WATCHER])
+        eventually(self.bus.has_host, "there is a status area")
+        return watcher
+
+    def has_tray(self):
+        return b"_NET_SYSTEM_TRAY_ORIENTATION" in self.run(
+            "sh", "-c", "for w in $(xwininfo -root -tree | grep -oE '0x[0-9a-f]{4,}'); do"
+            " xprop -id $w _NET_SYSTEM_TRAY_ORIENTATION; done | grep -v 'not found'")
+
+    def bar_box(self):
+        windows = self.run("xdotool", "search", "--onlyvisible", "--class", self.bar_class)
+        return self.box_of(windows.split()[0])
+
+    def docked_window(self, process_id):
+        """The window that a process has in the tray, or None."""
+        found = self.run("xdotool", "search", "--all", "--onlyvisible", "--pid", str(process_id),
+                         "--classname", "^item$").split()
+        return found[0] if found else None
+
+    def title_of(self, window):
+        told = self.run("xprop", "-id", window, "_NET_WM_NAME").decode()
+        title = re.search(r'= "(.*)"', told)
+        return title and title.group(1)
+
+    def command(self):
+        raise NotImplementedError
+
+
+class I3Screen(TrayBar):
+    """i3 is the window manager, and knows how its bar is to be."""
+
+    desktop = "i3"
+    bar_class = "i3bar"
+
+    def __init__(self, position="top", background="#000000", text="#ffffff"):
+        super().__init__()
+        self._configuration = I3.format(position=position, background=background, text=text)
+
+    def boot(self):
+        Screen.boot(self)
+        self.start(["i3", "-c", self.write("config/i3", self._configuration)])
+        eventually(lambda: b"I3_SOCKET_PATH(" in self.run("xprop", "-root", "I3_SOCKET_PATH"),
+                   "the window manager is there")
+        self.start_bar()
+
+    def command(self):
+        return ["i3bar", "--bar_id=bar-0"]
+
+
+class Tint2Screen(TrayBar):
+    bar_class = "Tint2"
+
+    def command(self):
+        return ["tint2", "-c", self.write("config/tint2rc", TINT2)]
+
+
+class PolybarScreen(TrayBar):
+    bar_class = "Polybar"
+
+    def command(self):
+        return ["polybar", "-c", self.write("config/polybar.ini", POLYBAR)]
