@@ -7,6 +7,7 @@
 #include "menubar/statusitem.h"
 #include "state/appcolorscheme.h"
 #include "state/appcolorschemeprovider.h"
+#include "updates/appupdater.h"
 
 #include <utility>
 
@@ -19,6 +20,7 @@ FerrinApp::FerrinApp(Parts parts)
         return m_windows && m_windows->isOfDashboard(window);
     })
 {
+    static_cast<void>(AppUpdater::shared());
     connect(&m_dismissal, &PopoverDismissal::dismissed, this, [this] { setDashboardShown(false); });
     connect(this, &FerrinApp::isDashboardShownChanged, this, &FerrinApp::showOrHideDashboard);
 }

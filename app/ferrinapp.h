@@ -42,7 +42,7 @@ public:
         std::function<void(StatusItem &)> fillStatusItem;
     };
 
-    /// Binds the stored colour scheme: the first use of the defaults store.
+    /// Binds the stored colour scheme, the first use of the defaults store, and starts the updater.
     explicit FerrinApp(Parts parts);
     ~FerrinApp() override;
 

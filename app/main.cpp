@@ -4,6 +4,7 @@
 #include "app/desktopplatform.h"
 #include "app/ferrinapp.h"
 #include "app/powerplatform.h"
+#include "app/updateplatform.h"
 #include "app/windowsmodule.h"
 #include "menubar/menubaritemprovider.h"
 #include "platform/linux/session/applicationsetup.h"
@@ -16,6 +17,7 @@
 #include "state/filedefaultsstore.h"
 #include "state/settingsdata.h"
 #include "state/shareddefaults.h"
+#include "updates/appupdater.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
@@ -82,6 +84,8 @@ int main(int argc, char **argv)
     PowerPlatform power(QDBusConnection::systemBus());
     BatteryDataProvider::setPlatform(power.parts());
     DesktopPlatform desktop(session, bundle.identifier());
+    UpdatePlatform updates(QDBusConnection::systemBus());
+    AppUpdater::setParts(updates.parts());
 
     SpentMemory memory;
     FerrinApp ferrin({ .loadWindows =

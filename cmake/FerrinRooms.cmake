@@ -39,7 +39,7 @@ endfunction()
 #
 # Makes the executable offer all of the lower rooms to the module of the windows.
 function(ferrin_export_rooms target)
-    target_link_libraries(${target} PRIVATE ferrin_menubar)
+    target_link_libraries(${target} PRIVATE ferrin_menubar ferrin_updates)
     set_target_properties(${target} PROPERTIES ENABLE_EXPORTS ON LINK_LIBRARY_OVERRIDE
-        "WHOLE_ARCHIVE,ferrin_sources,ferrin_state,ferrin_core,ferrin_menubar")
+        "WHOLE_ARCHIVE,ferrin_sources,ferrin_state,ferrin_updates,ferrin_core,ferrin_menubar")
 endfunction()

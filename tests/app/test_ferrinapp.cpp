@@ -8,6 +8,10 @@
 #include "tests/app/fakewindows.h"
 #include "tests/menubar/fakestatusbar.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/updates/fakeengine.h"
+#include "tests/updates/fakeinstaller.h"
+#include "tests/updates/fakenetwork.h"
+#include "updates/appupdater.h"
 
 #include <QTest>
 
@@ -68,11 +72,31 @@ private Q_SLOTS:
     void isTrueExactlyWhileTheDashboardIsShown();
     void staysClosedWhenTheWindowsAreMissing();
     void opensTheSettingsWindowByItsIdentifier();
+    void startsTheUpdaterWhileItIsConstructed();
+
+private:
+    test::FakeEngine m_engine;
+    test::FakeInstaller m_installer;
+    test::FakeNetwork m_network;
+    int m_timesLookedAtClock = 0;
 };
 
 void TestFerrinApp::initTestCase()
 {
     setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
+    AppUpdater::setParts({ .feed = { QUrl(u"https://example.org/feed"_s), {}, {} },
+                           .installedVersion = u"1.0.0"_s,
+                           .folder = u"/nowhere"_s,
+                           .store = sharedDefaults(),
+                           .engine = m_engine,
+                           .installer = m_installer,
+                           .network = m_network,
+                           .battery = [] { return BatteryReserve(); },
+                           .now =
+                               [this] {
+                                   ++m_timesLookedAtClock;
+                                   return QDateTime::currentDateTimeUtc();
+                               } });
 }
 
 void TestFerrinApp::cleanup()
@@ -182,6 +206,15 @@ void TestFerrinApp::opensTheSettingsWindowByItsIdentifier()
     Stage stage;
     stage.app.openSettings();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"FerrinSettings"_s }));
+}
+
+void TestFerrinApp::startsTheUpdaterWhileItIsConstructed()
+{
+    const Stage stage;
+    // Nobody but the application has asked for it so far.
+    QVERIFY(m_timesLookedAtClock > 0);
+    QVERIFY(AppUpdater::shared().controller()->updater()->timer().isActive());
+    QVERIFY(m_engine.checks.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestFerrinApp)

@@ -4,6 +4,7 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
 #include "tests/updates/fakeinstaller.h"
+#include "tests/updates/fakenetwork.h"
 #include "tests/updates/networkbench.h"
 #include "updates/appupdater.h"
 #include "updates/processupdateengine.h"
@@ -18,11 +19,6 @@ using Stage = UpdateSession::Stage;
 namespace {
 
 constexpr int patience = 60'000;
-
-struct FreeNetwork final : NetworkCost
-{
-    void ask(std::function<void(NetworkReach)> answer) override { answer(NetworkReach::free); }
-};
 
 /// What a run of a program said, and whether it was content.
 struct Outcome
@@ -157,7 +153,7 @@ void TestReleaseHabit::isFoundFetchedAndVerifiedByAnInstalledVersion()
     ProcessUpdateEngine engine(QStringLiteral(FERRIN_TEST_UPDATE_HELPER),
                                { authority.certificatePath() });
     FakeInstaller installer;
-    FreeNetwork network;
+    FakeNetwork network;
     AppUpdater installed({ .feed = { server.url(u"feed"_s), m_bench->publicKey, u"amd64"_s },
                            .installedVersion = u"1.2.9"_s,
                            .folder = m_bench->folder.filePath(u"cache"_s),

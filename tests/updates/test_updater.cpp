@@ -5,6 +5,7 @@
 #include "tests/support/memorydefaultsstore.h"
 #include "tests/updates/fakeengine.h"
 #include "tests/updates/fakeinstaller.h"
+#include "tests/updates/fakenetwork.h"
 #include "tests/updates/testfeed.h"
 #include "updates/appupdater.h"
 
@@ -17,23 +18,6 @@ using namespace std::chrono_literals;
 using Stage = UpdateSession::Stage;
 
 namespace {
-
-struct FakeNetwork final : NetworkCost
-{
-    void ask(std::function<void(NetworkReach)> answer) override
-    {
-        ++asked;
-        if (answersLater)
-            waiting = std::move(answer);
-        else
-            answer(reach);
-    }
-
-    NetworkReach reach = NetworkReach::free;
-    bool answersLater = false;
-    std::function<void(NetworkReach)> waiting;
-    int asked = 0;
-};
 
 struct Bench
 {
