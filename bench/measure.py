@@ -30,6 +30,8 @@ TREE = pathlib.Path(sys.argv[1]).resolve()
 FERRIN = TREE / "bin" / "ferrin"
 REFRESH = TREE / "bench" / "bench_refresh"
 BARE_ITEM = TREE / "bench" / "bench_bareitem"
+WITH_UPDATER = TREE / "bench" / "bench_ferrin_with_updater"
+WITHOUT_UPDATER = TREE / "bench" / "bench_ferrin_without_updater"
 OPENING = TREE / "bench" / "bench_opening"
 OUR_WINDOWS = TREE / "libexec" / "ferrin" / "ferrin-windows.so"
 BARE_WINDOWS = TREE / "bench" / "bench_barewindow.so"
@@ -39,6 +41,8 @@ WATCHED_SECONDS = 60
 # The toolkit's threads that helped to paint end after half a minute.
 PAINTERS_END_SECONDS = 35
 STARTS = 15
+STARTS_OF_TWINS = 61
+MEMORIES_OF_TWINS = 5
 OPENINGS = 10
 FIRST_OPENINGS = 9
 LATER_OPENINGS = 20
@@ -176,6 +180,32 @@ def starting():
         f"{bare:.0f} ms a bare `QGuiApplication`", verdict(ours / bare, 1.5))
 
 
+def updater():
+    """What the updater costs: the same program with a feed and without one."""
+    twins = (WITH_UPDATER, WITHOUT_UPDATER)
+    taken = {binary: [] for binary in twins}
+    held = {binary: [] for binary in twins}
+    with VirtualLaptop() as laptop, desktop.XfceScreen() as session:
+        mock = {key: laptop.environment[key] for key in MOCK}
+        registrations = Registrations(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        for _ in range(STARTS_OF_TWINS):
+            for binary in twins:
+                taken[binary].append(registrations.seconds_to_item(
+                    lambda: session.start([str(binary)], mock, stderr=subprocess.DEVNULL)))
+        for _ in range(MEMORIES_OF_TWINS):
+            for binary in twins:
+                program = session.start([str(binary)], mock, stderr=subprocess.DEVNULL)
+                time.sleep(SETTLING_SECONDS)
+                held[binary].append(memory_of(program.pid)["Pss"])
+                end(program)
+    ours, bare = (statistics.median(seconds) * 1000 for seconds in taken.values())
+    row(f"From process start to registered item with an updater, median of {STARTS_OF_TWINS}",
+        f"{ours:.1f} ms", f"{bare:.1f} ms without", verdict(ours / bare, 1.02))
+    ours, bare = (statistics.median(megabytes) for megabytes in held.values())
+    row("PSS, idle, with an updater", f"{ours:.2f} MiB", f"{bare:.2f} MiB without",
+        f"{ours - bare:.2f} (limit 1)" + ("" if ours - bare <= 1 else " **missed**"))
+
+
 def switch_dashboard(program, session, shown):
     program.item().activate()
     eventually(lambda: bool(session.windows_of(program.pid)) == shown, "the dashboard has turned")
@@ -228,6 +258,7 @@ def main():
     memory(desktop.XfceScreen, "in the Xfce panel", {"XDG_CURRENT_DESKTOP": "XFCE"})
     memory(desktop.BareScreen, "without any panel", {"XDG_CURRENT_DESKTOP": "GNOME"})
     starting()
+    updater()
     opening()
     after_the_dashboard()
     wake_ups()
