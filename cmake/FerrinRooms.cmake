@@ -12,20 +12,21 @@ function(ferrin_add_room name)
     target_link_libraries(ferrin_${name} PUBLIC ${room_LIBRARIES} PRIVATE ferrin_options)
 endfunction()
 
-# ferrin_add_qml_room(NAME URI SOURCES file... QML_FILES file... [LIBRARIES target...])
+# ferrin_add_qml_room(NAME URI SOURCES file... QML_FILES file... [LIBRARIES target...]
+#                     [BASES uri...])
 #
 # A room with a QML module. It links Qt Quick and the QML rooms below it, but none of the others:
 # those are the program's, and the module of the windows takes them from the program that loads it.
-# A test links them beside the room.
+# A test links them beside the room. BASES are the modules whose C++ types it derives from.
 #
 # A source names the module once, with FERRIN_USE_QML_TYPES and FERRIN_USE_QML_FILES of
 # quick/quickengine.h: nothing else would make a linker take them out of a static library.
 function(ferrin_add_qml_room name uri)
-    cmake_parse_arguments(PARSE_ARGV 2 room "" "" "SOURCES;QML_FILES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 2 room "" "" "SOURCES;QML_FILES;LIBRARIES;BASES")
     ferrin_add_room(${name} SOURCES ${room_SOURCES} LIBRARIES Qt6::Quick ${room_LIBRARIES})
     string(REPLACE "." "/" path ${uri})
     qt_add_qml_module(ferrin_${name} URI ${uri} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /qt/qml
-        DEPENDENCIES QtQuick
+        DEPENDENCIES QtQuick ${room_BASES}
         IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
         OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" QML_FILES ${room_QML_FILES})
     # The generated registration includes headers by their names alone.

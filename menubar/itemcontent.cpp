@@ -31,28 +31,6 @@ bool isCharged(BatteryChargingStatus status)
     Q_UNREACHABLE();
 }
 
-ItemElements switchedOnFor(BatteryChargingStatus status, const DisplaySwitches &switches)
-{
-    if (status == BatteryChargingStatus::discharging)
-        return { switches.showIconWhenDischarging(), switches.showChargeWhenDischarging(),
-                 switches.showTimeWhenDischarging() };
-    if (status == BatteryChargingStatus::charging)
-        return { switches.showIconWhenCharging(), switches.showChargeWhenCharging(),
-                 switches.showTimeWhenCharging() };
-    return { switches.showIconWhenCharged(), switches.showChargeWhenCharged(),
-             switches.showTimeWhenCharged() };
-}
-
-Icon selectedIconFor(BatteryChargingStatus status, SettingsData &settings)
-{
-    // Through the bindables, which never write: this runs inside a binding.
-    if (status == BatteryChargingStatus::discharging)
-        return settings.bindableDischargingIconSelected().value();
-    if (status == BatteryChargingStatus::charging)
-        return settings.bindableChargingIconSelected().value();
-    return settings.bindableChargedIconSelected().value();
-}
-
 QString chargeTextOf(const BatteryData &data)
 {
     const auto charge = data.charge();
@@ -93,6 +71,28 @@ AnyView viewWithIcon(const ItemContent &content, const AnyView &icon)
 }
 
 } // namespace
+
+ItemElements switchedOnFor(BatteryChargingStatus status, const DisplaySwitches &switches)
+{
+    if (status == BatteryChargingStatus::discharging)
+        return { switches.showIconWhenDischarging(), switches.showChargeWhenDischarging(),
+                 switches.showTimeWhenDischarging() };
+    if (status == BatteryChargingStatus::charging)
+        return { switches.showIconWhenCharging(), switches.showChargeWhenCharging(),
+                 switches.showTimeWhenCharging() };
+    return { switches.showIconWhenCharged(), switches.showChargeWhenCharged(),
+             switches.showTimeWhenCharged() };
+}
+
+Icon selectedIconFor(BatteryChargingStatus status, SettingsData &settings)
+{
+    // Through the bindables, which never write: this runs inside a binding.
+    if (status == BatteryChargingStatus::discharging)
+        return settings.bindableDischargingIconSelected().value();
+    if (status == BatteryChargingStatus::charging)
+        return settings.bindableChargingIconSelected().value();
+    return settings.bindableChargedIconSelected().value();
+}
 
 ItemElements shownElements(BatteryChargingStatus status, ItemElements switchedOn)
 {

@@ -58,6 +58,13 @@ struct ItemElements
     bool operator==(const ItemElements &) const = default;
 };
 
+/// What the user switched on for the state that this status belongs to.
+[[nodiscard]] ItemElements switchedOnFor(BatteryChargingStatus status,
+                                         const DisplaySwitches &switches);
+
+/// The icon that the user selected for the state that this status belongs to. Never writes.
+[[nodiscard]] Icon selectedIconFor(BatteryChargingStatus status, SettingsData &settings);
+
 /// What is shown where these elements are switched on. The time stands in for nothing at all while
 /// the battery works; once it is charged the charge does, and the time is never shown.
 [[nodiscard]] ItemElements shownElements(BatteryChargingStatus status, ItemElements switchedOn);

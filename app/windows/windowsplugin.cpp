@@ -9,9 +9,12 @@
 #include "dashboard/dashboard.h"
 #include "dashboard/dashboardwindow.h"
 #include "quick/quickengine.h"
+#include "settingswindow/menubaricon.h"
 #include "settingswindow/settings.h"
 #include "settingswindow/settingswindow.h"
 #include "state/appstatus.h"
+#include "state/displayswitches.h"
+#include "state/settingsdata.h"
 
 #include <QCoreApplication>
 #include <QObject>
@@ -29,6 +32,9 @@ public:
         , m_battery(*BatteryDataProvider::shared().data(), &m_engine)
         , m_adapter(StoredData::shared(), *BatteryDataProvider::shared().data(), &m_engine)
         , m_dashboardState(AppStatus::shared(), &m_engine)
+        , m_menuBarIcon({ *BatteryDataProvider::shared().data(), SettingsData::shared(),
+                          DisplaySwitches::shared() },
+                        &m_engine)
         , m_settingsState(AppStatus::shared(), &m_engine)
     {
         QObject::connect(&m_dashboardState, &Dashboard::closeRequested, &m_engine,
@@ -84,6 +90,7 @@ private:
     Battery m_battery;
     Adapter m_adapter;
     Dashboard m_dashboardState;
+    MenuBarIcon m_menuBarIcon;
     Settings m_settingsState;
     std::unique_ptr<DashboardWindow> m_dashboard;
     std::unique_ptr<SettingsWindow> m_settings;

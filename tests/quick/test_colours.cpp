@@ -109,7 +109,10 @@ void ColoursTest::textsReadOnTheirGrounds_data()
                { "menuText", "dashboardColor" },
                { "menuText", "menuHovered" },
                { "menuText", "menuSelected" },
-               { "accentText", "accent" } });
+               { "accentText", "accent" },
+               { "primaryText", "settingsRectangle" },
+               { "secondaryText", "settingsRectangle" },
+               { "settingsRectTextTitle", "settingsRectangle" } });
 }
 
 void ColoursTest::textsReadOnTheirGrounds()
@@ -137,7 +140,15 @@ void ColoursTest::symbolsStandOutFromTheirGrounds_data()
                { "unknownColor", "cardButton" },
                { "focusRing", "cardColor" },
                { "focusRing", "dashboardColor" },
-               { "focusRing", "menuSelected" } });
+               { "focusRing", "menuSelected" },
+               { "focusRing", "settingsRectangle" },
+               { "focusRing", "settingsPopBckg1" },
+               { "focusRing", "settingsPopBckg2" },
+               { "settingsPopoverIcon", "settingsPopBckg1" },
+               { "settingsPopoverIcon", "settingsPopBckg2" },
+               { "settingsPopoverIcon", "settingsIconOptions" },
+               { "secondaryText", "settingsPopBckg1" },
+               { "secondaryText", "settingsIconOptions" } });
 }
 
 void ColoursTest::symbolsStandOutFromTheirGrounds()

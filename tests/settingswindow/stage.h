@@ -3,14 +3,31 @@
 
 #pragma once
 
+#include "core/batterydata.h"
+#include "settingswindow/menubaricon.h"
 #include "settingswindow/settings.h"
 #include "state/appstatus.h"
+#include "state/displayswitches.h"
+#include "state/settingsdata.h"
 #include "tests/quick/stage.h"
+#include "tests/support/logcapture.h"
+#include "tests/support/memorydefaultsstore.h"
 
 FERRIN_USE_QML_TYPES(Ferrin_Settings)
 FERRIN_USE_QML_FILES(ferrin_settingswindow)
 
 namespace ferrin::test {
+
+/// The settings of a first run, which log no release.
+inline std::unique_ptr<SettingsData> newSettings(DefaultsStore &store)
+{
+    LogCapture log;
+    log.ignoreRest();
+    return std::make_unique<SettingsData>(
+        store,
+        Bundle({ { QStringLiteral("CFBundleIdentifier"), QStringLiteral("org.ferrin.Test") },
+                 { QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.0") } }));
+}
 
 /// The settings window's views in a window, on settings that the test decides.
 class SettingsStage : public SceneStage
@@ -23,6 +40,11 @@ public:
     ~SettingsStage() { item.reset(); }
 
     AppStatus status;
+    BatteryData battery;
+    MemoryDefaultsStore store;
+    std::unique_ptr<SettingsData> settingsData = newSettings(store);
+    DisplaySwitches switches { store };
+    MenuBarIcon menuBarIcon { { battery, *settingsData, switches }, &engine };
     Settings settings { status, &engine };
 };
 

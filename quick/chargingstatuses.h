@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "core/batterytypes.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace ferrin {
+
+/// What the battery is doing, in the form that QML can name and hand on to a picture of an icon.
+class ChargingStatuses : public QObject
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ChargingStatus)
+    QML_UNCREATABLE("It names the statuses and has none.")
+
+public:
+    enum Status {
+        Charging = int(BatteryChargingStatus::charging),
+        Discharging = int(BatteryChargingStatus::discharging),
+        Charged = int(BatteryChargingStatus::charged),
+        FinishingCharge = int(BatteryChargingStatus::finishingCharge),
+        Unknown = int(BatteryChargingStatus::unknown),
+    };
+    Q_ENUM(Status)
+
+    ChargingStatuses() = delete;
+};
+
+} // namespace ferrin

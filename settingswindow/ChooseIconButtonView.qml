@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Settings
+
+// The control that opens the icons to choose from, or the same space without it.
+Item {
+    id: root
+
+    required property bool showButton
+    required property StateChoices choices
+
+    implicitWidth: loader.implicitWidth
+    implicitHeight: loader.implicitHeight
+
+    // qmllint disable unqualified
+    Loader {
+        id: loader
+
+        sourceComponent: root.showButton ? button : placeholder
+    }
+
+    Component {
+        id: button
+
+        SettingsMBIPopoverButtonView {
+            choices: root.choices
+        }
+    }
+    // qmllint enable unqualified
+
+    Component {
+        id: placeholder
+
+        SettingsMBIEmptyPopoverButtonView {}
+    }
+}

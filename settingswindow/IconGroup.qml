@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+
+// Icons of one kind, headed by what they are.
+Column {
+    id: root
+
+    required property StateChoices choices
+    required property string heading
+    required property string caption
+    required property list<string> icons
+    property int columns: 6
+    // The states of all buttons, by their icons.
+    required property var control
+
+    // The pointer came to one of them or went.
+    signal hovered(icon: string, inside: bool)
+    // The user wants to go on from this one to another.
+    signal moved(from: Item, across: int, down: int)
+
+    width: 230
+    spacing: 2
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: heading
+    Accessible.description: caption
+
+    Text {
+        text: root.heading
+        textFormat: Text.PlainText
+        font: Fonts.header
+        color: Colours.primaryText
+    }
+
+    Text {
+        width: 230
+        bottomPadding: 5
+        text: root.caption
+        textFormat: Text.PlainText
+        wrapMode: Text.WordWrap
+        font: Fonts.regular10
+        color: Colours.secondaryText
+    }
+
+    MakeBackgroundChoseIcons {
+        width: parent.width
+        height: grid.height + 14
+
+        Grid {
+            id: grid
+
+            anchors.centerIn: parent
+            columns: root.columns
+            spacing: 4
+
+            // qmllint disable unqualified
+            Repeater {
+                id: repeater
+
+                model: root.icons
+
+                SettingsMBIIconButtonView {
+                    required property string modelData
+
+                    icon: modelData
+                    charge: root.choices.charge
+                    control: root.control
+                    onHovered: inside => root.hovered(icon, inside)
+                    onPressed: root.choices.icon = icon
+
+                    // The keys begin at the selected one.
+                    focus: icon === root.choices.icon
+
+                    Keys.onLeftPressed: root.moved(this, -1, 0)
+                    Keys.onRightPressed: root.moved(this, 1, 0)
+                    Keys.onUpPressed: root.moved(this, 0, -1)
+                    Keys.onDownPressed: root.moved(this, 0, 1)
+                }
+            }
+            // qmllint enable unqualified
+        }
+    }
+
+    function buttonAt(index: int): Item {
+        return repeater.itemAt(index);
+    }
+}

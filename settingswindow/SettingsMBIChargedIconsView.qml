@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Settings
+
+// The icons for a battery that is charged: its level does not change any more, so that none of them
+// is dynamic.
+IconPage {
+    choices: MenuBarIcon.charged
+    staticIcons: choices.icons
+    staticCaption: "Do not change while battery is fully charged"
+}

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Settings
+
+// The icons for a battery that charges.
+IconPage {
+    choices: MenuBarIcon.charging
+    dynamicIcons: choices.glyphs
+    staticIcons: choices.symbols
+    staticCaption: "Do not change according battery charge %"
+}

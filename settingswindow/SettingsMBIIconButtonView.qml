@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+import Ferrin.Theme
+
+// One icon to choose, and behind it the mark of its state.
+Pressable {
+    id: root
+
+    required property string icon
+    // Percent, that the icon is shown at.
+    required property real charge
+    // The states of all buttons, by their icons.
+    required property var control
+    readonly property bool isSelected: control[icon] === ButtonState.Selected
+
+    // The pointer came or went.
+    signal hovered(inside: bool)
+
+    spokenName: MenuBarIcon.nameOf(icon)
+    implicitWidth: 32
+    implicitHeight: 32
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.checkable: true
+    Accessible.checked: isSelected
+
+    onIsHoveredChanged: root.hovered(isHovered)
+
+    Rectangle {
+        id: mark
+
+        anchors.fill: parent
+        radius: 6
+        color: Colours.settingsIconOptions
+        border { width: root.isSelected ? 1 : 0; color: Colours.focusRing }
+        opacity: root.control[root.icon] === ButtonState.None ? 0 : 1
+    }
+
+    FocusRing {
+        anchors.margins: -2
+        radius: mark.radius + 2
+        owner: root
+    }
+
+    IconView {
+        anchors.fill: parent
+        icon: root.icon
+        charge: root.charge
+        status: MenuBarIcon.status
+        textColor: Colours.settingsPopoverIcon
+        redColor: Colours.redIcon
+        fontFamily: Theme.fontFamily
+    }
+}

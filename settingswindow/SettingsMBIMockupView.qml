@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+import Ferrin.Theme
+
+// A piece of a panel with the item in it, as it would look.
+Item {
+    id: root
+
+    required property StateChoices choices
+    // The lower left corner of the sign in the panel that the item stands beside.
+    readonly property point anchor: Qt.point(94, 18)
+
+    implicitWidth: panel.implicitWidth
+    implicitHeight: panel.implicitHeight
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: "Preview"
+    Accessible.description: choices.sentence
+
+    Image {
+        id: panel
+
+        source: "qrc:/mockup/mockupMenuBarPreview." + (Theme.isDark ? "dark" : "light") + ".svg"
+        sourceSize { width: 180; height: 22 }
+    }
+
+    SettingsMBISelectedMockupView {
+        x: root.anchor.x - 5 - width
+        y: root.anchor.y - 7 - height / 2
+        height: panel.implicitHeight
+        choices: root.choices
+        textColor: Colours.settingsPopoverIcon
+        redColor: Colours.redIcon
+        fontFamily: Theme.fontFamily
+    }
+}

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+
+// What the item shows in one battery state: switches and icon to choose, and how it will look.
+MakeBackgroundRectangle {
+    id: root
+
+    required property StateChoices choices
+    property bool mustNoteBeScaled: false
+
+    title: choices.title
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
+
+    Connections {
+        target: root.choices
+
+        function onLastOneKept() {
+            root.mustNoteBeScaled = true;
+            relaxation.restart();
+        }
+    }
+
+    Timer {
+        id: relaxation
+
+        interval: 100
+        onTriggered: root.mustNoteBeScaled = false
+    }
+
+    Column {
+        width: parent.width
+        spacing: 7
+
+        // As high in every font, so that the sections keep to one grid.
+        Text {
+            width: parent.width
+            height: 30
+            text: root.choices.description
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            lineHeightMode: Text.FixedHeight
+            lineHeight: 15
+            font: Fonts.regular12
+            color: Colours.secondaryText
+        }
+
+        Item {
+            width: parent.width
+            height: Math.max(switches.height, caption.y + caption.height)
+
+            Column {
+                id: switches
+
+                width: 190
+                spacing: 1
+
+                SwitchView {
+                    width: parent.width
+                    height: 20
+                    label: "Show icon"
+                    isOn: root.choices.showIcon
+                    onFlipped: on => root.choices.showIcon = on
+                }
+
+                SwitchView {
+                    width: parent.width
+                    height: 20
+                    label: "Show charge %"
+                    isOn: root.choices.showCharge
+                    onFlipped: on => root.choices.showCharge = on
+                }
+
+                SwitchView {
+                    width: parent.width
+                    height: 20
+                    visible: label !== ""
+                    label: root.choices.timeLabel
+                    isOn: root.choices.showTime
+                    onFlipped: on => root.choices.showTime = on
+                }
+            }
+
+            // Left of the preview, so that what it opens leaves the preview in sight; both are
+            // level with the first switch.
+            ChooseIconButtonView {
+                anchors { right: preview.left; rightMargin: 10; verticalCenter: preview.verticalCenter }
+                showButton: root.choices.showIcon
+                choices: root.choices
+            }
+
+            SettingsMBIMockupView {
+                id: preview
+
+                anchors.right: parent.right
+                y: -1
+                choices: root.choices
+            }
+
+            Text {
+                id: caption
+
+                anchors { left: preview.left; right: preview.right; top: preview.bottom }
+                anchors.topMargin: 3
+                height: 13
+                text: root.choices.caption
+                textFormat: Text.PlainText
+                font: Fonts.regular10
+                color: Colours.secondaryText
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 8
+            }
+        }
+
+        ScaleTextEffect {
+            id: note
+
+            trigger: root.mustNoteBeScaled
+
+            Text {
+                height: 14
+                text: "At least one element must be selected"
+                textFormat: Text.PlainText
+                font: Fonts.regular10
+                color: Colours.secondaryText
+            }
+        }
+    }
+}

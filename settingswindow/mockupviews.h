@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/itemviews.h"
+
+namespace ferrin {
+
+/// The seven layouts of the previews are those of the menu bar, and are drawn by them: a preview
+/// that drew for itself would one day show something else than the item.
+using MockupWithTimeView = MenuBarTimeView;
+using MockupWithChargeView = MenuBarChargeView;
+using MockupWithIconView = MenuBarIconView;
+using MockupWithChargeTimeView = MenuBarChargeTimeView;
+using MockupWithTimeIconView = MenuBarTimeIconView;
+using MockupWithChargeIconView = MenuBarChargeIconView;
+using MockupWithChargeTimeIconView = MenuBarChargeTimeIconView;
+
+} // namespace ferrin

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/itemcontent.h"
+#include "settingswindow/statesample.h"
+
+#include <QObject>
+#include <QProperty>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <array>
+
+namespace ferrin {
+
+/// What the user chose for one battery state, and what the settings window says of that state. The
+/// choices live in the settings and are followed, whoever changes them. While it lives it keeps at
+/// least one of the state's three switches on: the one that would be the last to go is turned back
+/// on before anybody else has a turn. It is long because each of its many properties has a getter.
+class StateChoices final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("There is one for each battery state.")
+    /// A ChargingStatus.
+    Q_PROPERTY(int status READ status CONSTANT)
+    Q_PROPERTY(bool showIcon READ showIcon WRITE setShowIcon NOTIFY switchesChanged)
+    Q_PROPERTY(bool showCharge READ showCharge WRITE setShowCharge NOTIFY switchesChanged)
+    Q_PROPERTY(bool showTime READ showTime WRITE setShowTime NOTIFY switchesChanged)
+    /// The raw value of the selected icon.
+    Q_PROPERTY(QString icon READ icon WRITE setIcon NOTIFY iconChanged)
+    /// The raw values of what can be selected: all, those that follow the charge, and the others.
+    Q_PROPERTY(QList<QString> icons READ icons CONSTANT)
+    Q_PROPERTY(QList<QString> glyphs READ glyphs CONSTANT)
+    Q_PROPERTY(QList<QString> symbols READ symbols CONSTANT)
+    Q_PROPERTY(double charge READ charge CONSTANT)
+    Q_PROPERTY(QString caption READ caption CONSTANT)
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString description READ description CONSTANT)
+    Q_PROPERTY(QString timeLabel READ timeLabel CONSTANT)
+    /// What the item would show, in words.
+    Q_PROPERTY(QString sentence READ sentence NOTIFY previewChanged)
+
+public:
+    /// All of them outlive what was made of them.
+    struct Sources
+    {
+        BatteryData &data;
+        SettingsData &settings;
+        DisplaySwitches &switches;
+    };
+
+    StateChoices(BatteryChargingStatus status, const Sources &sources, QObject *parent = nullptr);
+
+    [[nodiscard]] int status() const { return int(m_sample.status); }
+    [[nodiscard]] bool showIcon() const;
+    void setShowIcon(bool on);
+    [[nodiscard]] bool showCharge() const;
+    void setShowCharge(bool on);
+    [[nodiscard]] bool showTime() const;
+    void setShowTime(bool on);
+    [[nodiscard]] QString icon() const;
+    /// Does nothing for a text that is no icon's.
+    void setIcon(const QString &rawValue);
+
+    [[nodiscard]] QStringList icons() const { return glyphs() + symbols(); }
+    [[nodiscard]] QStringList glyphs() const;
+    [[nodiscard]] QStringList symbols() const;
+    [[nodiscard]] double charge() const { return m_sample.charge; }
+    [[nodiscard]] QString caption() const { return m_sample.caption; }
+    [[nodiscard]] QString title() const { return m_sample.title; }
+    [[nodiscard]] QString description() const { return m_sample.description; }
+    [[nodiscard]] QString timeLabel() const { return m_sample.timeLabel; }
+
+    /// What the item would show at the sample's charge and time, its icon as the battery is now.
+    [[nodiscard]] ItemContent preview() const { return m_preview.value(); }
+    [[nodiscard]] QString sentence() const;
+
+Q_SIGNALS:
+    void switchesChanged();
+    void iconChanged();
+    void previewChanged();
+    /// A switch was turned back on, because it was the last one.
+    void lastOneKept();
+
+private:
+    void keepOne(DisplaySwitch changed);
+    [[nodiscard]] ItemContent computePreview() const;
+
+    StateSample m_sample;
+    Sources m_sources;
+    std::array<QPropertyNotifier, 3> m_switchFollowers;
+    QPropertyNotifier m_iconFollower;
+    Q_OBJECT_BINDABLE_PROPERTY(StateChoices, ItemContent, m_preview, &StateChoices::previewChanged)
+};
+
+} // namespace ferrin
