@@ -5,6 +5,7 @@
 
 #include "menubar/statusitem.h"
 #include "platform/linux/session/desktopnames.h"
+#include "state/shareddefaults.h"
 
 #include <QCoreApplication>
 
@@ -16,6 +17,7 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus, const QStrin
     , m_links(m_programs, currentDesktopNames())
     , m_loginItem(identifier, QCoreApplication::applicationFilePath())
 {
+    m_statusArea.setStore(sharedDefaults());
     connect(&m_appearance, &SystemAppearance::changed, this, &DesktopPlatform::followAppearance);
     connect(&m_statusArea, &StatusAreaChooser::itemAvailable, this,
             &DesktopPlatform::itemAvailable);

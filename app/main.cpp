@@ -74,8 +74,10 @@ int main(int argc, char **argv)
 
     const QDBusConnection session = QDBusConnection::sessionBus();
     SingleInstance instance(session, bundle.identifier());
-    if (!instance.acquire())
+    if (!instance.acquire()) {
+        instance.activateOther();
         return EXIT_SUCCESS;
+    }
     const Termination termination(session);
 
     setSharedDefaults(FileDefaultsStore::open(
@@ -102,6 +104,8 @@ int main(int argc, char **argv)
                            } });
     QObject::connect(&ferrin, &FerrinApp::isDashboardShownChanged, &memory,
                      [&] { ferrin.isDashboardShown() ? memory.keep() : memory.giveBackSoon(); });
+    QObject::connect(&instance, &SingleInstance::activated, &ferrin,
+                     [&] { ferrin.setDashboardShown(true); });
     QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
                      [&] { ferrin.useStatusBar(desktop.statusBar()); });
     desktop.start();

@@ -6,16 +6,35 @@
 #include "sources/logging.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusMessage>
 #include <QDBusReply>
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace ferrin {
+
+namespace {
+
+const QString tokenKey = u"activation-token"_s;
+constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
+constexpr int patienceMilliseconds = 5000;
+
+} // namespace
 
 SingleInstance::SingleInstance(QDBusConnection session, QString name)
     : m_session(std::move(session))
     , m_name(std::move(name))
+    , m_path(u'/' + QString(m_name).replace(u'.', u'/').replace(u'-', u'_'))
 {
+    // Before the name: whoever finds the one finds the other.
+    m_session.registerObject(m_path, this, QDBusConnection::ExportScriptableInvokables);
+}
+
+SingleInstance::~SingleInstance()
+{
+    m_session.unregisterObject(m_path);
 }
 
 bool SingleInstance::acquire()
@@ -34,6 +53,29 @@ bool SingleInstance::acquire()
         return true;
     }
     return reply.value() == QDBusConnectionInterface::ServiceRegistered;
+}
+
+void SingleInstance::activateOther()
+{
+    QVariantMap platformData;
+    // What lets a window come to the front on Wayland was given to this start.
+    if (const QByteArray token = qgetenv(tokenVariable); !token.isEmpty())
+        platformData.insert(tokenKey, QString::fromUtf8(token));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        m_name, m_path, u"org.freedesktop.Application"_s, u"Activate"_s);
+    call.setArguments({ platformData });
+    call.setAutoStartService(false);
+    const QDBusMessage reply = m_session.call(call, QDBus::BlockWithGui, patienceMilliseconds);
+    if (reply.type() == QDBusMessage::ErrorMessage)
+        qCCritical(logger, "The program that is running did not answer: %s",
+                   qUtf8Printable(reply.errorMessage()));
+}
+
+void SingleInstance::Activate(const QVariantMap &platformData)
+{
+    if (const QString token = platformData.value(tokenKey).toString(); !token.isEmpty())
+        qputenv(tokenVariable, token.toUtf8());
+    Q_EMIT activated();
 }
 
 } // namespace ferrin

@@ -5,10 +5,19 @@
 
 #include "menubar/itemhostingview.h"
 #include "platform/linux/statusarea/panelcolours.h"
+#include "state/defaultsstore.h"
+
+using namespace Qt::StringLiterals;
 
 namespace ferrin {
 
-OwnBarItem::OwnBarItem(const PanelColours &colours, QObject *parent)
+namespace {
+
+const QString placeKey = u"ownBarPlace"_s;
+
+} // namespace
+
+OwnBarItem::OwnBarItem(const PanelColours &colours, DefaultsStore *store, QObject *parent)
     : StatusItem(parent)
     , m_colours(colours)
 {
@@ -16,6 +25,12 @@ OwnBarItem::OwnBarItem(const PanelColours &colours, QObject *parent)
     connect(&m_window, &OwnBarWindow::clicked, this, &StatusItem::activated);
     connect(&m_window, &OwnBarWindow::menuRequested, this, &OwnBarItem::popUpMenu);
     connect(&m_popup, &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
+    if (store) {
+        const auto remembered = barPlaceIn(store->string(placeKey).value_or(QString()));
+        m_window.setPlace(remembered.value_or(BarPlace()));
+        connect(&m_window, &OwnBarWindow::placeChanged, store,
+                [this, store] { store->setObject(placeKey, toText(m_window.barPlace())); });
+    }
     showColours();
 }
 
@@ -71,9 +86,9 @@ void OwnBarItem::popUpMenu()
     m_popup.popUpAt(m_entries, m_window.geometry(), ownWindowLook(m_colours));
 }
 
-OwnBar::OwnBar(const PanelColours &colours, QObject *parent)
+OwnBar::OwnBar(const PanelColours &colours, DefaultsStore *store, QObject *parent)
     : StatusBar(parent)
-    , m_item(colours)
+    , m_item(colours, store)
 {
 }
 

@@ -12,6 +12,7 @@
 
 namespace ferrin {
 
+class DefaultsStore;
 class PanelColours;
 
 /// The application's item in a small window of our own, with the same content, click and menu.
@@ -20,8 +21,9 @@ class OwnBarItem final : public StatusItem
     Q_OBJECT
 
 public:
-    /// The colours outlive it.
-    explicit OwnBarItem(const PanelColours &colours, QObject *parent = nullptr);
+    /// The colours outlive it, and so does the store, in which the place is remembered; null for
+    /// nowhere.
+    OwnBarItem(const PanelColours &colours, DefaultsStore *store, QObject *parent = nullptr);
     ~OwnBarItem() override;
 
     void show();
@@ -51,13 +53,14 @@ private:
 };
 
 /// Stands in for the desktop's status area where there is none: a strip with one item at the top
-/// right of the primary screen.
+/// right of the primary screen, until the user drags it elsewhere.
 class OwnBar final : public StatusBar
 {
     Q_OBJECT
 
 public:
-    explicit OwnBar(const PanelColours &colours, QObject *parent = nullptr);
+    explicit OwnBar(const PanelColours &colours, DefaultsStore *store = nullptr,
+                    QObject *parent = nullptr);
 
     void show() { m_item.show(); }
     void hide() { m_item.window().hide(); }

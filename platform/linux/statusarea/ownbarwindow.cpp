@@ -9,7 +9,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QStyleHints>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -36,6 +38,8 @@ OwnBarWindow::OwnBarWindow()
              | Qt::WindowDoesNotAcceptFocus);
     setTitle(QGuiApplication::applicationDisplayName());
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &OwnBarWindow::followScreen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &OwnBarWindow::followScreen);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &OwnBarWindow::followScreen);
     create();
     makeDock(*this);
     followScreen();
@@ -79,11 +83,26 @@ void OwnBarWindow::setHovered(bool hovered)
         update();
 }
 
+void OwnBarWindow::setPlace(const BarPlace &place)
+{
+    m_place = place;
+    followScreen();
+}
+
+QScreen *OwnBarWindow::chosenScreen() const
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto chosen = std::find_if(screens.begin(), screens.end(), [this](const QScreen *screen) {
+        return screen->name() == m_place.screen;
+    });
+    return chosen == screens.end() ? QGuiApplication::primaryScreen() : *chosen;
+}
+
 void OwnBarWindow::followScreen()
 {
     if (m_followed)
         m_followed->disconnect(this);
-    m_followed = QGuiApplication::primaryScreen();
+    m_followed = chosenScreen();
     if (!m_followed)
         return;
     connect(m_followed, &QScreen::availableGeometryChanged, this, &OwnBarWindow::place);
@@ -101,12 +120,12 @@ void OwnBarWindow::place()
 {
     if (!m_followed)
         return;
-    const QRect available = m_followed->availableGeometry();
     const QSize size = idealSize();
     // Tiling Wayland compositors leave a window of one size alone.
     setMinimumSize(size);
     setMaximumSize(size);
-    setGeometry(QRect(QPoint(available.right() + 1 - size.width(), available.top()), size));
+    const QRect frame = frameAt(m_place, size, m_followed->availableGeometry());
+    setGeometry(m_isDragged ? QRect(position(), size) : frame);
 }
 
 QColor OwnBarWindow::groundColour() const
@@ -122,7 +141,7 @@ void OwnBarWindow::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const QRectF all(QPointF(0, 0), QSizeF(size()));
     painter.fillRect(all, QColor::fromRgb(m_isDark ? 0xff56565a : 0xffb8b8be));
-    painter.fillRect(all.adjusted(1, 0, 0, -1), groundColour());
+    painter.fillRect(all.adjusted(1, 1, -1, -1), groundColour());
 
     const QSizeF content = m_view.idealSize(m_context);
     const QPointF corner((all.width() - content.width()) / 2,
@@ -136,13 +155,48 @@ void OwnBarWindow::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::RightButton)
         Q_EMIT menuRequested();
+    else if (event->button() == Qt::LeftButton)
+        m_pressedAt = event->position().toPoint();
+}
+
+void OwnBarWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_pressedAt)
+        return;
+    const QPoint moved = event->position().toPoint() - *m_pressedAt;
+    if (!m_isDragged
+        && moved.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
+        return;
+    m_isDragged = true;
+    setPosition((event->globalPosition() - QPointF(*m_pressedAt)).toPoint());
 }
 
 void OwnBarWindow::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool isInside = QRectF(QPointF(), QSizeF(size())).contains(event->position());
-    if (event->button() == Qt::LeftButton && isInside)
+    if (event->button() != Qt::LeftButton)
+        return;
+    const std::optional<QPoint> pressedAt = std::exchange(m_pressedAt, std::nullopt);
+    if (std::exchange(m_isDragged, false)) {
+        const QPointF corner = event->globalPosition() - pressedAt.value_or(QPoint());
+        dropAt(QRect(corner.toPoint(), size()));
+        return;
+    }
+    if (QRectF(QPointF(), QSizeF(size())).contains(event->position()))
         Q_EMIT clicked();
+}
+
+void OwnBarWindow::dropAt(const QRect &frame)
+{
+    const QScreen *screen = QGuiApplication::screenAt(frame.center());
+    if (!screen)
+        screen = m_followed;
+    if (!screen)
+        return;
+    BarPlace dropped = nearestPlace(frame, screen->availableGeometry());
+    if (screen != QGuiApplication::primaryScreen())
+        dropped.screen = screen->name();
+    setPlace(dropped);
+    Q_EMIT placeChanged();
 }
 
 bool OwnBarWindow::event(QEvent *event)

@@ -5,16 +5,21 @@
 
 #include "menubar/itemcontent.h"
 #include "platform/linux/statusarea/accessiblewindow.h"
+#include "platform/linux/statusarea/barplace.h"
 
 #include <QPointer>
 #include <QRasterWindow>
+
+#include <optional>
 
 class QScreen;
 
 namespace ferrin {
 
-/// The window of the own bar: always on top, in no task list, never in the way of the keyboard. It
-/// brings its own ground, so that the content reads on any desktop. Owned by its item.
+/// The window of the own bar: on top of all but full-screen windows, in no task list, never in the
+/// way of the keyboard. It stands at an edge of the screen, off the panels there, and can be
+/// dragged to another. It brings its own ground, so that the content reads on any desktop. Owned by
+/// its item, which remembers the place.
 class OwnBarWindow final : public QRasterWindow
 {
     Q_OBJECT
@@ -31,6 +36,10 @@ public:
     void setContentLength(qreal length);
     void setPressed(bool pressed);
 
+    /// Where the user keeps it.
+    void setPlace(const BarPlace &place);
+    [[nodiscard]] const BarPlace &barPlace() const noexcept { return m_place; }
+
     [[nodiscard]] QAccessibleInterface *accessibleRoot() const override
     {
         return m_accessible.root();
@@ -39,18 +48,23 @@ public:
 Q_SIGNALS:
     void clicked();
     void menuRequested();
+    /// The user has dragged it to another place.
+    void placeChanged();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
     [[nodiscard]] QSize idealSize() const;
     [[nodiscard]] QColor groundColour() const;
+    [[nodiscard]] QScreen *chosenScreen() const;
     void place();
     void followScreen();
+    void dropAt(const QRect &frame);
     void setHovered(bool hovered);
 
     AnyView m_view;
@@ -60,6 +74,10 @@ private:
     bool m_isDark = false;
     bool m_isPressed = false;
     bool m_isHovered = false;
+    BarPlace m_place;
+    /// Where in the window the left button went down; absent while it is up.
+    std::optional<QPoint> m_pressedAt;
+    bool m_isDragged = false;
     QPointer<QScreen> m_followed;
     AccessibleWindow m_accessible;
 };

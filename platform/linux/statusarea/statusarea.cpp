@@ -138,7 +138,7 @@ void StatusAreaChooser::useOwnBar()
         return;
     emptyItem();
     TrayBar *const former = m_trayBar.release();
-    m_ownBar = std::make_unique<OwnBar>(m_colours);
+    m_ownBar = std::make_unique<OwnBar>(m_colours, m_store);
     tellOfItem(former);
     m_ownBar->show();
 }

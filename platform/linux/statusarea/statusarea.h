@@ -14,6 +14,7 @@
 
 namespace ferrin {
 
+class DefaultsStore;
 class OwnBar;
 class StatusBar;
 class StatusItem;
@@ -39,6 +40,9 @@ public:
     /// How long a status area may take to come, or to come back after a crash, before another place
     /// stands in for it. Where there is a tray, it takes no longer than panels that bring both.
     void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+
+    /// What remembers where the user keeps the own bar; it outlives this. Call before `start`.
+    void setStore(DefaultsStore &store) { m_store = &store; }
 
     /// How the desktop looks and what the user forced. Call before `start` and at every change.
     void setAppearance(const StatusAreaAppearance &appearance);
@@ -71,6 +75,7 @@ private:
     void tellOfItem(StatusBar *former);
 
     PanelColours m_colours;
+    DefaultsStore *m_store = nullptr;
     std::unique_ptr<TrayOwner> m_trayOwner;
     std::unique_ptr<TrayColours> m_trayColours;
     /// Null without a session bus.

@@ -5,6 +5,8 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/privatebus.h"
 
+#include <QDBusMessage>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace ferrin;
@@ -60,6 +62,45 @@ private Q_SLOTS:
         QDBusConnection::disconnectFromBus(first);
         SingleInstance third(bus.connect(), name);
         QTRY_VERIFY(third.acquire());
+    }
+
+    void aSecondStartActivatesTheFirst()
+    {
+        const LogCapture log;
+        PrivateBus bus;
+        SingleInstance first(bus.connect(), name);
+        QVERIFY(first.acquire());
+        const QSignalSpy activations(&first, &SingleInstance::activated);
+        SingleInstance second(bus.connect(), name);
+        QVERIFY(!second.acquire());
+        second.activateOther();
+        QTRY_COMPARE(activations.size(), 1);
+    }
+
+    void takesOverWhatLetsItsWindowComeToTheFront()
+    {
+        const LogCapture log;
+        PrivateBus bus;
+        SingleInstance first(bus.connect(), name);
+        QVERIFY(first.acquire());
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            name, u"/org/ferrin/Test"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
+        call.setArguments({ QVariantMap { { u"activation-token"_s, u"a token"_s } } });
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        bus.connect().asyncCall(call);
+        QTRY_COMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "a token");
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+    }
+
+    void aSecondStartIsNotHeldUpByAFirstThatHasJustEnded()
+    {
+        LogCapture log;
+        PrivateBus bus;
+        SingleInstance second(bus.connect(), name);
+        second.activateOther();
+        const QStringList lines = log.take();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.first().startsWith(u"error: The program that is running did not answer"_s));
     }
 
     void runsWithoutASessionBus()

@@ -6,6 +6,7 @@
 #include "platform/linux/statusarea/panelcolours.h"
 #include "platform/linux/statusarea/popupmenu.h"
 #include "tests/platform/statusarea/contents.h"
+#include "tests/support/memorydefaultsstore.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -14,6 +15,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <cstdlib>
 #include <memory>
 
 using namespace ferrin;
@@ -52,6 +54,11 @@ private Q_SLOTS:
     void opensItsMenuAtTheOtherButton();
     void isAButtonToAScreenReader();
 
+    void isDraggedToTheNearestEdge();
+    void isBackWhereTheUserLeftIt();
+    void standsAtTheTopRightWhereTheStoreHoldsNonsense();
+    void aTrembleOfTheHandIsNoDragging();
+
     void menuFitsOnItsScreen_data();
     void menuFitsOnItsScreen();
     void menuTriggersWhatIsClicked();
@@ -62,6 +69,9 @@ private Q_SLOTS:
     void menuWithoutEntriesDoesNotOpen();
 
 private:
+    void drag(QPoint by);
+
+    MemoryDefaultsStore m_store;
     std::unique_ptr<PanelColours> m_colours;
     std::unique_ptr<OwnBar> m_bar;
     StatusItem *m_item = nullptr;
@@ -72,7 +82,8 @@ void OwnBarTest::init()
 {
     m_bar.reset();
     m_colours = std::make_unique<PanelColours>();
-    m_bar = std::make_unique<OwnBar>(*m_colours);
+    m_store.removeObject(u"ownBarPlace"_s);
+    m_bar = std::make_unique<OwnBar>(*m_colours, &m_store);
     m_item = m_bar->item();
     m_window = &qobject_cast<OwnBarItem *>(m_item)->window();
     auto view = std::make_unique<ItemHostingView>();
@@ -164,6 +175,56 @@ void OwnBarTest::isAButtonToAScreenReader()
     const QSignalSpy clicks(m_item, &StatusItem::activated);
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(clicks.size(), 1);
+}
+
+void OwnBarTest::drag(QPoint by)
+{
+    const QPoint start(5, 6);
+    QTest::mousePress(m_window, Qt::LeftButton, {}, start);
+    QTest::mouseMove(m_window, start + by / 2);
+    QTest::mouseMove(m_window, start + by - by / 2);
+    QTest::mouseRelease(m_window, Qt::LeftButton, {}, start);
+}
+
+void OwnBarTest::isDraggedToTheNearestEdge()
+{
+    const QSignalSpy clicks(m_item, &StatusItem::activated);
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    drag({ -200, available.height() - 60 });
+    QCOMPARE(m_item->place().item.bottom(), available.bottom());
+    QCOMPARE(m_item->place().item.right(), available.right() - 200);
+    QCOMPARE(clicks.size(), 0);
+    QVERIFY(m_store.string(u"ownBarPlace"_s)->startsWith(u"bottom 0."_s));
+}
+
+void OwnBarTest::isBackWhereTheUserLeftIt()
+{
+    drag({ -300, 40 });
+    const QRect left = m_item->place().item;
+    OwnBar next(*m_colours, &m_store);
+    auto view = std::make_unique<ItemHostingView>();
+    view->bindableContent().setValue(dischargingAt(37, u"4:29"_s));
+    next.item()->addContentView(std::move(view));
+    QVERIFY(left.top() == 0);
+    QVERIFY(std::abs(next.item()->place().item.left() - left.left()) <= 1);
+}
+
+void OwnBarTest::standsAtTheTopRightWhereTheStoreHoldsNonsense()
+{
+    m_store.setObject(u"ownBarPlace"_s, u"middle of nowhere"_s);
+    OwnBar bar(*m_colours, &m_store);
+    QCOMPARE(bar.item()->place().item.topRight(),
+             QGuiApplication::primaryScreen()->availableGeometry().topRight());
+}
+
+void OwnBarTest::aTrembleOfTheHandIsNoDragging()
+{
+    const QSignalSpy clicks(m_item, &StatusItem::activated);
+    const QRect before = m_item->place().item;
+    drag({ 2, 2 });
+    QCOMPARE(m_item->place().item, before);
+    QCOMPARE(clicks.size(), 1);
+    QCOMPARE(m_store.string(u"ownBarPlace"_s), std::nullopt);
 }
 
 void OwnBarTest::menuFitsOnItsScreen_data()

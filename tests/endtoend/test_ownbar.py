@@ -1,0 +1,112 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""The bar of the program's own, where the desktop has no place for an item."""
+
+import json
+
+from harness import desktop
+from harness.case import OnADesktop, main
+from harness.processes import a_moment, eventually
+from harness.program import store_path
+
+# A bar without a tray, which keeps its height free of windows.
+OTHER_PANEL = """panel_items = T
+panel_size = 100% 32
+panel_position = top center horizontal
+strut_policy = follow_size
+"""
+
+
+class OnABareScreen(OnADesktop):
+    def make_session(self):
+        return desktop.BareScreen()
+
+    def setUp(self):
+        super().setUp()
+        self.program = self.start()
+
+    def bar(self):
+        """The box of the bar, which is the one window."""
+        windows = eventually(lambda: self.session.windows_of(self.program.pid), "the bar is there")
+        self.assertEqual(len(windows), 1)
+        return self.session.box_of(windows[0])
+
+    def stands(self, condition, what):
+        return eventually(lambda: condition(self.bar()) and self.bar(), what)
+
+    def drag(self, start, end):
+        """The real pointer takes what is at one place to another."""
+        middle = (start[0] + end[0]) // 2, (start[1] + end[1]) // 2
+        steps = [start, "mousedown", middle, end, "mouseup"]
+        for step in steps:
+            if isinstance(step, str):
+                self.session.run("xdotool", step, "1")
+            else:
+                self.session.point(step)
+            self.session.run("xdotool", "sleep", "0.2")
+
+    def test_it_stands_in_the_corner_of_the_screen(self):
+        box = self.bar()
+        self.assertEqual((box.top, box.right), (0, 800))
+        self.assertLess(box.height, 30)
+
+    def test_it_is_left_where_it_was_dragged_over_a_restart(self):
+        before = self.bar()
+        self.drag(before.centre, (300, 590))
+        moved = self.stands(lambda box: box.bottom == 600, "it lies at the lower edge")
+        self.assertLess(abs(moved.centre[0] - 300), 10)
+        a_moment()
+        self.assertEqual(len(self.session.windows_of(self.program.pid)), 1, "it was no click")
+        with open(store_path(self.session), encoding="utf-8") as file:
+            self.assertTrue(json.load(file)["ownBarPlace"].startswith("bottom 0."))
+        self.assertEqual(self.program.terminate(), 0)
+        self.program = self.start()
+        again = self.stands(lambda box: box.bottom == 600, "it lies at the lower edge again")
+        self.assertLessEqual(abs(again.left - moved.left), 1)
+
+    def test_its_dashboard_opens_beside_it_wherever_it_is(self):
+        self.drag(self.bar().centre, (300, 590))
+        bar = self.stands(lambda box: box.bottom == 600, "it lies at the lower edge")
+        self.session.click(bar.centre)
+        eventually(lambda: len(self.session.windows_of(self.program.pid)) == 2, "it has opened")
+        boxes = [self.session.box_of(window)
+                 for window in self.session.windows_of(self.program.pid)]
+        dashboard = max(boxes, key=lambda box: box.height)
+        self.assertTrue(0 < bar.top - dashboard.bottom < 13, (dashboard, bar))
+
+    def test_it_keeps_off_another_panel(self):
+        self.bar()
+        self.session.start(["tint2", "-c", self.session.write("config/tint2rc", OTHER_PANEL)])
+        self.stands(lambda box: box.top == 32, "it has moved below the panel")
+
+    def test_it_hides_under_a_full_screen_window(self):
+        bar = self.bar()
+        shown = eventually(lambda: len(set(self.session.picture().pixels(bar))) > 8
+                           and self.session.picture().pixels(bar), "the bar is drawn")
+        self.session.start(["xev", "-geometry", "400x300+100+100"])
+        eventually(lambda: self.session.run("xdotool", "search", "--onlyvisible", "--name",
+                                            "^Event Tester$"), "another window is open")
+        self.session.run("wmctrl", "-r", "Event Tester", "-b", "add,fullscreen")
+        eventually(lambda: len(set(self.session.picture().pixels(bar))) == 1,
+                   "only the other window is seen")
+        self.session.run("wmctrl", "-r", "Event Tester", "-b", "remove,fullscreen")
+        eventually(lambda: self.session.picture().pixels(bar) == shown, "the bar is seen again")
+
+    def test_it_follows_the_screen_to_another_size(self):
+        self.bar()
+        self.session.resize(640, 480)
+        self.stands(lambda box: box.right == 640, "it is on the smaller screen")
+
+    def test_a_second_start_opens_the_dashboard_at_it(self):
+        bar = self.bar()
+        second = self.start()
+        self.assertEqual(second.exit_code(), 0)
+        eventually(lambda: len(self.session.windows_of(self.program.pid)) == 2, "it has opened")
+        boxes = [self.session.box_of(window)
+                 for window in self.session.windows_of(self.program.pid)]
+        dashboard = max(boxes, key=lambda box: box.height)
+        self.assertTrue(0 < dashboard.top - bar.bottom < 13, (dashboard, bar))
+
+
+if __name__ == "__main__":
+    main()
