@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// Takes pictures of the menu bar icon's page to be looked at: pictures FOLDER. With QT_SCALE_FACTOR
-// they have more pixels.
+// Takes pictures of the menu bar icon's page to be looked at: settings_pictures FOLDER FONT...
+// With QT_SCALE_FACTOR they have more pixels.
 
 #include "tests/settingswindow/stage.h"
 
