@@ -71,6 +71,9 @@ WAYBAR = '{"layer": "top", "position": "top", "height": 30, "modules-right": ["t
 WAYBAR_STYLE = "window#waybar { background: #303338; color: #ffffff; }"
 
 
+WATCHER = os.path.join(os.path.dirname(__file__), "watcher.py")
+
+
 class Session:
     """A user's session without a screen: home folders and a session bus. The base of the rest."""
 
@@ -228,6 +231,17 @@ class BareScreen(Screen):
             self.start(["picom"])
             eventually(lambda: b'"picom"' in self.all_windows(), "the compositing manager is there")
 
+    def start_watcher(self):
+        """A status area in the shape of a process."""
+        watcher = self.start([WATCHER])
+        eventually(self.bus.has_host, "there is a status area")
+        return watcher
+
+    def end_process(self, process):
+        """A process of the session dies without a word."""
+        processes.end(process, signal.SIGKILL)
+        self._processes.remove(process)
+
     def all_windows(self):
         """The tree of all windows, as the X server tells it."""
         return self.run("xwininfo", "-root", "-tree")
@@ -294,8 +308,7 @@ class PanelScreen(BareScreen):
 
     def kill_panel(self):
         """The panel dies without a word."""
-        processes.end(self.panel, signal.SIGKILL)
-        self._processes.remove(self.panel)
+        self.end_process(self.panel)
 
     def command(self):
         raise NotImplementedError

@@ -49,6 +49,11 @@ class Bus:
         except GLib.Error:
             return False
 
+    def item_count(self):
+        """How many items the watcher knows."""
+        return len(self.property(WATCHER, "/StatusNotifierWatcher", WATCHER,
+                                 "RegisteredStatusNotifierItems"))
+
     def item_of(self, process_id):
         """The item that a process has registered with the watcher, or None."""
         try:

@@ -2,10 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """Bars that know only the older tray, into which a program docks a window of its own."""
 
-import os
 import re
 
-from harness import processes
 from harness.desktop import BareScreen, Screen
 from harness.processes import eventually
 
@@ -41,7 +39,6 @@ background = #333
 type = custom/text
 content = " "
 """
-WATCHER = os.path.join(os.path.dirname(__file__), "watcher.py")
 
 
 class TrayBar(BareScreen):
@@ -63,16 +60,6 @@ class TrayBar(BareScreen):
         self.end_process(self.bar)
         eventually(lambda: not self.has_tray(), "the tray is gone")
         self.start_bar()
-
-    def end_process(self, process):
-        processes.end(process, processes.signal.SIGKILL)
-        self._processes.remove(process)
-
-    def start_watcher(self):
-        """Another kind of status area."""
-        watcher = self.start([WATCHER])
-        eventually(self.bus.has_host, "there is a status area")
-        return watcher
 
     def has_tray(self):
         return b"_NET_SYSTEM_TRAY_ORIENTATION" in self.run(

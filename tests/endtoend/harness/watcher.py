@@ -55,7 +55,8 @@ class Watcher:
                 service = sender + service
             elif "/" not in service:
                 service += "/StatusNotifierItem"
-            self._items.append(service)
+            if service not in self._items:
+                self._items.append(service)
             self._bus.emit_signal(None, PATH, NAME, "StatusNotifierItemRegistered",
                                   GLib.Variant("(s)", (service,)))
         invocation.return_value(None)
