@@ -7,6 +7,7 @@
 
 #include <QJsonDocument>
 #include <QRegularExpression>
+#include <QVersionNumber>
 
 namespace ferrin {
 
@@ -105,12 +106,12 @@ std::optional<Release> releaseFromJson(const QJsonObject &json)
     return Release { version, date, json.value("notes"_L1).toString(), *package };
 }
 
-std::optional<QVersionNumber> versionNumber(const QString &version)
+std::optional<QList<int>> versionNumber(const QString &version)
 {
     static const QRegularExpression plain(u"\\A[0-9]{1,9}(\\.[0-9]{1,9}){0,4}\\z"_s);
     if (!plain.match(version).hasMatch())
         return std::nullopt;
-    return QVersionNumber::fromString(version).normalized();
+    return QVersionNumber::fromString(version).normalized().segments();
 }
 
 } // namespace ferrin

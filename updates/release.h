@@ -8,8 +8,8 @@
 #include <QDateTime>
 #include <QHash>
 #include <QJsonObject>
+#include <QList>
 #include <QString>
-#include <QVersionNumber>
 
 #include <optional>
 
@@ -65,8 +65,8 @@ struct Feed
 /// Absent for anything that `jsonFromRelease` does not make.
 [[nodiscard]] std::optional<Release> releaseFromJson(const QJsonObject &json);
 
-/// The number of a version, with 1.2 and 1.2.0 as one; absent for a text that is not just numbers
-/// with dots.
-[[nodiscard]] std::optional<QVersionNumber> versionNumber(const QString &version);
+/// The numbers of a version, 1.2 and 1.2.0 the same and in the order of releases; absent for a text
+/// that is not just numbers with dots.
+[[nodiscard]] std::optional<QList<int>> versionNumber(const QString &version);
 
 } // namespace ferrin

@@ -51,7 +51,8 @@ std::variant<UpdateOffer, UpdateTrouble> judgeFeed(const QByteArray &fetched,
 
     UpdateOffer offer { .issued = feed->issued, .release = std::nullopt };
     const auto installed = versionNumber(check.installedVersion);
-    if (!installed || *versionNumber(feed->version) <= *installed)
+    const auto offered = versionNumber(feed->version);
+    if (!installed || offered <= installed)
         return offer;
     const auto package = feed->packages.constFind(check.architecture);
     if (package == feed->packages.cend())
