@@ -33,17 +33,32 @@ std::optional<QString> Bundle::information(const QString &key) const
     return value.isString() ? std::optional(value.toString()) : std::nullopt;
 }
 
+QString Bundle::required(const QString &key, const char *meaning) const
+{
+    const auto text = information(key);
+    if (!text || text->isEmpty())
+        qFatal("The bundle has no %s", meaning);
+    return *text;
+}
+
 QString Bundle::identifier() const
 {
-    const auto identifier = information(u"CFBundleIdentifier"_s);
-    if (!identifier || identifier->isEmpty())
-        qFatal("The bundle has no identifier");
-    return *identifier;
+    return required(u"CFBundleIdentifier"_s, "identifier");
+}
+
+QString Bundle::name() const
+{
+    return required(u"CFBundleName"_s, "name");
 }
 
 QString Bundle::shortVersion() const
 {
-    return information(u"CFBundleShortVersionString"_s).value_or(QString());
+    return required(u"CFBundleShortVersionString"_s, "version");
+}
+
+QString Bundle::buildNumber() const
+{
+    return required(u"CFBundleVersion"_s, "build number");
 }
 
 } // namespace ferrin

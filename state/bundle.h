@@ -10,7 +10,9 @@
 
 namespace ferrin {
 
-/// What the program knows of itself: its information keys, compiled in and never changed.
+/// What the program knows of itself: its information keys, compiled in and never changed. The four
+/// that every bundle defines have functions of their own; a bundle without the one that is asked
+/// for stops the process.
 class Bundle
 {
 public:
@@ -23,13 +25,18 @@ public:
     [[nodiscard]] std::optional<QString> information(const QString &key) const;
 
     /// Reverse-DNS name of the program; it names the defaults suite, the log's subsystem and the
-    /// program on the session bus. A bundle without one stops the process.
+    /// program on the session bus.
     [[nodiscard]] QString identifier() const;
-
-    /// The release, as people read it: "0.1.0". Empty when the bundle does not say.
+    /// What people call the program.
+    [[nodiscard]] QString name() const;
+    /// The release, as people read it: "0.1.0".
     [[nodiscard]] QString shortVersion() const;
+    /// Tells builds of one release apart.
+    [[nodiscard]] QString buildNumber() const;
 
 private:
+    [[nodiscard]] QString required(const QString &key, const char *meaning) const;
+
     QJsonObject m_information;
 };
 

@@ -9,6 +9,7 @@
 #include "tests/support/lastwords.h"
 #include "tests/support/memorydefaultsstore.h"
 
+#include <QJsonObject>
 #include <QTest>
 
 using namespace ferrin;
@@ -16,6 +17,8 @@ using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+using TextOfBundle = QString (Bundle::*)() const;
 
 void startWith(const IconsOnOffer &icons)
 {
@@ -64,18 +67,28 @@ private Q_SLOTS:
                                                                                           folder));
     }
 
-    void includeABundleWithoutAnIdentifier()
+    void includeABundleWithoutARequiredKey_data()
     {
-        const QString words = u"The bundle has no identifier"_s;
-        QCOMPARE(lastWords([] { (void)Bundle({}).identifier(); }), words);
-        QCOMPARE(lastWords([] {
-                     (void)Bundle({ { u"CFBundleIdentifier"_s, 1 } }).identifier();
-                 }),
-                 words);
-        QCOMPARE(lastWords([] {
-                     (void)Bundle({ { u"CFBundleIdentifier"_s, u""_s } }).identifier();
-                 }),
-                 words);
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<TextOfBundle>("text");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("identifier")
+            << u"CFBundleIdentifier"_s << &Bundle::identifier << u"The bundle has no identifier"_s;
+        QTest::newRow("name") << u"CFBundleName"_s << &Bundle::name << u"The bundle has no name"_s;
+        QTest::newRow("version") << u"CFBundleShortVersionString"_s << &Bundle::shortVersion
+                                 << u"The bundle has no version"_s;
+        QTest::newRow("build number")
+            << u"CFBundleVersion"_s << &Bundle::buildNumber << u"The bundle has no build number"_s;
+    }
+
+    void includeABundleWithoutARequiredKey()
+    {
+        QFETCH(QString, key);
+        QFETCH(TextOfBundle, text);
+        QFETCH(QString, words);
+        for (const QJsonObject &information :
+             { QJsonObject(), QJsonObject { { key, 1 } }, QJsonObject { { key, u""_s } } })
+            QCOMPARE(lastWords([&] { (void)(Bundle(information).*text)(); }), words);
     }
 
     void includeAnEmptyListOfIcons()
