@@ -37,11 +37,16 @@ QtObject {
     readonly property color focusRing: blueIcon
 
     readonly property color primaryText: cardTextColor
-    readonly property color accent: "#1b63c6"
+    // Both a ground for white and seen on any ground of a window.
+    readonly property color accent: Theme.isDark ? "#2d75d6" : "#1b63c6"
     readonly property color accentText: "#ffffff"
 
     readonly property color secondaryText: cardTitleColor
     readonly property color link: blueIcon
+    readonly property color linkHovered: Theme.isDark ? "#a3ceff" : "#134a96"
+    // Behind the segments of a picker, and behind the one that the pointer is on.
+    readonly property color segmentTrack: Theme.isDark ? "#1d1f22" : "#e3e5e9"
+    readonly property color segmentHovered: Theme.isDark ? "#393d43" : "#d3d6db"
     readonly property color switchOff: Theme.isDark ? "#7b8088" : "#85898f"
     readonly property color switchKnob: "#ffffff"
 

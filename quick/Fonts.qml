@@ -9,9 +9,11 @@ import Ferrin.Theme
 // The fonts that views use by role, all of the desktop's interface font. Sizes are logical pixels.
 QtObject {
     readonly property font heavy13: make(13, Font.ExtraBold)
+    readonly property font title: make(20, Font.Bold)
     readonly property font bold14: make(14, Font.Bold)
     readonly property font regular13: make(13, Font.Normal)
     readonly property font regular12: make(12, Font.Normal)
+    readonly property font semibold10: make(10, Font.DemiBold)
     readonly property font regular10: make(10, Font.Normal)
     readonly property font regular8: make(8, Font.Normal)
 

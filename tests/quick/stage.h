@@ -126,6 +126,13 @@ inline QString spokenNameOf(QQuickItem *item)
     return spoken ? spoken->text(QAccessible::Name) : QString();
 }
 
+/// What a screen reader takes an item for; no role for one that is nothing to it.
+inline QAccessible::Role spokenRoleOf(QQuickItem *item)
+{
+    const QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(item);
+    return spoken ? spoken->role() : QAccessible::NoRole;
+}
+
 /// The window of the popover that is open, if one is.
 inline QQuickWindow *openPopover()
 {

@@ -46,7 +46,7 @@ QColor over(const QColor &ground, const QColor &colour, double opacity)
 
 } // namespace
 
-/// Every pairing of the dashboard, in both appearances.
+/// Every pairing of both windows, in both appearances.
 class ColoursTest final : public QObject
 {
     Q_OBJECT
@@ -59,10 +59,12 @@ private Q_SLOTS:
     void symbolsStandOutFromTheirGrounds();
     void menuSymbolsStandOutAlthoughTheyAreFaint_data();
     void menuSymbolsStandOutAlthoughTheyAreFaint();
+    void tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data();
+    void tilesCarryWhiteSymbolsAlthoughTheyAreFaint();
     void gaugesStandOutFromTheirTracks_data();
     void gaugesStandOutFromTheirTracks();
-    void cardsStandOutFromTheDashboard_data();
-    void cardsStandOutFromTheDashboard();
+    void panelsStandOutFromTheirWindow_data();
+    void panelsStandOutFromTheirWindow();
     void everyNameHasAColour();
     void followTheAppearance();
 
@@ -110,9 +112,20 @@ void ColoursTest::textsReadOnTheirGrounds_data()
                { "menuText", "menuHovered" },
                { "menuText", "menuSelected" },
                { "accentText", "accent" },
+               { "settingsRectTextTitle", "settingsRectangle" },
                { "primaryText", "settingsRectangle" },
+               { "primaryText", "settingsBackground" },
+               { "primaryText", "settingsMenu" },
+               { "primaryText", "settingsMenuSelected" },
+               { "primaryText", "segmentTrack" },
+               { "primaryText", "segmentHovered" },
                { "secondaryText", "settingsRectangle" },
-               { "settingsRectTextTitle", "settingsRectangle" } });
+               { "secondaryText", "settingsBackground" },
+               { "link", "settingsRectangle" },
+               { "link", "settingsBackground" },
+               { "linkHovered", "settingsRectangle" },
+               { "linkHovered", "settingsBackground" },
+               { "settingsAck", "settingsBackground" } });
 }
 
 void ColoursTest::textsReadOnTheirGrounds()
@@ -141,12 +154,23 @@ void ColoursTest::symbolsStandOutFromTheirGrounds_data()
                { "focusRing", "cardColor" },
                { "focusRing", "dashboardColor" },
                { "focusRing", "menuSelected" },
+               { "focusRing", "settingsMenu" },
+               { "focusRing", "settingsMenuSelected" },
                { "focusRing", "settingsRectangle" },
-               { "focusRing", "settingsPopBckg1" },
-               { "focusRing", "settingsPopBckg2" },
+               { "focusRing", "settingsBackground" },
+               { "accent", "settingsRectangle" },
+               { "accent", "settingsBackground" },
+               { "accent", "segmentTrack" },
+               { "switchOff", "settingsRectangle" },
+               { "switchOff", "settingsBackground" },
+               { "switchKnob", "switchOff" },
+               { "switchKnob", "accent" },
+               { "tileSymbol", "systemGreen" },
+               { "settingsPopoverIcon", "settingsIconOptions" },
                { "settingsPopoverIcon", "settingsPopBckg1" },
                { "settingsPopoverIcon", "settingsPopBckg2" },
-               { "settingsPopoverIcon", "settingsIconOptions" },
+               { "focusRing", "settingsPopBckg1" },
+               { "focusRing", "settingsPopBckg2" },
                { "secondaryText", "settingsPopBckg1" },
                { "secondaryText", "settingsIconOptions" } });
 }
@@ -176,6 +200,30 @@ void ColoursTest::menuSymbolsStandOutAlthoughTheyAreFaint()
     QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
 }
 
+void ColoursTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
+{
+    QList<std::pair<QByteArray, QByteArray>> pairs;
+    for (const char *tile :
+         { "systemOrange", "systemBlue", "systemGray", "systemBrown", "systemRed" }) {
+        pairs.emplaceBack(tile, "settingsMenu");
+        pairs.emplaceBack(tile, "settingsMenuSelected");
+    }
+    addPairs(pairs);
+}
+
+void ColoursTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint()
+{
+    QFETCH(Appearance, appearance);
+    QFETCH(QByteArray, top);
+    QFETCH(QByteArray, ground);
+    m_appearance.setAppearance(appearance);
+    const QColor tile = named(top);
+    const QColor faint = over(named(ground), tile, 0.7);
+    QVERIFY2(contrast(named("tileSymbol"), faint) >= 3, qPrintable(faint.name()));
+    // As bright as the selected one's.
+    QVERIFY2(contrast(named("tileSymbol"), tile.lighter(112)) >= 3, qPrintable(tile.name()));
+}
+
 void ColoursTest::gaugesStandOutFromTheirTracks_data()
 {
     addPairs({ { "gaugeRed", "gaugeTrack" },
@@ -193,12 +241,14 @@ void ColoursTest::gaugesStandOutFromTheirTracks()
     QVERIFY2(ratio >= 2, qPrintable(QString::number(ratio)));
 }
 
-void ColoursTest::cardsStandOutFromTheDashboard_data()
+void ColoursTest::panelsStandOutFromTheirWindow_data()
 {
-    addPairs({ { "greyIcon", "cardColor" }, { "greyIcon", "dashboardColor" } });
+    addPairs({ { "greyIcon", "cardColor" },
+               { "greyIcon", "dashboardColor" },
+               { "settingsRectBorder", "settingsBackground" } });
 }
 
-void ColoursTest::cardsStandOutFromTheDashboard()
+void ColoursTest::panelsStandOutFromTheirWindow()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -210,9 +260,30 @@ void ColoursTest::cardsStandOutFromTheDashboard()
 
 void ColoursTest::everyNameHasAColour()
 {
-    for (const char *name : { "greenIcon", "redIcon", "yellowIcon", "blueIcon", "greyIcon",
-                              "unknownColor", "cardColor", "cardTitleColor", "cardTextColor",
-                              "dashboardColor", "menuSelected", "menuHovered" }) {
+    for (const char *name : { "greenIcon",
+                              "redIcon",
+                              "yellowIcon",
+                              "blueIcon",
+                              "greyIcon",
+                              "unknownColor",
+                              "cardColor",
+                              "cardTitleColor",
+                              "cardTextColor",
+                              "dashboardColor",
+                              "menuSelected",
+                              "menuHovered",
+                              "settingsMenu",
+                              "settingsMenuSelected",
+                              "settingsBackground",
+                              "settingsRectangle",
+                              "settingsRectBorder",
+                              "settingsRectTextTitle",
+                              "settingsIconOptions",
+                              "settingsPopoverIcon",
+                              "settingsPopBorder",
+                              "settingsPopBckg1",
+                              "settingsPopBckg2",
+                              "settingsAck" }) {
         const QColor colour = named(name);
         QVERIFY2(colour.isValid() && colour.alpha() == 255, name);
     }

@@ -21,9 +21,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("size");
         QTest::addColumn<QFont::Weight>("weight");
         QTest::newRow("13 heavy") << QByteArray("heavy13") << 13 << QFont::ExtraBold;
+        QTest::newRow("a title") << QByteArray("title") << 20 << QFont::Bold;
         QTest::newRow("14 bold") << QByteArray("bold14") << 14 << QFont::Bold;
         QTest::newRow("12 regular") << QByteArray("regular12") << 12 << QFont::Normal;
         QTest::newRow("10 regular") << QByteArray("regular10") << 10 << QFont::Normal;
+        QTest::newRow("10 semibold") << QByteArray("semibold10") << 10 << QFont::DemiBold;
         QTest::newRow("8 regular") << QByteArray("regular8") << 8 << QFont::Normal;
         QTest::newRow("13 regular") << QByteArray("regular13") << 13 << QFont::Normal;
         QTest::newRow("a card's title") << QByteArray("cardTitle") << 10 << QFont::DemiBold;

@@ -16,9 +16,13 @@ public:
     void setAppearance(std::optional<Appearance> appearance) override
     {
         m_isDark = appearance == Appearance::dark;
+        forced = appearance;
     }
     void setFontFamily(const QString &family) { m_fontFamily = family; }
     void setReducesMotion(bool reduces) { m_reducesMotion = reduces; }
+
+    /// What was set last; absent: the desktop is followed.
+    std::optional<Appearance> forced;
 };
 
 } // namespace ferrin::test

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// One of a few texts, side by side. It shows what holds and asks to have it changed: `selected` is
+// bound by whoever uses it and is never written here. To the keyboard it is one stop, in which the
+// arrow keys pick the neighbour.
+FocusScope {
+    id: root
+
+    required property var texts
+    required property string selected
+    // What is picked, in words, for those who do not see what stands beside it.
+    required property string label
+
+    // The user wants another one.
+    signal picked(text: string)
+
+    implicitWidth: 280
+    implicitHeight: 26
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+
+    Keys.onLeftPressed: root.move(-1)
+    Keys.onUpPressed: root.move(-1)
+    Keys.onRightPressed: root.move(1)
+    Keys.onDownPressed: root.move(1)
+
+    function move(step: int) {
+        const next = texts.indexOf(selected) + step;
+        if (next < 0 || next >= texts.length)
+            return;
+        segments.itemAt(next).forceActiveFocus(Qt.TabFocusReason);
+        root.picked(texts[next]);
+    }
+
+    Rectangle {
+        id: track
+
+        anchors.fill: parent
+        radius: 7
+        color: Colours.segmentTrack
+    }
+
+    Row {
+        anchors { fill: track; margins: 2 }
+
+        Repeater {
+            id: segments
+
+            model: root.texts
+
+            // qmllint disable unqualified
+            Pressable {
+                id: segment
+
+                required property string modelData
+                readonly property bool isSelected: modelData === root.selected
+
+                width: parent.width / segments.count
+                height: parent.height
+                spokenName: modelData
+                // What has the focus has to be one of its stops.
+                activeFocusOnTab: isSelected || activeFocus
+                focus: isSelected
+                onPressed: {
+                    segment.forceActiveFocus(Qt.MouseFocusReason);
+                    root.picked(modelData);
+                }
+
+                Accessible.role: Accessible.RadioButton
+                Accessible.checkable: true
+                Accessible.checked: isSelected
+                Accessible.onToggleAction: root.picked(modelData)
+
+                Rectangle {
+                    id: mark
+
+                    anchors.fill: parent
+                    radius: 5
+                    color: segment.isSelected ? Colours.accent : Colours.segmentHovered
+                    visible: segment.isSelected || segment.isHovered
+                }
+
+                FocusRing {
+                    anchors.margins: -3
+                    radius: mark.radius + 3
+                    owner: segment
+                }
+
+                Text {
+                    anchors { fill: parent; leftMargin: 4; rightMargin: 4 }
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    text: segment.modelData
+                    textFormat: Text.PlainText
+                    font: Fonts.regular12
+                    color: segment.isSelected ? Colours.accentText : Colours.primaryText
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 9
+                }
+            }
+            // qmllint enable unqualified
+        }
+    }
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+
+// The soft shadow of a rounded rectangle that fills it: black, as strong as said where it begins,
+// and gone at its reach. Layers make it, since the windows are painted without shaders.
+Item {
+    id: root
+
+    // Of the rectangle that throws it.
+    property real radius: 0
+    property real strength: 0.33
+    property int reach: 4
+    // How far below the rectangle it lies.
+    property real drop: 1
+
+    Repeater {
+        model: root.reach
+
+        // qmllint disable unqualified
+        Rectangle {
+            required property int index
+
+            anchors {
+                fill: parent
+                margins: -index
+                topMargin: root.drop - index
+                bottomMargin: -root.drop - index
+            }
+            radius: root.radius + index
+            color: "black"
+            opacity: 1 - Math.pow(1 - root.strength, 1 / root.reach)
+        }
+        // qmllint enable unqualified
+    }
+}
