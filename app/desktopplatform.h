@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "app/installation.h"
 #include "app/windows.h"
 #include "platform/linux/session/autostartentry.h"
 #include "platform/linux/session/desktoplinkopener.h"
@@ -38,7 +39,7 @@ public:
     [[nodiscard]] PressWatcher &presses() noexcept { return m_presses; }
     [[nodiscard]] WindowsPlatform windows() noexcept
     {
-        return { m_popovers, m_loginItem, m_links };
+        return { m_popovers, m_loginItem, m_links, vendor() };
     }
 
     /// What the item's widths are measured with.

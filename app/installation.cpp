@@ -8,10 +8,29 @@
 
 namespace ferrin {
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString besideTheProgram(const QString &path)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../"_s + path);
+}
+
+} // namespace
+
 QString privateFolder()
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath()
-                           + QStringLiteral("/../libexec/ferrin"));
+    return besideTheProgram(u"libexec/ferrin"_s);
+}
+
+Vendor vendor()
+{
+    const QString faq = QStringLiteral(FERRIN_FAQ_URL);
+    return { .faq = faq.isEmpty()
+                 ? QUrl::fromLocalFile(besideTheProgram(u"share/ferrin/faq/index.html"_s))
+                 : QUrl(faq),
+             .supportMail = QUrl(u"mailto:"_s + QStringLiteral(FERRIN_SUPPORT_EMAIL)) };
 }
 
 } // namespace ferrin

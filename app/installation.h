@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "settingswindow/vendor.h"
+
 #include <QString>
 
 namespace ferrin {
@@ -10,5 +12,9 @@ namespace ferrin {
 /// Where the program's own parts lie (the report tool, the module of the windows): libexec/ferrin
 /// beside the folder of the executable, in the build tree as in the install tree.
 [[nodiscard]] QString privateFolder();
+
+/// Where the vendor is found, as this program was built: unless that names an address, the page of
+/// frequently asked questions is the one that was installed with it.
+[[nodiscard]] Vendor vendor();
 
 } // namespace ferrin

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "menubar/itemplace.h"
+#include "settingswindow/vendor.h"
 
 #include <QtPlugin>
 
@@ -42,12 +43,13 @@ public:
     std::function<void()> dashboardLostFocus;
 };
 
-/// What the windows need of the desktop. All of it outlives them.
+/// What the windows need of the desktop, which outlives them, and of the installation.
 struct WindowsPlatform
 {
     PopoverDesktop &popovers;
     LoginItem &loginItem;
     LinkOpener &links;
+    Vendor vendor;
 };
 
 /// What the module offers.
@@ -60,5 +62,5 @@ public:
 
 } // namespace ferrin
 
-#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/3"
+#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/4"
 Q_DECLARE_INTERFACE(ferrin::WindowsFactory, FerrinWindowsFactory_iid)

@@ -2,5 +2,24 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Quick
 
-Item {}
+// The page for those who have a question.
+Rectangle {
+    implicitWidth: 500
+    implicitHeight: 500
+    color: Colours.settingsBackground
+
+    Column {
+        anchors { fill: parent; margins: 20 }
+        spacing: 25
+
+        NoteOnHealthView {
+            width: parent.width
+        }
+
+        ContactUsView {
+            width: parent.width
+        }
+    }
+}

@@ -3,6 +3,7 @@
 
 #include "settingswindow/launchatlogin.h"
 
+#include "quick/quickengine.h"
 #include "settingswindow/loginitem.h"
 
 #include <QLoggingCategory>
@@ -29,6 +30,11 @@ LaunchAtLogin::LaunchAtLogin(LoginItem &item, Observable &observable, QObject *p
 {
 }
 
+LaunchAtLogin *LaunchAtLogin::create(QQmlEngine *engine, QJSEngine *)
+{
+    return engineChild<LaunchAtLogin>(*engine);
+}
+
 bool LaunchAtLogin::isEnabled() const
 {
     return m_item.status() == LoginItemStatus::enabled;
@@ -44,6 +50,11 @@ void LaunchAtLogin::setIsEnabled(bool enabled)
         qCCritical(launchAtLoginLogger, "Failed to %s launch at login: %s",
                    enabled ? "enable" : "disable", qUtf8Printable(*error));
     }
+    Q_EMIT isEnabledChanged();
+}
+
+void LaunchAtLogin::readAgain()
+{
     Q_EMIT isEnabledChanged();
 }
 

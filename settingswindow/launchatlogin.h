@@ -4,6 +4,10 @@
 #pragma once
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
 
 namespace ferrin {
 
@@ -27,10 +31,12 @@ Q_SIGNALS:
 
 /// Whether the application starts when the user logs in. The answer lives in the session alone and
 /// is asked for at each reading, so it cannot go out of step. A change that fails is logged and
-/// shown to nobody: whoever reads again sees what holds.
+/// shown to nobody: whoever reads again sees what holds. In QML the engine's child.
 class LaunchAtLogin final : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setIsEnabled NOTIFY isEnabledChanged)
 
 public:
@@ -40,12 +46,18 @@ public:
     explicit LaunchAtLogin(LoginItem &item, Observable &observable = Observable::shared(),
                            QObject *parent = nullptr);
 
+    /// The engine's child.
+    static LaunchAtLogin *create(QQmlEngine *engine, QJSEngine *);
+
     [[nodiscard]] bool isEnabled() const;
     /// Turning on what is on already registers the item anew.
     void setIsEnabled(bool enabled);
 
+    /// Has everybody read again: the session's own tools may have changed it.
+    Q_INVOKABLE void readAgain();
+
 Q_SIGNALS:
-    /// It has been set, perhaps without success: read again.
+    /// It has been set, perhaps without success, or may have been changed elsewhere: read again.
     void isEnabledChanged();
 
 private:

@@ -9,9 +9,13 @@
 #include "dashboard/dashboard.h"
 #include "dashboard/dashboardwindow.h"
 #include "quick/quickengine.h"
+#include "settingswindow/colortheme.h"
+#include "settingswindow/launchatlogin.h"
+#include "settingswindow/links.h"
 #include "settingswindow/menubaricon.h"
 #include "settingswindow/settings.h"
 #include "settingswindow/settingswindow.h"
+#include "state/appcolorscheme.h"
 #include "state/appstatus.h"
 #include "state/displayswitches.h"
 #include "state/settingsdata.h"
@@ -32,6 +36,9 @@ public:
         , m_battery(*BatteryDataProvider::shared().data(), &m_engine)
         , m_adapter(StoredData::shared(), *BatteryDataProvider::shared().data(), &m_engine)
         , m_dashboardState(AppStatus::shared(), &m_engine)
+        , m_colorTheme(AppColor::shared(), &m_engine)
+        , m_launchAtLogin(platform.loginItem, LaunchAtLoginObservable::shared(), &m_engine)
+        , m_links(platform.links, platform.vendor, &m_engine)
         , m_menuBarIcon({ *BatteryDataProvider::shared().data(), SettingsData::shared(),
                           DisplaySwitches::shared() },
                         &m_engine)
@@ -90,6 +97,9 @@ private:
     Battery m_battery;
     Adapter m_adapter;
     Dashboard m_dashboardState;
+    ColorTheme m_colorTheme;
+    LaunchAtLogin m_launchAtLogin;
+    Links m_links;
     MenuBarIcon m_menuBarIcon;
     Settings m_settingsState;
     std::unique_ptr<DashboardWindow> m_dashboard;

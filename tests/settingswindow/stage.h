@@ -4,12 +4,18 @@
 #pragma once
 
 #include "core/batterydata.h"
+#include "settingswindow/colortheme.h"
+#include "settingswindow/launchatlogin.h"
+#include "settingswindow/links.h"
 #include "settingswindow/menubaricon.h"
 #include "settingswindow/settings.h"
+#include "state/appcolorscheme.h"
 #include "state/appstatus.h"
 #include "state/displayswitches.h"
 #include "state/settingsdata.h"
 #include "tests/quick/stage.h"
+#include "tests/settingswindow/fakelinkopener.h"
+#include "tests/settingswindow/fakeloginitem.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
 
@@ -46,6 +52,18 @@ public:
     DisplaySwitches switches { store };
     MenuBarIcon menuBarIcon { { battery, *settingsData, switches }, &engine };
     Settings settings { status, &engine };
+
+    AppColor color { store };
+    ColorTheme colorTheme { color, &engine };
+
+    FakeLoginItem loginItem;
+    LaunchAtLogin launchAtLogin { loginItem, LaunchAtLoginObservable::shared(), &engine };
+
+    FakeLinkOpener opener;
+    Links links { opener,
+                  { .faq = QUrl(QStringLiteral("file:///faq.html")),
+                    .supportMail = QUrl(QStringLiteral("mailto:support@example.org")) },
+                  &engine };
 };
 
 } // namespace ferrin::test

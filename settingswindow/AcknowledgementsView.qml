@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+
+// The acknowledgement texts of the parts that have one. Whatever has the focus on it, the keys that
+// page and scroll move the texts.
+FocusScope {
+    id: root
+
+    readonly property string textAckSparkle: BundleInformation.text("AckSparkle")
+    readonly property string textAckLaunchAtLogin: BundleInformation.text("AckLaunchAtLogin")
+    readonly property string textAckMenuBarExtraAcces: BundleInformation.text("AckMenuBarExtraAcces")
+
+    // It has been read.
+    signal done
+
+    implicitWidth: 600
+    implicitHeight: 400
+
+    Keys.onUpPressed: root.scroll(-40)
+    Keys.onDownPressed: root.scroll(40)
+    Keys.onPressed: event => {
+        const page = view.height - 40;
+        const steps = new Map([[Qt.Key_PageUp, -page], [Qt.Key_PageDown, page],
+                               [Qt.Key_Home, -view.contentHeight], [Qt.Key_End, view.contentHeight]]);
+        if (steps.has(event.key)) {
+            root.scroll(steps.get(event.key));
+            event.accepted = true;
+        }
+    }
+
+    function scroll(by: real) {
+        view.cancelFlick();
+        view.contentY = Math.max(0, Math.min(view.contentHeight - view.height, view.contentY + by));
+    }
+
+    Flickable {
+        id: view
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            bottom: line.top
+            topMargin: 1
+        }
+        clip: true
+        contentHeight: texts.height
+        boundsBehavior: Flickable.StopAtBounds
+
+        Column {
+            id: texts
+
+            x: 24
+            width: view.width - 48
+            topPadding: 20
+            bottomPadding: 20
+            spacing: 28
+
+            Repeater {
+                // qmllint disable unqualified
+                model: [root.textAckSparkle, root.textAckLaunchAtLogin,
+                        root.textAckMenuBarExtraAcces]
+
+                SettingsText {
+                    required property string modelData
+
+                    width: texts.width
+                    visible: text !== ""
+                    text: modelData
+                    lineHeight: 1.15
+                    font: Fonts.regular12
+                }
+                // qmllint enable unqualified
+            }
+        }
+    }
+
+    // How far the texts have been scrolled.
+    Rectangle {
+        x: view.width - 9
+        y: view.y + 3 + view.visibleArea.yPosition * (view.height - 6)
+        width: 6
+        height: Math.max(20, view.visibleArea.heightRatio * (view.height - 6))
+        radius: 3
+        color: Colours.switchOff
+        visible: view.visibleArea.heightRatio < 1
+    }
+
+    Rectangle {
+        id: line
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: 51 }
+        height: 1
+        color: Colours.settingsDivider
+    }
+
+    ProminentButton {
+        anchors { right: parent.right; rightMargin: 16; bottom: parent.bottom; bottomMargin: 13 }
+        focus: true
+        text: "Done"
+        onPressed: root.done()
+    }
+}

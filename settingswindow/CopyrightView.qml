@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// The maker's notice.
+Column {
+    spacing: 3
+
+    component Line: SettingsText {
+        anchors { left: parent.left; right: parent.right }
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.NoWrap
+        font: Fonts.regular10
+        color: Colours.secondaryText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
+    }
+
+    Line {
+        text: "The Ferrin developers"
+        font: Fonts.semibold10
+        color: Colours.settingsAck
+    }
+
+    Line {
+        text: "Copyright © 2010–2025"
+    }
+
+    Line {
+        text: "All rights reserved, except as granted by the GNU GPL, version 3 or later."
+    }
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+
+// What the program is: its icon, its name, and which one of its kind.
+Column {
+    readonly property string appVersion: BundleInformation.appVersion
+    readonly property string buildNumber: BundleInformation.buildNumber
+
+    spacing: 4
+
+    Image {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: 96
+        height: 96
+        sourceSize { width: 96; height: 96 }
+        source: "qrc:/icons/org.ferrin.Ferrin.svg"
+        // The name beside it tells.
+        Accessible.ignored: true
+    }
+
+    Text {
+        anchors.horizontalCenter: parent.horizontalCenter
+        topPadding: 4
+        text: BundleInformation.name
+        textFormat: Text.PlainText
+        font: Fonts.title
+        color: Colours.primaryText
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    SettingsText {
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: `Version ${parent.appVersion} (${parent.buildNumber})`
+        font: Fonts.regular12
+        color: Colours.secondaryText
+    }
+}

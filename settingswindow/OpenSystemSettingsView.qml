@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+
+// Leads to the battery pane of the desktop's own settings, and closes the window behind it.
+MakeBackgroundRectangle {
+    id: root
+
+    property string scheme: "x-apple.systempreferences"
+    property string pane: "com.apple.preference.battery"
+
+    title: "System Settings"
+
+    Column {
+        width: parent.width
+        topPadding: 5
+
+        Pressable {
+            id: row
+
+            width: parent.width
+            implicitHeight: 28
+            spokenName: label.text
+
+            onPressed: {
+                Links.open(`${root.scheme}:${root.pane}`);
+                Settings.dismissRequested();
+            }
+
+            Rectangle {
+                id: mark
+
+                anchors { fill: parent; margins: -5 }
+                radius: 6
+                color: Colours.settingsMenuSelected
+                opacity: row.isDown ? 1 : 0.7
+                visible: row.isHovered
+            }
+
+            FocusRing {
+                anchors.margins: -5
+                radius: mark.radius
+                owner: row
+            }
+
+            SoftShadow {
+                anchors.fill: tile
+                radius: tile.radius
+            }
+
+            Rectangle {
+                id: tile
+
+                width: 28
+                height: 28
+                radius: 6
+                color: Colours.systemGreen
+
+                Symbol {
+                    anchors.fill: parent
+                    name: "battery.100"
+                    size: 14
+                    color: Colours.tileSymbol
+                }
+            }
+
+            Text {
+                id: label
+
+                anchors { left: tile.right; leftMargin: 10; right: parent.right }
+                height: parent.height
+                verticalAlignment: Text.AlignVCenter
+                text: "Open System Settings battery section"
+                textFormat: Text.PlainText
+                font: Fonts.regular13
+                color: Colours.primaryText
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 9
+            }
+        }
+    }
+}

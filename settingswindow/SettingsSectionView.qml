@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// A part of a page: a heading above a panel, which is as high as what stands on it.
+Column {
+    id: root
+
+    required property string heading
+    default property alias content: body.data
+
+    spacing: 6
+
+    Text {
+        width: parent.width
+        leftPadding: 2
+        text: root.heading
+        textFormat: Text.PlainText
+        font: Fonts.regular12
+        color: Colours.secondaryText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 9
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    Rectangle {
+        width: parent.width
+        height: body.height + 24
+        radius: 8
+        color: Colours.settingsRectangle
+        border { width: 1; color: Colours.settingsRectBorder }
+
+        Column {
+            id: body
+
+            anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12 }
+            spacing: 12
+        }
+    }
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "settingswindow/links.h"
+
+#include "quick/quickengine.h"
+#include "settingswindow/linkopener.h"
+
+#include <utility>
+
+namespace ferrin {
+
+Links::Links(LinkOpener &opener, Vendor vendor, QObject *parent)
+    : QObject(parent)
+    , m_opener(opener)
+    , m_vendor(std::move(vendor))
+{
+}
+
+Links *Links::create(QQmlEngine *engine, QJSEngine *)
+{
+    return engineChild<Links>(*engine);
+}
+
+QString Links::faq() const
+{
+    return m_vendor.faq.toString(QUrl::FullyEncoded);
+}
+
+QString Links::supportMail() const
+{
+    return m_vendor.supportMail.toString(QUrl::FullyEncoded);
+}
+
+void Links::open(const QString &link)
+{
+    const QUrl url(link, QUrl::StrictMode);
+    if (url.isValid() && !url.isRelative())
+        m_opener.open(url);
+}
+
+} // namespace ferrin

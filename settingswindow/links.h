@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "settingswindow/vendor.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace ferrin {
+
+class LinkOpener;
+
+/// What the settings window's views lead to outside of the application. A child of the engine.
+class Links final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QString faq READ faq CONSTANT)
+    Q_PROPERTY(QString supportMail READ supportMail CONSTANT)
+
+public:
+    /// The opener outlives this.
+    Links(LinkOpener &opener, Vendor vendor, QObject *parent = nullptr);
+
+    /// The engine's child.
+    static Links *create(QQmlEngine *engine, QJSEngine *);
+
+    [[nodiscard]] QString faq() const;
+    [[nodiscard]] QString supportMail() const;
+
+    /// A text that is no valid link opens nothing.
+    Q_INVOKABLE void open(const QString &link);
+
+private:
+    LinkOpener &m_opener;
+    Vendor m_vendor;
+};
+
+} // namespace ferrin
