@@ -3,8 +3,9 @@
 """The dashboard without a pointer and without eyes: real keys, and a screen reader's view of it."""
 
 from harness.case import WithADashboard, main
-from harness.dashboard import BUTTON, CARD, SECTIONS, TAB
+from harness.dashboard import CARD, SECTIONS, TAB
 from harness.processes import a_moment, eventually
+from harness.readwindow import BUTTON
 
 IN_WORDS = {
     "STATUS": {"Charge now": "100%", "Time available": "13 hours 16 minutes",

@@ -7,7 +7,9 @@ import unittest
 
 from harness import desktop
 from harness.dashboard import Dashboard
+from harness.processes import a_moment
 from harness.program import Program, store_settings
+from harness.settings import Settings
 from virtuallaptop import VirtualLaptop
 
 MACHINES = os.path.abspath(os.path.join(os.path.dirname(__file__), "..", "..", "machines"))
@@ -31,8 +33,8 @@ class OnADesktop(unittest.TestCase):
     def make_session(self):
         return desktop.XfceScreen()
 
-    def start(self, **environment):
-        return Program(self.session, self.laptop, environment)
+    def start(self, command=None, **environment):
+        return Program(self.session, self.laptop, environment, command)
 
 
 class WithADashboard(OnADesktop):
@@ -48,8 +50,37 @@ class WithADashboard(OnADesktop):
     def prepare(self):
         """What happens to the laptop before the program starts."""
 
-    def start_dashboard(self):
-        return self.enterContext(Dashboard(self.session, self.laptop, self.says))
+    def start_dashboard(self, environment=None):
+        return self.enterContext(Dashboard(self.session, self.laptop, self.says, environment))
+
+
+class WithSettings(WithADashboard):
+    """The settings window is open, at the page that it begins with unless told otherwise."""
+
+    page = None
+    environment = None
+
+    def make_session(self):
+        screen = desktop.XfceScreen()
+        # With room beside the window for its frame and for a pointer at rest.
+        screen.size = "1000x600"
+        return screen
+
+    def start_dashboard(self, environment=None):
+        dashboard = super().start_dashboard(environment or self.environment)
+        self.window = Settings(self.session, dashboard)
+        self.window.open()
+        if self.page:
+            self.window.select(self.page)
+        return dashboard
+
+    def begin_anew(self, environment=None):
+        """Another start of the program in the same session."""
+        if self.dashboard.program.is_running():
+            self.assertEqual(self.dashboard.program.terminate(), 0)
+        self.session.point((5, 590))
+        a_moment()
+        self.dashboard = self.start_dashboard(environment)
 
 
 def main():

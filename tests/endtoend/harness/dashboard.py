@@ -8,26 +8,26 @@ import re
 from harness.accessible import ENVIRONMENT, ScreenReader
 from harness.processes import a_moment, eventually
 from harness.program import Program
+from harness.readwindow import TAB, ReadWindow
 
 SECTIONS = ["STATUS", "HEALTH", "POWER ADAPTER", "SETTINGS"]
-TAB = "page tab"
 CARD = "label"
-BUTTON = "push button"
 LARGEST_CELL = 40
 
 
-class Dashboard:
+class Dashboard(ReadWindow):
     """The program on a desktop, with its item in the panel and its dashboard closed."""
 
     def __init__(self, session, laptop, said, environment=None):
-        self._session = session
+        super().__init__(session)
         ScreenReader.prepare(session)
         before = session.picture()
         self.program = Program(session, laptop, ENVIRONMENT | (environment or {}))
         self.program.item()
         self.program.says(said)
         self.reader = ScreenReader(session, self.program.pid)
-        self.item = eventually(lambda: self._drawn(before), "the item is on the screen").centre
+        self.item_box = eventually(lambda: self._drawn(before), "the item is on the screen")
+        self.item = self.item_box.centre
 
     def _drawn(self, before):
         # The panel shows an empty cell first, and may draw the whole of itself anew.
@@ -76,26 +76,6 @@ class Dashboard:
 
     # What is in it.
 
-    def find(self, pattern, role=None):
-        """Waits for an object of the dashboard to be there, and to stay where it is."""
-        last = None
-
-        def at_rest():
-            nonlocal last
-            root = self.root()
-            found, last = last, root and root.find(pattern, role)
-            return last and found and found.box == last.box
-        try:
-            eventually(at_rest, pattern)
-        except AssertionError as error:
-            raise AssertionError(f"no {pattern!r} at rest among {self.told()}") from error
-        return last
-
-    def told(self):
-        """All names that the dashboard tells, in order."""
-        root = self.root()
-        return [each.name for each in root.everything()] if root else []
-
     def cards(self):
         """The cards' values by their titles."""
         root = self.root()
@@ -122,33 +102,7 @@ class Dashboard:
             raise AssertionError(f"the cards are {cards}, not {expected}; the program logged:\n"
                                  + self.program.log()) from error
 
-    def buttons(self):
-        """The names of the buttons that can be seen."""
-        root = self.root()
-        return [each.name for each in root.everything()
-                if each.role == BUTTON and "showing" in each.states] if root else []
-
-    def selected(self):
-        """The sections that are told as selected."""
-        root = self.root()
-        return [each.name for each in root.everything()
-                if each.role == TAB and "selected" in each.states] if root else []
-
-    def focused(self):
-        """What the keyboard acts on, or None."""
-        root = self.root()
-        # What holds it tells that it has the focus, too.
-        return next((each for each in root.everything()
-                     if {"focused", "focusable"} <= each.states), None) if root else None
-
-    def focused_name(self):
-        focused = self.focused()
-        return focused and focused.name
-
     # What is done to it.
-
-    def click(self, pattern, role=None):
-        self._session.click(self.find(pattern, role).box.centre)
 
     def select(self, section):
         """Shows a section by a click on its entry."""
@@ -163,9 +117,6 @@ class Dashboard:
     def explanation(self):
         popover = self.popover()
         return [each.name for each in popover.everything() if each.role == CARD] if popover else []
-
-    def press(self, *keys):
-        self._session.press(*keys)
 
     def _frames(self):
         root = self.reader.read()

@@ -24,12 +24,12 @@ def binary():
 class Program:
     """One start of the program in a session and on a laptop."""
 
-    def __init__(self, session, laptop, environment=None):
+    def __init__(self, session, laptop, environment=None, command=None):
         mock = {key: laptop.environment[key] for key in MOCK}
         self._session = session
         log, self._log = tempfile.mkstemp(dir=session.folder, suffix=".log")
         with os.fdopen(log, "wb") as file:
-            self._process = session.start([_reachable(session)], mock | (environment or {}),
+            self._process = session.start(command or [_reachable(session)], mock | (environment or {}),
                                           stdout=file, stderr=subprocess.STDOUT)
         self.pid = self._process.pid
 

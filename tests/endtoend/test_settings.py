@@ -1,0 +1,197 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""The settings window among others: one of its kind, how it closes, and its question before quitting."""
+
+import re
+
+from harness.case import WithSettings, main
+from harness.processes import a_moment, eventually
+from harness.settings import PAGES
+
+RESIZE, MINIMIZE, MAXIMIZE, CLOSE = 2, 8, 16, 32
+
+
+class ItsWindow(WithSettings):
+    def test_it_begins_with_the_page_of_the_icon(self):
+        self.assertEqual(self.window.selected(), ["Menu bar icon"])
+        self.assertEqual((self.window.box().width, self.window.box().height), (701, 500))
+
+    def test_opened_twice_it_is_one_window_that_comes_to_the_front(self):
+        first = self.window.window()
+        self.session.open_another_program()
+        self.session.focus_another_program()
+        eventually(lambda: not self.window.is_in_front(), "the other program is in front")
+        self.window.open()
+        self.assertEqual(self.window.window(), first)
+        self.assertEqual(len(self.dashboard.windows()), 1)
+
+    def test_it_can_be_closed_and_neither_resized_nor_maximized_nor_minimized(self):
+        told = self.session.run("xprop", "-id", self.window.window(), "_MOTIF_WM_HINTS").decode()
+        functions = int(re.findall(r"0x[0-9a-f]+", told)[1], 16)
+        self.assertTrue(functions & CLOSE)
+        self.assertFalse(functions & (RESIZE | MINIMIZE | MAXIMIZE), told)
+        hints = self.session.run("xprop", "-id", self.window.window(), "WM_NORMAL_HINTS").decode()
+        sizes = re.findall(r"(?:minimum|maximum) size: (\d+) by (\d+)", hints)
+        self.assertEqual(sizes, [("701", "500")] * 2)
+
+    def test_reopened_it_shows_the_page_that_was_selected_last(self):
+        for page in ("About", "General"):
+            self.window.select(page)
+            self.window.close()
+            self.assertTrue(self.dashboard.program.is_running())
+            self.window.open()
+            self.assertEqual(self.window.selected(), [page])
+            self.assertEqual(len(self.dashboard.windows()), 1)
+
+
+class ItsQuestion(WithSettings):
+    page = "Support"
+
+    def ask(self):
+        self.window.click("Quit Ferrin", "page tab")
+        eventually(lambda: "Do you want quit Ferrin?" in self.window.told(), "the question is put")
+
+    def is_gone(self):
+        eventually(lambda: "Do you want quit Ferrin?" not in self.window.told(),
+                   "the question is gone")
+
+    def test_no_stays(self):
+        self.ask()
+        self.window.click("No")
+        self.is_gone()
+        self.assertEqual(self.window.selected(), ["Support"])
+        self.assertTrue(self.dashboard.program.is_running())
+
+    def test_escape_stays(self):
+        self.ask()
+        self.window.press("Escape")
+        self.is_gone()
+        a_moment()
+        self.assertTrue(self.window.root())
+        self.assertTrue(self.dashboard.program.is_running())
+
+    def test_yes_ends_the_process_well(self):
+        self.ask()
+        self.window.click("Yes")
+        self.assertEqual(self.dashboard.program.exit_code(), 0)
+
+
+class ByKeys(WithSettings):
+    """Every page is worked without a pointer."""
+
+    def walk(self, start):
+        """The names on the way that the tab key leads, until it comes around."""
+        names = [start]
+        while True:
+            self.window.press("Tab")
+            name = eventually(lambda: self.window.focused_name() not in (None, names[-1])
+                              and self.window.focused_name(), f"Tab leads on from {names}")
+            if name == start:
+                return names
+            self.assertNotIn(name, names)
+            names.append(name)
+
+    def turn_to(self, page):
+        """Turns the page by the arrow keys of the menu."""
+        eventually(lambda: self.window.focused_name() in PAGES, "the menu has the focus")
+        while self.window.focused_name() != page:
+            at = self.window.focused_name()
+            step = "Down" if PAGES.index(at) < PAGES.index(page) else "Up"
+            self.window.press(step)
+            eventually(lambda: self.window.focused_name() != at, f"{step} leads on from {at}")
+        self.window.press("Return")
+        eventually(lambda: self.window.selected() == [page], f"{page} is selected")
+
+    def test_tab_leads_through_each_page(self):
+        menu = [*PAGES, "Quit Ferrin"]
+        of_page = {"General": ["Launch at login", "System",
+                               "Open System Settings battery section"],
+                   "Support": ["Ferrin FAQ", "Send Mail"], "About": ["Acknowledgements"]}
+        for page, controls in of_page.items():
+            with self.subTest(page):
+                self.turn_to(page)
+                names = self.walk(page)
+                at = menu.index(page)
+                self.assertEqual(names, menu[at:] + controls + menu[:at])
+
+    def test_the_focus_can_be_seen_wherever_it_is(self):
+        for page in ("General", "Support", "About"):
+            self.turn_to(page)
+            for name in self.walk(page):
+                with self.subTest(page=page, name=name):
+                    eventually(lambda: self.window.focused_name() == name or
+                               self.window.press("Tab"), name, 30)
+                    box = self.window.focused().box
+                    ring = type(box)(box.left - 6, box.top - 6, box.right + 6, box.bottom + 6)
+                    marked = self.session.picture()
+                    self.window.press("Tab")
+                    eventually(lambda: marked.pixels(ring)
+                               != self.session.picture().pixels(ring), "its mark has gone")
+            eventually(lambda: self.window.focused_name() in PAGES or self.window.press("Tab"),
+                       "the focus is back in the menu")
+
+    def test_the_sheet_opens_scrolls_and_closes_by_keys(self):
+        self.turn_to("About")
+        self.walk_to("Acknowledgements")
+        before = self.window.told()
+        self.window.press("Return")
+        eventually(lambda: self.window.focused_name() == "Done", "the sheet has the focus")
+        at_first = self.session.picture()
+        self.window.press("Next")
+        eventually(lambda: at_first.difference(self.session.picture()), "the texts have moved")
+        self.window.press("Escape")
+        eventually(lambda: self.window.focused_name() == "Acknowledgements", "the focus is back")
+        self.assertEqual(self.window.told(), before)
+
+    def walk_to(self, name):
+        while self.window.focused_name() != name:
+            at = self.window.focused_name()
+            self.window.press("Tab")
+            eventually(lambda: self.window.focused_name() not in (None, at), "Tab leads on")
+
+
+class ToAScreenReader(WithSettings):
+    def test_everything_has_a_name_and_a_role_and_lies_within_the_window(self):
+        for page in ("General", "Support", "About"):
+            self.window.select(page)
+            root = self.window.root()
+            for each in root.everything():
+                with self.subTest(page=page, role=each.role, name=each.name):
+                    if each.role not in ("filler", "panel"):
+                        self.assertTrue(each.name)
+                    self.assertIn("showing", each.states)
+                    self.assertTrue(root.box.left <= each.box.left
+                                    and root.box.top <= each.box.top
+                                    and each.box.right <= root.box.right
+                                    and each.box.bottom <= root.box.bottom, each)
+
+    def test_the_general_page_is_told_in_its_order(self):
+        self.window.select("General")
+        told = self.window.told()
+        expected = ["App start", "Launch at login", "Color theme", "Pick a theme", "System", "Light",
+                    "Dark", "System Settings", "Open System Settings battery section"]
+        self.assertEqual([name for name in told if name in expected], expected)
+
+    def test_the_note_is_told_as_one_text(self):
+        self.window.select("Support")
+        note = ("The data, explanation text and recommendations shown in BATTERY HEALTH section are "
+                "based entirely on information exisiting in Apple Inc. official website.\n\nYou can "
+                "find more details in the Frequently Asked Questions section in our web page.")
+        self.assertIn(note, self.window.told())
+
+    def test_it_can_press_what_can_be_pressed(self):
+        def press(name, role):
+            self.assertTrue(self.dashboard.reader.press(self.window.find(name, role)))
+        press("About", "page tab")
+        eventually(lambda: self.window.selected() == ["About"], "About is selected")
+        press("Acknowledgements", "push button")
+        self.window.find("Done", "push button")
+        press("Done", "push button")
+        eventually(lambda: "Done" not in self.window.told(), "the sheet has closed")
+        press("General", "page tab")
+        press("Launch at login", "check box")
+        self.window.becomes("Launch at login", True)
+
+
+if __name__ == "__main__":
+    main()

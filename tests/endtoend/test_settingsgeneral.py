@@ -1,0 +1,189 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""The general settings on a real session: launch at login, the theme, and the battery's own page."""
+
+import os
+
+from harness import login
+from harness.case import AT_START, WithSettings, main
+from harness.portal import Desktop
+from harness.processes import a_moment, eventually
+from harness.program import binary
+from harness.settings import CHOICE
+from harness.standins import StandIns
+
+SWITCH = "Launch at login"
+ROW = "Open System Settings battery section"
+
+
+class LaunchAtLogin(WithSettings):
+    page = "General"
+
+    def flip(self, becomes):
+        self.window.click(SWITCH)
+        self.window.becomes(SWITCH, becomes)
+
+    def starts_at_login(self):
+        """Logs in anew, and meets the item in the panel."""
+        command = login.command_at_login(self.session)
+        self.assertEqual(command, [os.path.realpath(binary())])
+        self.assertEqual(self.dashboard.program.terminate(), 0)
+        self.session.point((5, 590))
+        eventually(lambda: not self.session.windows_of(self.dashboard.program.pid),
+                   "all windows have gone")
+        a_moment()
+        before = self.session.picture()
+        program = self.start(command)
+        program.item()
+        program.says(AT_START)
+        eventually(lambda: self.session.item_box(before), "the item is on the screen")
+
+    def test_the_switch_makes_an_entry_with_which_the_next_session_starts_the_item(self):
+        self.assertIsNone(login.read_entry(self.session))
+        self.assertFalse(self.window.is_on(SWITCH))
+        self.flip(True)
+        entry = login.read_entry(self.session)
+        self.assertEqual((entry["Type"], entry["Name"], entry["Icon"]),
+                         ("Application", "Ferrin", "org.ferrin.Ferrin"))
+        self.starts_at_login()
+
+    def test_the_switch_takes_the_entry_away(self):
+        self.flip(True)
+        self.flip(False)
+        self.assertIsNone(login.command_at_login(self.session))
+
+    def changed_elsewhere(self, shows, **keys):
+        """What another program makes of the entry is seen when the window is in front again."""
+        self.session.open_another_program()
+        self.session.focus_another_program()
+        eventually(lambda: not self.window.is_in_front(), "the other program is in front")
+        login.write_entry(self.session, **keys)
+        self.window.open()
+        self.window.becomes(SWITCH, shows)
+
+    def test_an_entry_that_is_present_shows_as_on(self):
+        self.changed_elsewhere(True, Exec=binary())
+        self.flip(False)
+        self.assertIsNone(login.read_entry(self.session))
+
+    def test_an_entry_that_is_hidden_shows_as_off_and_is_brought_back(self):
+        self.changed_elsewhere(False, Exec=binary(), Hidden="true", Comment="mine")
+        self.flip(True)
+        self.assertEqual(login.read_entry(self.session)["Comment"], "mine")
+        self.starts_at_login()
+
+    def test_an_entry_that_the_desktop_disabled_shows_as_off_and_is_enabled_again(self):
+        self.flip(True)
+        self.changed_elsewhere(False, Exec=binary(), X_GNOME_Autostart_enabled="false")
+        self.assertIsNone(login.command_at_login(self.session))
+        self.flip(True)
+        self.starts_at_login()
+
+    def test_an_entry_of_another_program_shows_as_off_and_is_replaced_only_by_a_flip(self):
+        self.changed_elsewhere(False, Exec="/usr/bin/true")
+        self.assertEqual(login.command_at_login(self.session), ["/usr/bin/true"])
+        self.flip(True)
+        self.starts_at_login()
+
+    def test_a_folder_that_cannot_be_written_leaves_it_off_with_one_line_in_the_log(self):
+        self.session.write("config/autostart", "no folder")
+        self.window.click(SWITCH)
+        line = (f"Failed to enable launch at login: {os.path.dirname(login.entry_path(self.session))}"
+                ": the folder cannot be made")
+        eventually(lambda: line in self.dashboard.program.log(), "the failure is in the log")
+        a_moment()
+        self.assertFalse(self.window.is_on(SWITCH))
+        self.assertEqual(self.dashboard.program.log().count("launch at login"), 1)
+
+
+class TheTheme(WithSettings):
+    page = "General"
+
+    def prepare(self):
+        self.desktop = Desktop(self.session, "light")
+        self.addCleanup(self.desktop.close)
+
+    def looks(self):
+        """The window's ground, and the item."""
+        picture, box = self.session.picture(), self.window.box()
+        return picture.pixel(box.right - 10, box.bottom - 10), picture.pixels(self.dashboard.item_box)
+
+    def pick(self, scheme):
+        before = self.looks()
+        self.window.click(scheme, CHOICE)
+        self.window.becomes(scheme, True, CHOICE)
+        self.session.point((5, 590))
+        a_moment()
+        return before, self.looks()
+
+    def test_a_theme_is_worn_at_once_by_the_open_window_and_the_item(self):
+        light, dark = self.pick("Dark")
+        self.assertLess(sum(dark[0]), sum(light[0]))
+        self.assertNotEqual(dark[1], light[1])
+        self.assertEqual(self.pick("Light")[1], light)
+
+    def test_system_follows_the_desktop_live(self):
+        _, light = self.pick("Light")
+        _, dark = self.pick("Dark")
+        self.assertEqual(self.pick("System")[1], light)
+        self.desktop.prefers("dark")
+        eventually(lambda: self.looks() == dark, "the window and the item are dark")
+        self.desktop.prefers("light")
+        eventually(lambda: self.looks() == light, "the window and the item are light")
+        # What is forced stays.
+        self.pick("Dark")
+        self.desktop.prefers("dark")
+        self.desktop.prefers("light")
+        a_moment()
+        self.assertEqual(self.looks(), dark)
+
+    def test_the_choice_is_worn_by_the_next_start(self):
+        _, dark = self.pick("Dark")
+        self.begin_anew()
+        self.assertTrue(self.window.is_on("Dark", CHOICE))
+        self.assertEqual(self.looks(), dark)
+
+
+class TheBatterysOwnPage(WithSettings):
+    page = "General"
+    pages = {"GNOME": "gnome-control-center power",
+             "KDE": "systemsettings kcm_powerdevilprofilesconfig",
+             "XFCE": "xfce4-power-manager-settings", "MATE": "mate-power-preferences",
+             "X-Cinnamon": "cinnamon-settings power", "LXQt": "lxqt-config-powermanagement"}
+
+    def prepare(self):
+        programs = [page.split()[0] for page in self.pages.values()]
+        self.stand_ins = StandIns(self.session, *programs)
+        self.environment = self.on("GNOME")
+
+    def on(self, desktop):
+        return {"XDG_CURRENT_DESKTOP": desktop} | self.stand_ins.alone()
+
+    def test_each_desktop_opens_its_own_and_the_window_closes(self):
+        for number, (desktop, page) in enumerate(self.pages.items()):
+            with self.subTest(desktop):
+                if number:
+                    self.begin_anew(self.on(desktop))
+                self.window.click(ROW)
+                self.window.has_closed()
+                eventually(lambda: self.stand_ins.started()[number:] == [page], page)
+                self.assertTrue(self.dashboard.program.is_running())
+
+    def test_where_there_is_none_one_line_tells_and_the_window_closes(self):
+        lines = {"sway:wlroots": "Unable to open the battery settings: no power page is known for "
+                                 '"sway:wlroots"',
+                 "Unity": "Unable to open the battery settings: cannot start unity-control-center"}
+        for desktop, line in lines.items():
+            with self.subTest(desktop):
+                nowhere = os.path.join(self.session.folder, "nowhere")
+                self.begin_anew({"XDG_CURRENT_DESKTOP": desktop, "PATH": nowhere})
+                self.window.click(ROW)
+                self.window.has_closed()
+                eventually(lambda: line in self.dashboard.program.log(), line)
+                self.assertEqual(self.dashboard.program.log().count("Unable to open"), 1)
+                self.assertEqual(self.stand_ins.started(), [])
+                self.assertTrue(self.dashboard.program.is_running())
+
+
+if __name__ == "__main__":
+    main()
