@@ -28,6 +28,7 @@ FocusScope {
 
     Accessible.role: Accessible.Dialog
     Accessible.name: title
+    Accessible.ignored: !shown
 
     Keys.onEscapePressed: root.close()
     Component.onDestruction: {

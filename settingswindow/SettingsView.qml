@@ -10,6 +10,7 @@ FocusScope {
 
     implicitWidth: menu.width + divider.width + content.width
     implicitHeight: Math.max(menu.height, content.height)
+    focus: true
 
     SettingsMenuView {
         id: menu

@@ -4,8 +4,8 @@
 
 import os
 
-from harness import login
-from harness.case import AT_START, WithSettings, main
+from harness import desktop, login
+from harness.case import AT_START, OnADesktop, WithSettings, main
 from harness.portal import Desktop
 from harness.processes import a_moment, eventually
 from harness.program import binary
@@ -117,21 +117,24 @@ class TheTheme(WithSettings):
         return before, self.looks()
 
     def test_a_theme_is_worn_at_once_by_the_open_window_and_the_item(self):
-        light, dark = self.pick("Dark")
+        _, light = self.pick("Light")
+        _, dark = self.pick("Dark")
         self.assertLess(sum(dark[0]), sum(light[0]))
         self.assertNotEqual(dark[1], light[1])
         self.assertEqual(self.pick("Light")[1], light)
 
     def test_system_follows_the_desktop_live(self):
-        _, light = self.pick("Light")
+        at_first = self.looks()
         _, dark = self.pick("Dark")
-        self.assertEqual(self.pick("System")[1], light)
+        # The item then wears what its panel does, whatever windows wear.
+        self.assertEqual(self.pick("System")[1], at_first)
         self.desktop.prefers("dark")
-        eventually(lambda: self.looks() == dark, "the window and the item are dark")
+        eventually(lambda: self.looks() == (dark[0], at_first[1]), "the window is dark")
         self.desktop.prefers("light")
-        eventually(lambda: self.looks() == light, "the window and the item are light")
-        # What is forced stays.
-        self.pick("Dark")
+        eventually(lambda: self.looks() == at_first, "the window is light")
+
+    def test_a_theme_that_is_forced_stays_when_the_desktop_changes(self):
+        _, dark = self.pick("Dark")
         self.desktop.prefers("dark")
         self.desktop.prefers("light")
         a_moment()
@@ -142,6 +145,30 @@ class TheTheme(WithSettings):
         self.begin_anew()
         self.assertTrue(self.window.is_on("Dark", CHOICE))
         self.assertEqual(self.looks(), dark)
+
+
+class TheThemeWithoutAPanel(OnADesktop):
+    """The bar of its own is the desktop's, as far as colours go."""
+
+    def make_session(self):
+        return desktop.XfceScreen(panel=False)
+
+    def test_system_follows_the_desktop_live(self):
+        settings = Desktop(self.session, "light")
+        self.addCleanup(settings.close)
+        before = self.session.picture()
+        program = self.start()
+        program.says(AT_START)
+        bar = eventually(lambda: self.session.item_box(before), "the bar is on the screen")
+        eventually(lambda: self.is_light(bar), "the bar is light")
+        settings.prefers("dark")
+        eventually(lambda: not self.is_light(bar), "the bar is dark")
+        settings.prefers("light")
+        eventually(lambda: self.is_light(bar), "the bar is light again")
+
+    def is_light(self, box):
+        pixels = self.session.picture().pixels(box)
+        return sum(map(sum, pixels)) / len(pixels) > 3 * 128
 
 
 class TheBatterysOwnPage(WithSettings):
@@ -156,14 +183,14 @@ class TheBatterysOwnPage(WithSettings):
         self.stand_ins = StandIns(self.session, *programs)
         self.environment = self.on("GNOME")
 
-    def on(self, desktop):
-        return {"XDG_CURRENT_DESKTOP": desktop} | self.stand_ins.alone()
+    def on(self, name):
+        return {"XDG_CURRENT_DESKTOP": name} | self.stand_ins.alone()
 
     def test_each_desktop_opens_its_own_and_the_window_closes(self):
-        for number, (desktop, page) in enumerate(self.pages.items()):
-            with self.subTest(desktop):
+        for number, (name, page) in enumerate(self.pages.items()):
+            with self.subTest(name):
                 if number:
-                    self.begin_anew(self.on(desktop))
+                    self.begin_anew(self.on(name))
                 self.window.click(ROW)
                 self.window.has_closed()
                 eventually(lambda: self.stand_ins.started()[number:] == [page], page)
@@ -173,10 +200,10 @@ class TheBatterysOwnPage(WithSettings):
         lines = {"sway:wlroots": "Unable to open the battery settings: no power page is known for "
                                  '"sway:wlroots"',
                  "Unity": "Unable to open the battery settings: cannot start unity-control-center"}
-        for desktop, line in lines.items():
-            with self.subTest(desktop):
+        for names, line in lines.items():
+            with self.subTest(names):
                 nowhere = os.path.join(self.session.folder, "nowhere")
-                self.begin_anew({"XDG_CURRENT_DESKTOP": desktop, "PATH": nowhere})
+                self.begin_anew({"XDG_CURRENT_DESKTOP": names, "PATH": nowhere})
                 self.window.click(ROW)
                 self.window.has_closed()
                 eventually(lambda: line in self.dashboard.program.log(), line)

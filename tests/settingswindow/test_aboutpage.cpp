@@ -31,6 +31,8 @@ struct Page
     QQuickItem *openSheet()
     {
         stage.click(button);
+        // What has not been painted has not been laid out.
+        (void)stage.picture();
         return sheet();
     }
     [[nodiscard]] QQuickItem *done()
