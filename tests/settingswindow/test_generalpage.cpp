@@ -78,8 +78,8 @@ private Q_SLOTS:
 
     void registersTheLoginItemAtAClick()
     {
-        const test::LogCapture log;
         Page f;
+        const test::LogCapture log;
         QVERIFY(!f.isOn());
         f.stage.click(f.toggle());
         QCOMPARE(f.stage.loginItem.calls, QStringList { u"register"_s });
@@ -91,8 +91,8 @@ private Q_SLOTS:
 
     void registersAnewWhenTurnedOnWhileEnabled()
     {
-        const test::LogCapture log;
         Page f;
+        const test::LogCapture log;
         f.stage.loginItem.current = LoginItemStatus::enabled;
         f.stage.click(f.toggle());
         QCOMPARE(f.stage.loginItem.calls, (QStringList { u"unregister"_s, u"register"_s }));
@@ -101,8 +101,8 @@ private Q_SLOTS:
 
     void showsOffAndLogsOneLineWhenTheRegistrationIsRefused()
     {
-        test::LogCapture log;
         Page f(LoginItemStatus::requiresApproval);
+        test::LogCapture log;
         f.stage.loginItem.registerError = u"Waiting for the user\u2019s approval"_s;
         f.stage.click(f.toggle());
         QVERIFY(!f.isOn());
@@ -113,8 +113,8 @@ private Q_SLOTS:
 
     void showsOnAndLogsOneLineWhenTheItemWouldNotGo()
     {
-        test::LogCapture log;
         Page f(LoginItemStatus::enabled);
+        test::LogCapture log;
         f.stage.loginItem.unregisterError = u"Read-only file system"_s;
         f.stage.click(f.toggle());
         QVERIFY(f.isOn());
@@ -193,8 +193,8 @@ private Q_SLOTS:
 
     void isWorkedByTheKeyboardAlone()
     {
-        const test::LogCapture log;
         Page f;
+        const test::LogCapture log;
         QVERIFY(f.activate());
         QTest::keyClick(&f.stage.window, Qt::Key_Tab);
         QVERIFY(f.toggle()->hasActiveFocus());
