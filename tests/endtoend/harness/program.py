@@ -2,6 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """The program under test, run as a user would run it, on the virtual laptop."""
 
+import base64
 import json
 import os
 import re
@@ -102,6 +103,17 @@ def store_path(session):
 def store_settings(session, **settings):
     """Puts settings into the store before the program starts."""
     session.write(os.path.relpath(store_path(session), session.folder), json.dumps(settings))
+
+
+def stored_settings(session):
+    """The settings that the store holds now, by their keys."""
+    with open(store_path(session), encoding="utf-8") as file:
+        return json.load(file)
+
+
+def icon_entry(name):
+    """An icon as it lies in the store: encoded, which makes data of it."""
+    return {"data": base64.b64encode(json.dumps(name).encode()).decode()}
 
 
 def _reachable(session):
