@@ -7,6 +7,7 @@
 #include "settingswindow/settings.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QScreen>
 
 FERRIN_USE_QML_TYPES(Ferrin_Settings)
@@ -32,6 +33,11 @@ SettingsWindow::SettingsWindow(QQmlEngine &engine)
     QRect frame(QPoint(), size());
     frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
     setPosition(frame.topLeft());
+    // The lists of windows can wait for it, and the first frame does not have to.
+    connect(
+        this, &QQuickWindow::frameSwapped, this,
+        [this] { setIcon(QIcon(QStringLiteral(":/icons/org.ferrin.Ferrin.svg"))); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void SettingsWindow::open()

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void opensNothingByAnotherIdentifier();
     void letsNobodyResizeTheSettings();
     void placesTheSettingsInTheMiddleOfTheScreen();
+    void showsTheProgramsIconInTheListsOfWindows();
     void dropsTheDashboardWhenItCloses();
     void closesTheDashboardByEscape();
     void knowsTheWindowsOfTheDashboard();
@@ -106,6 +107,13 @@ void TestWindows::placesTheSettingsInTheMiddleOfTheScreen()
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
     QCOMPARE(window->geometry().center(),
              QGuiApplication::primaryScreen()->availableGeometry().center());
+}
+
+void TestWindows::showsTheProgramsIconInTheListsOfWindows()
+{
+    m_windows->openWindow(u"FerrinSettings"_s);
+    const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
+    QTRY_VERIFY(!window->icon().pixmap(32).isNull());
 }
 
 void TestWindows::dropsTheDashboardWhenItCloses()
