@@ -20,7 +20,7 @@ Overlay {
     SoftShadow {
         anchors.fill: ground
         radius: ground.radius
-        reach: 18
+        reach: 22
     }
 
     Rectangle {

@@ -15,6 +15,11 @@ Item {
     // How far below the rectangle it lies.
     property real drop: 1
 
+    // Of the whole shadow, what one of its layers makes: the less, the farther it reaches.
+    function shareOf(layer: int): real {
+        return 2 * (reach - layer) / (reach * (reach + 1));
+    }
+
     Repeater {
         model: root.reach
 
@@ -30,7 +35,7 @@ Item {
             }
             radius: root.radius + index
             color: "black"
-            opacity: 1 - Math.pow(1 - root.strength, 1 / root.reach)
+            opacity: 1 - Math.pow(1 - root.strength, root.shareOf(index))
         }
         // qmllint enable unqualified
     }
