@@ -23,7 +23,7 @@ constexpr std::chrono::milliseconds patience { 1000 };
 
 // A write that failed is repeated after this, and each time after twice as long as before.
 constexpr std::chrono::milliseconds firstRepetition { 1000 };
-constexpr std::chrono::milliseconds rarestRepetition { 64'000 };
+constexpr std::chrono::milliseconds rarestRepetition { 16'000 };
 
 // To QVariant alone, true and 1 are equal.
 bool differ(const QVariant &a, const QVariant &b)
