@@ -3,6 +3,7 @@
 
 #include "menubar/itemform.h"
 
+#include "menubar/fillview.h"
 #include "menubar/squareitemview.h"
 #include "menubar/stackviews.h"
 #include "menubar/textview.h"
@@ -74,6 +75,21 @@ bool isSquare(ItemForm form)
     return form == ItemForm::Square || form == ItemForm::Glyph;
 }
 
+/// What the chip needs around the content, in logical pixels: at the ends of a row a little air, in
+/// a square no more than its round corners take, on whole device pixels.
+QMarginsF chipMargins(ItemForm form, int height, qreal scale)
+{
+    const qreal inset = std::max(1.0, std::round(height * scale * 1.5 / 22)) / scale;
+    return isSquare(form) ? QMarginsF(inset, inset, inset, inset)
+                          : QMarginsF(height * 0.25, 0, height * 0.25, 0);
+}
+
+void paintChip(QPainter &painter, const QRectF &bounds, const QColor &colour)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(smoothlyRoundedRect(bounds, bounds.height() * 0.18), colour);
+}
+
 Form formOf(ItemForm form, const ItemContent &content, int height, const ViewContext &context)
 {
     switch (form) {
@@ -94,20 +110,29 @@ Form formOf(ItemForm form, const ItemContent &content, int height, const ViewCon
 QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal scale,
                  const ViewContext &context)
 {
-    const Form picture = formOf(form, content, height, context);
+    Form picture = formOf(form, content, height, context);
+    const bool hasChip = context.chip && (form != ItemForm::Glyph || content.icon);
+    if (hasChip) {
+        const QMarginsF margins = chipMargins(form, height, scale);
+        picture.view = PaddedView { .content = picture.view, .margins = margins / picture.zoom };
+        picture.width += isSquare(form) ? 0 : margins.left() + margins.right();
+    }
     const qreal deviceScale = scale * picture.zoom;
     // Where logical pixels are no whole ones, a glyph may move by half a pixel to stand on the
     // grid.
     const int slack = isSquare(form) || std::floor(deviceScale) == deviceScale ? 0 : 1;
-    const QSize pixels(std::max(1, int(std::ceil(picture.width * scale))),
+    // Whole logical pixels: a host that halves a large picture then halves it exactly.
+    const QSize pixels(std::max(1, int(std::ceil(std::ceil(picture.width) * scale))),
                        std::max(1, int(std::lround(height * scale))));
     QImage image(pixels + QSize(slack, 0), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
 
     QPainter painter(&image);
     painter.scale(deviceScale, deviceScale);
-    const QSizeF bounds = QSizeF(pixels) / deviceScale;
-    picture.view.paint(painter, QRectF(QPointF(), bounds), context);
+    const QRectF bounds(QPointF(), QSizeF(pixels) / deviceScale);
+    if (hasChip)
+        paintChip(painter, bounds, *context.chip);
+    picture.view.paint(painter, bounds, context);
     painter.end();
     return image.convertToFormat(QImage::Format_ARGB32);
 }

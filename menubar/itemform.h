@@ -25,7 +25,8 @@ enum class ItemForm {
 
 /// One picture of the content: `height` logical pixels high (squares as wide as high, the others as
 /// wide as their content needs), `scale` device pixels a logical one, straight alpha
-/// (Format_ARGB32), device pixel ratio 1 on the image itself.
+/// (Format_ARGB32), device pixel ratio 1 on the image itself. With a chip in the context it stands
+/// on one, which fills the picture.
 [[nodiscard]] QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal scale,
                                const ViewContext &context);
 

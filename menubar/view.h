@@ -10,6 +10,7 @@
 
 #include <concepts>
 #include <memory>
+#include <optional>
 #include <utility>
 
 class QPainter;
@@ -25,6 +26,9 @@ struct ViewContext
     QColor red;
     /// The desktop's interface font.
     QString fontFamily;
+    /// The ground that the whole item brings along, where the bar's colour cannot be known; views
+    /// themselves take no notice.
+    std::optional<QColor> chip = {};
 
     bool operator==(const ViewContext &) const = default;
 };
