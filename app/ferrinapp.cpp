@@ -46,6 +46,7 @@ void FerrinApp::useStatusBar(StatusBar &bar)
 void FerrinApp::takeStatusItem(StatusItem &item)
 {
     AppColorSchemeProvider().apply(m_appColor.scheme());
+    connect(&item, &StatusItem::settingsRequested, this, &FerrinApp::openSettings);
     m_parts.fillStatusItem(item);
 }
 

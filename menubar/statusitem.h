@@ -56,6 +56,8 @@ public:
 Q_SIGNALS:
     /// The primary click, or what the platform has for it.
     void activated();
+    /// The host's own menu of the item leads to the settings.
+    void settingsRequested();
     void menuEntryTriggered(const QString &id);
 };
 

@@ -3,6 +3,8 @@
 
 #include "platform/linux/statusarea/busobject.h"
 
+#include "platform/linux/statusarea/hostresolver.h"
+
 #include <QDBusError>
 #include <QDBusVariant>
 #include <QFile>
@@ -17,10 +19,11 @@ constexpr auto propertiesInterface = "org.freedesktop.DBus.Properties"_L1;
 
 } // namespace
 
-BusObject::BusObject(const QDBusConnection &connection, const QString &path,
+BusObject::BusObject(const QDBusConnection &connection, HostResolver &resolver, const QString &path,
                      const QString &interface, QObject *parent)
     : QDBusVirtualObject(parent)
     , m_connection(connection)
+    , m_resolver(resolver)
     , m_path(path)
     , m_interface(interface)
 {
@@ -49,10 +52,15 @@ bool BusObject::handleMessage(const QDBusMessage &message, const QDBusConnection
         return handleProperties(message);
     if (!message.interface().isEmpty() && message.interface() != m_interface)
         return false;
-    const std::optional<QVariantList> result = call(message);
-    if (result)
-        answer(message, message.createReply(*result));
-    return result.has_value();
+    m_resolver.resolve(message.service(), [this, message](const HostProfile &profile) {
+        const std::optional<QVariantList> result = call(message, profile);
+        answer(message,
+               result ? message.createReply(*result)
+                      : message.createErrorReply(QDBusError::UnknownMethod,
+                                                 u"No such method with such arguments: "_s
+                                                     + message.member()));
+    });
+    return true;
 }
 
 void BusObject::answer(const QDBusMessage &message, const QDBusMessage &reply)

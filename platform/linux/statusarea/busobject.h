@@ -14,6 +14,9 @@
 
 namespace ferrin {
 
+class HostResolver;
+struct HostProfile;
+
 /// One interface at one path of the bus whose answers depend on who asks. The calls of
 /// org.freedesktop.DBus.Properties are taken apart here; an unknown or malformed call gets the
 /// error that the bus has for it. The interface's description is the XML of its name beside this
@@ -23,9 +26,9 @@ class BusObject : public QDBusVirtualObject
     Q_OBJECT
 
 public:
-    /// Exports itself at the path for as long as it lives.
-    BusObject(const QDBusConnection &connection, const QString &path, const QString &interface,
-              QObject *parent);
+    /// Exports itself at the path for as long as it lives. The resolver outlives it.
+    BusObject(const QDBusConnection &connection, HostResolver &resolver, const QString &path,
+              const QString &interface, QObject *parent);
     ~BusObject() override;
 
     [[nodiscard]] QString introspect(const QString &path) const final;
@@ -41,8 +44,13 @@ protected:
         = 0;
     /// The names of all properties, whether or not every caller is given them.
     [[nodiscard]] virtual QStringList propertyNames() const = 0;
-    /// Answers a call of the interface. Absent: there is no such method with such arguments.
-    [[nodiscard]] virtual std::optional<QVariantList> call(const QDBusMessage &message) = 0;
+    /// Answers a call of the interface by such a host. Absent: there is no such method with such
+    /// arguments.
+    [[nodiscard]] virtual std::optional<QVariantList> call(const QDBusMessage &message,
+                                                           const HostProfile &profile)
+        = 0;
+
+    [[nodiscard]] HostResolver &resolver() const noexcept { return m_resolver; }
 
     void sendSignal(const QString &name, const QVariantList &arguments = {});
     void sendSignalTo(const QString &receiver, const QString &name, const QVariantList &arguments);
@@ -54,6 +62,7 @@ private:
     void getAllProperties(const QDBusMessage &message);
 
     QDBusConnection m_connection;
+    HostResolver &m_resolver;
     QString m_path;
     QString m_interface;
 };

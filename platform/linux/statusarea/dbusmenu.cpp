@@ -4,10 +4,10 @@
 #include "platform/linux/statusarea/dbusmenu.h"
 
 #include "platform/linux/statusarea/dbusmenutypes.h"
+#include "platform/linux/statusarea/hosttable.h"
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +15,12 @@ using namespace Qt::StringLiterals;
 namespace ferrin {
 
 namespace {
+
+// Far above the numbers of the entries.
+constexpr int stateNumber = 1001;
+constexpr int openNumber = 1002;
+constexpr int settingsNumber = 1003;
+constexpr int separatorNumber = 1004;
 
 // An underscore would mark the next letter as the entry's key.
 QString withoutMnemonics(QString title)
@@ -34,10 +40,31 @@ QVariantMap named(const QVariantMap &properties, const QStringList &names)
     return result;
 }
 
+QVariantMap labelled(const QString &title, bool isEnabled = true)
+{
+    return { { u"label"_s, withoutMnemonics(title) },
+             { u"enabled"_s, isEnabled },
+             { u"visible"_s, true } };
+}
+
+bool has(const QList<int> &all, int number)
+{
+    return number == 0 || all.contains(number);
+}
+
+QList<int> unknownAmong(const QList<int> &all, const QList<int> &numbers)
+{
+    QList<int> unknown;
+    std::copy_if(numbers.begin(), numbers.end(), std::back_inserter(unknown),
+                 [&all](int number) { return !has(all, number); });
+    return unknown;
+}
+
 } // namespace
 
-DBusMenu::DBusMenu(const QDBusConnection &connection, QObject *parent)
-    : BusObject(connection, QString::fromLatin1(path), u"com.canonical.dbusmenu"_s, parent)
+DBusMenu::DBusMenu(const QDBusConnection &connection, HostResolver &resolver, QObject *parent)
+    : BusObject(connection, resolver, QString::fromLatin1(path), u"com.canonical.dbusmenu"_s,
+                parent)
 {
     registerDBusMenuTypes();
 }
@@ -49,6 +76,14 @@ void DBusMenu::setEntries(const std::vector<MenuEntry> &entries)
     m_entries = entries;
     ++m_revision;
     sendSignal(u"LayoutUpdated"_s, { m_revision, 0 });
+}
+
+void DBusMenu::setState(const QString &words)
+{
+    if (std::exchange(m_state, words) == words)
+        return;
+    ++m_revision;
+    m_isStateNew = true;
 }
 
 void DBusMenu::readProperties(const QString &, std::function<void(const Properties &)> read)
@@ -65,113 +100,148 @@ QStringList DBusMenu::propertyNames() const
     return { u"Version"_s, u"TextDirection"_s, u"Status"_s, u"IconThemePath"_s };
 }
 
-bool DBusMenu::has(int number) const
+QList<int> DBusMenu::numbersFor(const HostProfile &profile) const
 {
-    return number >= 0 && std::cmp_less_equal(number, m_entries.size());
+    QList<int> numbers;
+    if (profile.clickOpensMenu)
+        numbers = { stateNumber, openNumber, settingsNumber, separatorNumber };
+    for (int number = 1; std::cmp_less_equal(number, m_entries.size()); ++number)
+        numbers.append(number);
+    return numbers;
 }
 
 QVariantMap DBusMenu::entryProperties(int number, const QStringList &names) const
 {
-    if (number == 0)
+    switch (number) {
+    case 0:
         return named({ { u"children-display"_s, u"submenu"_s } }, names);
-    const MenuEntry &entry = m_entries.at(size_t(number) - 1);
-    return named({ { u"label"_s, withoutMnemonics(entry.title) },
-                   { u"enabled"_s, true },
-                   { u"visible"_s, true } },
-                 names);
+    case stateNumber:
+        return named(labelled(m_state, false), names);
+    case openNumber:
+        return named(labelled(u"Open Ferrin"_s), names);
+    case settingsNumber:
+        return named(labelled(u"Settings"_s), names);
+    case separatorNumber:
+        return named({ { u"type"_s, u"separator"_s }, { u"visible"_s, true } }, names);
+    }
+    return named(labelled(m_entries.at(size_t(number) - 1).title), names);
 }
 
-std::optional<QVariantList> DBusMenu::layout(int parent, int depth, const QStringList &names) const
+std::optional<QVariantList> DBusMenu::layout(const QList<int> &all, int parent, int depth,
+                                             const QStringList &names) const
 {
-    if (!has(parent))
+    if (!has(all, parent))
         return {};
     DBusMenuLayout result { .number = parent, .properties = entryProperties(parent, names) };
-    for (int number = 1; parent == 0 && depth != 0 && has(number); ++number) {
-        const DBusMenuLayout child { .number = number,
-                                     .properties = entryProperties(number, names) };
-        result.children.append(QVariant::fromValue(child));
+    if (parent == 0 && depth != 0) {
+        for (const int number : all) {
+            const DBusMenuLayout child { .number = number,
+                                         .properties = entryProperties(number, names) };
+            result.children.append(QVariant::fromValue(child));
+        }
     }
     return QVariantList { m_revision, QVariant::fromValue(result) };
 }
 
-QVariantList DBusMenu::groupProperties(QList<int> numbers, const QStringList &names) const
+QVariantList DBusMenu::groupProperties(const QList<int> &all, QList<int> numbers,
+                                       const QStringList &names) const
 {
-    if (numbers.isEmpty()) {
-        numbers.resize(qsizetype(m_entries.size()) + 1);
-        std::iota(numbers.begin(), numbers.end(), 0);
-    }
+    if (numbers.isEmpty())
+        numbers = QList<int> { 0 } + all;
     QList<DBusMenuProperties> result;
     for (const int number : std::as_const(numbers)) {
-        if (has(number))
+        if (has(all, number))
             result.append({ number, entryProperties(number, names) });
     }
     return { QVariant::fromValue(result) };
 }
 
-std::optional<QVariantList> DBusMenu::entryProperty(int number, const QString &name) const
+std::optional<QVariantList> DBusMenu::entryProperty(const QList<int> &all, int number,
+                                                    const QString &name) const
 {
-    const QVariant value = has(number) ? entryProperties(number, {}).value(name) : QVariant();
+    const QVariant value = has(all, number) ? entryProperties(number, {}).value(name) : QVariant();
     if (!value.isValid())
         return {};
     return QVariantList { QVariant::fromValue(QDBusVariant(value)) };
 }
 
-QList<int> DBusMenu::unknownAmong(const QList<int> &numbers) const
+void DBusMenu::trigger(int number)
 {
-    QList<int> unknown;
-    std::copy_if(numbers.begin(), numbers.end(), std::back_inserter(unknown),
-                 [this](int number) { return !has(number); });
-    return unknown;
+    switch (number) {
+    case openNumber:
+        Q_EMIT openRequested();
+        break;
+    case settingsNumber:
+        Q_EMIT settingsRequested();
+        break;
+    default:
+        if (number > 0 && std::cmp_less_equal(number, m_entries.size()))
+            Q_EMIT triggered(m_entries.at(size_t(number) - 1).id);
+    }
 }
 
-bool DBusMenu::takeEvent(int number, const QString &event)
+bool DBusMenu::takeEvent(const QList<int> &all, int number, const QString &event)
 {
-    if (!has(number))
+    if (!has(all, number))
         return false;
-    if (number > 0 && event == u"clicked") {
-        const QString id = m_entries.at(size_t(number) - 1).id;
+    if (event == u"clicked") {
         // The entry may end the program; the caller gets its answer first.
         QMetaObject::invokeMethod(
-            this, [this, id] { Q_EMIT triggered(id); }, Qt::QueuedConnection);
+            this, [this, number] { trigger(number); }, Qt::QueuedConnection);
     }
     return true;
 }
 
-QVariantList DBusMenu::takeEvents(const QVariant &events)
+QVariantList DBusMenu::takeEvents(const QList<int> &all, const QVariant &events)
 {
     QList<int> unknown;
-    const auto all = qdbus_cast<QList<DBusMenuEvent>>(events);
-    for (const DBusMenuEvent &event : all) {
-        if (!takeEvent(event.number, event.event))
+    const auto list = qdbus_cast<QList<DBusMenuEvent>>(events);
+    for (const DBusMenuEvent &event : list) {
+        if (!takeEvent(all, event.number, event.event))
             unknown.append(event.number);
     }
     return { QVariant::fromValue(unknown) };
 }
 
-std::optional<QVariantList> DBusMenu::call(const QDBusMessage &message)
+void DBusMenu::tellState(const QString &caller, const HostProfile &profile)
+{
+    if (!profile.clickOpensMenu || !std::exchange(m_isStateNew, false))
+        return;
+    const QList<DBusMenuProperties> changed { { stateNumber,
+                                                entryProperties(stateNumber, { u"label"_s }) } };
+    sendSignalTo(caller, u"ItemsPropertiesUpdated"_s,
+                 { QVariant::fromValue(changed), QVariant::fromValue(QList<DBusMenuRemovals>()) });
+}
+
+std::optional<QVariantList> DBusMenu::call(const QDBusMessage &message, const HostProfile &profile)
 {
     const QString method = message.member() + u'(' + message.signature() + u')';
     const QVariantList arguments = message.arguments();
+    const QList<int> all = numbersFor(profile);
+    const auto optionally = [](bool exists, const QVariantList &answer) {
+        return exists ? std::optional(answer) : std::nullopt;
+    };
     if (method == u"GetLayout(iias)")
-        return layout(arguments.at(0).toInt(), arguments.at(1).toInt(),
+        return layout(all, arguments.at(0).toInt(), arguments.at(1).toInt(),
                       arguments.at(2).toStringList());
     if (method == u"GetGroupProperties(aias)")
-        return groupProperties(qdbus_cast<QList<int>>(arguments.at(0)),
+        return groupProperties(all, qdbus_cast<QList<int>>(arguments.at(0)),
                                arguments.at(1).toStringList());
     if (method == u"GetProperty(is)")
-        return entryProperty(arguments.at(0).toInt(), arguments.at(1).toString());
+        return entryProperty(all, arguments.at(0).toInt(), arguments.at(1).toString());
     if (method == u"Event(isvu)")
-        return takeEvent(arguments.at(0).toInt(), arguments.at(1).toString())
-            ? std::optional(QVariantList {})
-            : std::nullopt;
+        return optionally(takeEvent(all, arguments.at(0).toInt(), arguments.at(1).toString()), {});
     if (method == u"EventGroup(a(isvu))")
-        return takeEvents(arguments.at(0));
-    if (method == u"AboutToShow(i)")
-        return has(arguments.at(0).toInt()) ? std::optional(QVariantList { false }) : std::nullopt;
-    if (method == u"AboutToShowGroup(ai)")
-        return QVariantList { QVariant::fromValue(QList<int>()),
-                              QVariant::fromValue(
-                                  unknownAmong(qdbus_cast<QList<int>>(arguments.at(0)))) };
+        return takeEvents(all, arguments.at(0));
+    if (method == u"AboutToShow(i)") {
+        tellState(message.service(), profile);
+        return optionally(has(all, arguments.at(0).toInt()), { false });
+    }
+    if (method == u"AboutToShowGroup(ai)") {
+        tellState(message.service(), profile);
+        const QList<int> unknown = unknownAmong(all, qdbus_cast<QList<int>>(arguments.at(0)));
+        return QVariantList { QVariant::fromValue(QList<int>()), QVariant::fromValue(unknown) };
+    }
     return {};
 }
 

@@ -12,6 +12,8 @@ void registerDBusMenuTypes()
     qDBusRegisterMetaType<DBusMenuLayout>();
     qDBusRegisterMetaType<DBusMenuProperties>();
     qDBusRegisterMetaType<QList<DBusMenuProperties>>();
+    qDBusRegisterMetaType<DBusMenuRemovals>();
+    qDBusRegisterMetaType<QList<DBusMenuRemovals>>();
     qDBusRegisterMetaType<DBusMenuEvent>();
     qDBusRegisterMetaType<QList<DBusMenuEvent>>();
     qDBusRegisterMetaType<QList<int>>();
@@ -45,6 +47,22 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuPropertie
 {
     argument.beginStructure();
     argument >> properties.number >> properties.properties;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuRemovals &removals)
+{
+    argument.beginStructure();
+    argument << removals.number << removals.names;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuRemovals &removals)
+{
+    argument.beginStructure();
+    argument >> removals.number >> removals.names;
     argument.endStructure();
     return argument;
 }

@@ -26,6 +26,13 @@ struct DBusMenuProperties
     QVariantMap properties {};
 };
 
+/// Names of properties that an entry no longer has, D-Bus signature (ias).
+struct DBusMenuRemovals
+{
+    int number = 0;
+    QStringList names {};
+};
+
 /// Something that happened to an entry, D-Bus signature (isvu).
 struct DBusMenuEvent
 {
@@ -42,6 +49,8 @@ QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuLayout &layout)
 const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuLayout &layout);
 QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuProperties &properties);
 const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuProperties &properties);
+QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuRemovals &removals);
+const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuRemovals &removals);
 QDBusArgument &operator<<(QDBusArgument &argument, const DBusMenuEvent &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &event);
 
@@ -49,4 +58,5 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, DBusMenuEvent &ev
 
 Q_DECLARE_METATYPE(ferrin::DBusMenuLayout)
 Q_DECLARE_METATYPE(ferrin::DBusMenuProperties)
+Q_DECLARE_METATYPE(ferrin::DBusMenuRemovals)
 Q_DECLARE_METATYPE(ferrin::DBusMenuEvent)

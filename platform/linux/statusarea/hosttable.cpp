@@ -77,7 +77,8 @@ const std::array profiles {
                   .pictures = gnomePictures,
                   .scale = ScalePolicy::DesktopOnly,
                   .text = PanelText::Light,
-                  .label = true },
+                  .label = true,
+                  .clickOpensMenu = true },
 };
 
 // The kernel cuts the name of a process.

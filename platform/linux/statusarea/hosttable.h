@@ -47,6 +47,8 @@ struct HostProfile
     bool label = false;
     /// The host takes the pixels for premultiplied ones.
     bool premultiplied = false;
+    /// A click opens the item's menu, whatever the item says.
+    bool clickOpensMenu = false;
     /// The host's click coordinates are places on the screen.
     bool trustedClicks = false;
 };

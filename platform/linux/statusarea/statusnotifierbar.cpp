@@ -51,13 +51,15 @@ StatusNotifierStatusItem::StatusNotifierStatusItem(const QDBusConnection &connec
     : StatusItem(parent)
     , m_colours(colours)
     , m_item(connection, resolver, colours)
-    , m_menu(connection)
+    , m_menu(connection, resolver)
 {
     connect(&m_item, &StatusNotifierItem::activateRequested, this,
             &StatusNotifierStatusItem::activateAt);
     connect(&m_item, &StatusNotifierItem::contextMenuRequested, this,
             &StatusNotifierStatusItem::popUpMenu);
     connect(&m_menu, &DBusMenu::triggered, this, &StatusItem::menuEntryTriggered);
+    connect(&m_menu, &DBusMenu::openRequested, this, [this] { activateAt(QPoint()); });
+    connect(&m_menu, &DBusMenu::settingsRequested, this, &StatusItem::settingsRequested);
 }
 
 StatusNotifierStatusItem::~StatusNotifierStatusItem() = default;
@@ -79,7 +81,9 @@ void StatusNotifierStatusItem::addContentView(std::unique_ptr<ItemHostingView> v
 
 void StatusNotifierStatusItem::showContent()
 {
-    m_item.setContent(m_view->content());
+    const ItemContent content = m_view->content();
+    m_item.setContent(content);
+    m_menu.setState(sentenceFor(content));
 }
 
 void StatusNotifierStatusItem::activateAt(QPoint told)

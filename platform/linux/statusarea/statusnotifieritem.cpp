@@ -44,8 +44,8 @@ void keepActivationToken(const QString &token)
 
 StatusNotifierItem::StatusNotifierItem(const QDBusConnection &connection, HostResolver &resolver,
                                        const PanelColours &colours, QObject *parent)
-    : BusObject(connection, QString::fromLatin1(path), u"org.kde.StatusNotifierItem"_s, parent)
-    , m_resolver(resolver)
+    : BusObject(connection, resolver, QString::fromLatin1(path), u"org.kde.StatusNotifierItem"_s,
+                parent)
     , m_colours(colours)
 {
     registerStatusNotifierTypes();
@@ -53,7 +53,7 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection &connection, HostRe
     m_news.setSingleShot(true);
     m_news.setInterval(0);
     connect(&m_news, &QTimer::timeout, this, &StatusNotifierItem::sendNews);
-    connect(&m_resolver, &HostResolver::left, this, &StatusNotifierItem::forget);
+    connect(&resolver, &HostResolver::left, this, &StatusNotifierItem::forget);
     connect(&m_colours, &PanelColours::changed, this, &StatusNotifierItem::scheduleNews);
 }
 
@@ -139,7 +139,7 @@ void StatusNotifierItem::forget(const QString &caller)
 void StatusNotifierItem::readProperties(const QString &caller,
                                         std::function<void(const Properties &)> read)
 {
-    m_resolver.resolve(caller, [this, caller, read](const HostProfile &profile) {
+    resolver().resolve(caller, [this, caller, read](const HostProfile &profile) {
         // The others must hear of what this one is about to see.
         if (m_news.isActive())
             sendNews();
@@ -186,15 +186,21 @@ QVariant StatusNotifierItem::property(const QString &name, const QString &caller
     return name == u"XAyatanaLabel" ? m_seen[&profile].label : labelGuide;
 }
 
-std::optional<QVariantList> StatusNotifierItem::call(const QDBusMessage &message)
+std::optional<QVariantList> StatusNotifierItem::call(const QDBusMessage &message,
+                                                     const HostProfile &profile)
 {
+    const auto placeTold = [&] {
+        const QVariantList arguments = message.arguments();
+        return profile.trustedClicks ? QPoint(arguments.at(0).toInt(), arguments.at(1).toInt())
+                                     : QPoint();
+    };
     const QString method = message.member() + u'(' + message.signature() + u')';
     if (method == u"Activate(ii)") {
-        requestAt(message, &StatusNotifierItem::activateRequested);
+        Q_EMIT activateRequested(placeTold());
         return QVariantList {};
     }
     if (method == u"ContextMenu(ii)") {
-        requestAt(message, &StatusNotifierItem::contextMenuRequested);
+        Q_EMIT contextMenuRequested(placeTold());
         return QVariantList {};
     }
     if (method == u"ProvideXdgActivationToken(s)") {
@@ -205,15 +211,6 @@ std::optional<QVariantList> StatusNotifierItem::call(const QDBusMessage &message
     if (method == u"SecondaryActivate(ii)" || method == u"Scroll(is)")
         return QVariantList {};
     return {};
-}
-
-void StatusNotifierItem::requestAt(const QDBusMessage &message,
-                                   void (StatusNotifierItem::*request)(QPoint))
-{
-    const QPoint told(message.arguments().at(0).toInt(), message.arguments().at(1).toInt());
-    m_resolver.resolve(message.service(), [this, told, request](const HostProfile &profile) {
-        Q_EMIT(this->*request)(profile.trustedClicks ? told : QPoint());
-    });
 }
 
 } // namespace ferrin

@@ -13,7 +13,6 @@
 
 namespace ferrin {
 
-class HostResolver;
 class PanelColours;
 
 /// The item on the bus, org.kde.StatusNotifierItem at /StatusNotifierItem. Answers each caller in
@@ -42,7 +41,8 @@ protected:
     void readProperties(const QString &caller,
                         std::function<void(const Properties &)> read) override;
     [[nodiscard]] QStringList propertyNames() const override;
-    [[nodiscard]] std::optional<QVariantList> call(const QDBusMessage &message) override;
+    [[nodiscard]] std::optional<QVariantList> call(const QDBusMessage &message,
+                                                   const HostProfile &profile) override;
 
 private:
     /// What the hosts of a profile have seen of the item.
@@ -63,9 +63,7 @@ private:
     void forget(const QString &caller);
     void scheduleNews();
     void sendNews();
-    void requestAt(const QDBusMessage &message, void (StatusNotifierItem::*request)(QPoint));
 
-    HostResolver &m_resolver;
     const PanelColours &m_colours;
     ItemContent m_content;
     ItemPictures m_pictures;

@@ -3,6 +3,7 @@
 
 #include "platform/linux/statusarea/dbusmenu.h"
 #include "platform/linux/statusarea/dbusmenutypes.h"
+#include "platform/linux/statusarea/hostresolver.h"
 #include "tests/platform/statusarea/buspeer.h"
 #include "tests/support/privatebus.h"
 
@@ -45,16 +46,24 @@ private Q_SLOTS:
     void triggersEntriesOfAGroupAndNamesTheUnknown();
     void hasNothingToUpdateBeforeItShows();
     void tellsOfANewLayoutOnlyWhenThereIsOne();
+    void answersInWordsWhereAClickOpensIt();
+    void leadsToTheWindowsWhereAClickOpensIt();
+    void keepsItsOneEntryElsewhere();
+    void tellsOfNewWordsWhenItIsAboutToShowThem();
     void saysWhatVersionItSpeaks();
     void survivesMalformedCalls_data();
     void survivesMalformedCalls();
 
 private:
     QDBusMessage ask(const QString &method, const QVariantList &arguments);
+    QList<DBusMenuLayout> childrenOf(int parent);
     DBusMenuLayout layoutOf(int parent, int depth, const QStringList &names = {});
 
     std::unique_ptr<PrivateBus> m_bus;
     QString m_service;
+    /// What the processes of all hosts are called.
+    QString m_process;
+    std::unique_ptr<HostResolver> m_resolver;
     std::unique_ptr<DBusMenu> m_menu;
     std::unique_ptr<BusPeer> m_host;
 };
@@ -64,7 +73,9 @@ void DBusMenuTest::init()
     m_bus = std::make_unique<PrivateBus>();
     const QDBusConnection connection = m_bus->connect();
     m_service = connection.baseService();
-    m_menu = std::make_unique<DBusMenu>(connection);
+    m_process = u"plasmashell"_s;
+    m_resolver = std::make_unique<HostResolver>(connection, [this](uint) { return m_process; });
+    m_menu = std::make_unique<DBusMenu>(connection, *m_resolver);
     m_menu->setEntries(quitOnly);
     m_host = std::make_unique<BusPeer>(m_bus->connect());
 }
@@ -73,6 +84,7 @@ void DBusMenuTest::cleanup()
 {
     m_host.reset();
     m_menu.reset();
+    m_resolver.reset();
     m_bus.reset();
 }
 
@@ -87,6 +99,14 @@ DBusMenuLayout DBusMenuTest::layoutOf(int parent, int depth, const QStringList &
     if (reply.signature() != u"u(ia{sv}av)")
         return { .number = -1 };
     return qdbus_cast<DBusMenuLayout>(reply.arguments().at(1));
+}
+
+QList<DBusMenuLayout> DBusMenuTest::childrenOf(int parent)
+{
+    QList<DBusMenuLayout> children;
+    for (const QVariant &child : layoutOf(parent, -1).children)
+        children.append(qdbus_cast<DBusMenuLayout>(child));
+    return children;
 }
 
 void DBusMenuTest::laysItsEntriesOutUnderTheRoot()
@@ -200,6 +220,76 @@ void DBusMenuTest::tellsOfANewLayoutOnlyWhenThereIsOne()
     settle(*m_host);
     QCOMPARE(m_host->takeSignals(), QStringList { u"LayoutUpdated"_s });
     QCOMPARE(m_host->lastArguments(), (QVariantList { 3U, 0 }));
+}
+
+void DBusMenuTest::answersInWordsWhereAClickOpensIt()
+{
+    m_process = u"gnome-shell"_s;
+    m_menu->setState(u"37%, 4:29 to empty"_s);
+    QStringList labels;
+    for (const DBusMenuLayout &entry : childrenOf(0))
+        labels.append(
+            entry.properties.value(u"label"_s, entry.properties.value(u"type"_s)).toString());
+    QCOMPARE(labels,
+             (QStringList { u"37%, 4:29 to empty"_s, u"Open Ferrin"_s, u"Settings"_s,
+                            u"separator"_s, u"Quit Ferrin"_s }));
+    QCOMPARE(childrenOf(0).constFirst().properties.value(u"enabled"_s), QVariant(false));
+}
+
+void DBusMenuTest::leadsToTheWindowsWhereAClickOpensIt()
+{
+    m_process = u"gnome-shell"_s;
+    QSignalSpy opened(m_menu.get(), &DBusMenu::openRequested);
+    QSignalSpy settings(m_menu.get(), &DBusMenu::settingsRequested);
+    QSignalSpy triggered(m_menu.get(), &DBusMenu::triggered);
+    const QVariant nothing = QVariant::fromValue(QDBusVariant(u""_s));
+    for (const DBusMenuLayout &entry : childrenOf(0))
+        ask(u"Event"_s, { entry.number, u"clicked"_s, nothing, 0U });
+    QTRY_COMPARE(triggered.size(), 1);
+    QCOMPARE(triggered.constFirst().constFirst().toString(), u"quit"_s);
+    QCOMPARE(opened.size(), 1);
+    QCOMPARE(settings.size(), 1);
+}
+
+void DBusMenuTest::keepsItsOneEntryElsewhere()
+{
+    m_process = u"gnome-shell"_s;
+    QSignalSpy opened(m_menu.get(), &DBusMenu::openRequested);
+    const int open = childrenOf(0).at(1).number;
+    m_process = u"waybar"_s;
+    m_host = std::make_unique<BusPeer>(m_bus->connect());
+    QCOMPARE(childrenOf(0).size(), 1);
+    QCOMPARE(layoutOf(open, -1).number, -1);
+    const QVariant nothing = QVariant::fromValue(QDBusVariant(u""_s));
+    QCOMPARE(ask(u"Event"_s, { open, u"clicked"_s, nothing, 0U }).type(),
+             QDBusMessage::ErrorMessage);
+    settle(*m_host);
+    QCOMPARE(opened.size(), 0);
+}
+
+void DBusMenuTest::tellsOfNewWordsWhenItIsAboutToShowThem()
+{
+    m_process = u"gnome-shell"_s;
+    const QString news = u"ItemsPropertiesUpdated"_s;
+    const auto newsAtAShow = [&] {
+        ask(u"AboutToShow"_s, { 0 });
+        settle(*m_host);
+        return m_host->takeSignals();
+    };
+    m_host->listen(m_service, menuPath, menuInterface, { u"LayoutUpdated"_s, news });
+    m_menu->setState(u"37%"_s);
+    QCOMPARE(newsAtAShow(), QStringList { news });
+    QCOMPARE(newsAtAShow(), QStringList());
+    m_menu->setState(u"36%"_s);
+    m_menu->setState(u"36%"_s);
+    settle(*m_host);
+    QCOMPARE(m_host->takeSignals(), QStringList());
+    QCOMPARE(newsAtAShow(), QStringList { news });
+    const auto changed
+        = qdbus_cast<QList<DBusMenuProperties>>(m_host->lastArguments().constFirst());
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.constFirst().number, childrenOf(0).constFirst().number);
+    QCOMPARE(changed.constFirst().properties, (QVariantMap { { u"label"_s, u"36%"_s } }));
 }
 
 void DBusMenuTest::saysWhatVersionItSpeaks()
