@@ -38,6 +38,7 @@ void DesktopPlatform::followAppearance()
 {
     StatusAreaAppearance look { .forcedDark = std::nullopt,
                                 .desktopDark = m_appearance.isDesktopDark(),
+                                .desktopPrefersDark = m_appearance.desktopPrefersDark(),
                                 .fontFamily = m_appearance.fontFamily() };
     if (const auto forced = m_appearance.forcedAppearance())
         look.forcedDark = *forced == Appearance::dark;

@@ -91,6 +91,7 @@ void SystemAppearance::setAppearance(std::optional<Appearance> appearance)
 
 void SystemAppearance::take(const QString &group, const QString &key, const QVariant &value)
 {
+    const std::optional<bool> preferredBefore = m_desktopPrefersDark;
     if (group == schemeGroup && key == schemeKey)
         m_desktopPrefersDark = prefersDark(value);
     else if (group == gnomeGroup && key == gnomeAnimationsKey)
@@ -105,7 +106,8 @@ void SystemAppearance::take(const QString &group, const QString &key, const QVar
     const bool wasDark = m_isDesktopDark;
     const QString fontBefore = m_fontFamily;
     update();
-    if (wasDark != m_isDesktopDark || fontBefore != m_fontFamily)
+    if (preferredBefore != m_desktopPrefersDark || wasDark != m_isDesktopDark
+        || fontBefore != m_fontFamily)
         Q_EMIT changed();
 }
 

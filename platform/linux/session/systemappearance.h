@@ -33,6 +33,8 @@ public:
     [[nodiscard]] std::optional<Appearance> forcedAppearance() const { return m_forced; }
     /// What the desktop prefers, whatever is forced.
     [[nodiscard]] bool isDesktopDark() const { return m_isDesktopDark; }
+    /// The same by the desktop's own words; absent while it has none.
+    [[nodiscard]] std::optional<bool> desktopPrefersDark() const { return m_desktopPrefersDark; }
     /// Read-only.
     [[nodiscard]] QBindable<bool> bindableIsDesktopDark() const { return &m_isDesktopDark; }
 

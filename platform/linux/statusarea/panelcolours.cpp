@@ -15,6 +15,10 @@ namespace {
 constexpr QRgb redOnDark = 0xffff776c;
 constexpr QRgb redOnLight = 0xffc8001a;
 
+// In the middle between black and white bars: it stands out a little on both, and white reads on it
+// even where a glyph is filled with no more than a shade of white.
+constexpr QRgb chipColour = 0xff3e4247;
+
 QColor textOn(bool darkGround)
 {
     return darkGround ? QColor(Qt::white) : QColor(Qt::black);
@@ -43,10 +47,25 @@ void PanelColours::setTrayText(const std::optional<QColor> &colour)
     Q_EMIT changed();
 }
 
-QColor PanelColours::textFor(const HostProfile &profile) const
+void PanelColours::setHostText(const HostProfile &profile, const std::optional<QColor> &colour)
+{
+    const auto known = m_hostTexts.constFind(&profile);
+    const auto before = known == m_hostTexts.cend() ? std::nullopt : std::optional(*known);
+    if (before == colour)
+        return;
+    if (colour)
+        m_hostTexts.insert(&profile, *colour);
+    else
+        m_hostTexts.remove(&profile);
+    Q_EMIT changed();
+}
+
+std::optional<QColor> PanelColours::textFor(const HostProfile &profile) const
 {
     if (m_appearance.forcedDark)
         return textOn(*m_appearance.forcedDark);
+    if (const auto told = m_hostTexts.constFind(&profile); told != m_hostTexts.cend())
+        return *told;
     if (m_trayText)
         return *m_trayText;
     switch (profile.text) {
@@ -57,7 +76,9 @@ QColor PanelColours::textFor(const HostProfile &profile) const
     case PanelText::Unknown:
         break;
     }
-    return textOn(m_appearance.desktopDark);
+    if (m_appearance.desktopPrefersDark)
+        return textOn(*m_appearance.desktopPrefersDark);
+    return {};
 }
 
 ViewContext PanelColours::contextWith(const QColor &text) const
@@ -70,7 +91,11 @@ ViewContext PanelColours::contextWith(const QColor &text) const
 
 ViewContext PanelColours::contextFor(const HostProfile &profile) const
 {
-    return contextWith(textFor(profile));
+    if (const auto text = textFor(profile))
+        return contextWith(*text);
+    ViewContext context = contextWith(textOn(true));
+    context.chip = QColor::fromRgb(chipColour);
+    return context;
 }
 
 ViewContext PanelColours::contextForTray(const std::optional<QColor> &ground) const

@@ -7,6 +7,7 @@
 #include "platform/linux/statusarea/hosttable.h"
 
 #include <QColor>
+#include <QHash>
 #include <QObject>
 #include <QString>
 
@@ -19,8 +20,10 @@ struct StatusAreaAppearance
 {
     /// The user's own choice of light or dark; absent while it follows the system.
     std::optional<bool> forcedDark {};
-    /// The desktop prefers dark.
+    /// The desktop is dark, as far as can be told: by its own words or the toolkit's colours.
     bool desktopDark = false;
+    /// The same by the desktop's own words; absent where it says nothing.
+    std::optional<bool> desktopPrefersDark {};
     /// The desktop's interface font; empty for the toolkit's default.
     QString fontFamily {};
 
@@ -28,8 +31,9 @@ struct StatusAreaAppearance
 };
 
 /// Which colours read on a host's panel. No host tells, so the best informed voice decides: the
-/// user's choice, then the colours that the panel's tray announces on X11, then what such hosts
-/// look like by default, then the desktop's own scheme.
+/// user's choice, then what the host's own settings say, then the colours that the panel's tray
+/// announces on X11, then what such hosts look like by default, then the desktop's own scheme.
+/// Where all are silent the item brings along a ground of its own.
 class PanelColours : public QObject
 {
     Q_OBJECT
@@ -42,6 +46,8 @@ public:
 
     /// The text colour that the tray announced; absent where there is none.
     void setTrayText(const std::optional<QColor> &colour);
+    /// The text colour that the settings of this host tell; absent where they do not.
+    void setHostText(const HostProfile &profile, const std::optional<QColor> &colour);
 
     [[nodiscard]] ViewContext contextFor(const HostProfile &profile) const;
     /// In an XEmbed tray, whose ground can be seen in some; `ground` is absent elsewhere.
@@ -55,11 +61,13 @@ Q_SIGNALS:
     void changed();
 
 private:
-    [[nodiscard]] QColor textFor(const HostProfile &profile) const;
+    /// Absent where nothing can be known.
+    [[nodiscard]] std::optional<QColor> textFor(const HostProfile &profile) const;
     [[nodiscard]] ViewContext contextWith(const QColor &text) const;
 
     StatusAreaAppearance m_appearance;
     std::optional<QColor> m_trayText;
+    QHash<const HostProfile *, QColor> m_hostTexts;
 };
 
 } // namespace ferrin

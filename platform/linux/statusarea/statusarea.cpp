@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace ferrin {
@@ -29,6 +30,7 @@ StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *pa
 {
     readTrayColours();
     connect(m_trayColours.get(), &TrayColours::changed, this, &StatusAreaChooser::readTrayColours);
+    followHosts();
     if (session.isConnected())
         m_notifierBar = std::make_unique<StatusNotifierBar>(session, m_colours);
     m_patienceTimer.setSingleShot(true);
@@ -39,7 +41,20 @@ StatusAreaChooser::~StatusAreaChooser() = default;
 
 void StatusAreaChooser::setAppearance(const StatusAreaAppearance &appearance)
 {
+    m_plasmaColours.refresh();
     m_colours.setAppearance(appearance);
+}
+
+void StatusAreaChooser::followHosts()
+{
+    connect(&m_barColours, &BarColours::changed, this,
+            [this] { m_colours.setHostText(profileForProcess(u"swaybar"), m_barColours.text()); });
+    m_barColours.start(qEnvironmentVariable("SWAYSOCK"));
+    connect(&m_plasmaColours, &PlasmaColours::changed, this, [this] {
+        m_colours.setHostText(profileForProcess(u"plasmashell"), m_plasmaColours.text());
+    });
+    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"KDE"_s))
+        m_plasmaColours.start();
 }
 
 void StatusAreaChooser::readTrayColours()

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include "platform/linux/statusarea/barcolours.h"
 #include "platform/linux/statusarea/panelcolours.h"
+#include "platform/linux/statusarea/plasmacolours.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -61,6 +63,7 @@ Q_SIGNALS:
     void itemAvailable(ferrin::StatusItem *item);
 
 private:
+    void followHosts();
     void readTrayColours();
     void hostPresentChanged(bool present);
     void trayOwnerChanged();
@@ -78,6 +81,8 @@ private:
     DefaultsStore *m_store = nullptr;
     std::unique_ptr<TrayOwner> m_trayOwner;
     std::unique_ptr<TrayColours> m_trayColours;
+    BarColours m_barColours;
+    PlasmaColours m_plasmaColours;
     /// Null without a session bus.
     std::unique_ptr<StatusNotifierBar> m_notifierBar;
     /// The bars that stand in: both null while the desktop's status area is in use, else one.

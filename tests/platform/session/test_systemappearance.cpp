@@ -99,6 +99,7 @@ private Q_SLOTS:
         f.portal->put(schemeGroup, schemeKey, 2U);
         f.start();
         QTRY_COMPARE(f.portal->reads, 5);
+        QTRY_COMPARE(f.appearance->desktopPrefersDark(), std::optional(false));
         QProperty<bool> shown([&] { return f.appearance->isDark(); });
         QSignalSpy changed(&*f.appearance, &SystemAppearance::changed);
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "menubar/contrast.h"
 #include "platform/linux/statusarea/panelcolours.h"
 #include "platform/linux/statusarea/traycolours.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -19,21 +18,6 @@ namespace {
 const HostProfile &unknownHost = mixedProfile();
 const QColor trayText(0xee, 0xee, 0xec);
 
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto [darker, lighter] = std::minmax({ luminance(one), luminance(other) });
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 } // namespace
 
 class PanelColoursTest : public QObject
@@ -42,6 +26,8 @@ class PanelColoursTest : public QObject
 
 private Q_SLOTS:
     void followsTheDesktopWhereNothingBetterIsKnown();
+    void bringsItsOwnGroundWhereNothingIsKnown();
+    void takesWhatTheHostsSettingsSayBeforeTheTray();
     void takesWhatSuchHostsLookLikeBeforeTheDesktop();
     void takesTheColoursOfTheTrayBeforeTheHostsDefault();
     void takesTheUsersChoiceBeforeEverything();
@@ -54,10 +40,43 @@ private Q_SLOTS:
 void PanelColoursTest::followsTheDesktopWhereNothingBetterIsKnown()
 {
     PanelColours colours;
+    colours.setAppearance({ .desktopPrefersDark = false });
     QCOMPARE(colours.contextFor(unknownHost).text, QColor(Qt::black));
-    colours.setAppearance({ .desktopDark = true });
+    colours.setAppearance({ .desktopDark = true, .desktopPrefersDark = true });
     QCOMPARE(colours.contextFor(unknownHost).text, QColor(Qt::white));
+    QVERIFY(!colours.contextFor(unknownHost).chip);
     QVERIFY(colours.isOwnBarDark());
+}
+
+void PanelColoursTest::bringsItsOwnGroundWhereNothingIsKnown()
+{
+    PanelColours colours;
+    colours.setAppearance({ .desktopDark = true });
+    QVERIFY(colours.contextFor(unknownHost).chip);
+    QVERIFY(colours.contextFor(profileForProcess(u"lxqt-panel")).chip);
+    QVERIFY(!colours.contextFor(profileForProcess(u"waybar")).chip);
+    QVERIFY(!colours.contextForOwnBar().chip);
+    colours.setTrayText(trayText);
+    QVERIFY(!colours.contextFor(unknownHost).chip);
+    colours.setTrayText({});
+    colours.setAppearance({ .forcedDark = false });
+    QVERIFY(!colours.contextFor(unknownHost).chip);
+}
+
+void PanelColoursTest::takesWhatTheHostsSettingsSayBeforeTheTray()
+{
+    PanelColours colours;
+    const HostProfile &swaybar = profileForProcess(u"swaybar");
+    const QSignalSpy changes(&colours, &PanelColours::changed);
+    colours.setTrayText(trayText);
+    colours.setHostText(swaybar, QColor(0x20, 0x20, 0x20));
+    colours.setHostText(swaybar, QColor(0x20, 0x20, 0x20));
+    QCOMPARE(changes.size(), 2);
+    QCOMPARE(colours.contextFor(swaybar).text, QColor(0x20, 0x20, 0x20));
+    QCOMPARE(colours.contextFor(unknownHost).text, trayText);
+    colours.setHostText(swaybar, {});
+    QCOMPARE(changes.size(), 3);
+    QCOMPARE(colours.contextFor(swaybar).text, trayText);
 }
 
 void PanelColoursTest::takesWhatSuchHostsLookLikeBeforeTheDesktop()

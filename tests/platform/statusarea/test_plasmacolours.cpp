@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusarea/plasmacolours.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+#include <memory>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QColor breezeText(35, 38, 41);
+const QColor nearlyWhite(252, 252, 252);
+
+} // namespace
+
+/// A home in which Plasma's settings are written as Plasma writes them.
+class PlasmaColoursTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_CONFIG_HOME", m_home->filePath(u"config"_s).toUtf8());
+        qputenv("XDG_CONFIG_DIRS", m_home->filePath(u"system"_s).toUtf8());
+        qputenv("XDG_DATA_HOME", m_home->filePath(u"data"_s).toUtf8());
+        qputenv("XDG_DATA_DIRS", m_home->filePath(u"shared"_s).toUtf8());
+    }
+
+    void knowsNothingBeforeItsStart()
+    {
+        PlasmaColours colours;
+        colours.refresh();
+        QVERIFY(!colours.text());
+    }
+
+    void isBreezesWhereNobodyChoseAnything() { QCOMPARE(readNow(), breezeText); }
+
+    void isThatOfTheUsersColourScheme()
+    {
+        write(u"config/kdeglobals"_s, "[Colors:Window]\nForegroundNormal=252,252,252\n");
+        QCOMPARE(readNow(), nearlyWhite);
+    }
+
+    void findsASchemeThatIsOnlyNamed()
+    {
+        write(u"config/kdeglobals"_s, "[General]\nColorScheme=Night\n");
+        write(u"shared/color-schemes/Night.colors"_s,
+              "[Colors:Window]\nForegroundNormal=252,252,252\n");
+        QCOMPARE(readNow(), nearlyWhite);
+    }
+
+    void takesTheUsersOwnBeforeAGlobalThemes()
+    {
+        write(u"config/kdedefaults/kdeglobals"_s, "[Colors:Window]\nForegroundNormal=1,2,3\n");
+        QCOMPARE(readNow(), QColor(1, 2, 3));
+        write(u"config/kdeglobals"_s, "[Colors:Window]\nForegroundNormal=252,252,252\n");
+        QCOMPARE(readNow(), nearlyWhite);
+    }
+
+    void takesTheColoursOfAThemeThatHasItsOwn()
+    {
+        write(u"config/kdeglobals"_s, "[Colors:Window]\nForegroundNormal=1,2,3\n");
+        write(u"config/plasmarc"_s, "[Theme]\nname=midnight\n");
+        write(u"shared/plasma/desktoptheme/midnight/colors"_s,
+              "[Colors:Window]\nForegroundNormal=252,252,252\n");
+        QCOMPARE(readNow(), nearlyWhite);
+    }
+
+    void ignoresAColourThatIsNone_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addRow("words") << QByteArray("a,b,c");
+        QTest::addRow("too few") << QByteArray("1,2");
+        QTest::addRow("too large") << QByteArray("1,2,256");
+        QTest::addRow("nothing") << QByteArray();
+    }
+
+    void ignoresAColourThatIsNone()
+    {
+        QFETCH(QByteArray, value);
+        write(u"config/kdeglobals"_s, "[Colors:Window]\nForegroundNormal=" + value + "\n");
+        QCOMPARE(readNow(), breezeText);
+    }
+
+    void followsSettingsThatAreWrittenAnew()
+    {
+        write(u"config/kdeglobals"_s, "[Colors:Window]\nForegroundNormal=1,2,3\n");
+        PlasmaColours colours;
+        colours.start();
+        QSignalSpy changes(&colours, &PlasmaColours::changed);
+        for (int red = 10; red < 13; ++red) {
+            const QByteArray text
+                = "[Colors:Window]\nForegroundNormal=" + QByteArray::number(red) + ",2,3\n";
+            write(u"config/kdeglobals.new"_s, text);
+            // In one go, as Plasma does it.
+            const auto path
+                = [this](const QString &name) { return QFile::encodeName(m_home->filePath(name)); };
+            QCOMPARE(std::rename(path(u"config/kdeglobals.new"_s), path(u"config/kdeglobals"_s)),
+                     0);
+            QTRY_COMPARE(colours.text(), std::optional(QColor(red, 2, 3)));
+        }
+        QVERIFY(!changes.isEmpty());
+    }
+
+private:
+    void write(const QString &name, const QByteArray &text)
+    {
+        const QString path = m_home->filePath(name);
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    static QColor readNow()
+    {
+        PlasmaColours colours;
+        colours.start();
+        return colours.text().value_or(QColor());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
+QTEST_MAIN(PlasmaColoursTest)
+#include "test_plasmacolours.moc"
