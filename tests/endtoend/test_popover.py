@@ -69,7 +69,7 @@ class OnAnEdge:
     def test_it_opens_beside_the_item_wholly_on_the_screen_and_off_the_panel(self):
         self.open()
         box = self.box()
-        width, height = map(int, self.session.size.split("x"))
+        width, height = self.session.size
         self.assertTrue(0 <= box.left < box.right <= width, box)
         self.assertTrue(0 <= box.top < box.bottom <= height, box)
         across, along = self.distances(box)

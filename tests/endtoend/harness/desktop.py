@@ -1,37 +1,15 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""Private desktops: a home, a session bus, a screen, and on it a panel, or none."""
+"""Private desktops on X: a window manager, and a panel, or none."""
 
-import json
 import os
 import re
-import shutil
 import signal
-import subprocess
-import tempfile
 
 from harness import processes
-from harness.item import Bus
-from harness.picture import Box, Picture
+from harness.picture import Box
 from harness.processes import eventually
-
-# Anybody may speak on it, so that a test run by root can serve a desktop of another user.
-BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC
- "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:path={folder}/bus</listen>
-  <auth>EXTERNAL</auth>
-  <standard_session_servicedirs/>
-  <policy context="default">
-    <allow user="*"/>
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-"""
+from harness.session import Screen
 
 XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
@@ -63,163 +41,15 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
-SWAY = """output X11-1 resolution {size}
-output * bg #336699 solid_color
-xwayland disable
-"""
-WAYBAR = '{"layer": "top", "position": "top", "height": 30, "modules-right": ["tray"]}'
-WAYBAR_STYLE = "window#waybar { background: #303338; color: #ffffff; }"
-
 
 WATCHER = os.path.join(os.path.dirname(__file__), "watcher.py")
-
-
-class Session:
-    """A user's session without a screen: home folders and a session bus. The base of the rest."""
-
-    desktop = ""
-
-    def __init__(self, user=None):
-        self.user = user
-        self.folder = tempfile.mkdtemp(prefix="ferrin-session-")
-        self._processes = []
-        self.environment = self._make_environment()
-        self.bus_process = None
-        self.bus = None
-
-    def boot(self):
-        """Starts all that belongs to the session."""
-        # What the bus starts on demand has the bus' own environment: the display comes first.
-        self._start_display()
-        self.bus_process = self._start_bus()
-        self.bus = Bus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
-
-    def close(self):
-        for process in reversed(self._processes):
-            processes.end(process)
-        shutil.rmtree(self.folder, ignore_errors=True)
-
-    def __enter__(self):
-        try:
-            self.boot()
-        except BaseException:
-            self.close()
-            raise
-        return self
-
-    def __exit__(self, *_):
-        self.close()
-
-    def start(self, command, environment=None, **options):
-        """Starts a process as the session's user; it ends with the session."""
-        process = processes.start(command, self.environment | (environment or {}), self.user,
-                                  **options)
-        self._processes.append(process)
-        return process
-
-    def run(self, *command):
-        return processes.run(command, self.environment)
-
-    def write(self, path, text):
-        """Writes a file under the session's folder and gives it to the session's user."""
-        path = os.path.join(self.folder, path)
-        os.makedirs(os.path.dirname(path), exist_ok=True)
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(text)
-        self._give_away()
-        return path
-
-    def _start_display(self):
-        pass
-
-    def _make_environment(self):
-        kept = {key: os.environ[key] for key in ("PATH", "LANG", "TMPDIR") if key in os.environ}
-        kept |= {"LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "GTK_USE_PORTAL": "0",
-                 "LIBGL_ALWAYS_SOFTWARE": "1", "XDG_CURRENT_DESKTOP": self.desktop}
-        folders = {"HOME": "home", "XDG_CONFIG_HOME": "config", "XDG_CACHE_HOME": "cache",
-                   "XDG_DATA_HOME": "data", "XDG_STATE_HOME": "state", "XDG_RUNTIME_DIR": "run"}
-        for variable, name in folders.items():
-            kept[variable] = os.path.join(self.folder, name)
-            os.mkdir(kept[variable], 0o700)
-        self._give_away()
-        return kept
-
-    def _give_away(self):
-        if self.user is not None:
-            for path, _, files in os.walk(self.folder):
-                for name in (path, *(os.path.join(path, file) for file in files)):
-                    shutil.chown(name, self.user, "nogroup")
-
-    def _start_bus(self):
-        configuration = self.write("bus.conf", BUS_CONFIGURATION.format(folder=self.folder))
-        process = self.start(
-            ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address=1"],
-            stdout=subprocess.PIPE, text=True)
-        with process.stdout as told:
-            self.environment["DBUS_SESSION_BUS_ADDRESS"] = told.readline().strip()
-        return process
-
-
-class Screen(Session):
-    """A session with an X server that nobody sees."""
-
-    size = "800x600"
-
-    def __init__(self, user=None):
-        super().__init__(user)
-        self.server = None
-        self._screen = {}
-
-    def picture(self):
-        return Picture(self._on_screen("import", "-silent", "-window", "root", "-depth", "8",
-                                       "ppm:-"))
-
-    def point(self, place):
-        """Moves the real pointer."""
-        self._on_screen("xdotool", "mousemove", *map(str, place))
-
-    def click(self, place, button=1):
-        """A click of the real pointer."""
-        self._on_screen("xdotool", "mousemove", *map(str, place), "click", str(button))
-
-    def press(self, *keys):
-        """Presses of real keys, one after the other."""
-        self._on_screen("xdotool", "key", *keys)
-
-    def resize(self, width, height):
-        """Gives the screen another size, of at most the one that it began with."""
-        timings = (30, width, width + 10, width + 20, width + 30,
-                   height, height + 10, height + 20, height + 30)
-        self._on_screen("xrandr", "--newmode", "other", *map(str, timings))
-        self._on_screen("xrandr", "--addmode", "screen", "other")
-        self._on_screen("xrandr", "--output", "screen", "--mode", "other")
-
-    def item_box(self, before):
-        """Where the item stands, given a picture of the screen without it."""
-        return before.difference(self.picture())
-
-    def _on_screen(self, *command):
-        return processes.run(command, self.environment | self._screen)
-
-    def _start_display(self):
-        readable, told = os.pipe()
-        # Without a reset when its last client leaves, which would take the next one with it.
-        self.server = self.start(
-            ["Xvfb", "-displayfd", str(told), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp",
-             "-noreset"], pass_fds=[told])
-        os.close(told)
-        with os.fdopen(readable) as pipe:
-            number = pipe.readline().strip()
-        if not number:
-            raise RuntimeError("the X server did not start")
-        self._screen = {"DISPLAY": f":{number}"}
 
 
 class BareScreen(Screen):
     """An X session with a window manager and nothing else."""
 
-    def __init__(self, user=None, compositing=False):
-        super().__init__(user)
+    def __init__(self, user=None, scale=1, compositing=False):
+        super().__init__(user, scale)
         self._compositing = compositing
 
     def boot(self):
@@ -353,46 +183,3 @@ class MateScreen(PanelScreen):
             return None
         width, height, left, top = map(int, found.groups())
         return Box(left, top, left + width, top + height)
-
-
-class WaybarScreen(Screen):
-    """A Wayland session with Waybar: the compositor shows itself, and takes the pointer, in a
-    window that fills the X screen. It does not run as root."""
-
-    desktop = "sway"
-
-    def __init__(self):
-        super().__init__("nobody" if os.geteuid() == 0 else None)
-
-    def boot(self):
-        super().boot()
-        self.start(["waybar", "-c", self.write("config/waybar.json", WAYBAR),
-                    "-s", self.write("config/waybar.css", WAYBAR_STYLE)])
-        eventually(self.bus.has_host, "Waybar offers a status area")
-        eventually(lambda: self.picture().pixel(400, 15) == (0x30, 0x33, 0x38), "Waybar is drawn")
-
-    def windows_of(self, process_id):
-        """The titles of a process' windows."""
-        return [node["name"] for node in _nodes(json.loads(self.run("swaymsg", "-t", "get_tree")))
-                if node.get("pid") == process_id]
-
-    def _start_display(self):
-        super()._start_display()
-        self.environment |= {
-            "SWAYSOCK": os.path.join(self.folder, "run", "sway.sock"),
-            "XDG_SESSION_TYPE": "wayland"}
-        self.start(
-            ["sway", "-c", self.write("config/sway", SWAY.format(size=self.size))],
-            {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"} | self._screen)
-        self.environment["WAYLAND_DISPLAY"] = eventually(self._display, "the compositor is there")
-        eventually(lambda: self.run("swaymsg", "-t", "get_outputs"), "the compositor answers")
-
-    def _display(self):
-        names = os.listdir(self.environment["XDG_RUNTIME_DIR"])
-        return next((name for name in names if name in ("wayland-0", "wayland-1")), None)
-
-
-def _nodes(tree):
-    yield tree
-    for child in tree["nodes"] + tree["floating_nodes"]:
-        yield from _nodes(child)

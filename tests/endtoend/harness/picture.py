@@ -35,7 +35,7 @@ class Picture:
         if fields[0] != b"P6":
             raise ValueError("not a picture")
         self.width, self.height = int(fields[1]), int(fields[2])
-        self._file = portable_pixmap
+        self.file = portable_pixmap
         self._rgb = portable_pixmap[-3 * self.width * self.height:]
 
     def pixel(self, x, y):
@@ -45,12 +45,18 @@ class Picture:
     def row(self, y):
         return self._rgb[3 * y * self.width:3 * (y + 1) * self.width]
 
-    def difference(self, other, below=0):
-        """The smallest box around all pixels in which two pictures differ, or None."""
-        rows = [y for y in range(below, self.height) if self.row(y) != other.row(y)]
+    def difference(self, other, below=0, within=None):
+        """The smallest box around all pixels in which two pictures differ, or None; below a row, or
+        within a box."""
+        within = within or Box(0, below, self.width, self.height)
+
+        def part(picture, y):
+            start = 3 * y * self.width
+            return picture._rgb[start + 3 * within.left:start + 3 * within.right]
+        rows = [y for y in range(within.top, within.bottom) if part(self, y) != part(other, y)]
         if not rows:
             return None
-        columns = [x for x in range(self.width)
+        columns = [x for x in range(within.left, within.right)
                    if any(self.pixel(x, y) != other.pixel(x, y) for y in rows)]
         return Box(columns[0], rows[0], columns[-1] + 1, rows[-1] + 1)
 
@@ -62,7 +68,7 @@ class Picture:
         """Writes a part of the picture as a file, enlarged so that its pixels can be seen."""
         part = f"{box.width}x{box.height}+{box.left}+{box.top}"
         subprocess.run(["convert", "ppm:-", "-crop", part, "+repage", "-scale", f"{times}00%", path],
-                       input=self._file, check=True)
+                       input=self.file, check=True)
 
 
 def is_red(pixel):

@@ -4,8 +4,9 @@
 
 import re
 
-from harness.desktop import BareScreen, Screen
+from harness.desktop import BareScreen
 from harness.processes import eventually
+from harness.session import Screen
 
 I3 = """# i3 config file (v4)
 font pango:DejaVu Sans 10

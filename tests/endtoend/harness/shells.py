@@ -1,0 +1,166 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""Whole desktop shells, which bring their own window manager or want much of a session around."""
+
+import json
+
+from harness.desktop import BareScreen
+from harness.picture import Box
+from harness.processes import eventually
+from harness.session import Screen
+
+# Of GNOME.
+PANEL_HEIGHT = 32
+APPINDICATOR = "ubuntu-appindicators@ubuntu.com"
+# Where a shell looks for things that a machine without a desktop does not have.
+SHELL = {"GSETTINGS_BACKEND": "keyfile"}
+
+
+# A panel with nothing that moves by itself, such as a clock.
+CINNAMON_APPLETS = ("['panel1:right:0:systray@cinnamon.org:0',"
+                    " 'panel1:right:1:xapp-status@cinnamon.org:1']")
+PLASMA_PANEL = """[Containments][1]
+activityId=
+formfactor=2
+immutability=1
+lastScreen=0
+location=4
+plugin=org.kde.panel
+wallpaperplugin=org.kde.image
+
+[Containments][1][Applets][2]
+immutability=1
+plugin=org.kde.plasma.panelspacer
+
+[Containments][1][Applets][3]
+immutability=1
+plugin=org.kde.plasma.systemtray
+
+[Containments][1][Applets][3][Configuration]
+SystrayContainmentId=4
+
+[Containments][1][General]
+AppletOrder=2;3
+
+[Containments][4]
+activityId=
+formfactor=2
+immutability=1
+lastScreen=0
+location=4
+plugin=org.kde.plasma.private.systemtray
+wallpaperplugin=org.kde.image
+
+[Containments][4][General]
+knownItems=org.kde.plasma.keyboardlayout
+"""
+
+
+class Shell:
+    """What the shells have in common. They want a system bus to talk to: the session's own, on
+    which they find nobody."""
+
+    def start_shell(self, command, environment=None):
+        system = {"DBUS_SYSTEM_BUS_ADDRESS": self.environment["DBUS_SESSION_BUS_ADDRESS"]}
+        return self.start(command, system | SHELL | (environment or {}))
+
+    def store_gsettings(self, groups):
+        """Stores values, in the words of GVariant, by their path and key."""
+        lines = []
+        for path, values in groups.items():
+            lines.append(f"[{path}]")
+            lines += [f"{key}={value}" for key, value in values.items()]
+        self.write("config/glib-2.0/settings/keyfile", "\n".join(lines) + "\n")
+
+
+class CinnamonScreen(Shell, Screen):
+    size = (1024, 600)
+    desktop = "X-Cinnamon"
+
+    def boot(self):
+        super().boot()
+        self.store_gsettings({
+            "org/cinnamon": {"enabled-applets": CINNAMON_APPLETS, "desktop-effects": "false",
+                             "startup-animation": "false"},
+            "org/cinnamon/desktop/interface": {"scaling-factor": f"uint32 {self.scale}"},
+        })
+        self.start_shell(["cinnamon", "--sync"])
+        self.start_shell(["/usr/libexec/xapps/sn-watcher/xapp-sn-watcher"])
+        eventually(self.bus.has_host, "the panel offers a status area")
+
+    def windows_of(self, process_id):
+        return self.run("xdotool", "search", "--onlyvisible", "--pid", str(process_id)).split()
+
+    def _start_display(self):
+        super()._start_display()
+        self.environment |= self._screen | {"XDG_SESSION_TYPE": "x11"}
+
+
+class PlasmaScreen(Shell, BareScreen):
+    size = (1024, 600)
+    desktop = "KDE"
+    environment_of_plasma = {
+        "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5", "QT_QUICK_BACKEND": "software",
+        "QT_QPA_PLATFORM": "xcb"}
+
+    def __init__(self, dark=False, **options):
+        super().__init__(**options)
+        self._dark = dark
+
+    def boot(self):
+        super().boot()
+        theme = "breeze-dark" if self._dark else "breeze-light"
+        self.write("config/plasmarc", f"[Theme]\nname={theme}\n")
+        self.write("config/plasma-org.kde.plasma.desktop-appletsrc", PLASMA_PANEL)
+        self.start_shell(["kded5"], self.environment_of_plasma)
+        self.start_shell(["plasmashell", "--no-respawn"], self.environment_of_plasma)
+        eventually(self.bus.has_host, "the panel offers a status area")
+
+
+class GnomeScreen(Shell, Screen):
+    """The shell in a window that fills the X screen: its pointer is a real one."""
+
+    size = (1024, 600)
+    desktop = "GNOME"
+
+    def boot(self):
+        super().boot()
+        self.store_gsettings({
+            "org/gnome/shell": {"enabled-extensions": f"['{APPINDICATOR}']",
+                                "welcome-dialog-last-shown-version": "'99'"},
+            "org/gnome/desktop/interface": {"enable-animations": "false"},
+            # Else it tells in a message that this session cannot be locked.
+            "org/gnome/desktop/lockdown": {"disable-lock-screen": "true"},
+        })
+        width, height = (length * self.scale for length in self.size)
+        self.start_shell(
+            ["gnome-shell", "--nested", "--wayland", "--no-x11", "--unsafe-mode"],
+            self._screen | {"MUTTER_DEBUG_DUMMY_MODE_SPECS": f"{width}x{height}",
+                            "MUTTER_DEBUG_DUMMY_MONITOR_SCALES": str(self.scale),
+                            "GNOME_SHELL_SESSION_MODE": "user",
+                            "XDG_SESSION_TYPE": "wayland"})
+        eventually(self.bus.has_host, "the shell offers a status area")
+        # It begins with its overview.
+        eventually(lambda: self._evaluate(
+            "!Main.layoutManager._startingUp && (Main.overview.hide(), !Main.overview.visible)"),
+            "the desktop is shown")
+        self.environment |= {"WAYLAND_DISPLAY": "wayland-0", "XDG_SESSION_TYPE": "wayland"}
+
+    def windows_of(self, process_id):
+        """The titles of a process' windows."""
+        return self._evaluate("global.get_window_actors().map(actor => actor.meta_window).filter("
+                              f"window => window.get_pid() == {process_id})"
+                              ".map(window => window.get_title())")
+
+    def _evaluate(self, script):
+        """What a script answers that the shell runs."""
+        done, answer = self.bus.call("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell",
+                                     "Eval", "(s)", script)
+        if not done:
+            raise AssertionError(answer)
+        return json.loads(answer) if answer else None
+
+    def item_box(self, before):
+        # The clock in the middle may have moved on, and a message may have come below the panel.
+        right = Box(before.width * 3 // 4, 0, before.width, PANEL_HEIGHT * self.scale)
+        return before.difference(self.picture(), within=right)

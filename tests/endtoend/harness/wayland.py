@@ -1,0 +1,103 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""Wayland sessions with the bars of wlroots' compositors."""
+
+import json
+import os
+
+from harness.processes import eventually
+from harness.session import Screen
+
+SWAY = """output X11-1 resolution {width}x{height} scale {scale}
+output * bg #336699 solid_color
+xwayland disable
+"""
+WAYBAR = '{"layer": "top", "position": "top", "height": 30, "modules-right": ["tray"]}'
+WAYBAR_STYLE = "window#waybar {{ background: {ground}; color: {text}; }}"
+SWAYBAR = """bar {{
+    position top
+    tray_output *
+    font DejaVu Sans 10
+    status_command while echo; do sleep 1000; done
+    colors {{
+        background {ground}
+        statusline {text}
+    }}
+}}
+"""
+DARK = {"ground": "#303338", "text": "#ffffff"}
+LIGHT = {"ground": "#f2f2f2", "text": "#202020"}
+
+
+class SwayScreen(Screen):
+    """A compositor that shows itself, and takes the pointer, in a window that fills the X screen.
+    It does not run as root."""
+
+    desktop = "sway"
+    bar = ""
+
+    def __init__(self, scale=1, dark=True):
+        super().__init__("nobody" if os.geteuid() == 0 else None, scale)
+        self.colours = DARK if dark else LIGHT
+
+    def windows_of(self, process_id):
+        """The titles of a process' windows."""
+        return [node["name"] for node in self._nodes() if node.get("pid") == process_id]
+
+    def _nodes(self):
+        def below(tree):
+            yield tree
+            for child in tree["nodes"] + tree["floating_nodes"]:
+                yield from below(child)
+        return below(json.loads(self.run("swaymsg", "-t", "get_tree")))
+
+    def _start_display(self):
+        super()._start_display()
+        # The compositor scales what it shows; nobody else is to.
+        for variable in ("GDK_SCALE", "QT_SCALE_FACTOR"):
+            self.environment.pop(variable, None)
+        self.environment |= {
+            "SWAYSOCK": os.path.join(self.folder, "run", "sway.sock"),
+            "XDG_SESSION_TYPE": "wayland"}
+        width, height = (length * self.scale for length in self.size)
+        configuration = SWAY.format(width=width, height=height, scale=self.scale)
+        self.start(
+            ["sway", "-c", self.write("config/sway", configuration + self.bar)],
+            {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"} | self._screen)
+        self.environment["WAYLAND_DISPLAY"] = eventually(self._display, "the compositor is there")
+        eventually(lambda: self.run("swaymsg", "-t", "get_outputs"), "the compositor answers")
+
+    def _display(self):
+        names = os.listdir(self.environment["XDG_RUNTIME_DIR"])
+        return next((name for name in names if name in ("wayland-0", "wayland-1")), None)
+
+    def _bar_is_drawn(self):
+        ground = tuple(bytes.fromhex(self.colours["ground"][1:]))
+        middle = self.size[0] // 2 * self.scale
+        eventually(lambda: self.picture().pixel(middle, 8 * self.scale) == ground,
+                   "the bar is drawn")
+
+
+class WaybarScreen(SwayScreen):
+    """Waybar in its usual size, with icons of its default of 16 pixels."""
+
+    def boot(self):
+        super().boot()
+        style = self.write("config/waybar.css", WAYBAR_STYLE.format(**self.colours))
+        self.start(["waybar", "-c", self.write("config/waybar.json", WAYBAR), "-s", style])
+        eventually(self.bus.has_host, "Waybar offers a status area")
+        self._bar_is_drawn()
+
+
+class SwaybarScreen(SwayScreen):
+    """The compositor's own bar, which it starts on its first bus: that must be there before it."""
+
+    def _start_display(self):
+        """Not yet: see boot."""
+
+    def boot(self):
+        super().boot()
+        self.bar = SWAYBAR.format(**self.colours)
+        super()._start_display()
+        eventually(self.bus.has_host, "swaybar offers a status area")
+        self._bar_is_drawn()
