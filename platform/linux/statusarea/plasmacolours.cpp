@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <array>
+#include <chrono>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,10 @@ namespace {
 
 // Of Breeze, which is what Plasma looks like where nobody chose anything.
 constexpr QRgb breezeText = 0xff232629;
+
+// A file that is replaced is told of more than once, of the old one as of the new. Watched again
+// before that is over, it would be lost.
+constexpr std::chrono::milliseconds settlingTime { 100 };
 
 const QString textKey = u"Colors:Window/ForegroundNormal"_s;
 // In the group "General", which is the file's own to the reader.
@@ -91,7 +96,10 @@ QColor readText()
 void PlasmaColours::start()
 {
     m_isStarted = true;
-    connect(&m_files, &QFileSystemWatcher::fileChanged, this, &PlasmaColours::refresh);
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(settlingTime);
+    connect(&m_settling, &QTimer::timeout, this, &PlasmaColours::refresh);
+    connect(&m_files, &QFileSystemWatcher::fileChanged, &m_settling, qOverload<>(&QTimer::start));
     refresh();
 }
 

@@ -7,6 +7,7 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <optional>
 
@@ -34,6 +35,7 @@ Q_SIGNALS:
 
 private:
     QFileSystemWatcher m_files;
+    QTimer m_settling;
     bool m_isStarted = false;
     std::optional<QColor> m_text;
 };
