@@ -19,9 +19,9 @@ class LinkOpener;
 class LoginItem;
 class PopoverDesktop;
 
-/// The two windows of the application, the dashboard's popover and the settings window. They live
-/// in a module of their own that is loaded when the first of them opens, so that the status item,
-/// which stands all day, pays for no scene graph.
+/// The windows of the application: the dashboard's popover, the settings window and the window of
+/// updates. They live in a module of their own that is loaded when the first of them opens, so that
+/// the status item, which stands all day, pays for no scene graph.
 class Windows
 {
 public:

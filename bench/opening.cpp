@@ -16,6 +16,8 @@
 #include "tests/support/fakeprocesslauncher.h"
 #include "tests/support/fakeregistry.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/updates/fakeplatform.h"
+#include "updates/appupdater.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -52,6 +54,7 @@ public:
                                            .powerSources = m_powerSources,
                                            .processLauncher = m_launcher,
                                            .storedData = &StoredData::shared });
+        AppUpdater::setParts(m_updates.parts(sharedDefaults()));
         // What the item has done long before the first click.
         [[maybe_unused]] auto &provider = BatteryDataProvider::shared();
         [[maybe_unused]] const QSizeF text = TextView { .text = u"37%"_s }.idealSize(
@@ -77,6 +80,7 @@ private:
     test::FakeRegistry m_registry;
     test::FakePowerSources m_powerSources;
     test::FakeProcessLauncher m_launcher;
+    test::FakeUpdatePlatform m_updates;
     test::FakeWindowsPlatform m_platform;
     std::unique_ptr<Windows> m_windows;
 };

@@ -25,5 +25,9 @@ Rectangle {
         OpenSystemSettingsView {
             width: parent.width
         }
+
+        AppUpdateView {
+            width: parent.width
+        }
     }
 }

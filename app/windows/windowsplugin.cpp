@@ -15,10 +15,13 @@
 #include "settingswindow/menubaricon.h"
 #include "settingswindow/settings.h"
 #include "settingswindow/settingswindow.h"
+#include "settingswindow/softwareupdates.h"
+#include "settingswindow/updatewindow.h"
 #include "state/appcolorscheme.h"
 #include "state/appstatus.h"
 #include "state/displayswitches.h"
 #include "state/settingsdata.h"
+#include "updates/appupdater.h"
 
 #include <QCoreApplication>
 #include <QObject>
@@ -27,7 +30,7 @@ namespace ferrin {
 
 namespace {
 
-/// Both windows on one engine, each made when it is first opened.
+/// All windows on one engine, each made when it is first opened.
 class QuickWindows final : public Windows
 {
 public:
@@ -43,6 +46,7 @@ public:
                           DisplaySwitches::shared() },
                         &m_engine)
         , m_settingsState(AppStatus::shared(), &m_engine)
+        , m_updates(*AppUpdater::shared().controller()->updater(), &m_engine)
     {
         QObject::connect(&m_dashboardState, &Dashboard::closeRequested, &m_engine,
                          [this] { dashboardClosed(); });
@@ -84,11 +88,15 @@ public:
 
     void openWindow(const QString &identifier) override
     {
-        if (identifier != SettingsWindow::identifier())
-            return;
-        if (!m_settings)
-            m_settings = std::make_unique<SettingsWindow>(m_engine);
-        m_settings->open();
+        if (identifier == SettingsWindow::identifier()) {
+            if (!m_settings)
+                m_settings = std::make_unique<SettingsWindow>(m_engine);
+            m_settings->open();
+        } else if (identifier == UpdateWindow::identifier()) {
+            if (!m_updateWindow)
+                m_updateWindow = std::make_unique<UpdateWindow>(m_engine, m_updates);
+            m_updateWindow->open();
+        }
     }
 
 private:
@@ -102,8 +110,10 @@ private:
     Links m_links;
     MenuBarIcon m_menuBarIcon;
     Settings m_settingsState;
+    SoftwareUpdates m_updates;
     std::unique_ptr<DashboardWindow> m_dashboard;
     std::unique_ptr<SettingsWindow> m_settings;
+    std::unique_ptr<UpdateWindow> m_updateWindow;
 };
 
 } // namespace

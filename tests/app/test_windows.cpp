@@ -10,6 +10,8 @@
 #include "tests/support/fakeprocesslauncher.h"
 #include "tests/support/fakeregistry.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/updates/fakeplatform.h"
+#include "updates/appupdater.h"
 
 #include <QGuiApplication>
 #include <QPluginLoader>
@@ -45,6 +47,7 @@ private Q_SLOTS:
 
     void showsOneWindowWhenTheSettingsAreOpenedTwice();
     void opensNothingByAnotherIdentifier();
+    void showsTheWindowOfUpdatesWhileThereIsSomethingToShow();
     void letsNobodyResizeTheSettings();
     void placesTheSettingsInTheMiddleOfTheScreen();
     void showsTheProgramsIconInTheListsOfWindows();
@@ -57,6 +60,7 @@ private:
     test::FakeRegistry m_registry;
     test::FakePowerSources m_powerSources;
     test::FakeProcessLauncher m_launcher;
+    test::FakeUpdatePlatform m_updates;
     test::FakeWindowsPlatform m_platform;
     std::unique_ptr<Windows> m_windows;
 };
@@ -69,6 +73,7 @@ void TestWindows::initTestCase()
                                        .powerSources = m_powerSources,
                                        .processLauncher = m_launcher,
                                        .storedData = &StoredData::shared });
+    AppUpdater::setParts(m_updates.parts(sharedDefaults()));
 }
 
 void TestWindows::init()
@@ -90,6 +95,16 @@ void TestWindows::opensNothingByAnotherIdentifier()
 {
     m_windows->openWindow(u"FerrinSetting"_s);
     QVERIFY(visibleWindows(u"Ferrin Settings"_s).isEmpty());
+}
+
+void TestWindows::showsTheWindowOfUpdatesWhileThereIsSomethingToShow()
+{
+    Updater &updater = *AppUpdater::shared().controller()->updater();
+    updater.checkForUpdates();
+    m_windows->openWindow(u"FerrinUpdate"_s);
+    QCOMPARE(visibleWindows(u"Software Update"_s).size(), 1);
+    updater.session().cancel();
+    QVERIFY(visibleWindows(u"Software Update"_s).isEmpty());
 }
 
 void TestWindows::letsNobodyResizeTheSettings()

@@ -9,6 +9,7 @@
 #include "settingswindow/links.h"
 #include "settingswindow/menubaricon.h"
 #include "settingswindow/settings.h"
+#include "settingswindow/softwareupdates.h"
 #include "state/appcolorscheme.h"
 #include "state/appstatus.h"
 #include "state/displayswitches.h"
@@ -18,6 +19,7 @@
 #include "tests/settingswindow/fakeloginitem.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/updates/fakeplatform.h"
 
 FERRIN_USE_QML_TYPES(Ferrin_Settings)
 FERRIN_USE_QML_FILES(ferrin_settingswindow)
@@ -39,8 +41,10 @@ inline std::unique_ptr<SettingsData> newSettings(DefaultsStore &store)
 class SettingsStage : public SceneStage
 {
 public:
-    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop)
+    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop,
+                           const UpdateFeed &feed = someFeed())
         : SceneStage({ "Ferrin.Settings" }, popovers)
+        , updatePlatform(feed)
     {
     }
     ~SettingsStage() { item.reset(); }
@@ -64,6 +68,10 @@ public:
                   { .faq = QUrl(QStringLiteral("file:///faq.html")),
                     .supportMail = QUrl(QStringLiteral("mailto:support@example.org")) },
                   &engine };
+
+    FakeUpdatePlatform updatePlatform;
+    Updater updater { updatePlatform.parts(store) };
+    SoftwareUpdates updates { updater, &engine };
 };
 
 } // namespace ferrin::test

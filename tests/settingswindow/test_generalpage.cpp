@@ -56,7 +56,10 @@ private Q_SLOTS:
         QCOMPARE(test::textsOf(f.page),
                  (QStringList { u"App start"_s, u"Launch at login"_s, u"Color theme"_s,
                                 u"Pick a theme"_s, u"System"_s, u"Light"_s, u"Dark"_s,
-                                u"System Settings"_s, u"Open System Settings battery section"_s }));
+                                u"System Settings"_s, u"Open System Settings battery section"_s,
+                                u"Updates"_s, u"Check for Updates\u2026"_s,
+                                u"Automatically check for updates"_s,
+                                u"Automatically download updates"_s }));
     }
 
     void standsOnItsGroundWithRoomAround()
@@ -67,13 +70,14 @@ private Q_SLOTS:
                  f.stage.colour("settingsBackground"));
         qreal y = 20;
         for (const char *section :
-             { "LauchAtLoginView", "ThemePicker", "OpenSystemSettingsView" }) {
+             { "LauchAtLoginView", "ThemePicker", "OpenSystemSettingsView", "AppUpdateView" }) {
             const QQuickItem *const view = f.only(section);
             QVERIFY2(view, section);
             QCOMPARE(view->mapToScene({}), QPointF(20, y));
             QCOMPARE(view->width(), 460);
             y += view->height() + 35;
         }
+        QVERIFY(y - 35 <= 480);
     }
 
     void registersTheLoginItemAtAClick()
@@ -206,6 +210,10 @@ private Q_SLOTS:
         QVERIFY(f.row()->hasActiveFocus());
         QTest::keyClick(&f.stage.window, Qt::Key_Return);
         QCOMPARE(f.stage.opener.opened, QList<QUrl> { batteryPane });
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(&f.stage.window, Qt::Key_Tab);
+            QVERIFY(f.only("AppUpdateView")->isAncestorOf(f.stage.window.activeFocusItem()));
+        }
         QTest::keyClick(&f.stage.window, Qt::Key_Tab);
         QVERIFY(f.toggle()->hasActiveFocus());
     }

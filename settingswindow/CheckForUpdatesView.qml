@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+import Ferrin.Settings
+
+// Asks for an update now, and decides what the updater does by itself. The switches show what they
+// were when the view was made, and what the user made of them since.
+Column {
+    id: root
+
+    property bool automaticallyChecksForUpdates: SoftwareUpdates.automaticallyChecksForUpdates()
+    property bool automaticallyDownloadsUpdates: SoftwareUpdates.automaticallyDownloadsUpdates()
+
+    spacing: 4
+
+    ProminentButton {
+        text: "Check for Updates…"
+        enabled: SoftwareUpdates.canCheckForUpdates
+        onPressed: SoftwareUpdates.checkForUpdates()
+    }
+
+    // With the spacing around it, ten.
+    Item {
+        width: 1
+        height: 2
+    }
+
+    SwitchView {
+        width: parent.width
+        height: 20
+        label: "Automatically check for updates"
+        isOn: root.automaticallyChecksForUpdates
+        onFlipped: on => {
+            root.automaticallyChecksForUpdates = on;
+            SoftwareUpdates.setAutomaticallyChecksForUpdates(on);
+        }
+    }
+
+    SwitchView {
+        width: parent.width
+        height: 20
+        label: "Automatically download updates"
+        isOn: root.automaticallyDownloadsUpdates
+        onFlipped: on => {
+            root.automaticallyDownloadsUpdates = on;
+            SoftwareUpdates.setAutomaticallyDownloadsUpdates(on);
+        }
+    }
+}

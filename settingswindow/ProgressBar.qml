@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// How much of something is done.
+Rectangle {
+    id: root
+
+    // 0 to 1.
+    property real value: 0
+    // In words, for those who hear it.
+    required property string spokenName
+
+    implicitHeight: 6
+    radius: height / 2
+    color: Colours.gaugeTrack
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: spokenName
+    Accessible.description: `${Math.round(value * 100)} %`
+
+    Rectangle {
+        width: root.value > 0 ? Math.max(parent.height, parent.width * root.value) : 0
+        height: parent.height
+        radius: parent.radius
+        color: Colours.accent
+    }
+}

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import QtQuick
+import Ferrin.Quick
+
+// What is new in a release, as high as it needs to be up to a limit, and scrolled by wheel and keys
+// beyond it. Nothing in it can be followed.
+Rectangle {
+    id: root
+
+    required property string notes
+    property int maximumHeight: 180
+    readonly property bool isScrollable: words.height + 20 > maximumHeight
+
+    implicitHeight: Math.min(words.height + 20, maximumHeight)
+    radius: 8
+    color: Colours.settingsRectangle
+    border { width: 1; color: Colours.settingsRectBorder }
+    activeFocusOnTab: isScrollable
+
+    Accessible.role: Accessible.Paragraph
+    Accessible.name: "What is new"
+    Accessible.description: notes
+    Accessible.focusable: isScrollable
+
+    Keys.onUpPressed: root.scroll(-20)
+    Keys.onDownPressed: root.scroll(20)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown) {
+            root.scroll(view.height * (event.key === Qt.Key_PageUp ? -1 : 1));
+            event.accepted = true;
+        }
+    }
+
+    onNotesChanged: view.contentY = 0
+
+    function scroll(by: real) {
+        const end = Math.max(0, view.contentHeight - view.height);
+        view.contentY = Math.max(0, Math.min(end, view.contentY + by));
+    }
+
+    FocusRing {
+        anchors.margins: -3
+        radius: root.radius + 3
+        owner: root
+    }
+
+    Flickable {
+        id: view
+
+        anchors { fill: parent; margins: 10; rightMargin: 14 }
+        clip: true
+        contentWidth: width
+        contentHeight: words.height
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: root.isScrollable
+
+        Text {
+            id: words
+
+            width: parent.width
+            text: root.notes
+            textFormat: Text.MarkdownText
+            wrapMode: Text.Wrap
+            font: Fonts.regular12
+            color: Colours.primaryText
+            linkColor: Colours.primaryText
+            Accessible.ignored: true
+        }
+    }
+
+    // Where in the notes one is.
+    Rectangle {
+        anchors { right: parent.right; rightMargin: 5 }
+        visible: root.isScrollable
+        y: view.y + view.height * view.visibleArea.yPosition
+        width: 4
+        height: view.height * view.visibleArea.heightRatio
+        radius: 2
+        color: Colours.switchOff
+    }
+}

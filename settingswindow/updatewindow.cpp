@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "settingswindow/updatewindow.h"
+
+#include "quick/quickengine.h"
+#include "settingswindow/softwareupdates.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQuickItem>
+#include <QScreen>
+
+namespace ferrin {
+
+QString UpdateWindow::identifier()
+{
+    return QStringLiteral("FerrinUpdate");
+}
+
+UpdateWindow::UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates)
+    : QQuickView(&engine, nullptr)
+    , m_updates(updates)
+{
+    setObjectName(identifier());
+    setTitle(QStringLiteral("Software Update"));
+    setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+             | Qt::WindowCloseButtonHint);
+    setResizeMode(SizeRootObjectToView);
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/UpdateView.qml")));
+    // The lists of windows can wait for it, and the first frame does not have to.
+    connect(
+        this, &QQuickWindow::frameSwapped, this,
+        [this] { setIcon(QIcon(QStringLiteral(":/icons/org.ferrin.Ferrin.svg"))); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    connect(rootObject(), &QQuickItem::implicitHeightChanged, this, &UpdateWindow::fit);
+    connect(&m_updates, &SoftwareUpdates::stageChanged, this, [this] {
+        if (m_updates.stage() == SoftwareUpdates::Stage::Idle)
+            hide();
+    });
+}
+
+void UpdateWindow::open()
+{
+    if (m_updates.stage() == SoftwareUpdates::Stage::Idle)
+        return;
+    fit();
+    if (!isVisible()) {
+        QRect frame(QPoint(), size());
+        frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+        setPosition(frame.topLeft());
+    }
+    show();
+    raise();
+    requestActivate();
+}
+
+void UpdateWindow::closeEvent(QCloseEvent *event)
+{
+    QQuickView::closeEvent(event);
+    if (event->isAccepted())
+        m_updates.dismiss();
+}
+
+void UpdateWindow::fit()
+{
+    const QSize wanted(qRound(rootObject()->implicitWidth()),
+                       qRound(rootObject()->implicitHeight()));
+    setMinimumSize(wanted);
+    setMaximumSize(wanted);
+    resize(wanted);
+}
+
+} // namespace ferrin

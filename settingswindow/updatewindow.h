@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QQuickView>
+
+namespace ferrin {
+
+class SoftwareUpdates;
+
+/// The window "Software Update", which shows the updater's session and closes when that ends. A
+/// single instance, as large as what the stage has to say; it is first placed at the centre of the
+/// screen. To close it ends the session.
+class UpdateWindow final : public QQuickView
+{
+    Q_OBJECT
+
+public:
+    /// Both outlive it.
+    UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates);
+
+    /// The name by which the window is asked for.
+    [[nodiscard]] static QString identifier();
+
+    /// Shows the window, or brings the open one to the front. Without a session nothing opens.
+    void open();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void fit();
+
+    SoftwareUpdates &m_updates;
+};
+
+} // namespace ferrin

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "settingswindow/updatewindow.h"
+#include "tests/settingswindow/updatescenes.h"
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+using Stage = UpdateSession::Stage;
+
+namespace {
+
+struct Window : test::UpdateScenes
+{
+    Window() { show(); }
+
+    [[nodiscard]] QStringList answers() const
+    {
+        QStringList texts;
+        for (const QQuickItem *button : test::visibleItemsOfType(view, "Pressable"))
+            texts.append(button->property("text").toString());
+        return texts;
+    }
+    void press(const QString &answer)
+    {
+        // The buttons of a new stage are put into their places with the next picture.
+        static_cast<void>(stage.picture());
+        for (QQuickItem *button : test::visibleItemsOfType(view, "Pressable")) {
+            if (button->property("text").toString() == answer) {
+                stage.click(button);
+                return;
+            }
+        }
+        QFAIL(qPrintable(u"no answer "_s + answer));
+    }
+    [[nodiscard]] QString heading() const { return test::textsOf(view).constFirst(); }
+    [[nodiscard]] QString message() const { return test::textsOf(view).value(1); }
+    [[nodiscard]] QString focused() const
+    {
+        const QQuickItem *const item = stage.window.activeFocusItem();
+        return item ? item->property("text").toString() : QString();
+    }
+    [[nodiscard]] bool activate()
+    {
+        stage.window.requestActivate();
+        return QTest::qWaitForWindowActive(&stage.window);
+    }
+    [[nodiscard]] Stage stageNow() { return stage.updater.session().stage(); }
+};
+
+} // namespace
+
+class TestUpdateView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setApplicationVersion(u"1.2.9"_s); }
+
+    void checksWithAWayToStop()
+    {
+        Window f;
+        f.check();
+        QCOMPARE(f.heading(), u"Checking for updates\u2026"_s);
+        QCOMPARE(f.message(), u"Asking the update server."_s);
+        QCOMPARE(test::visibleItemsOfType(f.view, "Spinner").size(), 1);
+        QCOMPARE(f.answers(), QStringList(u"Cancel"_s));
+        f.press(u"Cancel"_s);
+        QCOMPARE(f.stageNow(), Stage::idle);
+    }
+
+    void movesTheSpinnerUnlessNothingMayMove()
+    {
+        Window f;
+        f.check();
+        QQuickItem *const spinner = test::itemsOfType(f.view, "Spinner").constFirst();
+        QTRY_VERIFY(spinner->property("brightest").toInt() > 1);
+        f.stage.appearance.setReducesMotion(true);
+        const int brightest = spinner->property("brightest").toInt();
+        QTest::qWait(250);
+        QCOMPARE(spinner->property("brightest").toInt(), brightest);
+    }
+
+    void saysThatAllIsUpToDate()
+    {
+        Window f;
+        f.becomeUpToDate();
+        QCOMPARE(f.heading(), u"Ferrin is up to date"_s);
+        QCOMPARE(f.message(), u"Version 1.2.9 is the newest one."_s);
+        QCOMPARE(f.answers(), QStringList(u"Close"_s));
+        f.press(u"Close"_s);
+        QCOMPARE(f.stageNow(), Stage::idle);
+    }
+
+    void offersANewerVersionWithItsNotes()
+    {
+        Window f;
+        f.offer();
+        QCOMPARE(f.heading(), u"Ferrin 1.3.0 is available"_s);
+        QCOMPARE(
+            f.message(),
+            u"It was released on 30 April 2026 and is 4.2 MB large. You have version 1.2.9."_s);
+        QCOMPARE(f.answers(), (QStringList { u"Skip this version"_s, u"Later"_s, u"Download"_s }));
+        QCOMPARE(test::visibleItemsOfType(f.view, "ReleaseNotesView").size(), 1);
+    }
+
+    void skipsAVersionForGood()
+    {
+        Window f;
+        f.offer();
+        f.press(u"Skip this version"_s);
+        QCOMPARE(f.stageNow(), Stage::idle);
+        QCOMPARE(UpdateRecords(f.stage.store).skippedVersion(), u"1.3.0"_s);
+    }
+
+    void leavesAVersionForLater()
+    {
+        Window f;
+        f.offer();
+        f.press(u"Later"_s);
+        QCOMPARE(f.stageNow(), Stage::idle);
+        QVERIFY(UpdateRecords(f.stage.store).skippedVersion().isEmpty());
+    }
+
+    void showsHowMuchIsDownloadedAndGoesBackToTheOffer()
+    {
+        Window f;
+        f.offer();
+        f.press(u"Download"_s);
+        f.receive(1'050'000);
+        QCOMPARE(f.heading(), u"Downloading Ferrin 1.3.0"_s);
+        QCOMPARE(f.message(), u"1.1 MB of 4.2 MB"_s);
+        QQuickItem *const bar = test::visibleItemsOfType(f.view, "ProgressBar").value(0);
+        QVERIFY(bar);
+        const QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(bar);
+        QCOMPARE(spoken->role(), QAccessible::ProgressBar);
+        QCOMPARE(spoken->text(QAccessible::Description), u"25 %"_s);
+        QCOMPARE(f.answers(), QStringList(u"Cancel"_s));
+        f.press(u"Cancel"_s);
+        QCOMPARE(f.stageNow(), Stage::available);
+    }
+
+    void offersToInstallWhatIsVerified()
+    {
+        Window f;
+        f.becomeReady();
+        QCOMPARE(f.heading(), u"Ferrin 1.3.0 is ready to install"_s);
+        QCOMPARE(
+            f.message(),
+            u"The package is downloaded and verified. The system's installer does the rest."_s);
+        QCOMPARE(f.answers(), (QStringList { u"Skip this version"_s, u"Later"_s, u"Install"_s }));
+        f.press(u"Install"_s);
+        // What lies on the disk is looked at once more, and here nothing does.
+        QCOMPARE(f.stageNow(), Stage::failed);
+    }
+
+    void saysInPlainWordsWhatFailedAndTriesAgain()
+    {
+        Window f;
+        f.fail();
+        QCOMPARE(f.heading(), u"The update did not succeed"_s);
+        QCOMPARE(f.message(), plainWords(UpdateFailure::noConnection));
+        QCOMPARE(f.answers(), (QStringList { u"Close"_s, u"Try again"_s }));
+        f.press(u"Try again"_s);
+        QCOMPARE(f.stageNow(), Stage::checking);
+        f.fail();
+        f.press(u"Close"_s);
+        QCOMPARE(f.stageNow(), Stage::idle);
+    }
+
+    void isWorkedByTheKeyboardAlone()
+    {
+        Window f;
+        QVERIFY(f.activate());
+        f.offer();
+        // The focus is placed once the answers have come.
+        QCoreApplication::processEvents();
+        QCOMPARE(f.focused(), u"Download"_s);
+        QTest::keyClick(&f.stage.window, Qt::Key_Backtab);
+        QCOMPARE(f.focused(), u"Later"_s);
+        QTest::keyClick(&f.stage.window, Qt::Key_Backtab);
+        QCOMPARE(f.focused(), u"Skip this version"_s);
+        QTest::keyClick(&f.stage.window, Qt::Key_Tab);
+        QTest::keyClick(&f.stage.window, Qt::Key_Tab);
+        QTest::keyClick(&f.stage.window, Qt::Key_Return);
+        QCOMPARE(f.stageNow(), Stage::downloading);
+        // The same key, pressed too long, stops nothing.
+        QTRY_COMPARE(f.focused(), QString());
+        QTest::keyClick(&f.stage.window, Qt::Key_Return);
+        QCOMPARE(f.stageNow(), Stage::downloading);
+        QTest::keyClick(&f.stage.window, Qt::Key_Escape);
+        QCOMPARE(f.stageNow(), Stage::available);
+        QTRY_COMPARE(f.focused(), u"Download"_s);
+        QTest::keyClick(&f.stage.window, Qt::Key_Escape);
+        QCOMPARE(f.stageNow(), Stage::idle);
+    }
+
+    void tellsAScreenReaderWhatItIsAt()
+    {
+        Window f;
+        f.offer();
+        const QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(f.view);
+        QCOMPARE(spoken->role(), QAccessible::Dialog);
+        QCOMPARE(spoken->text(QAccessible::Name), u"Ferrin 1.3.0 is available"_s);
+        QCOMPARE(spoken->text(QAccessible::Description), f.message());
+    }
+
+    void opensWhileThereIsASessionAndClosesWithIt()
+    {
+        test::UpdateScenes f;
+        UpdateWindow window(f.stage.engine, f.stage.updates);
+        window.open();
+        QVERIFY(!window.isVisible());
+        f.check();
+        window.open();
+        QVERIFY(window.isVisible());
+        QCOMPARE(window.title(), u"Software Update"_s);
+        const int height = window.height();
+        f.answerWithOffer();
+        QTRY_VERIFY(window.height() > height);
+        QCOMPARE(window.minimumSize(), window.maximumSize());
+        f.stage.updates.later();
+        QVERIFY(!window.isVisible());
+    }
+
+    void endsTheSessionWhenItIsClosed()
+    {
+        test::UpdateScenes f;
+        UpdateWindow window(f.stage.engine, f.stage.updates);
+        f.offer();
+        f.stage.updates.download();
+        window.open();
+        QVERIFY(window.close());
+        QCOMPARE(f.stage.updater.session().stage(), Stage::idle);
+        QCOMPARE(f.stage.updatePlatform.engine.cancels, 1);
+    }
+};
+
+QTEST_MAIN(TestUpdateView)
+#include "test_updateview.moc"
