@@ -20,7 +20,9 @@ FerrinApp::FerrinApp(Parts parts)
         return m_windows && m_windows->isOfDashboard(window);
     })
 {
-    static_cast<void>(AppUpdater::shared());
+    connect(&AppUpdater::shared().controller()->updater()->session(),
+            &UpdateSession::presentationRequested, this,
+            [this] { openWindow(QStringLiteral("FerrinUpdate")); });
     connect(&m_dismissal, &PopoverDismissal::dismissed, this, [this] { setDashboardShown(false); });
     connect(this, &FerrinApp::isDashboardShownChanged, this, &FerrinApp::showOrHideDashboard);
 }
@@ -69,8 +71,13 @@ void FerrinApp::showOrHideDashboard()
 
 void FerrinApp::openSettings()
 {
+    openWindow(QStringLiteral("FerrinSettings"));
+}
+
+void FerrinApp::openWindow(const QString &identifier)
+{
     if (Windows *const all = windows())
-        all->openWindow(QStringLiteral("FerrinSettings"));
+        all->openWindow(identifier);
 }
 
 Windows *FerrinApp::windows()

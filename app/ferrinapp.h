@@ -63,6 +63,7 @@ Q_SIGNALS:
 private:
     void takeStatusItem(StatusItem &item);
     void showOrHideDashboard();
+    void openWindow(const QString &identifier);
     [[nodiscard]] Windows *windows();
 
     Parts m_parts;

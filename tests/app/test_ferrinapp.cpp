@@ -73,6 +73,7 @@ private Q_SLOTS:
     void staysClosedWhenTheWindowsAreMissing();
     void opensTheSettingsWindowByItsIdentifier();
     void startsTheUpdaterWhileItIsConstructed();
+    void opensTheWindowOfUpdatesWhenTheUpdaterWantsIt();
 
 private:
     test::FakeEngine m_engine;
@@ -215,6 +216,15 @@ void TestFerrinApp::startsTheUpdaterWhileItIsConstructed()
     QVERIFY(m_timesLookedAtClock > 0);
     QVERIFY(AppUpdater::shared().controller()->updater()->timer().isActive());
     QVERIFY(m_engine.checks.isEmpty());
+}
+
+void TestFerrinApp::opensTheWindowOfUpdatesWhenTheUpdaterWantsIt()
+{
+    Stage stage;
+    Updater &updater = *AppUpdater::shared().controller()->updater();
+    updater.checkForUpdates();
+    QCOMPARE(stage.log, QStringList({ u"load"_s, u"FerrinUpdate"_s }));
+    updater.session().cancel();
 }
 
 QTEST_GUILESS_MAIN(TestFerrinApp)
