@@ -86,7 +86,10 @@ void SquareBatteryView::paint(QPainter &painter, const QRectF &bounds,
 
     const bool low
         = icon.status == BatteryChargingStatus::discharging && icon.charge <= 10 && !bolt;
-    paintOutline(painter, geometry, withOpacity(context.text, outlineOpacity));
+    // What is left of the fill is too little to be seen at a glance.
+    paintOutline(painter, geometry,
+                 low ? withOpacity(context.red, lowFillOpacity)
+                     : withOpacity(context.text, outlineOpacity));
     paintFill(painter, geometry, icon.charge,
               low ? withOpacity(context.red, lowFillOpacity)
                   : withOpacity(context.text, fillOpacity));

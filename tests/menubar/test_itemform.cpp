@@ -206,6 +206,14 @@ private Q_SLOTS:
         QVERIFY(!isRedSomewhere(square(Icon::battery2HWithBolt, 8, discharging)));
     }
 
+    void aLowBatteryIsRedAllAround()
+    {
+        const ItemContent low = contentOf(Icon::battery2H, u"1"_s, u"0:02"_s, discharging, 1);
+        const QImage image = paint({ ItemForm::Square, 22, 1 }, low);
+        QVERIFY(isRedSomewhere(image.copy(0, 0, 2, 12)));
+        QVERIFY(isRedSomewhere(image.copy(18, 0, 4, 12)));
+    }
+
     void aBoltIsSeenInASquare()
     {
         const ItemContent with = contentOf(Icon::battery2HWithBolt, u"78"_s, u"0:52"_s, charging);
