@@ -63,7 +63,7 @@ class WithSettings(WithADashboard):
     def make_session(self):
         screen = desktop.XfceScreen()
         # With room beside the window for its frame and for a pointer at rest.
-        screen.size = "1000x600"
+        screen.size = (1000, 600)
         return screen
 
     def start_dashboard(self, environment=None):

@@ -25,9 +25,8 @@ class Desk(desktop.XfceScreen):
     """A panel above a wallpaper, with shadows."""
 
     def __init__(self, appearance, scale, size):
-        super().__init__(dark=appearance == "Dark")
-        self.scale = scale
-        self.size = f"{size[0] * scale}x{size[1] * scale}"
+        super().__init__(dark=appearance == "Dark", scale=scale)
+        self.size = size
         self._wallpaper = WALLPAPERS[appearance]
 
     def boot(self):
