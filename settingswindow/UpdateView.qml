@@ -26,8 +26,15 @@ FocusScope {
 
     Keys.onEscapePressed: root.decline()
     Component.onCompleted: root.placeFocus()
+    onStageChanged: settled.restart()
+
     // The answers come after the stage.
-    onStageChanged: Qt.callLater(root.placeFocus)
+    Timer {
+        id: settled
+
+        interval: 0
+        onTriggered: root.placeFocus()
+    }
 
     function placeFocus() {
         if (isAtWork)
@@ -144,7 +151,7 @@ FocusScope {
         width: 56
         height: 56
         source: "qrc:/icons/org.ferrin.Ferrin.svg"
-        sourceSize: Qt.size(56, 56)
+        sourceSize { width: 56; height: 56 }
         Accessible.ignored: true
     }
 
