@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// The floor of opening a window: in the place of the dashboard a bare Qt Quick window of its size,
-// made as the toolkit's own examples make one.
+// The floor of opening a window: in the place of the dashboard and of the settings bare Qt Quick
+// windows of their sizes, made as the toolkit's own examples make one. As with ours, the dashboard
+// is made anew for each opening and the settings are kept.
 
 #include "app/windows.h"
 
@@ -20,8 +21,7 @@ public:
 
     void showDashboard(const ItemPlace &) override
     {
-        m_view = std::make_unique<QQuickView>(QUrl(QStringLiteral("qrc:/bench/Bare.qml")));
-        m_view->resize(414, 274);
+        m_view = bareView(QSize(414, 274));
         m_view->show();
     }
     void hideDashboard() override { m_view.release()->deleteLater(); }
@@ -29,10 +29,23 @@ public:
     {
         return &window == m_view.get();
     }
-    void openWindow(const QString &) override { }
+    void openWindow(const QString &) override
+    {
+        if (!m_settings)
+            m_settings = bareView(QSize(701, 500));
+        m_settings->show();
+    }
 
 private:
+    static std::unique_ptr<QQuickView> bareView(QSize size)
+    {
+        auto view = std::make_unique<QQuickView>(QUrl(QStringLiteral("qrc:/bench/Bare.qml")));
+        view->resize(size);
+        return view;
+    }
+
     std::unique_ptr<QQuickView> m_view;
+    std::unique_ptr<QQuickView> m_settings;
 };
 
 } // namespace

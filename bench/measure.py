@@ -22,8 +22,10 @@ sys.path[:0] = [str(ROOT / "tests"), str(ROOT / "tests" / "endtoend")]
 
 from gi.repository import Gio, GLib  # noqa: E402
 from harness import desktop  # noqa: E402
+from harness.dashboard import Dashboard  # noqa: E402
 from harness.processes import end, eventually  # noqa: E402
 from harness.program import MOCK, Program  # noqa: E402
+from harness.settings import PAGES, Settings  # noqa: E402
 from virtuallaptop import VirtualLaptop  # noqa: E402
 
 TREE = pathlib.Path(sys.argv[1]).resolve()
@@ -44,6 +46,7 @@ STARTS = 15
 STARTS_OF_TWINS = 61
 MEMORIES_OF_TWINS = 5
 OPENINGS = 10
+SETTINGS_OPENINGS = 3
 FIRST_OPENINGS = 9
 LATER_OPENINGS = 20
 REFRESHES = 1000
@@ -211,6 +214,25 @@ def switch_dashboard(program, session, shown):
     eventually(lambda: bool(session.windows_of(program.pid)) == shown, "the dashboard has turned")
 
 
+def after_the_settings():
+    screen = desktop.XfceScreen()
+    screen.size = (1000, 600)
+    with VirtualLaptop(None, False) as laptop, screen as session, \
+            Dashboard(session, laptop, r"37%.*") as dashboard:
+        window, pid = Settings(session, dashboard), dashboard.program.pid
+        time.sleep(SETTLING_SECONDS)
+        before = memory_of(pid)
+        for _ in range(SETTINGS_OPENINGS):
+            window.open()
+            for page in PAGES:
+                window.select(page)
+            window.close()
+        time.sleep(SETTLING_SECONDS)
+        left = memory_of(pid)["Pss"] - before["Pss"]
+    row(f"PSS left by {SETTINGS_OPENINGS} openings of the settings and all of their pages",
+        f"{left:.1f} MiB", f"{before['Pss']:.1f} MiB before the first", f"{left:.1f} (no limit)")
+
+
 def after_the_dashboard():
     with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
         program = Program(session, laptop)
@@ -233,21 +255,33 @@ def after_the_dashboard():
     wake_up_row("with the dashboard open", counted)
 
 
-def opening():
-    first = {module: [] for module in (OUR_WINDOWS, BARE_WINDOWS)}
-    later = {module: [] for module in first}
+def milliseconds_to_open(what, modules):
+    """The first openings of a module's window and all later ones, of processes that took turns."""
+    first = {module: [] for module in modules}
+    later = {module: [] for module in modules}
     with desktop.BareScreen() as session:
         for _ in range(FIRST_OPENINGS):
-            for module in first:
-                told = session.start([str(OPENING), str(module), str(1 + LATER_OPENINGS)],
+            for module in modules:
+                told = session.start([str(OPENING), str(module), what, str(1 + LATER_OPENINGS)],
                                      stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
                 milliseconds = [float(line) for line in told.communicate()[0].split()]
                 first[module].append(milliseconds[0])
                 later[module] += milliseconds[1:]
-    for name, taken, limit in (("first", first, 3), ("a later", later, 1.5)):
-        ours, bare = (statistics.median(milliseconds) for milliseconds in taken.values())
-        row(f"From the click to the first frame, {name} opening", f"{ours:.1f} ms",
+    return [[statistics.median(taken) for taken in each.values()] for each in (first, later)]
+
+
+def opening(what, title, first_limit, later_limit):
+    first, later = milliseconds_to_open(what, (OUR_WINDOWS, BARE_WINDOWS))
+    for name, (ours, bare), limit in (("first", first, first_limit),
+                                      ("a later", later, later_limit)):
+        row(f"From the click to {title}, {name} opening", f"{ours:.1f} ms",
             f"{bare:.1f} ms a bare `QQuickView`", verdict(ours / bare, limit))
+
+
+def opening_icons():
+    for name, (taken,) in zip(("first", "a later"), milliseconds_to_open("icons", (OUR_WINDOWS,))):
+        row(f"CPU time to open the popover of 36 icons, {name} opening", f"{taken:.0f} ms",
+            "100 ms", verdict(taken / 100, 1))
 
 
 def main():
@@ -259,8 +293,11 @@ def main():
     memory(desktop.BareScreen, "without any panel", {"XDG_CURRENT_DESKTOP": "GNOME"})
     starting()
     updater()
-    opening()
+    opening("dashboard", "the first frame", 3, 1.5)
+    opening("settings", "the first frame of the settings", 2, 2)
+    opening_icons()
     after_the_dashboard()
+    after_the_settings()
     wake_ups()
 
 

@@ -68,6 +68,14 @@ MenuView {
             image: "switch.2"
             sizeAdjust: 2
             text: "SETTINGS"
+            onIsHoveredChanged: {
+                if (isHovered)
+                    Dashboard.settingsExpected();
+            }
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    Dashboard.settingsExpected();
+            }
             customOnTap: () => {
                 Dashboard.closeRequested();
                 Dashboard.settingsRequested();

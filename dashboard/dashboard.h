@@ -47,6 +47,8 @@ Q_SIGNALS:
     void selectedChanged();
     /// The popover is to close.
     void closeRequested();
+    /// The settings window may soon be asked for: the pointer or the keys have come to its entry.
+    void settingsExpected();
     /// The settings window is to open, or to come to the front.
     void settingsRequested();
 

@@ -25,6 +25,9 @@
 
 #include <QCoreApplication>
 #include <QObject>
+#include <QTimer>
+
+#include <chrono>
 
 namespace ferrin {
 
@@ -50,6 +53,12 @@ public:
     {
         QObject::connect(&m_dashboardState, &Dashboard::closeRequested, &m_engine,
                          [this] { dashboardClosed(); });
+        // Between coming to the entry and clicking it lies more time than the window takes.
+        m_preparation.setSingleShot(true);
+        m_preparation.setInterval(litEntry);
+        QObject::connect(&m_dashboardState, &Dashboard::settingsExpected, &m_preparation,
+                         qOverload<>(&QTimer::start));
+        QObject::connect(&m_preparation, &QTimer::timeout, &m_engine, [this] { settings(); });
         QObject::connect(&m_dashboardState, &Dashboard::settingsRequested, &m_engine,
                          [this] { openWindow(SettingsWindow::identifier()); });
         QObject::connect(&m_settingsState, &Settings::dismissRequested, &m_engine,
@@ -89,9 +98,7 @@ public:
     void openWindow(const QString &identifier) override
     {
         if (identifier == SettingsWindow::identifier()) {
-            if (!m_settings)
-                m_settings = std::make_unique<SettingsWindow>(m_engine);
-            m_settings->open();
+            settings().open();
         } else if (identifier == UpdateWindow::identifier()) {
             if (!m_updateWindow)
                 m_updateWindow = std::make_unique<UpdateWindow>(m_engine, m_updates);
@@ -100,6 +107,16 @@ public:
     }
 
 private:
+    /// First the entry is lit by which the window is expected.
+    static constexpr std::chrono::milliseconds litEntry { 30 };
+
+    SettingsWindow &settings()
+    {
+        if (!m_settings)
+            m_settings = std::make_unique<SettingsWindow>(m_engine);
+        return *m_settings;
+    }
+
     // The engine goes last, and nothing of a scene outlives what it was bound to.
     QuickEngine m_engine;
     Battery m_battery;
@@ -114,6 +131,7 @@ private:
     std::unique_ptr<DashboardWindow> m_dashboard;
     std::unique_ptr<SettingsWindow> m_settings;
     std::unique_ptr<UpdateWindow> m_updateWindow;
+    QTimer m_preparation;
 };
 
 } // namespace

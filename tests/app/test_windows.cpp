@@ -51,6 +51,7 @@ private Q_SLOTS:
     void letsNobodyResizeTheSettings();
     void placesTheSettingsInTheMiddleOfTheScreen();
     void showsTheProgramsIconInTheListsOfWindows();
+    void makesTheSettingsReadyWhenThePointerComesToTheirEntry();
     void dropsTheDashboardWhenItCloses();
     void closesTheDashboardByEscape();
     void knowsTheWindowsOfTheDashboard();
@@ -82,6 +83,7 @@ void TestWindows::init()
     auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
     QVERIFY2(factory, qPrintable(loader.errorString()));
     m_windows = factory->create(m_platform.all());
+    m_windows->dashboardClosed = m_windows->dashboardLostFocus = [] {};
 }
 
 void TestWindows::showsOneWindowWhenTheSettingsAreOpenedTwice()
@@ -129,6 +131,26 @@ void TestWindows::showsTheProgramsIconInTheListsOfWindows()
     m_windows->openWindow(u"FerrinSettings"_s);
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
     QTRY_VERIFY(!window->icon().pixmap(32).isNull());
+}
+
+void TestWindows::makesTheSettingsReadyWhenThePointerComesToTheirEntry()
+{
+    const auto isReady = [] {
+        return std::ranges::any_of(QGuiApplication::allWindows(), [](const QWindow *window) {
+            return window->objectName() == u"FerrinSettings";
+        });
+    };
+    m_windows->showDashboard({ .item { 100, 10, 1, 1 } });
+    QWindow *const dashboard = visibleWindows(u"Ferrin"_s).first();
+    QVERIFY(QTest::qWaitForWindowExposed(dashboard));
+    QVERIFY(!isReady());
+    // Down the menu, the last entry of which it is.
+    for (int y = 0; y < dashboard->height() && !isReady(); y += 4) {
+        QTest::mouseMove(dashboard, QPoint(70, y));
+        QTest::qWait(40);
+    }
+    QVERIFY(isReady());
+    QVERIFY(visibleWindows(u"Ferrin Settings"_s).isEmpty());
 }
 
 void TestWindows::dropsTheDashboardWhenItCloses()

@@ -155,6 +155,19 @@ private Q_SLOTS:
         QCOMPARE(f.stage.status.dashboardItemSelected(), DashboardMenuButton::health);
     }
 
+    void expectsTheSettingsWhenThePointerOrTheKeysComeToTheirEntry()
+    {
+        Menu f;
+        const QSignalSpy expected(&f.stage.dashboard, &Dashboard::settingsExpected);
+        f.point(adapter);
+        QCOMPARE(expected.count(), 0);
+        f.point(settings);
+        QCOMPARE(expected.count(), 1);
+        f.point(adapter);
+        f.items[settings]->forceActiveFocus(Qt::TabFocusReason);
+        QCOMPARE(expected.count(), 2);
+    }
+
     void isWorkedByTheKeyboardAlone()
     {
         Menu f;
