@@ -14,7 +14,8 @@ namespace ferrin {
 namespace updateschedule {
 
 inline constexpr std::chrono::hours betweenChecks { 24 };
-inline constexpr std::chrono::seconds afterStart { 60 };
+/// The first minute, and what a coarse timer may be early.
+inline constexpr std::chrono::seconds afterStart { 61 };
 /// A sleeping machine stops the timer, and conditions change: the longest wait for another look
 /// at the clock.
 inline constexpr std::chrono::hours betweenLooks { 1 };

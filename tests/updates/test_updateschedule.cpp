@@ -44,9 +44,9 @@ void TestUpdateSchedule::isDueWhenTheLastIsYetToCome()
 
 void TestUpdateSchedule::neverWaitsLessThanAMinute()
 {
-    QCOMPARE(updateschedule::untilNextLook(std::nullopt, m_now), 60s);
-    QCOMPARE(updateschedule::untilNextLook(m_now.addYears(-1), m_now), 60s);
-    QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(59), m_now), 60s);
+    QCOMPARE(updateschedule::untilNextLook(std::nullopt, m_now), 61s);
+    QCOMPARE(updateschedule::untilNextLook(m_now.addYears(-1), m_now), 61s);
+    QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(59), m_now), 61s);
 }
 
 void TestUpdateSchedule::neverWaitsMoreThanAnHour()
