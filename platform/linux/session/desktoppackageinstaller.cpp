@@ -21,8 +21,8 @@ QList<CommandLine> installersOf(const QString &path, bool isKde)
     const CommandLine gnome { u"gnome-software"_s, { u"--local-filename=%1"_s.arg(path) } };
     const CommandLine kde { u"plasma-discover"_s, { u"--local-filename"_s, path } };
     return { { u"gdebi-gtk"_s, { path } },
-             { u"captain"_s, { path } },
              { u"qapt-deb-installer"_s, { path } },
+             { u"deepin-deb-installer"_s, { path } },
              isKde ? kde : gnome,
              isKde ? gnome : kde,
              { u"xdg-open"_s, { path } } };

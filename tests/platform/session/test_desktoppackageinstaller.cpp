@@ -57,8 +57,8 @@ void TestDesktopPackageInstaller::leavesTheChoiceToTheUserWhereThereIsNeither()
 void TestDesktopPackageInstaller::takesTheNextWhereOneDoesNotStart()
 {
     FakeProgramStarter starter;
-    starter.installed = { u"captain"_s, u"xdg-open"_s };
-    starter.broken = { u"captain"_s };
+    starter.installed = { u"qapt-deb-installer"_s, u"xdg-open"_s };
+    starter.broken = { u"qapt-deb-installer"_s };
     QVERIFY(DesktopPackageInstaller(starter, {}).install(m_path));
     QCOMPARE(starter.started.last().program, u"xdg-open"_s);
 }
