@@ -27,4 +27,13 @@ QString harmlessMarkdown(const QString &markdown)
     return harmless;
 }
 
+QString evenMarkdown(const QString &markdown)
+{
+    static const QRegularExpression headings(u"^#{1,3}(?=[ \\t])"_s,
+                                             QRegularExpression::MultilineOption);
+    static const QRegularExpression emphasis(u"(?<![\\w*_])_([^_\n]+)_(?![\\w_])"_s);
+    // Of the levels of headings, the fourth is as large as the words.
+    return QString(markdown).replace(headings, u"####"_s).replace(emphasis, u"*\\1*"_s);
+}
+
 } // namespace ferrin

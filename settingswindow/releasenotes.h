@@ -11,4 +11,8 @@ namespace ferrin {
 /// their words, and HTML is shown as it is written.
 [[nodiscard]] QString harmlessMarkdown(const QString &markdown);
 
+/// The same Markdown in letters of one size, as it reads well in a small space: headings are only
+/// bold, and what is emphasised leans instead of being underlined.
+[[nodiscard]] QString evenMarkdown(const QString &markdown);
+
 } // namespace ferrin

@@ -111,7 +111,7 @@ QString SoftwareUpdates::offer() const
 
 QString SoftwareUpdates::notes() const
 {
-    return harmlessMarkdown(m_session.notes());
+    return evenMarkdown(harmlessMarkdown(m_session.notes()));
 }
 
 double SoftwareUpdates::progress() const

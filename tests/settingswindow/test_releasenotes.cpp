@@ -52,6 +52,29 @@ private Q_SLOTS:
         if (!shown.contains(u'['))
             QCOMPARE(document.toPlainText().trimmed(), shown);
     }
+
+    void hasLettersOfOneSizeAlone()
+    {
+        QTextDocument document;
+        document.setMarkdown(evenMarkdown(u"# Large\n\n## New\n\n- **Quieter** than #2.\n"_s));
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextCharFormat format = part.fragment().charFormat();
+                QCOMPARE(format.intProperty(QTextFormat::FontSizeAdjustment), 0);
+            }
+        }
+        QCOMPARE(document.toPlainText(), u"Large\nNew\nQuieter than #2."_s);
+    }
+
+    void leansWhatIsEmphasised()
+    {
+        QTextDocument document;
+        document.setMarkdown(evenMarkdown(u"It is _much_ quieter, says some_one_else."_s));
+        const QTextCharFormat format = (++document.begin().begin()).fragment().charFormat();
+        QVERIFY(format.fontItalic());
+        QVERIFY(!format.fontUnderline());
+        QCOMPARE(document.toPlainText(), u"It is much quieter, says some_one_else."_s);
+    }
 };
 
 QTEST_MAIN(TestReleaseNotes)
