@@ -18,6 +18,8 @@ Column {
     ProminentButton {
         text: "Check for Updates…"
         enabled: SoftwareUpdates.canCheckForUpdates
+        // Those who do not see that it rests are not told by its state.
+        Accessible.description: enabled ? "" : "A check is running"
         onPressed: SoftwareUpdates.checkForUpdates()
     }
 

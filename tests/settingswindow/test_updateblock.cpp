@@ -137,6 +137,19 @@ private Q_SLOTS:
         QCOMPARE(bool(f.spokenState(f.switches[0]).checked), f.isOn(0));
     }
 
+    void tellsAScreenReaderThatTheButtonRests()
+    {
+        Block f;
+        const auto described = [&f] {
+            return QAccessible::queryAccessibleInterface(f.button)->text(QAccessible::Description);
+        };
+        QCOMPARE(described(), QString());
+        f.stage.click(f.button);
+        QCOMPARE(described(), u"A check is running"_s);
+        f.stage.updates.dismiss();
+        QCOMPARE(described(), QString());
+    }
+
     void saysWhoKeepsTheProgramCurrentInABuildWithoutAFeed()
     {
         Block f { UpdateFeed() };
