@@ -74,6 +74,11 @@ void FerrinApp::openSettings()
     openWindow(QStringLiteral("FerrinSettings"));
 }
 
+bool FerrinApp::isInUse() const
+{
+    return isDashboardShown() || (m_windows && m_windows->isAnyShown());
+}
+
 void FerrinApp::openWindow(const QString &identifier)
 {
     if (Windows *const all = windows())

@@ -57,6 +57,9 @@ public:
     /// Opens the settings window, or brings it to the front.
     void openSettings();
 
+    /// The user looks at one of the windows.
+    [[nodiscard]] bool isInUse() const;
+
 Q_SIGNALS:
     void isDashboardShownChanged();
 

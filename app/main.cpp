@@ -9,6 +9,7 @@
 #include "menubar/menubaritemprovider.h"
 #include "platform/linux/session/applicationsetup.h"
 #include "platform/linux/session/loghandler.h"
+#include "platform/linux/session/programfile.h"
 #include "platform/linux/session/singleinstance.h"
 #include "platform/linux/session/spentmemory.h"
 #include "platform/linux/session/termination.h"
@@ -62,16 +63,9 @@ void fillStatusItem(StatusItem &item)
     MenuBarItemProvider::shared().update();
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+/// From the first item to the end. All that it makes is gone when it returns.
+int runApplication(const Bundle &bundle, const QString &path)
 {
-    const Bundle &bundle = Bundle::main();
-    installLogHandler(bundle.identifier());
-    setUpApplication();
-    const QGuiApplication application(argc, argv);
-    describe(bundle);
-
     const QDBusConnection session = QDBusConnection::sessionBus();
     SingleInstance instance(session, bundle.identifier());
     if (!instance.acquire()) {
@@ -89,12 +83,17 @@ int main(int argc, char **argv)
     UpdatePlatform updates(QDBusConnection::systemBus());
     AppUpdater::setParts(updates.parts());
 
+    const ProgramFile program(path);
     SpentMemory memory;
-    FerrinApp ferrin({ .loadWindows =
-                           [&] {
-                               memory.rememberLibraries();
-                               return loadWindows(desktop.windows());
-                           },
+    FerrinApp ferrin({ .loadWindows = [&]() -> std::unique_ptr<Windows> {
+                          // The module is that of the other program by now.
+                          if (program.isReplaced()) {
+                              QCoreApplication::exit(ProgramFile::startsAnew);
+                              return nullptr;
+                          }
+                          memory.rememberLibraries();
+                          return loadWindows(desktop.windows());
+                      },
                        .presses = &desktop.presses(),
                        .fillStatusItem =
                            [&, first = true](StatusItem &item) mutable {
@@ -104,10 +103,34 @@ int main(int argc, char **argv)
                            } });
     QObject::connect(&ferrin, &FerrinApp::isDashboardShownChanged, &memory,
                      [&] { ferrin.isDashboardShown() ? memory.keep() : memory.giveBackSoon(); });
+    QObject::connect(&program, &ProgramFile::replaced, &ferrin, [&] {
+        if (!ferrin.isInUse())
+            QCoreApplication::exit(ProgramFile::startsAnew);
+    });
     QObject::connect(&instance, &SingleInstance::activated, &ferrin,
                      [&] { ferrin.setDashboardShown(true); });
     QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
                      [&] { ferrin.useStatusBar(desktop.statusBar()); });
     desktop.start();
     return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Bundle &bundle = Bundle::main();
+    installLogHandler(bundle.identifier());
+    setUpApplication();
+    int ended = EXIT_SUCCESS;
+    QString path;
+    {
+        const QGuiApplication application(argc, argv);
+        describe(bundle);
+        path = QCoreApplication::applicationFilePath();
+        ended = runApplication(bundle, path);
+    }
+    if (ended == ProgramFile::startsAnew)
+        ProgramFile::startAnew(path, argv);
+    return ended;
 }

@@ -36,6 +36,9 @@ public:
     /// Opens the window with this identifier; an open one comes to the front.
     virtual void openWindow(const QString &identifier) = 0;
 
+    /// Whether any of them can be seen.
+    [[nodiscard]] virtual bool isAnyShown() const = 0;
+
     /// Called when the dashboard closes by itself: Escape, its own settings item, its screen gone.
     /// Set before anything is opened, as the others.
     std::function<void()> dashboardClosed;
@@ -62,5 +65,5 @@ public:
 
 } // namespace ferrin
 
-#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/4"
+#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/5"
 Q_DECLARE_INTERFACE(ferrin::WindowsFactory, FerrinWindowsFactory_iid)

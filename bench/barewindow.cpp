@@ -35,6 +35,7 @@ public:
             m_settings = bareView(QSize(701, 500));
         m_settings->show();
     }
+    [[nodiscard]] bool isAnyShown() const override { return m_view || m_settings; }
 
 private:
     static std::unique_ptr<QQuickView> bareView(QSize size)

@@ -73,7 +73,8 @@ FocusScope {
         case SoftwareUpdates.Stage.Downloading:
             return SoftwareUpdates.progressText;
         case SoftwareUpdates.Stage.ReadyToInstall:
-            return "The package is downloaded and verified. The system's installer does the rest.";
+            return "The package is downloaded and verified. The system's installer does the rest, "
+                + "and Ferrin restarts by itself once its windows are closed.";
         case SoftwareUpdates.Stage.Failed:
             return SoftwareUpdates.failure;
         default:

@@ -106,6 +106,12 @@ public:
         }
     }
 
+    [[nodiscard]] bool isAnyShown() const override
+    {
+        return m_dashboard || (m_settings && m_settings->isVisible())
+            || (m_updateWindow && m_updateWindow->isVisible());
+    }
+
 private:
     /// First the entry is lit by which the window is expected.
     static constexpr std::chrono::milliseconds litEntry { 30 };

@@ -26,8 +26,10 @@ public:
     [[nodiscard]] bool isOfDashboard(const QWindow &) const override { return false; }
     void hideDashboard() override { m_log.append(QStringLiteral("hide")); }
     void openWindow(const QString &identifier) override { m_log.append(identifier); }
+    [[nodiscard]] bool isAnyShown() const override { return areShown; }
 
     ItemPlace shownAt;
+    bool areShown = false;
 
 private:
     QStringList &m_log;

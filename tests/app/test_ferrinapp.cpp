@@ -74,6 +74,7 @@ private Q_SLOTS:
     void opensTheSettingsWindowByItsIdentifier();
     void startsTheUpdaterWhileItIsConstructed();
     void opensTheWindowOfUpdatesWhenTheUpdaterWantsIt();
+    void isInUseWhileAnyWindowIsShown();
 
 private:
     test::FakeEngine m_engine;
@@ -225,6 +226,22 @@ void TestFerrinApp::opensTheWindowOfUpdatesWhenTheUpdaterWantsIt()
     updater.checkForUpdates();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"FerrinUpdate"_s }));
     updater.session().cancel();
+}
+
+void TestFerrinApp::isInUseWhileAnyWindowIsShown()
+{
+    QStringList log;
+    auto windows = std::make_unique<test::FakeWindows>(log);
+    test::FakeWindows *const fake = windows.get();
+    FerrinApp app({ .loadWindows = [&windows] { return std::move(windows); },
+                    .fillStatusItem = [](StatusItem &) {} });
+    QVERIFY(!app.isInUse());
+    app.setDashboardShown(true);
+    QVERIFY(app.isInUse());
+    app.setDashboardShown(false);
+    QVERIFY(!app.isInUse());
+    fake->areShown = true;
+    QVERIFY(app.isInUse());
 }
 
 QTEST_GUILESS_MAIN(TestFerrinApp)

@@ -147,7 +147,8 @@ private Q_SLOTS:
         QCOMPARE(f.heading(), u"Ferrin 1.3.0 is ready to install"_s);
         QCOMPARE(
             f.message(),
-            u"The package is downloaded and verified. The system's installer does the rest."_s);
+            u"The package is downloaded and verified. The system's installer does the rest, and "
+            "Ferrin restarts by itself once its windows are closed."_s);
         QCOMPARE(f.answers(), (QStringList { u"Skip this version"_s, u"Later"_s, u"Install"_s }));
         f.press(u"Install"_s);
         // What lies on the disk is looked at once more, and here nothing does.
