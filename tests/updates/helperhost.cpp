@@ -13,15 +13,16 @@
 
 using namespace ferrin;
 
-/// The update helper for tests: CERTIFICATE [BYTES]. It trusts the one authority, and cannot write
-/// files that are longer.
+/// The update helper for tests: [CERTIFICATE [BYTES]]. It trusts the one authority, that of the
+/// environment unless it is told another, and cannot write files that are longer.
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QNetworkProxyFactory::setUseSystemConfiguration(false);
     NetworkUpdateEngine::Policy policy;
-    policy.ssl.setCaCertificates(QSslCertificate::fromPath(arguments.value(1)));
+    policy.ssl.setCaCertificates(QSslCertificate::fromPath(
+        arguments.value(1, qEnvironmentVariable("FERRIN_TEST_AUTHORITY"))));
     if (arguments.size() > 2) {
         const rlimit limit { arguments.at(2).toULong(), arguments.at(2).toULong() };
         if (setrlimit(RLIMIT_FSIZE, &limit) != 0 || std::signal(SIGXFSZ, SIG_IGN) == SIG_ERR)
