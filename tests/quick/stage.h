@@ -39,6 +39,14 @@ public:
         window.resize(210, 210);
     }
 
+    ~SceneStage()
+    {
+        item.reset();
+        // Qt keeps the texture of an image until a frame after the image was dropped.
+        window.releaseResources();
+        window.grabWindow();
+    }
+
     /// Shows what these lines of QML make, and makes them the only ones.
     QQuickItem *show(const QByteArray &lines)
     {
