@@ -32,6 +32,10 @@ private Q_SLOTS:
     void refusesAFeedWithoutSignature();
     void refusesAFeedOfAnotherKey();
     void refusesAFeedThatWasChangedByOneByte();
+    void offersNothingOlderOrEqual();
+    void refusesAReplayedOlderFeed();
+    void refusesAnExpiredFeed();
+    void refusesAPackageNameWithAPath();
     void refusesAFeedThatIsTooLong();
     void refusesAFeedThatAnnouncesTooMuch();
     void refusesABodyThatNeverEnds();
@@ -45,6 +49,13 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QString failure() { return failureOf(m_bench->check()); }
+    /// Serves a feed that is signed with our key and has something else in this place.
+    void serve(const QString &key, const QJsonValue &value)
+    {
+        QJsonObject feed = goodFeed(m_bench->package);
+        feed.insert(key, value);
+        m_bench->server.files.insert("/feed", signedJson(feed, m_bench->key));
+    }
     void answerFeedWith(const HttpsServer::Answer &answer)
     {
         m_bench->server.answers.insert("/feed", [answer](const auto &) { return answer; });
@@ -162,6 +173,43 @@ void TestFeedCheck::refusesAFeedThatWasChangedByOneByte()
         changed[at] = static_cast<char>(changed.at(at) ^ 1);
         m_bench->server.files.insert("/feed", changed);
         QCOMPARE(failure(), u"badSignature"_s);
+    }
+}
+
+void TestFeedCheck::offersNothingOlderOrEqual()
+{
+    for (const QString &version : { u"1.2.9"_s, u"1.2.9.0"_s, u"1.2.8"_s, u"1.1.99"_s, u"0.9"_s }) {
+        serve(u"version"_s, version);
+        const auto answer = m_bench->check();
+        QVERIFY(answer && std::holds_alternative<UpdateOffer>(*answer));
+        QVERIFY2(!std::get<UpdateOffer>(*answer).release, qPrintable(version));
+    }
+}
+
+void TestFeedCheck::refusesAReplayedOlderFeed()
+{
+    UpdateCheck check = checkOf(m_bench->server.url(u"feed"_s), m_bench->key);
+    const auto first = m_bench->check(check);
+    QVERIFY(first && std::holds_alternative<UpdateOffer>(*first));
+    check.newestIssued = std::get<UpdateOffer>(*first).issued;
+    serve(u"issued"_s, check.newestIssued->addSecs(-1).toString(Qt::ISODate));
+    QCOMPARE(failureOf(m_bench->check(check)), u"replayed"_s);
+}
+
+void TestFeedCheck::refusesAnExpiredFeed()
+{
+    serve(u"expires"_s, readingTime.toString(Qt::ISODate));
+    QCOMPARE(failure(), u"notCurrent"_s);
+}
+
+void TestFeedCheck::refusesAPackageNameWithAPath()
+{
+    for (const QString &name :
+         { u"../ferrin_1.3.0_amd64.deb"_s, u"/etc/ferrin_1.3.0_amd64.deb"_s,
+           u"https://example.org/ferrin.deb"_s, u"a/ferrin.deb"_s, u"..%2Fferrin.deb"_s }) {
+        m_bench->package.file = name;
+        m_bench->server.files.insert("/feed", signedJson(goodFeed(m_bench->package), m_bench->key));
+        QCOMPARE(failure(), u"badFeed"_s);
     }
 }
 
