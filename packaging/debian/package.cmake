@@ -25,6 +25,10 @@ battery is, how it ages and what the power adapter delivers.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "default-dbus-session-bus | dbus-session-bus, \
 qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window")
+if(FERRIN_FEED_URL)
+    # Whom the update server's certificate may come from.
+    string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS ", ca-certificates")
+endif()
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "upower, qt6-wayland, xdg-utils")
 
 # What every package of Debian has in its documentation.

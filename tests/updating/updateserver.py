@@ -50,9 +50,9 @@ class Releases:
 
     def __init__(self, folder):
         self._folder = folder
-        self._key = os.path.join(folder, "release.key")
+        self.key = os.path.join(folder, "release.key")
         self.public = os.path.join(folder, "public")
-        self.public_key = self.release("--new-key", self._key).decode().strip()
+        self.public_key = self.release("--new-key", self.key).decode().strip()
 
     def release(self, *arguments):
         tree = [] if "--build-tree" in arguments else ["--build-tree", os.environ["FERRIN_BUILD"]]
@@ -72,7 +72,7 @@ class Releases:
         written = os.path.join(self._folder, "notes.md")
         with open(written, "w", encoding="utf-8") as file:
             file.write(notes)
-        self.release("--key", self._key, "--out", self.public, "--notes", written, package)
+        self.release("--key", self.key, "--out", self.public, "--notes", written, package)
         return package
 
 
