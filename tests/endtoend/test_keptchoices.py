@@ -9,6 +9,7 @@ import random
 import re
 import signal
 import subprocess
+import sys
 import time
 
 from harness.case import WithSettings, main
@@ -178,7 +179,7 @@ class TheStoreCannotBeWritten:
 
     def setUp(self):
         if os.geteuid() != 0:
-            self.skipTest("only root can mount")
+            self.skipTest("this system lets nobody but root mount")
         super().setUp()
 
     def start_dashboard(self, environment=None):
@@ -258,5 +259,13 @@ class AReadOnlyDisk(TheStoreCannotBeWritten, KeptChoices):
         self.remount("rw")
 
 
+def go_where_one_may_mount():
+    """Goes on as the root of a namespace of its own, where users may have one."""
+    apart = ["unshare", "--user", "--map-root-user", "--mount", "--"]
+    if os.geteuid() != 0 and subprocess.run([*apart, "true"], check=False).returncode == 0:
+        os.execvp(apart[0], [*apart, sys.executable, "-B", *sys.argv])
+
+
 if __name__ == "__main__":
+    go_where_one_may_mount()
     main()
