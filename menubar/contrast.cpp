@@ -27,4 +27,14 @@ double contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+std::optional<QColor> readableText(const std::optional<QColor> &text,
+                                   const std::optional<QColor> &ground)
+{
+    if (!ground || ground->alphaF() < 0.5f)
+        return text;
+    if (text && contrast(*text, *ground) >= leastContrast)
+        return text;
+    return contrast(Qt::white, *ground) >= contrast(Qt::black, *ground) ? Qt::white : Qt::black;
+}
+
 } // namespace ferrin

@@ -5,6 +5,8 @@
 
 #include <QColor>
 
+#include <optional>
+
 namespace ferrin {
 
 /// What graphics and large text need at least, by the Web Content Accessibility Guidelines.
@@ -12,5 +14,11 @@ constexpr double leastContrast = 3;
 
 /// The contrast of two opaque colours by the same guidelines, from 1 to 21.
 [[nodiscard]] double contrast(const QColor &one, const QColor &other);
+
+/// The colour to write in on a ground, given what others write in there: theirs, or the better of
+/// black and white where it does not read. Either may be unknown; a ground that shows more of what
+/// lies below than of itself is.
+[[nodiscard]] std::optional<QColor> readableText(const std::optional<QColor> &text,
+                                                 const std::optional<QColor> &ground);
 
 } // namespace ferrin

@@ -4,6 +4,7 @@
 #include "menubar/itemform.h"
 
 #include "menubar/fillview.h"
+#include "menubar/squarebatteryview.h"
 #include "menubar/squareitemview.h"
 #include "menubar/stackviews.h"
 #include "menubar/textview.h"
@@ -25,6 +26,9 @@ struct Form
     qreal width = 0;
     qreal zoom = 1;
 };
+
+// Hosts that take wide pictures set them side by side with nothing in between.
+constexpr qreal sideAir = 2;
 
 Form wide(const ItemContent &content, int height, const ViewContext &context)
 {
@@ -64,9 +68,20 @@ Form square(const ItemContent &content, int height)
     return { SquareItemView { content }, qreal(height) };
 }
 
+bool isOutlinedLyingBattery(Icon icon)
+{
+    return icon == Icon::battery2H || icon == Icon::battery2HInverted
+        || icon == Icon::battery2HBlack || (hasBolt(icon) && icon != Icon::battery1HWithBolt);
+}
+
 Form glyph(const ItemContent &content, int height)
 {
-    const AnyView icon = content.icon ? viewFor(*content.icon) : AnyView();
+    AnyView icon = content.icon ? viewFor(*content.icon) : AnyView();
+    // Shrunk into a square its outline would be a blur, and the red of a low one a speck.
+    if (content.icon && !content.icon->fault && isOutlinedLyingBattery(content.icon->icon))
+        icon = PaddedView { .content
+                            = SquareBatteryView { *content.icon, {}, hasBolt(content.icon->icon) },
+                            .margins = QMarginsF(0, height * 3.0 / 16, 0, height * 3.0 / 16) };
     return { FittedView { .content = icon, .size = QSizeF(height, height) }, qreal(height) };
 }
 
@@ -116,6 +131,10 @@ QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal sc
         const QMarginsF margins = chipMargins(form, height, scale);
         picture.view = PaddedView { .content = picture.view, .margins = margins / picture.zoom };
         picture.width += isSquare(form) ? 0 : margins.left() + margins.right();
+    } else if (!isSquare(form)) {
+        picture.view
+            = PaddedView { .content = picture.view, .margins = { sideAir, 0, sideAir, 0 } };
+        picture.width += 2 * sideAir * picture.zoom;
     }
     const qreal deviceScale = scale * picture.zoom;
     // Where logical pixels are no whole ones, a glyph may move by half a pixel to stand on the

@@ -22,7 +22,7 @@ namespace {
 
 constexpr qreal outlineOpacity = 0.6;
 constexpr qreal fillOpacity = 0.35;
-constexpr qreal lowFillOpacity = 0.875;
+constexpr qreal strongFillOpacity = 0.875;
 
 QColor withOpacity(QColor colour, qreal opacity)
 {
@@ -73,7 +73,18 @@ void paintFill(QPainter &painter, const Geometry &geometry, double percent, cons
     painter.restore();
 }
 
+TemplateImageView boltView(int height)
+{
+    return { .name = u"bolt.fill"_s, .height = height };
+}
+
 } // namespace
+
+bool hasBolt(Icon icon)
+{
+    return icon == Icon::battery1HWithBolt || icon == Icon::battery2HWithBolt
+        || icon == Icon::battery2HInvertedWithBolt || icon == Icon::battery2HBlackWithBolt;
+}
 
 void SquareBatteryView::paint(QPainter &painter, const QRectF &bounds,
                               const ViewContext &context) const
@@ -86,18 +97,24 @@ void SquareBatteryView::paint(QPainter &painter, const QRectF &bounds,
 
     const bool low
         = icon.status == BatteryChargingStatus::discharging && icon.charge <= 10 && !bolt;
+    const bool isPlain = charge.isEmpty() && !bolt;
     // What is left of the fill is too little to be seen at a glance.
     paintOutline(painter, geometry,
-                 low ? withOpacity(context.red, lowFillOpacity)
+                 low ? withOpacity(context.red, strongFillOpacity)
                      : withOpacity(context.text, outlineOpacity));
     paintFill(painter, geometry, icon.charge,
-              low ? withOpacity(context.red, lowFillOpacity)
-                  : withOpacity(context.text, fillOpacity));
+              low ? withOpacity(context.red, strongFillOpacity)
+                  : withOpacity(context.text, isPlain ? strongFillOpacity : fillOpacity));
 
+    if (charge.isEmpty()) {
+        if (bolt)
+            boltView(geometry.inside.height()).paint(painter, geometry.inside, context);
+        return;
+    }
     const int gap = geometry.stroke;
     QRect figures = geometry.inside.adjusted(gap, gap, -gap, -gap);
     if (bolt) {
-        const TemplateImageView view { .name = u"bolt.fill"_s, .height = figures.height() };
+        const TemplateImageView view = boltView(figures.height());
         const int width = int(std::ceil(view.idealSize(context).width()));
         // Up to the wall: a bolt is slim at its ends, and the figures need the room.
         view.paint(

@@ -23,12 +23,6 @@ bool isBattery(const std::optional<IconElement> &icon)
     return icon && !icon->fault && isGlyph(icon->icon);
 }
 
-bool hasBolt(Icon icon)
-{
-    return icon == Icon::battery1HWithBolt || icon == Icon::battery2HWithBolt
-        || icon == Icon::battery2HInvertedWithBolt || icon == Icon::battery2HBlackWithBolt;
-}
-
 /// Places the elements in one cell. All lengths are device pixels.
 class Cell
 {
@@ -84,7 +78,12 @@ private:
                   QRect(0, part(4), m_side, m_side - 2 * part(4)));
             return;
         }
-        place(viewFor(*content.icon), QRect(0, 0, m_side, part(12)));
+        const QRect upper(0, 0, m_side, part(12));
+        // Its bolt reaches beyond the battery: fitted in here, both would be half as large.
+        if (isBattery(content.icon) && hasBolt(content.icon->icon))
+            place(SquareBatteryView { *content.icon, {}, true }, upper);
+        else
+            place(viewFor(*content.icon), upper);
         place(FittedTextView { content.charge ? *content.charge + u'%' : *content.time }, m_lower);
     }
 

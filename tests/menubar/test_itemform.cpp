@@ -4,6 +4,7 @@
 #include "ink.h"
 #include "itemsamples.h"
 #include "menubar/itemform.h"
+#include "menubar/stackviews.h"
 
 #include <QTest>
 
@@ -96,12 +97,14 @@ private Q_SLOTS:
             return;
         const int slack = std::floor(size.scale) == size.scale ? 0 : 1;
         const QSizeF exact = QSizeF(paint(size, content).size() - QSize(slack, 0)) / size.scale;
+        // The picture has air at its sides.
+        const QSizeF room = exact - QSizeF(4, 0);
         QImage roomy(((exact + QSizeF(8, 8)) * size.scale).toSize(),
                      QImage::Format_ARGB32_Premultiplied);
         roomy.fill(Qt::transparent);
         QPainter painter(&roomy);
         painter.scale(size.scale, size.scale);
-        viewFor(content).paint(painter, QRectF(QPointF(4, 4), exact), blackOnClear);
+        viewFor(content).paint(painter, QRectF(QPointF(6, 4), room), blackOnClear);
         painter.end();
         QCOMPARE(inkedRect(paint(size, content)).size(), inkedRect(roomy).size());
     }
@@ -138,6 +141,32 @@ private Q_SLOTS:
         QVERIFY(near(paint({ ItemForm::OneLine, 32, 1 }, all).width(), 2 * small, 2));
     }
 
+    void wideFormsKeepAwayFromTheirNeighbours()
+    {
+        const ItemContent all = contentOf(Icon::battery2H, u"37"_s, u"4:29"_s);
+        for (const ItemForm form : { ItemForm::Wide, ItemForm::OneLine }) {
+            const QImage image = paint({ form, 22, 1 }, all);
+            const QRect ink = inkedRect(image);
+            QVERIFY(ink.left() >= 2);
+            QVERIFY(ink.right() <= image.width() - 3);
+        }
+    }
+
+    void aBoltFillsItsBatteryWhereTheFiguresStandBelow()
+    {
+        const ItemContent full = contentOf(Icon::battery2HWithBolt, u"100"_s, {});
+        const QImage image = paint({ ItemForm::Square, 22, 1 }, full);
+        const QImage battery = image.copy(0, 0, 22, 12);
+        QCOMPARE(inkedRect(battery), QRect(0, 0, 22, 12));
+    }
+
+    void theGlyphOfALyingBatteryStandsOnThePixelGrid()
+    {
+        const ItemContent content = contentOf(Icon::battery2H, {}, {});
+        const QImage image = paint({ ItemForm::Glyph, 16, 1 }, content);
+        QCOMPARE(inkedRect(image), QRect(0, 3, 16, 10));
+    }
+
     void oneLineKeepsItsTextSizeBesideATallIcon()
     {
         const auto widthWith = [](Icon icon) {
@@ -151,7 +180,8 @@ private Q_SLOTS:
     void theWideFormIsTheViewItself()
     {
         const ItemContent all = contentOf(Icon::battery2H, u"37"_s, u"4:29"_s);
-        const AnyView view = viewFor(all);
+        // With air at its sides.
+        const AnyView view = PaddedView { .content = viewFor(all), .margins = { 2, 0, 2, 0 } };
         const QSizeF size(std::ceil(view.idealSize(blackOnClear).width()), 22);
         QCOMPARE(paint({ ItemForm::Wide, 22, 1 }, all),
                  painted(view, size).convertToFormat(QImage::Format_ARGB32));
