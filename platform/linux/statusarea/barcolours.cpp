@@ -61,13 +61,8 @@ int connectedSocket(const QString &path)
 std::optional<QColor> textOfBar(const QJsonObject &bar)
 {
     const QJsonObject colours = bar.value("colors"_L1).toObject();
-    const auto ground = colourIn(colours.value("background"_L1));
-    const auto text = colourIn(colours.value("statusline"_L1));
-    if (!ground)
-        return text;
-    if (text && contrast(*text, *ground) >= leastContrast)
-        return text;
-    return contrast(Qt::white, *ground) >= contrast(Qt::black, *ground) ? Qt::white : Qt::black;
+    return readableText(colourIn(colours.value("statusline"_L1)),
+                        colourIn(colours.value("background"_L1)));
 }
 
 BarColours::~BarColours()

@@ -69,8 +69,13 @@ void HostResolver::ask(const QString &uniqueName)
     connect(pending, &QDBusPendingCallWatcher::finished, this, [this, uniqueName, pending] {
         pending->deleteLater();
         const QDBusPendingReply<uint> reply = *pending;
-        settle(uniqueName,
-               reply.isError() ? mixedProfile() : profileForProcess(m_processName(reply.value())));
+        if (reply.isError()) {
+            settle(uniqueName, mixedProfile());
+            return;
+        }
+        const HostProfile &profile = profileForProcess(m_processName(reply.value()));
+        Q_EMIT found(profile, reply.value());
+        settle(uniqueName, profile);
     });
 }
 

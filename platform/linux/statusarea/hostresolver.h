@@ -34,6 +34,8 @@ public:
     void resolve(const QString &uniqueName, Answer answer);
 
 Q_SIGNALS:
+    /// A caller has turned out to be such a host; it has not been answered yet.
+    void found(const ferrin::HostProfile &profile, uint processId);
     /// The caller has left the bus.
     void left(const QString &uniqueName);
 

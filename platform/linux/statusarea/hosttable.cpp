@@ -67,10 +67,8 @@ const std::array profiles {
                   .text = PanelText::Light,
                   .premultiplied = true,
                   .trustedClicks = true },
-    HostProfile { .name = "waybar"_L1,
-                  .pictures = waybarPictures,
-                  .scale = ScalePolicy::DesktopOnly,
-                  .text = PanelText::Light },
+    HostProfile {
+        .name = "waybar"_L1, .pictures = waybarPictures, .scale = ScalePolicy::DesktopOnly },
     HostProfile { .name = "notification-area-applet"_L1, .pictures = matePictures },
     HostProfile { .name = "xapp-sn-watcher"_L1, .pictures = cinnamonPictures },
     HostProfile { .name = "gnome-shell"_L1,

@@ -91,8 +91,12 @@ ViewContext PanelColours::contextWith(const QColor &text) const
 
 ViewContext PanelColours::contextFor(const HostProfile &profile) const
 {
-    if (const auto text = textFor(profile))
-        return contextWith(*text);
+    const auto text = textFor(profile);
+    return text ? contextWith(*text) : contextOnChip();
+}
+
+ViewContext PanelColours::contextOnChip() const
+{
     ViewContext context = contextWith(textOn(true));
     context.chip = QColor::fromRgb(chipColour);
     return context;
@@ -106,8 +110,7 @@ ViewContext PanelColours::contextForTray(const std::optional<QColor> &ground) co
         return contextWith(*m_trayText);
     if (ground)
         return contextWith(textOn(!isLight(*ground)));
-    // The bars that say nothing are dark by default.
-    return contextWith(textOn(true));
+    return contextOnChip();
 }
 
 bool PanelColours::isOwnBarDark() const noexcept

@@ -64,6 +64,7 @@ private:
     /// Absent where nothing can be known.
     [[nodiscard]] std::optional<QColor> textFor(const HostProfile &profile) const;
     [[nodiscard]] ViewContext contextWith(const QColor &text) const;
+    [[nodiscard]] ViewContext contextOnChip() const;
 
     StatusAreaAppearance m_appearance;
     std::optional<QColor> m_trayText;

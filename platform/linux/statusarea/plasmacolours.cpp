@@ -3,13 +3,11 @@
 
 #include "platform/linux/statusarea/plasmacolours.h"
 
-#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringList>
 
 #include <array>
-#include <chrono>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -20,10 +18,6 @@ namespace {
 
 // Of Breeze, which is what Plasma looks like where nobody chose anything.
 constexpr QRgb breezeText = 0xff232629;
-
-// A file that is replaced is told of more than once, of the old one as of the new. Watched again
-// before that is over, it would be lost.
-constexpr std::chrono::milliseconds settlingTime { 100 };
 
 const QString textKey = u"Colors:Window/ForegroundNormal"_s;
 // In the group "General", which is the file's own to the reader.
@@ -79,7 +73,14 @@ std::optional<QColor> colourInDataFile(const QString &name)
     return file.isEmpty() ? std::nullopt : colourIn(valueIn(file, textKey));
 }
 
-QColor readText()
+} // namespace
+
+QStringList PlasmaColours::files() const
+{
+    return configFiles(u"plasmarc"_s) + configFiles(u"kdeglobals"_s);
+}
+
+std::optional<QColor> PlasmaColours::readText() const
 {
     const QString theme = configured(u"plasmarc"_s, u"Theme/name"_s).toString();
     if (const auto own = colourInDataFile(u"plasma/desktoptheme/%1/colors"_s.arg(theme)))
@@ -89,35 +90,6 @@ QColor readText()
     const QString scheme = configured(u"kdeglobals"_s, schemeKey).toString();
     return colourInDataFile(u"color-schemes/%1.colors"_s.arg(scheme))
         .value_or(QColor::fromRgb(breezeText));
-}
-
-} // namespace
-
-void PlasmaColours::start()
-{
-    m_isStarted = true;
-    m_settling.setSingleShot(true);
-    m_settling.setInterval(settlingTime);
-    connect(&m_settling, &QTimer::timeout, this, &PlasmaColours::refresh);
-    connect(&m_files, &QFileSystemWatcher::fileChanged, &m_settling, qOverload<>(&QTimer::start));
-    refresh();
-}
-
-void PlasmaColours::refresh()
-{
-    if (!m_isStarted)
-        return;
-    // A file that was replaced is no longer watched, though the watcher may name it; one that is
-    // new has not been.
-    if (const QStringList watched = m_files.files(); !watched.isEmpty())
-        m_files.removePaths(watched);
-    for (const QString &file : configFiles(u"plasmarc"_s) + configFiles(u"kdeglobals"_s)) {
-        if (QFileInfo::exists(file))
-            m_files.addPath(file);
-    }
-    const QColor text = readText();
-    if (std::exchange(m_text, text) != text)
-        Q_EMIT changed();
 }
 
 } // namespace ferrin

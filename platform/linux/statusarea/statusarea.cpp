@@ -31,8 +31,11 @@ StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *pa
     readTrayColours();
     connect(m_trayColours.get(), &TrayColours::changed, this, &StatusAreaChooser::readTrayColours);
     followHosts();
-    if (session.isConnected())
+    if (session.isConnected()) {
         m_notifierBar = std::make_unique<StatusNotifierBar>(session, m_colours);
+        connect(&m_notifierBar->resolver(), &HostResolver::found, this,
+                &StatusAreaChooser::hostFound);
+    }
     m_patienceTimer.setSingleShot(true);
     connect(&m_patienceTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);
 }
@@ -50,11 +53,29 @@ void StatusAreaChooser::followHosts()
     connect(&m_barColours, &BarColours::changed, this,
             [this] { m_colours.setHostText(profileForProcess(u"swaybar"), m_barColours.text()); });
     m_barColours.start(qEnvironmentVariable("SWAYSOCK"));
-    connect(&m_plasmaColours, &PlasmaColours::changed, this, [this] {
-        m_colours.setHostText(profileForProcess(u"plasmashell"), m_plasmaColours.text());
-    });
+    follow(m_plasmaColours, u"plasmashell");
+    follow(m_lxqtColours, u"lxqt-panel");
+    follow(m_waybarColours, u"waybar");
     if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"KDE"_s))
         m_plasmaColours.start();
+}
+
+void StatusAreaChooser::follow(FileColours &colours, QStringView process)
+{
+    connect(&colours, &FileColours::changed, this,
+            [this, &colours, &profile = profileForProcess(process)] {
+                m_colours.setHostText(profile, colours.text());
+            });
+}
+
+void StatusAreaChooser::hostFound(const HostProfile &profile, uint processId)
+{
+    if (profile.name == "lxqt-panel"_L1)
+        m_lxqtColours.start();
+    if (profile.name == "waybar"_L1) {
+        m_waybarColours.setArguments(argumentsFromKernel(processId));
+        m_waybarColours.start();
+    }
 }
 
 void StatusAreaChooser::readTrayColours()

@@ -5,6 +5,7 @@
 
 #include "platform/linux/statusarea/barcolours.h"
 #include "platform/linux/statusarea/panelcolours.h"
+#include "platform/linux/statusarea/panelsheets.h"
 #include "platform/linux/statusarea/plasmacolours.h"
 
 #include <QDBusConnection>
@@ -64,6 +65,8 @@ Q_SIGNALS:
 
 private:
     void followHosts();
+    void follow(FileColours &colours, QStringView process);
+    void hostFound(const HostProfile &profile, uint processId);
     void readTrayColours();
     void hostPresentChanged(bool present);
     void trayOwnerChanged();
@@ -83,6 +86,8 @@ private:
     std::unique_ptr<TrayColours> m_trayColours;
     BarColours m_barColours;
     PlasmaColours m_plasmaColours;
+    LxqtColours m_lxqtColours;
+    WaybarColours m_waybarColours;
     /// Null without a session bus.
     std::unique_ptr<StatusNotifierBar> m_notifierBar;
     /// The bars that stand in: both null while the desktop's status area is in use, else one.

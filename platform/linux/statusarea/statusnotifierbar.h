@@ -67,6 +67,7 @@ public:
 
     [[nodiscard]] qreal thickness() const override { return 22; }
     [[nodiscard]] StatusItem *item() override { return &m_item; }
+    [[nodiscard]] const HostResolver &resolver() const noexcept { return m_resolver; }
     [[nodiscard]] const ItemRegistration &registration() const noexcept { return m_registration; }
 
 private:

@@ -14,6 +14,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace ferrin {
@@ -22,6 +23,15 @@ namespace {
 
 constexpr qreal highlightOpacity = 0.2;
 constexpr qreal highlightRadius = 0.15;
+
+/// What a bar that leaves its icons no air would have to leave, device pixels: the square would
+/// touch both of its edges.
+int missingAir(int side, const QRect &panel)
+{
+    const int thickness = std::min(panel.width(), panel.height());
+    const int spare = std::max(0, thickness - side) / 2;
+    return std::max(0, int(std::lround(thickness / 14.0)) - spare);
+}
 
 /// The screen that shows this place of the X server's.
 QScreen *screenAtDevice(QPoint place)
@@ -116,7 +126,8 @@ void TrayItem::paint()
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    const int side = std::min(size.width(), size.height());
+    const int granted = std::min(size.width(), size.height());
+    const int side = granted - 2 * missingAir(granted, m_window->panel());
     const QRect cell((size.width() - side) / 2, (size.height() - side) / 2, side, side);
     if (m_isHighlighted) {
         QColor lit = context.text;

@@ -54,7 +54,7 @@ void PanelColoursTest::bringsItsOwnGroundWhereNothingIsKnown()
     colours.setAppearance({ .desktopDark = true });
     QVERIFY(colours.contextFor(unknownHost).chip);
     QVERIFY(colours.contextFor(profileForProcess(u"lxqt-panel")).chip);
-    QVERIFY(!colours.contextFor(profileForProcess(u"waybar")).chip);
+    QVERIFY(colours.contextFor(profileForProcess(u"waybar")).chip);
     QVERIFY(!colours.contextForOwnBar().chip);
     colours.setTrayText(trayText);
     QVERIFY(!colours.contextFor(unknownHost).chip);
@@ -82,7 +82,7 @@ void PanelColoursTest::takesWhatTheHostsSettingsSayBeforeTheTray()
 void PanelColoursTest::takesWhatSuchHostsLookLikeBeforeTheDesktop()
 {
     const PanelColours colours;
-    for (const QString &process : { u"gnome-shell"_s, u"waybar"_s, u"swaybar"_s })
+    for (const QString &process : { u"gnome-shell"_s, u"swaybar"_s })
         QCOMPARE(colours.contextFor(profileForProcess(process)).text, QColor(Qt::white));
 }
 
@@ -90,7 +90,7 @@ void PanelColoursTest::takesTheColoursOfTheTrayBeforeTheHostsDefault()
 {
     PanelColours colours;
     colours.setTrayText(QColor(0x2e, 0x34, 0x36));
-    QCOMPARE(colours.contextFor(profileForProcess(u"waybar")).text, QColor(0x2e, 0x34, 0x36));
+    QCOMPARE(colours.contextFor(profileForProcess(u"gnome-shell")).text, QColor(0x2e, 0x34, 0x36));
     QCOMPARE(colours.contextFor(unknownHost).text, QColor(0x2e, 0x34, 0x36));
     QCOMPARE(colours.contextForOwnBar().text, QColor(Qt::black));
 }
