@@ -3,6 +3,7 @@
 
 #include "platform/linux/statusarea/statusnotifieritem.h"
 
+#include "menubar/itemdrift.h"
 #include "platform/linux/statusarea/hostresolver.h"
 #include "platform/linux/statusarea/panelcolours.h"
 
@@ -13,6 +14,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace ferrin {
 
@@ -51,10 +53,9 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection &connection, HostRe
     registerStatusNotifierTypes();
     // A refresh changes several values, one after the other: they are one piece of news.
     m_news.setSingleShot(true);
-    m_news.setInterval(0);
     connect(&m_news, &QTimer::timeout, this, &StatusNotifierItem::sendNews);
     connect(&resolver, &HostResolver::left, this, &StatusNotifierItem::forget);
-    connect(&m_colours, &PanelColours::changed, this, &StatusNotifierItem::scheduleNews);
+    connect(&m_colours, &PanelColours::changed, this, [this] { scheduleNews(0ms); });
 }
 
 void StatusNotifierItem::setContent(const ItemContent &content)
@@ -62,18 +63,23 @@ void StatusNotifierItem::setContent(const ItemContent &content)
     if (m_content == content)
         return;
     m_content = content;
-    scheduleNews();
+    const bool canWait = isDrift(m_told, m_content) && !m_peaceEnds.hasExpired();
+    scheduleNews(canWait ? std::chrono::milliseconds(m_peaceEnds.remainingTime()) : 0ms);
 }
 
-void StatusNotifierItem::scheduleNews()
+void StatusNotifierItem::scheduleNews(std::chrono::milliseconds delay)
 {
-    if (!m_readers.isEmpty())
-        m_news.start();
+    // What is urgent stays so.
+    const bool isSooner = !m_news.isActive() || delay < m_news.remainingTimeAsDuration();
+    if (!m_readers.isEmpty() && isSooner)
+        m_news.start(delay);
 }
 
 void StatusNotifierItem::sendNews()
 {
     m_news.stop();
+    m_told = m_content;
+    m_peaceEnds.setRemainingTime(m_peace);
     bool isIconNew = false;
     QList<const HostProfile *> newLabels;
     for (auto [profile, seen] : m_seen.asKeyValueRange()) {
@@ -87,7 +93,10 @@ void StatusNotifierItem::sendNews()
 
     if (isIconNew)
         sendSignal(u"NewIcon"_s);
-    if (m_seenWords != seenWords)
+    // Who draws a label shows no tool tip.
+    const bool hasTip = std::any_of(m_readers.cbegin(), m_readers.cend(),
+                                    [](const HostProfile *profile) { return !profile->label; });
+    if (hasTip && m_seenWords != seenWords)
         sendSignal(u"NewToolTip"_s);
     for (auto [reader, profile] : m_readers.asKeyValueRange()) {
         if (newLabels.contains(profile))
@@ -118,8 +127,10 @@ QString StatusNotifierItem::moreWords() const
 
 void StatusNotifierItem::remember(const QString &caller, const HostProfile &profile)
 {
-    if (m_readers.isEmpty())
+    if (m_readers.isEmpty()) {
         m_seenWords = words();
+        m_told = m_content;
+    }
     m_readers.insert(caller, &profile);
     if (!m_seen.contains(&profile))
         m_seen.insert(&profile, seenBy(profile));

@@ -7,6 +7,7 @@
 #include "platform/linux/statusarea/busobject.h"
 #include "platform/linux/statusarea/itempictures.h"
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QPoint>
 #include <QTimer>
@@ -30,7 +31,13 @@ public:
                        const PanelColours &colours, QObject *parent = nullptr);
 
     [[nodiscard]] const ItemContent &content() const noexcept { return m_content; }
+    /// Tells the hosts at once of all that a user would wait to see. Figures that merely move on
+    /// are told of together and no oftener than the hosts' peace allows: at most two signals each
+    /// time.
     void setContent(const ItemContent &content);
+
+    /// From one such news to the next.
+    void setPeace(std::chrono::milliseconds peace) { m_peace = peace; }
 
 Q_SIGNALS:
     /// The host's own coordinates, null from a host that is known to tell others than the screen's.
@@ -61,7 +68,7 @@ private:
     [[nodiscard]] QString moreWords() const;
     void remember(const QString &caller, const HostProfile &profile);
     void forget(const QString &caller);
-    void scheduleNews();
+    void scheduleNews(std::chrono::milliseconds delay);
     void sendNews();
 
     const PanelColours &m_colours;
@@ -71,7 +78,11 @@ private:
     QHash<QString, const HostProfile *> m_readers;
     QHash<const HostProfile *, Seen> m_seen;
     QString m_seenWords;
+    /// The content that the hosts were last told of.
+    ItemContent m_told;
     QTimer m_news;
+    QDeadlineTimer m_peaceEnds;
+    std::chrono::milliseconds m_peace { 60'000 };
 };
 
 } // namespace ferrin

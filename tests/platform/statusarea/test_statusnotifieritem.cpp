@@ -52,6 +52,10 @@ private Q_SLOTS:
     void isSilentWhileNobodyHasLooked();
     void isSilentWhenNothingVisibleChanged();
     void tellsOnceOfSeveralChanges();
+    void leavesTheHostsInPeaceWhileTheFiguresDrift();
+    void tellsOfTheDriftWhenThePeaceIsOver();
+    void breaksThePeaceForWhatAUserWaitsFor();
+    void sparesHostsThatLabelTheToolTip();
     void tellsOfNewColours();
     void tellsTheOthersOfWhatOneIsAboutToSee();
     void forgetsReadersThatLeave();
@@ -239,6 +243,69 @@ void StatusNotifierItemTest::tellsOnceOfSeveralChanges()
     QCOMPARE(read(host, u"IconAccessibleDesc"_s).toString(), u"36%, 4:20 to empty"_s);
     settle(*host);
     QCOMPARE(host->takeSignals(), QStringList());
+}
+
+void StatusNotifierItemTest::leavesTheHostsInPeaceWhileTheFiguresDrift()
+{
+    m_item->setPeace(std::chrono::hours(1));
+    BusPeer *const host = newHost(u"xfce4-panel"_s);
+    host->allProperties(m_service, itemPath, itemInterface);
+    m_item->setContent(dischargingAt(36, u"4:28"_s));
+    settle(*host);
+    QCOMPARE(host->takeSignals(), (QStringList { u"NewIcon"_s, u"NewToolTip"_s }));
+    m_item->setContent(dischargingAt(36, u"4:27"_s));
+    settle(*host);
+    m_item->setContent(dischargingAt(35, u"4:26"_s));
+    settle(*host);
+    QCOMPARE(host->takeSignals(), QStringList());
+    // Whoever reads is not told lies, and then the others hear of it.
+    QCOMPARE(read(host, u"IconAccessibleDesc"_s).toString(), u"35%, 4:26 to empty"_s);
+    settle(*host);
+    QCOMPARE(host->takeSignals(), (QStringList { u"NewIcon"_s, u"NewToolTip"_s }));
+}
+
+void StatusNotifierItemTest::tellsOfTheDriftWhenThePeaceIsOver()
+{
+    m_item->setPeace(std::chrono::milliseconds(50));
+    BusPeer *const host = newHost(u"xfce4-panel"_s);
+    host->allProperties(m_service, itemPath, itemInterface);
+    m_item->setContent(dischargingAt(36, u"4:28"_s));
+    settle(*host);
+    m_item->setContent(dischargingAt(36, u"4:27"_s));
+    m_item->setContent(dischargingAt(35, u"4:26"_s));
+    QStringList heard;
+    QTRY_COMPARE((heard += host->takeSignals()).size(), 4);
+    QCOMPARE(read(host, u"IconAccessibleDesc"_s).toString(), u"35%, 4:26 to empty"_s);
+}
+
+void StatusNotifierItemTest::breaksThePeaceForWhatAUserWaitsFor()
+{
+    m_item->setPeace(std::chrono::hours(1));
+    BusPeer *const host = newHost(u"xfce4-panel"_s);
+    host->allProperties(m_service, itemPath, itemInterface);
+    m_item->setContent(dischargingAt(36, u"4:28"_s));
+    settle(*host);
+    m_item->setContent(dischargingAt(35, u"4:26"_s));
+    settle(*host);
+    QCOMPARE(host->takeSignals().size(), 2);
+    ItemContent plugged = dischargingAt(35, u"1:10"_s);
+    plugged.status = BatteryChargingStatus::charging;
+    m_item->setContent(plugged);
+    settle(*host);
+    QCOMPARE(host->takeSignals(), (QStringList { u"NewIcon"_s, u"NewToolTip"_s }));
+    m_item->setContent(dischargingAt(35, u"4:26"_s));
+    m_colours->setTrayText(Qt::white);
+    settle(*host);
+    QCOMPARE(host->takeSignals().size(), 2);
+}
+
+void StatusNotifierItemTest::sparesHostsThatLabelTheToolTip()
+{
+    BusPeer *const gnome = newHost(u"gnome-shell"_s);
+    gnome->allProperties(m_service, itemPath, itemInterface);
+    m_item->setContent(dischargingAt(12, u"1:02"_s));
+    settle(*gnome);
+    QCOMPARE(gnome->takeSignals(), (QStringList { u"NewIcon"_s, u"XAyatanaNewLabel"_s }));
 }
 
 void StatusNotifierItemTest::tellsOfNewColours()
