@@ -81,7 +81,7 @@ Form glyph(const ItemContent &content, int height)
     if (content.icon && !content.icon->fault && isOutlinedLyingBattery(content.icon->icon))
         icon = PaddedView { .content
                             = SquareBatteryView { *content.icon, {}, hasBolt(content.icon->icon) },
-                            .margins = QMarginsF(0, height * 3.0 / 16, 0, height * 3.0 / 16) };
+                            .margins = QMarginsF(0, 3, 0, 3) * (height / 16.0) };
     return { FittedView { .content = icon, .size = QSizeF(height, height) }, qreal(height) };
 }
 
