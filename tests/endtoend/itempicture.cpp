@@ -3,16 +3,17 @@
 
 // For the end-to-end tests: what a host's item is expected to look like, painted without a desktop.
 //
-//   item_picture PROCESS SCALE GROUND TEXT CHIP HEIGHT CONTENT...
+//   item_picture PROCESS SCALE GROUND TEXT HEIGHT CONTENT...
 //
 // What a host of that process name is offered at that desktop scale: the picture of that height in
 // device pixels, or the largest one brought to HEIGHT where that is "scaled:HEIGHT". It stands on a
-// ground of one colour, in a text colour; on a chip of a third colour unless that is "-". A content
-// is STATUS,ICON,PERCENT,CHARGE,TIME, each of the last four "-" for absent, and ICON "fault" for
-// the crossed-out battery. For each content it writes the width, the height and the grey values,
-// row by row, as one line of numbers.
+// ground of one colour, in the colour that the host is known to write in. A content is
+// STATUS,ICON,PERCENT,CHARGE,TIME, each of the last four "-" for absent, and ICON "fault" for the
+// crossed-out battery. For each content it writes the width, the height and the grey values, row by
+// row, as one line of numbers.
 
 #include "platform/linux/statusarea/itempictures.h"
+#include "platform/linux/statusarea/panelcolours.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -113,21 +114,18 @@ int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
     const QStringList words = QGuiApplication::arguments();
-    if (words.size() < 8)
-        qFatal("item_picture PROCESS SCALE GROUND TEXT CHIP HEIGHT CONTENT...");
+    if (words.size() < 7)
+        qFatal("item_picture PROCESS SCALE GROUND TEXT HEIGHT CONTENT...");
     const HostProfile &profile = profileForProcess(words[1]);
-    const QColor text(words[4]);
-    ViewContext context { .text = text,
-                          .red = QColor(qGray(text.rgb()) >= 128 ? u"#ff776c"_s : u"#c8001a"_s),
-                          .fontFamily = QGuiApplication::font().family() };
-    if (words[5] != u"-")
-        context.chip = QColor(words[5]);
+    PanelColours colours;
+    colours.setHostText(profile, QColor(words[4]));
+    const ViewContext context = colours.contextFor(profile);
     QTextStream out(stdout);
-    for (const QString &word : words.sliced(7)) {
+    for (const QString &word : words.sliced(6)) {
         ItemPictures pictures;
         const QImage image = onGround(
             offered(pictures.pictures(profile, contentIn(word), context, words[2].toDouble()),
-                    words[6], profile.premultiplied),
+                    words[5], profile.premultiplied),
             QColor(words[3]));
         out << image.width() << ' ' << image.height();
         for (int y = 0; y < image.height(); ++y) {

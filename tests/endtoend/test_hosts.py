@@ -18,17 +18,23 @@ CHARGING = Shown("charging", percent=78, charge="78", time="0:18")
 CHARGED = Shown("charged", percent=100, charge="100")
 LOW = Shown("discharging", percent=8, charge="8", time="0:36")
 FAULT = Shown("unknown", icon="fault", charge="100")
-# The ground of an item that cannot know its bar.
-CHIP = "#3e4247"
 # A standing battery, which is the default, is as wide in a cell of 16 pixels.
 GLYPH_WIDTH = 8
 CROSS_WIDTH = 16
+
+
+# From the item's cell to its dashboard, at the most: the rest of a thick panel, and a little air.
+NEAR = 28
+# The dashboard's least size; a smaller one is cut off or still being drawn.
+LEAST_WIDTH, LEAST_HEIGHT = 300, 180
 
 
 class InAHost:
     """What holds in every status area."""
 
     look = None
+    # Where a compositor places windows as it likes, they are asked only to be wholly on the screen.
+    opens_at_item = True
 
     def setUp(self):
         super().setUp()
@@ -89,14 +95,28 @@ class InAHost:
 
     def test_a_click_opens_the_dashboard_and_another_closes_it(self):
         self.shows(DISCHARGING)
-        place = self.cell().centre
+        cell = self.cell()
         self.assertFalse(self.has_window())
-        self.session.click(place)
+        before = self.session.picture()
+        self.session.click(cell.centre)
         eventually(self.has_window, "the dashboard has opened")
-        a_moment()
-        self.session.click(place)
+        self.check_place(before, cell)
+        self.session.click(cell.centre)
         eventually(lambda: not self.has_window(), "the dashboard has closed")
         self.assertTrue(self.program.is_running())
+
+    def check_place(self, before, cell):
+        """The dashboard is wholly on the screen, and at the item."""
+        eventually(lambda: self.beside(cell, before), "the dashboard is drawn")
+        picture = self.settled_picture()
+        box = self.beside(cell, before)
+        self.assertTrue(0 < box.left and box.right < picture.width, box)
+        self.assertTrue(0 < box.top and box.bottom < picture.height, box)
+        self.assertTrue(box.width >= LEAST_WIDTH and box.height >= LEAST_HEIGHT, box)
+        if self.opens_at_item:
+            self.assertTrue(box.left <= cell.centre[0] <= box.right, (box, cell))
+            self.assertLessEqual(max(box.top - cell.bottom, cell.top - box.bottom), NEAR,
+                                 (box, cell))
 
     def test_the_menu_quits(self):
         self.shows(DISCHARGING)
@@ -119,32 +139,46 @@ class InAHost:
         return before.difference(now, within=beyond)
 
 
-class Xfce(InAHost, OnADesktop):
+class InAnX11Host(InAHost):
+    """Where presses elsewhere are heard, whoever gets them."""
+
+    def test_a_click_elsewhere_on_the_panel_closes_the_dashboard(self):
+        self.shows(DISCHARGING)
+        cell = self.cell()
+        self.session.click(cell.centre)
+        eventually(self.has_window, "the dashboard has opened")
+        a_moment()
+        self.session.click((self.session.size[0] * 2 // 5, cell.centre[1]))
+        eventually(lambda: not self.has_window(), "the dashboard has closed")
+        self.assertTrue(self.program.is_running())
+
+
+class Xfce(InAnX11Host, OnADesktop):
     look = Look("xfce4-panel", 22)
 
 
-class LXQt(InAHost, OnADesktop):
-    look = Look("lxqt-panel", 22, chip=CHIP)
+class LXQt(InAnX11Host, OnADesktop):
+    look = Look("lxqt-panel", 22)
 
     def make_session(self):
         return panels.LxqtScreen()
 
 
-class MATE(InAHost, OnADesktop):
+class MATE(InAnX11Host, OnADesktop):
     look = Look("notification-area-applet"[:15], 25)
 
     def make_session(self):
         return desktop.MateScreen()
 
 
-class Cinnamon(InAHost, OnADesktop):
+class Cinnamon(InAnX11Host, OnADesktop):
     look = Look("xapp-sn-watcher", "scaled:24")
 
     def make_session(self):
         return shells.CinnamonScreen()
 
 
-class Plasma(InAHost, OnADesktop):
+class Plasma(InAnX11Host, OnADesktop):
     look = Look("plasmashell", 22)
 
     def make_session(self):
@@ -155,6 +189,7 @@ class GNOME(InAHost, OnADesktop):
     """The shell writes the texts itself, and opens the menu at a click."""
 
     look = Look("gnome-shell", 16)
+    opens_at_item = False
     words = ["37%, 2:47 to empty", "Open Ferrin", "Settings", "Quit Ferrin"]
 
     def make_session(self):
@@ -188,12 +223,23 @@ class GNOME(InAHost, OnADesktop):
     def test_a_click_opens_the_dashboard_and_another_closes_it(self):
         """By way of the menu, since no click reaches the item."""
         self.shows(DISCHARGING)
+        before, cell = self.session.picture(), self.cell()
         self.session.click(self.open_menu()["Open Ferrin"])
         eventually(self.has_window, "the dashboard has opened")
-        a_moment()
+        self.check_place(before, cell)
         self.session.press("Escape")
         eventually(lambda: not self.has_window(), "the dashboard has closed")
         self.assertTrue(self.program.is_running())
+
+    def test_what_the_panel_opens_closes_the_dashboard(self):
+        """The shell tells nobody of a click on the panel's empty parts."""
+        self.shows(DISCHARGING)
+        cell = self.cell()
+        self.session.click(self.open_menu()["Open Ferrin"])
+        eventually(self.has_window, "the dashboard has opened")
+        a_moment()
+        self.session.click((self.session.size[0] // 2, cell.centre[1]))
+        eventually(lambda: not self.has_window(), "the dashboard has closed")
 
     def test_the_menu_quits(self):
         self.shows(DISCHARGING)
@@ -217,6 +263,7 @@ class GNOME(InAHost, OnADesktop):
 
 class Waybar(InAHost, OnADesktop):
     look = Look("waybar", "scaled:16")
+    opens_at_item = False
 
     def make_session(self):
         return wayland.WaybarScreen()
@@ -224,6 +271,7 @@ class Waybar(InAHost, OnADesktop):
 
 class swaybar(InAHost, OnADesktop):  # noqa: N801: it is spelt so
     look = Look("swaybar", 18)
+    opens_at_item = False
 
     def make_session(self):
         return wayland.SwaybarScreen()

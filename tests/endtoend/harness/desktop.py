@@ -171,6 +171,11 @@ class XfceScreen(PanelScreen):
 class MateScreen(PanelScreen):
     desktop = "MATE"
 
+    def __init__(self, dark=False, **options):
+        super().__init__(**options)
+        # Its applets are processes that the bus starts.
+        self.environment["GTK_THEME"] = "Adwaita:dark" if dark else "Adwaita"
+
     def command(self):
         return ["mate-panel"]
 

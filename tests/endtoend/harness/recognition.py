@@ -52,12 +52,11 @@ class Shown:
 class Look:
     """How a host shows its items: by the name of its process, the height in device pixels of the
     picture that it takes, or "scaled:HEIGHT" where it brings the largest one to its own; the
-    desktop's scale, and the chip that the item stands on."""
+    desktop's scale."""
 
     process: str
     height: int | str
     scale: int = 1
-    chip: str = "-"
 
 
 def likenesses(look, picture, box, contents):
@@ -68,10 +67,10 @@ def likenesses(look, picture, box, contents):
     ground = Counter(picture.pixels(around)).most_common(1)[0][0]
     rows = [[_grey(picture.pixel(x, y)) for x in range(around.left, around.right)]
             for y in range(around.top, around.bottom)]
-    text = "white" if look.chip != "-" or _grey(ground) < 128 else "black"
+    text = "white" if _grey(ground) < 128 else "black"
     under = "#%02x%02x%02x" % ground
     told = subprocess.run(
-        [os.environ["FERRIN_ITEM_PICTURE"], look.process, str(look.scale), under, text, look.chip,
+        [os.environ["FERRIN_ITEM_PICTURE"], look.process, str(look.scale), under, text,
          str(look.height), *(content.words() for content in contents)],
         env=os.environ | {"QT_QPA_PLATFORM": "offscreen"}, capture_output=True, text=True,
         check=True)

@@ -112,8 +112,12 @@ class PlasmaScreen(Shell, BareScreen):
         theme = "breeze-dark" if self._dark else "breeze-light"
         self.write("config/plasmarc", f"[Theme]\nname={theme}\n")
         self.write("config/plasma-org.kde.plasma.desktop-appletsrc", PLASMA_PANEL)
-        self.start_shell(["kded5"], self.environment_of_plasma)
-        self.start_shell(["plasmashell", "--no-respawn"], self.environment_of_plasma)
+        environment = dict(self.environment_of_plasma)
+        if self.scale != 1:
+            # As a session that scales does.
+            environment["PLASMA_USE_QT_SCALING"] = "1"
+        self.start_shell(["kded5"], environment)
+        self.start_shell(["plasmashell", "--no-respawn"], environment)
         eventually(self.bus.has_host, "the panel offers a status area")
 
 

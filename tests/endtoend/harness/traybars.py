@@ -9,7 +9,7 @@ from harness.processes import eventually
 from harness.session import Screen
 
 I3 = """# i3 config file (v4)
-font pango:DejaVu Sans 10
+font pango:DejaVu Sans {points}
 bar {{
     position {position}
     i3bar_command true
@@ -21,21 +21,25 @@ bar {{
     status_command while echo; do sleep 1000; done
 }}
 """
-TINT2 = """panel_items = S
-panel_size = 100% 30
+TINT2 = """rounded = 0
+border_width = 0
+background_color = {ground} 100
+panel_items = FS
+panel_size = 100% {height}
 panel_position = top center horizontal
-panel_background_id = 0
+panel_background_id = 1
 systray_padding = 2 2 4
 systray_icon_size = 0
 systray_monitor = primary
 """
 POLYBAR = """[bar/b]
 width = 100%
-height = 28
+height = {height}
 modules-right = d
 tray-position = right
-tray-maxsize = 28
-background = #333
+tray-maxsize = {height}
+background = {ground}
+foreground = {text}
 [module/d]
 type = custom/text
 content = " "
@@ -92,9 +96,10 @@ class I3Screen(TrayBar):
     desktop = "i3"
     bar_class = "i3bar"
 
-    def __init__(self, position="top", background="#000000", text="#ffffff"):
-        super().__init__()
-        self._configuration = I3.format(position=position, background=background, text=text)
+    def __init__(self, position="top", background="#000000", text="#ffffff", **options):
+        super().__init__(**options)
+        self._configuration = I3.format(position=position, background=background, text=text,
+                                        points=10 * self.scale)
 
     def boot(self):
         Screen.boot(self)
@@ -110,12 +115,20 @@ class I3Screen(TrayBar):
 class Tint2Screen(TrayBar):
     bar_class = "Tint2"
 
+    def __init__(self, ground="#000000", **options):
+        super().__init__(**options)
+        self._configuration = TINT2.format(ground=ground, height=30 * self.scale)
+
     def command(self):
-        return ["tint2", "-c", self.write("config/tint2rc", TINT2)]
+        return ["tint2", "-c", self.write("config/tint2rc", self._configuration)]
 
 
 class PolybarScreen(TrayBar):
     bar_class = "Polybar"
 
+    def __init__(self, ground="#333333", text="#ffffff", **options):
+        super().__init__(**options)
+        self._configuration = POLYBAR.format(ground=ground, text=text, height=28 * self.scale)
+
     def command(self):
-        return ["polybar", "-c", self.write("config/polybar.ini", POLYBAR)]
+        return ["polybar", "-c", self.write("config/polybar.ini", self._configuration)]
