@@ -76,12 +76,14 @@ bool isOutlinedLyingBattery(Icon icon)
 
 Form glyph(const ItemContent &content, int height)
 {
-    AnyView icon = content.icon ? viewFor(*content.icon) : AnyView();
     // Shrunk into a square its outline would be a blur, and the red of a low one a speck.
     if (content.icon && !content.icon->fault && isOutlinedLyingBattery(content.icon->icon))
-        icon = PaddedView { .content
-                            = SquareBatteryView { *content.icon, {}, hasBolt(content.icon->icon) },
-                            .margins = QMarginsF(0, 3, 0, 3) * (height / 16.0) };
+        return { PaddedView {
+                     .content
+                     = SquareBatteryView { *content.icon, {}, hasBolt(content.icon->icon) },
+                     .margins = QMarginsF(0, 3, 0, 3) * (height / 16.0) },
+                 qreal(height) };
+    const AnyView icon = content.icon ? viewFor(*content.icon) : AnyView();
     return { FittedView { .content = icon, .size = QSizeF(height, height) }, qreal(height) };
 }
 
