@@ -1,0 +1,104 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""Measures what the item costs each status area over a steady discharge.
+
+    bench/hosts.py BUILD_TREE [HOST...]
+
+For each host: the processor time of the session's processes, the program and what serves the screen
+excepted, in the same minutes without the item and with it, and the signals that the item sent.
+"""
+
+import os
+import pathlib
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+sys.path[:0] = [str(ROOT / "tests"), str(ROOT / "tests" / "endtoend")]
+
+from harness.hosts import HOSTS, session_of  # noqa: E402
+from harness.item import SignalCount  # noqa: E402
+from harness.processes import eventually  # noqa: E402
+from harness.program import Program  # noqa: E402
+from virtuallaptop import VirtualLaptop  # noqa: E402
+
+SETTLING_SECONDS = 25
+WATCHED_SECONDS = 180
+STEP_SECONDS = 5
+# As the default laptop's battery tells it: microwatthours, and microwatts.
+FULL, BEGIN, RATE = 46_000_000, 17_020_000, 6_100_000
+# Of the tray bars no item is on the bus.
+TRAY_BARS = ("i3bar", "tint2", "polybar")
+NOT_THE_HOST = ("ferrin", "Xvfb", "dbus-daemon")
+
+
+def session_processes(session):
+    """The processes whose home is the session's, by number and name."""
+    marker = f"XDG_RUNTIME_DIR={session.folder}".encode()
+    for folder in pathlib.Path("/proc").iterdir():
+        try:
+            if folder.name.isdigit() and marker in (folder / "environ").read_bytes():
+                yield folder.name, (folder / "comm").read_text().strip()
+        except OSError:
+            pass
+
+
+def seconds_of(process):
+    fields = pathlib.Path(f"/proc/{process}/stat").read_text().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def seconds_spent(session):
+    spent = {}
+    for process, name in session_processes(session):
+        try:
+            if name not in NOT_THE_HOST:
+                spent[process] = seconds_of(process)
+        except OSError:
+            pass
+    return spent
+
+
+def discharge(laptop, seconds):
+    """A battery that is emptied at its usual rate."""
+    begun = time.monotonic()
+    while (passed := time.monotonic() - begun) < seconds:
+        energy = BEGIN - int(RATE * passed / 3600)
+        laptop.send("write", "BAT0", "energy_now", energy, "capacity", energy * 100 // FULL)
+        time.sleep(STEP_SECONDS)
+
+
+def watched(laptop, session):
+    """The milliseconds of processor time in a minute."""
+    before = seconds_spent(session)
+    discharge(laptop, WATCHED_SECONDS)
+    after = seconds_spent(session)
+    both = before.keys() & after.keys()
+    return sum(after[each] - before[each] for each in both) * 60_000 / WATCHED_SECONDS
+
+
+def measure(host):
+    with VirtualLaptop() as laptop, session_of(host, dark=True, scale=1) as session:
+        time.sleep(SETTLING_SECONDS)
+        without = watched(laptop, session)
+        program = Program(session, laptop)
+        program.says(r"3\d%, \d:\d\d to empty")
+        eventually(lambda: host in TRAY_BARS or session.bus.item_of(program.pid), "there it is")
+        time.sleep(SETTLING_SECONDS)
+        signals = SignalCount(session.bus, program.unseen_item())
+        beside = watched(laptop, session)
+        told = len(signals.collect()) * 60 / WATCHED_SECONDS
+        program.terminate()
+    print(f"| {host} | {without:.0f} ms | {beside:.0f} ms | {told:.1f} |", flush=True)
+
+
+def main():
+    os.environ["FERRIN_BINARY"] = str(pathlib.Path(sys.argv[1]).resolve() / "bin" / "ferrin")
+    print("| host | its processor time a minute | with the item | signals a minute |\n"
+          "|---|---:|---:|---:|")
+    for host in sys.argv[2:] or HOSTS:
+        measure(host)
+
+
+if __name__ == "__main__":
+    main()
