@@ -22,8 +22,8 @@ from harness.processes import eventually  # noqa: E402
 from harness.program import Program  # noqa: E402
 from virtuallaptop import VirtualLaptop  # noqa: E402
 
-SETTLING_SECONDS = 25
-WATCHED_SECONDS = 180
+SETTLING_SECONDS = 40
+WATCHED_SECONDS = 120
 STEP_SECONDS = 5
 # As the default laptop's battery tells it: microwatthours, and microwatts.
 FULL, BEGIN, RATE = 46_000_000, 17_020_000, 6_100_000
