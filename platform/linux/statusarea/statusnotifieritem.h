@@ -82,7 +82,8 @@ private:
     ItemContent m_told;
     QTimer m_news;
     QDeadlineTimer m_peaceEnds;
-    std::chrono::milliseconds m_peace { 60'000 };
+    /// A minute, and by how much a timer of the toolkit may be early.
+    std::chrono::milliseconds m_peace { 64'000 };
 };
 
 } // namespace ferrin

@@ -247,7 +247,6 @@ void StatusNotifierItemTest::tellsOnceOfSeveralChanges()
 
 void StatusNotifierItemTest::leavesTheHostsInPeaceWhileTheFiguresDrift()
 {
-    m_item->setPeace(std::chrono::hours(1));
     BusPeer *const host = newHost(u"xfce4-panel"_s);
     host->allProperties(m_service, itemPath, itemInterface);
     m_item->setContent(dischargingAt(36, u"4:28"_s));
@@ -280,7 +279,6 @@ void StatusNotifierItemTest::tellsOfTheDriftWhenThePeaceIsOver()
 
 void StatusNotifierItemTest::breaksThePeaceForWhatAUserWaitsFor()
 {
-    m_item->setPeace(std::chrono::hours(1));
     BusPeer *const host = newHost(u"xfce4-panel"_s);
     host->allProperties(m_service, itemPath, itemInterface);
     m_item->setContent(dischargingAt(36, u"4:28"_s));
