@@ -4,6 +4,7 @@
 #include "updates/packagefile.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -23,6 +24,14 @@ QString downloadFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
         + u"/ferrin/updates"_s;
+}
+
+void removeDownloads(const QString &folder)
+{
+    const QDir dir(folder);
+    const QStringList names = dir.entryList({ u"*.deb"_s, u"*.deb.part"_s }, QDir::Files);
+    for (const QString &name : names)
+        QFile::remove(dir.filePath(name));
 }
 
 } // namespace ferrin

@@ -16,4 +16,7 @@ namespace ferrin {
 /// Where downloads lie: a folder of the user's cache that is theirs alone.
 [[nodiscard]] QString downloadFolder();
 
+/// Removes what was downloaded, all of it or a part.
+void removeDownloads(const QString &folder);
+
 } // namespace ferrin

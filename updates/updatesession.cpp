@@ -135,6 +135,8 @@ void UpdateSession::takeOffer(const UpdateOffer &offer)
     m_parts.records.setNewestIssued(offer.issued);
     if (!offer.release) {
         qCInfo(logger, "Ferrin is up to date");
+        // What was downloaded before is installed by now.
+        removeDownloads(m_parts.folder);
         if (m_isQuiet)
             end();
         else

@@ -4,6 +4,7 @@
 """Two releases, made by the one command that makes them: the first is installed in a clean root and
 finds, fetches, verifies and installs the second, and goes on as that."""
 
+import glob
 import os
 import re
 import shutil
@@ -131,6 +132,8 @@ class TheNextRelease(unittest.TestCase):
             self.check(settings)
             update.says("Ferrin is up to date")
             update.find(f"Version {NEXT} is the newest one.")
+            downloads = os.path.join(session.environment["XDG_CACHE_HOME"], "ferrin", "updates")
+            self.assertEqual(glob.glob(os.path.join(downloads, "*.deb*")), [])
 
     def check(self, settings):
         settings.open()

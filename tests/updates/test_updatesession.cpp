@@ -19,6 +19,7 @@ private Q_SLOTS:
     void asksTheEngineForTheFeed();
     void isShownFromItsBeginning();
     void saysThatFerrinIsUpToDate();
+    void throwsAwayWhatIsInstalledByNow();
     void offersANewerRelease();
     void downloadsWhatIsOffered();
     void isReadyToInstallWhatWasVerified();
@@ -63,6 +64,24 @@ void TestUpdateSession::saysThatFerrinIsUpToDate()
     QCOMPARE(m_bench->log.take(), QStringList { u"info: Ferrin is up to date"_s });
     m_bench->session.later();
     QCOMPARE(m_bench->session.stage(), Stage::idle);
+}
+
+void TestUpdateSession::throwsAwayWhatIsInstalledByNow()
+{
+    const QDir folder(m_bench->folder.path());
+    for (const QString &name :
+         { u"ferrin_1.3.0_amd64.deb"_s, u"ferrin_1.3.1_amd64.deb.part"_s, u"somebody's.txt"_s }) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    m_bench->session.begin();
+    m_bench->offer();
+    m_bench->session.later();
+    QCOMPARE(folder.entryList(QDir::Files).size(), 3);
+    m_bench->session.begin();
+    m_bench->offer(std::nullopt);
+    QCOMPARE(folder.entryList(QDir::Files), QStringList { u"somebody's.txt"_s });
+    m_bench->log.ignoreRest();
 }
 
 void TestUpdateSession::offersANewerRelease()
