@@ -10,14 +10,16 @@
 #include "platform/linux/session/programstarter.h"
 #include "platform/linux/session/systemappearance.h"
 #include "platform/linux/statusarea/statusarea.h"
-#include "platform/linux/statusarea/x11popoverdesktop.h"
-#include "platform/linux/statusarea/x11presswatcher.h"
 
 #include <QObject>
+
+#include <memory>
 
 namespace ferrin {
 
 class MenuBarItemProvider;
+class PopoverDesktop;
+class PressWatcher;
 
 /// How the application looks on this desktop and where its item stands, wired to each other: the
 /// item's colours and font follow the desktop's and the user's choice. Owned by `main`, for the
@@ -29,6 +31,7 @@ class DesktopPlatform final : public QObject
 public:
     /// The login item is named after the identifier.
     DesktopPlatform(const QDBusConnection &sessionBus, const QString &identifier);
+    ~DesktopPlatform() override;
 
     /// Offers the item to the desktop; `itemAvailable` follows.
     void start();
@@ -36,10 +39,10 @@ public:
     [[nodiscard]] StatusBar &statusBar() const { return *m_statusArea.bar(); }
 
     /// What the windows need of the desktop.
-    [[nodiscard]] PressWatcher &presses() noexcept { return m_presses; }
+    [[nodiscard]] PressWatcher &presses() noexcept { return *m_presses; }
     [[nodiscard]] WindowsPlatform windows() noexcept
     {
-        return { m_popovers, m_loginItem, m_links, vendor() };
+        return { *m_popovers, m_loginItem, m_links, vendor() };
     }
 
     /// What the item's widths are measured with.
@@ -55,8 +58,8 @@ private:
 
     SystemAppearance m_appearance;
     StatusAreaChooser m_statusArea;
-    X11PressWatcher m_presses;
-    X11PopoverDesktop m_popovers;
+    std::unique_ptr<PressWatcher> m_presses;
+    std::unique_ptr<PopoverDesktop> m_popovers;
     DetachedProgramStarter m_programs;
     DesktopLinkOpener m_links;
     AutostartEntry m_loginItem;

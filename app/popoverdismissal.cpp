@@ -44,7 +44,7 @@ void PopoverDismissal::heed(const QWindow *pressed)
         break;
     case State::Shown:
         if (!pressed || !m_isOfPopover(*pressed))
-            dismiss(m_patience.afterPress);
+            dismiss(m_presses->takesPresses() ? 0ms : m_patience.afterPress);
         break;
     case State::Dismissed:
         // Whatever click comes now is this press's.

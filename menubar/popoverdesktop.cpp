@@ -10,6 +10,11 @@
 
 namespace ferrin {
 
+void PopoverDesktop::place(QWindow &window, const QRect &frame)
+{
+    window.setGeometry(frame);
+}
+
 void PopoverDesktop::prepare(QWindow &) { }
 
 void PopoverDesktop::focus(QWindow &window)

@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 class QPainterPath;
+class QRect;
 class QWindow;
 
 namespace ferrin {
@@ -22,6 +23,9 @@ public:
 
     /// Whether a half-transparent pixel shows what is behind the window.
     [[nodiscard]] virtual bool blends() const { return true; }
+
+    /// Call for every place that the window gets; in the desktop's logical pixels.
+    virtual void place(QWindow &window, const QRect &frame);
 
     /// Call once, after the window was created and before it is shown: no list of windows will have
     /// it, and it stays above the others.

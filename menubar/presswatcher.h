@@ -8,9 +8,10 @@
 
 namespace ferrin {
 
-/// Hears the presses of the pointer anywhere on the desktop, without taking them from whom they are
-/// meant for: no grab, so that a click that sends a popover away does what it would do anyway. The
-/// wheel is no press. Implemented by the platform, where there is a way; silent until started.
+/// Hears the presses of the pointer anywhere on the desktop, without a grab and, where that can be,
+/// without taking them from whom they are meant for, so that a click that sends a popover away does
+/// what it would do anyway. The wheel is no press. Implemented by the platform, where there is a
+/// way; silent until started.
 class PressWatcher : public QObject
 {
     Q_OBJECT
@@ -22,6 +23,9 @@ public:
     /// where there is no way to hear them.
     virtual bool start() = 0;
     virtual void stop() = 0;
+
+    /// Whether a press that it hears reaches nobody else.
+    [[nodiscard]] virtual bool takesPresses() const { return false; }
 
     /// Tells of all that has been pressed until now before it returns.
     virtual void catchUp() = 0;

@@ -71,7 +71,7 @@ void FramedWindow::place(const PopoverSpot &spot, ArrowUse arrowUse)
     // Tiling Wayland compositors leave a window of one size alone.
     setMinimumSize(whole.size());
     setMaximumSize(whole.size());
-    setGeometry(whole);
+    m_desktop.place(*this, whole);
     if (m_content)
         m_content->setPosition(QPointF(margins.left(), margins.top()));
     if (!m_frameItem)

@@ -3,6 +3,7 @@
 
 #include "quick/popoverwindow.h"
 
+#include "menubar/popoverdesktop.h"
 #include "quick/framedwindow.h"
 #include "quick/quickengine.h"
 #include "sources/logging.h"
@@ -79,6 +80,7 @@ void PopoverWindow::open()
     m_window = window.release();
     follow(*parent);
     place();
+    m_window->desktop().prepare(*m_window);
     m_window->show();
     Q_EMIT shownChanged();
     Q_EMIT opened();

@@ -17,6 +17,7 @@ class FakePressWatcher final : public PressWatcher
 public:
     bool start() override { return listens = !isDeaf; }
     void stop() override { listens = false; }
+    [[nodiscard]] bool takesPresses() const override { return isGreedy; }
     void catchUp() override
     {
         for (QWindow *const ours : std::exchange(unread, {}))
@@ -30,6 +31,8 @@ public:
     }
 
     bool isDeaf = false;
+    /// What it hears reaches nobody else.
+    bool isGreedy = false;
     bool listens = false;
     /// Presses that have been made and are not told before somebody catches up.
     QList<QWindow *> unread;

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void dismissesAtAPressOnAnotherOfOurWindows();
     void staysAtAPressInside();
     void swallowsTheClickThatBelongsToTheDismissingPress();
+    void heedsEveryClickWherePressesReachNobodyElse();
     void swallowsItOnce();
     void heedsTheClickOfALaterPress();
     void heedsTheClickOfAPressThatWasNotReadYet();
@@ -98,6 +99,17 @@ void PopoverDismissalTest::swallowsTheClickThatBelongsToTheDismissingPress()
     stage.dismissal.popoverShown();
     stage.presses.press(nullptr);
     QVERIFY(!stage.dismissal.isNewClick());
+    QVERIFY(!stage.presses.listens);
+}
+
+void PopoverDismissalTest::heedsEveryClickWherePressesReachNobodyElse()
+{
+    Stage stage;
+    stage.presses.isGreedy = true;
+    stage.dismissal.popoverShown();
+    stage.presses.press(nullptr);
+    QCOMPARE(stage.dismissals.size(), 1);
+    QVERIFY(stage.dismissal.isNewClick());
     QVERIFY(!stage.presses.listens);
 }
 

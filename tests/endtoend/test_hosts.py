@@ -38,22 +38,10 @@ class InAHost:
 
     def setUp(self):
         super().setUp()
-        self.before = self.settled_picture()
+        self.before = self.session.settled_picture()
         self.program = self.start()
         self.item = self.program.item()
         self.program.says(AT_START)
-
-    def settled_picture(self):
-        """The screen once it has not changed for a moment."""
-        last = None
-
-        def at_rest():
-            nonlocal last
-            before, last = last, self.session.picture()
-            a_moment()
-            return before and before.difference(last) is None
-        eventually(at_rest, "the panel is at rest")
-        return last
 
     def cell(self):
         """Where the item is drawn."""

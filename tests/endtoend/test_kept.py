@@ -3,7 +3,6 @@
 """The item is kept, once, whatever happens to the status area and the screens, and leaves nothing
 behind."""
 
-import os
 import re
 
 from harness import desktop, traybars
@@ -18,7 +17,7 @@ class Holdings:
     """What the program holds of the system."""
 
     def __init__(self, session, program):
-        self.files = len(os.listdir(f"/proc/{program.pid}/fd"))
+        self.files = program.open_files()
         self.windows = session.all_windows().count(b'"ferrin")')
         with open(f"/proc/{program.pid}/smaps_rollup", encoding="ascii") as file:
             told = file.read()
@@ -119,11 +118,7 @@ class Screens(KeptThroughAHundred, OnADesktop):
         a_moment()
 
     def drag_to_second(self):
-        start = self.boxes()[0].centre
-        for step in (("mousemove", *map(str, start)), ("mousedown", "1"),
-                     ("mousemove", "500", "300"), ("mousemove", "780", "10"), ("mouseup", "1")):
-            self.session.run("xdotool", *step)
-            self.session.run("xdotool", "sleep", "0.2")
+        self.session.drag(self.boxes()[0].centre, (780, 10))
         eventually(lambda: self.boxes()[0].right == 800, "the bar is on the second screen")
 
     def test_the_popover_outlives_a_screen_beside_its_own(self):

@@ -34,17 +34,6 @@ class OnABareScreen(OnADesktop):
     def stands(self, condition, what):
         return eventually(lambda: condition(self.bar()) and self.bar(), what)
 
-    def drag(self, start, end):
-        """The real pointer takes what is at one place to another."""
-        middle = (start[0] + end[0]) // 2, (start[1] + end[1]) // 2
-        steps = [start, "mousedown", middle, end, "mouseup"]
-        for step in steps:
-            if isinstance(step, str):
-                self.session.run("xdotool", step, "1")
-            else:
-                self.session.point(step)
-            self.session.run("xdotool", "sleep", "0.2")
-
     def test_it_stands_in_the_corner_of_the_screen(self):
         box = self.bar()
         self.assertEqual((box.top, box.right), (0, 800))
@@ -52,7 +41,7 @@ class OnABareScreen(OnADesktop):
 
     def test_it_is_left_where_it_was_dragged_over_a_restart(self):
         before = self.bar()
-        self.drag(before.centre, (300, 590))
+        self.session.drag(before.centre, (300, 590))
         moved = self.stands(lambda box: box.bottom == 600, "it lies at the lower edge")
         self.assertLess(abs(moved.centre[0] - 300), 10)
         a_moment()
@@ -65,7 +54,7 @@ class OnABareScreen(OnADesktop):
         self.assertLessEqual(abs(again.left - moved.left), 1)
 
     def test_its_dashboard_opens_beside_it_wherever_it_is(self):
-        self.drag(self.bar().centre, (300, 590))
+        self.session.drag(self.bar().centre, (300, 590))
         bar = self.stands(lambda box: box.bottom == 600, "it lies at the lower edge")
         self.session.click(bar.centre)
         eventually(lambda: len(self.session.windows_of(self.program.pid)) == 2, "it has opened")

@@ -4,14 +4,34 @@
 #include "platform/linux/session/applicationsetup.h"
 
 #include <QGuiApplication>
+#include <QProcessEnvironment>
 
 namespace ferrin {
+
+namespace {
+
+constexpr auto bypassVariable = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
+constexpr auto positionsVariable = "QT_WAYLAND_DISABLE_FIXED_POSITIONS";
+
+} // namespace
 
 void setUpApplication()
 {
     // Naming another theme does not help: on a GTK desktop Qt tries the GTK theme's plugin after
     // any name that it does not know, and the portal's theme wraps it. It costs 68 MB.
     QGuiApplication::setDesktopSettingsAware(false);
+
+    // Qt's Wayland platform reads these for itself. By the one it makes no shell surface for a
+    // window with that hint and lets it show all the same, in a layer of the desktop; by the other
+    // it keeps the place that such a window was given.
+    qputenv(bypassVariable, "1");
+    qputenv(positionsVariable, "1");
+}
+
+void withoutSetUp(QProcessEnvironment &environment)
+{
+    environment.remove(QString::fromLatin1(bypassVariable));
+    environment.remove(QString::fromLatin1(positionsVariable));
 }
 
 } // namespace ferrin

@@ -3,8 +3,11 @@
 
 #include "platform/linux/session/programstarter.h"
 
+#include "platform/linux/session/applicationsetup.h"
+
 #include <QDir>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
 
 namespace ferrin {
@@ -19,6 +22,9 @@ bool DetachedProgramStarter::start(const CommandLine &command)
     QProcess process;
     process.setProgram(command.program);
     process.setArguments(command.arguments);
+    auto environment = QProcessEnvironment::systemEnvironment();
+    withoutSetUp(environment);
+    process.setProcessEnvironment(environment);
     process.setWorkingDirectory(QDir::homePath());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());

@@ -7,6 +7,8 @@
 #include "platform/linux/statusarea/panelcolours.h"
 #include "state/defaultsstore.h"
 
+#include <QGuiApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace ferrin {
@@ -38,6 +40,8 @@ OwnBarItem::~OwnBarItem() = default;
 
 void OwnBarItem::show()
 {
+    m_layers.prepare(m_window, LayerShell::Kind::Bar);
+    m_window.setFollowing(!m_layers.contains(&m_window));
     m_window.show();
 }
 
@@ -84,6 +88,11 @@ void OwnBarItem::showColours()
 void OwnBarItem::popUpMenu()
 {
     m_popup.popUpAt(m_entries, m_window.geometry(), ownWindowLook(m_colours));
+}
+
+bool OwnBar::isPossible()
+{
+    return !QGuiApplication::platformName().startsWith(u"wayland") || LayerShell();
 }
 
 OwnBar::OwnBar(const PanelColours &colours, DefaultsStore *store, QObject *parent)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "menubar/statusitem.h"
+#include "platform/linux/statusarea/layeredwindows.h"
 #include "platform/linux/statusarea/ownbarwindow.h"
 #include "platform/linux/statusarea/popupmenu.h"
 
@@ -45,6 +46,7 @@ private:
     void popUpMenu();
 
     const PanelColours &m_colours;
+    LayeredWindows m_layers;
     OwnBarWindow m_window;
     PopupMenu m_popup;
     std::unique_ptr<ItemHostingView> m_view;
@@ -61,6 +63,9 @@ class OwnBar final : public StatusBar
 public:
     explicit OwnBar(const PanelColours &colours, DefaultsStore *store = nullptr,
                     QObject *parent = nullptr);
+
+    /// Whether this session lets a program say where its windows stand, as a bar must.
+    [[nodiscard]] static bool isPossible();
 
     void show() { m_item.show(); }
     void hide() { m_item.window().hide(); }

@@ -168,7 +168,9 @@ void OwnBarWindow::mouseMoveEvent(QMouseEvent *event)
         && moved.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
         return;
     m_isDragged = true;
-    setPosition((event->globalPosition() - QPointF(*m_pressedAt)).toPoint());
+    setCursor(Qt::ClosedHandCursor);
+    if (m_isFollowing)
+        setPosition((event->globalPosition() - QPointF(*m_pressedAt)).toPoint());
 }
 
 void OwnBarWindow::mouseReleaseEvent(QMouseEvent *event)
@@ -177,6 +179,7 @@ void OwnBarWindow::mouseReleaseEvent(QMouseEvent *event)
         return;
     const std::optional<QPoint> pressedAt = std::exchange(m_pressedAt, std::nullopt);
     if (std::exchange(m_isDragged, false)) {
+        unsetCursor();
         const QPointF corner = event->globalPosition() - pressedAt.value_or(QPoint());
         dropAt(QRect(corner.toPoint(), size()));
         return;

@@ -36,6 +36,10 @@ public:
     void setContentLength(qreal length);
     void setPressed(bool pressed);
 
+    /// Whether it follows the pointer while it is dragged, or goes to its new place at the end.
+    /// Wayland's compositors do not agree on where the pointer is in a surface that moves below it.
+    void setFollowing(bool isFollowing) { m_isFollowing = isFollowing; }
+
     /// Where the user keeps it.
     void setPlace(const BarPlace &place);
     [[nodiscard]] const BarPlace &barPlace() const noexcept { return m_place; }
@@ -78,6 +82,7 @@ private:
     /// Where in the window the left button went down; absent while it is up.
     std::optional<QPoint> m_pressedAt;
     bool m_isDragged = false;
+    bool m_isFollowing = true;
     QPointer<QScreen> m_followed;
     AccessibleWindow m_accessible;
 };

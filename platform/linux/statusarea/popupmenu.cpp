@@ -66,6 +66,7 @@ PopupMenu::PopupMenu()
 {
     setFlags(Qt::Popup | Qt::FramelessWindowHint);
     setTitle(QGuiApplication::applicationDisplayName());
+    connect(&m_presses, &PressWatcher::pressed, this, &QWindow::hide);
 }
 
 void PopupMenu::popUp(const std::vector<MenuEntry> &entries, QPoint at, const OwnWindowLook &look)
@@ -99,8 +100,12 @@ void PopupMenu::open(const std::vector<MenuEntry> &entries, const OwnWindowLook 
     setMinimumSize(size);
     setMaximumSize(size);
     setGeometry(QRect(place(size, under->geometry()), size));
+    m_layers.prepare(*this, LayerShell::Kind::Popover);
     show();
     requestActivate();
+    // In a layer it has the keyboard until it is hidden.
+    if (m_layers.contains(this))
+        m_presses.start();
     // Elsewhere the desktop itself sends a menu away when something else comes into focus.
     constexpr int grabAttempts = 10;
     if (QGuiApplication::platformName() == u"xcb")
@@ -252,6 +257,8 @@ void PopupMenu::focusOutEvent(QFocusEvent *)
 
 bool PopupMenu::event(QEvent *event)
 {
+    if (event->type() == QEvent::Hide)
+        m_presses.stop();
     if (event->type() == QEvent::Hide && m_hasGrab) {
         m_hasGrab = false;
         setMouseGrabEnabled(false);

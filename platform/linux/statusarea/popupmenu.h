@@ -5,6 +5,8 @@
 
 #include "menubar/statusitem.h"
 #include "platform/linux/statusarea/accessiblewindow.h"
+#include "platform/linux/statusarea/layeredwindows.h"
+#include "platform/linux/statusarea/waylandpresswatcher.h"
 
 #include <QColor>
 #include <QRasterWindow>
@@ -85,6 +87,8 @@ private:
     /// The highlighted entry, -1 for none.
     int m_current = -1;
     bool m_hasGrab = false;
+    LayeredWindows m_layers;
+    WaylandPressWatcher m_presses;
     AccessibleWindow m_accessible;
 };
 

@@ -8,8 +8,10 @@
 #include "platform/linux/statusarea/traycolours.h"
 #include "platform/linux/statusarea/trayitem.h"
 #include "platform/linux/statusarea/x11trayowner.h"
+#include "sources/logging.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -147,8 +149,16 @@ void StatusAreaChooser::standIn()
 {
     if (m_trayOwner->window())
         useTray();
-    else
+    else if (!m_notifierBar || OwnBar::isPossible())
         useOwnBar();
+    else
+        goWithout();
+}
+
+void StatusAreaChooser::goWithout()
+{
+    if (!std::exchange(m_isWantTold, true))
+        qCInfo(logger, "This session has no place for an item; start Ferrin again to open it");
 }
 
 void StatusAreaChooser::emptyItem()

@@ -29,8 +29,8 @@ class TrayOwner;
 /// Decides where the application's item stands: in the desktop's status area when there is one,
 /// else in the X11 tray of somebody's bar, else in a small bar of our own. The item is offered to
 /// the desktop from the first moment and for ever; another place is taken when no host has been
-/// seen for the patience, and given up as soon as one comes. Owned by the application; never
-/// touches what the item shows.
+/// seen for the patience, and given up as soon as one comes. Where there is none, it says so once.
+/// Owned by the application; never touches what the item shows.
 class StatusAreaChooser : public QObject
 {
     Q_OBJECT
@@ -76,6 +76,7 @@ private:
     void emptyItem();
     void useTray();
     void useOwnBar();
+    void goWithout();
     void useStatusNotifier();
     /// Tells of the item that is in use now, and lets go of the former bar after that.
     void tellOfItem(StatusBar *former);
@@ -93,6 +94,7 @@ private:
     /// The bars that stand in: both null while the desktop's status area is in use, else one.
     std::unique_ptr<TrayBar> m_trayBar;
     std::unique_ptr<OwnBar> m_ownBar;
+    bool m_isWantTold = false;
     QTimer m_patienceTimer;
     std::chrono::milliseconds m_patience { 3000 };
 };

@@ -42,7 +42,6 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 """
 
 
-WATCHER = os.path.join(os.path.dirname(__file__), "watcher.py")
 
 
 class BareScreen(Screen):
@@ -60,17 +59,6 @@ class BareScreen(Screen):
         if self._compositing:
             self.start(["picom"])
             eventually(lambda: b'"picom"' in self.all_windows(), "the compositing manager is there")
-
-    def start_watcher(self):
-        """A status area in the shape of a process."""
-        watcher = self.start([WATCHER])
-        eventually(self.bus.has_host, "there is a status area")
-        return watcher
-
-    def end_process(self, process):
-        """A process of the session dies without a word."""
-        processes.end(process, signal.SIGKILL)
-        self._processes.remove(process)
 
     def all_windows(self):
         """The tree of all windows, as the X server tells it."""

@@ -79,6 +79,12 @@ class Program:
         with open(self._log, encoding="utf-8", errors="replace") as file:
             return file.read()
 
+    def open_files(self, but=None):
+        """How many files and connections it holds open, without those of a kind."""
+        folder = f"/proc/{self.pid}/fd"
+        kinds = [os.readlink(os.path.join(folder, number)) for number in os.listdir(folder)]
+        return sum(but is None or not kind.startswith(but) for kind in kinds)
+
     def owns_its_name(self):
         """Whether this start is the session's one instance."""
         owner = self._session.bus.owner(PROGRAM)
@@ -123,6 +129,7 @@ def _reachable(session):
     tree = os.path.dirname(os.path.dirname(os.path.abspath(binary())))
     copy = os.path.join(session.folder, "installed")
     for part in ("bin", "libexec", "share"):
-        if os.path.isdir(os.path.join(tree, part)):
+        # An earlier start may be running from there.
+        if os.path.isdir(os.path.join(tree, part)) and not os.path.exists(os.path.join(copy, part)):
             shutil.copytree(os.path.join(tree, part), os.path.join(copy, part), dirs_exist_ok=True)
     return os.path.join(copy, "bin", os.path.basename(binary()))

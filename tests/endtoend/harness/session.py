@@ -4,6 +4,7 @@
 
 import os
 import shutil
+import signal
 import subprocess
 import tempfile
 
@@ -28,6 +29,9 @@ BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC
   </policy>
 </busconfig>
 """
+
+
+WATCHER = os.path.join(os.path.dirname(__file__), "watcher.py")
 
 
 class Session:
@@ -74,6 +78,17 @@ class Session:
                                   **options)
         self._processes.append(process)
         return process
+
+    def end_process(self, process):
+        """A process of the session dies without a word."""
+        processes.end(process, signal.SIGKILL)
+        self._processes.remove(process)
+
+    def start_watcher(self):
+        """A status area in the shape of a process."""
+        watcher = self.start([WATCHER])
+        processes.eventually(self.bus.has_host, "there is a status area")
+        return watcher
 
     def run(self, *command):
         return processes.run(command, self.environment)
@@ -134,6 +149,28 @@ class Screen(Session):
     def picture(self):
         return Picture(self._on_screen("import", "-silent", "-window", "root", "-depth", "8",
                                        "ppm:-"))
+
+    def settled_picture(self):
+        """The screen once it has not changed for a moment."""
+        last = None
+
+        def at_rest():
+            nonlocal last
+            before, last = last, self.picture()
+            processes.a_moment()
+            return before and before.difference(last) is None
+        processes.eventually(at_rest, "the screen is at rest")
+        return last
+
+    def drag(self, start, end):
+        """The real pointer takes what is at one place to another."""
+        middle = (start[0] + end[0]) // 2, (start[1] + end[1]) // 2
+        for step in (start, "mousedown", middle, end, "mouseup"):
+            if isinstance(step, str):
+                self._on_screen("xdotool", step, "1")
+            else:
+                self.point(step)
+            self._on_screen("xdotool", "sleep", "0.2")
 
     def point(self, place):
         """Moves the real pointer."""

@@ -6,10 +6,12 @@ import json
 import os
 
 from harness.processes import eventually
-from harness.session import Screen
+from harness.session import Screen, Session
 
+GROUND = "#336699"
+BELOW_BARS = 40
 SWAY = """output X11-1 resolution {width}x{height} scale {scale}
-output * bg #336699 solid_color
+output * bg {desktop} solid_color
 xwayland disable
 """
 WAYBAR = '{"layer": "top", "position": "top", "height": 30, "modules-right": ["tray"]}'
@@ -41,8 +43,15 @@ class SwayScreen(Screen):
         self.colours = DARK if dark else LIGHT
 
     def windows_of(self, process_id):
-        """The titles of a process' windows."""
-        return [node["name"] for node in self._nodes() if node.get("pid") == process_id]
+        """The titles of a process' windows. The compositor tells nothing of what is in the layers:
+        whatever else lies on the bare desktop is taken for the one that the test is about."""
+        windows = [node["name"] for node in self._nodes() if node.get("pid") == process_id]
+        return windows or ["in a layer"] * self._is_covered()
+
+    def _is_covered(self):
+        picture = self.picture()
+        bare = bytes.fromhex(GROUND[1:]) * picture.width
+        return any(picture.row(y) != bare for y in range(BELOW_BARS * self.scale, picture.height))
 
     def _nodes(self):
         def below(tree):
@@ -60,7 +69,7 @@ class SwayScreen(Screen):
             "SWAYSOCK": os.path.join(self.folder, "run", "sway.sock"),
             "XDG_SESSION_TYPE": "wayland"}
         width, height = (length * self.scale for length in self.size)
-        configuration = SWAY.format(width=width, height=height, scale=self.scale)
+        configuration = SWAY.format(desktop=GROUND, width=width, height=height, scale=self.scale)
         self.start(
             ["sway", "-c", self.write("config/sway", configuration + self.bar)],
             {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"} | self._screen)
@@ -101,3 +110,16 @@ class SwaybarScreen(SwayScreen):
         super()._start_display()
         eventually(self.bus.has_host, "swaybar offers a status area")
         self._bar_is_drawn()
+
+
+class WestonSession(Session):
+    """A compositor without layers for programs, whose screen nobody sees."""
+
+    desktop = "weston"
+
+    def _start_display(self):
+        self.environment |= {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-test"}
+        self.start(["weston", "--backend=headless-backend.so", "--socket=wayland-test",
+                    "--width=800", "--height=600"])
+        eventually(lambda: "wayland-test" in os.listdir(self.environment["XDG_RUNTIME_DIR"]),
+                   "the compositor is there")

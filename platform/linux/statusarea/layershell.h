@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QMargins>
+#include <QRect>
+#include <Qt>
+#include <QtGlobal>
+
+#include <memory>
+
+class QScreen;
+class QWindow;
+struct wl_display;
+struct wl_event_queue;
+struct zwlr_layer_shell_v1;
+struct zwlr_layer_surface_v1;
+
+namespace ferrin {
+
+/// Where a layer surface stands: at these edges of its screen, off the panels there. At all four it
+/// fills what the panels leave.
+struct LayerPlace
+{
+    Qt::Edges edges {};
+    /// Between the surface and each of those edges.
+    QMargins margins {};
+
+    bool operator==(const LayerPlace &) const = default;
+};
+
+/// The place of a window that stands at `frame` of a screen: at the edges that it is nearest to.
+[[nodiscard]] LayerPlace layerPlaceFor(const QRect &frame, const QRect &screen);
+
+/// A window as a surface in the topmost layers of a Wayland desktop. It belongs to the window and
+/// is gone with its platform's part.
+class LayerSurface
+{
+public:
+    ~LayerSurface();
+    LayerSurface(const LayerSurface &) = delete;
+    LayerSurface &operator=(const LayerSurface &) = delete;
+
+    void move(const LayerPlace &place);
+
+private:
+    friend class LayerShell;
+    LayerSurface(QWindow &window, zwlr_layer_surface_v1 *surface);
+    void apply(const LayerPlace &place);
+
+    struct Listener;
+    QWindow &m_window;
+    zwlr_layer_surface_v1 *m_surface;
+};
+
+/// The layers of a Wayland desktop, by wlr-layer-shell. False where the program does not run on
+/// Wayland, and where the compositor has no layers.
+class LayerShell
+{
+public:
+    enum class Kind {
+        /// Has the keyboard while it is shown, and is above everything.
+        Popover,
+        /// Never has it, and is above all but full-screen windows.
+        Bar,
+    };
+
+    LayerShell();
+    ~LayerShell();
+    LayerShell(const LayerShell &) = delete;
+    LayerShell &operator=(const LayerShell &) = delete;
+
+    explicit operator bool() const noexcept { return m_shell != nullptr; }
+
+    /// Makes the hidden window one that shows as a layer surface, as large as it is now. Call
+    /// before each showing; the surface ends before the window is hidden.
+    [[nodiscard]] std::unique_ptr<LayerSurface> dress(QWindow &window, const LayerPlace &place,
+                                                      Kind kind);
+
+private:
+    void bind();
+
+    wl_display *m_display = nullptr;
+    wl_event_queue *m_queue = nullptr;
+    zwlr_layer_shell_v1 *m_shell = nullptr;
+};
+
+} // namespace ferrin

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/popoverdesktop.h"
+#include "platform/linux/statusarea/layeredwindows.h"
+
+namespace ferrin {
+
+/// Popovers on Wayland: surfaces of the desktop's topmost layer, at the corner that they ask for
+/// and off its panels; what belongs to one of them is a part of it, and so above it. Where the
+/// compositor has no layers they are windows like any other.
+class WaylandPopoverDesktop final : public PopoverDesktop
+{
+public:
+    void place(QWindow &window, const QRect &frame) override;
+    void prepare(QWindow &window) override;
+
+private:
+    LayeredWindows m_layers;
+};
+
+} // namespace ferrin
