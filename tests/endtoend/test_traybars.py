@@ -74,9 +74,7 @@ class InATrayBar:
         self.assertEqual(len({tuple(picture) for picture in pictures}), len(pictures))
 
     def test_it_stands_out_from_the_bar(self):
-        pixels = self.says(AT_START)
-        brightness = sorted(luminance(pixel) for pixel in pixels)
-        self.assertGreaterEqual((brightness[-1] + 0.05) / (brightness[0] + 0.05), 3)
+        self.assertGreaterEqual(contrast_in(self.says(AT_START)), 3)
 
     def test_a_click_opens_the_dashboard_at_the_item_and_another_closes_it(self):
         self.says(AT_START)
@@ -137,6 +135,11 @@ class InATrayBar:
         self.assertEqual(len(self.session.windows_of(self.program.pid)), 1)
 
 
+def contrast_in(pixels):
+    brightness = sorted(map(luminance, pixels))
+    return (brightness[-1] + 0.05) / (brightness[0] + 0.05)
+
+
 def luminance(pixel):
     """As contrasts are counted."""
     linear = [value / 3294.6 if value <= 10 else ((value / 255 + 0.055) / 1.055) ** 2.4
@@ -147,6 +150,16 @@ def luminance(pixel):
 class I3bar(InATrayBar, OnADesktop):
     def make_session(self):
         return traybars.I3Screen()
+
+    def test_it_follows_the_bars_colours_to_some_that_only_the_window_manager_tells(self):
+        self.says(AT_START)
+        # The bar announces the status line's colour, in which nothing is to be read.
+        for background, ground in (("#f0f0f0", (240, 240, 240)), ("#101010", (16, 16, 16))):
+            self.session.recolour(background, text=background)
+            eventually(lambda: self.session.picture().pixel(*self.session.bar_box().centre)
+                       == ground, f"the bar is {background}")
+            eventually(lambda: contrast_in(self.pixels()) >= 3, f"it is legible on {background}")
+            self.assertEqual(len(self.session.windows_of(self.program.pid)), 1)
 
 
 class I3barAtTheBottomAndLight(I3bar):

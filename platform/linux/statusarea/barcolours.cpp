@@ -74,8 +74,10 @@ void BarColours::start(const QString &socketPath)
 {
     close();
     m_socket = connectedSocket(socketPath);
-    if (m_socket < 0)
+    if (m_socket < 0) {
+        tellText({});
         return;
+    }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &BarColours::receive);
     send(subscribe, R"(["barconfig_update"])");
@@ -137,7 +139,11 @@ void BarColours::takeBar(const QJsonObject &bar)
 {
     if (m_bar.isEmpty() || bar.value("id"_L1).toString() != m_bar)
         return;
-    const std::optional<QColor> text = textOfBar(bar);
+    tellText(textOfBar(bar));
+}
+
+void BarColours::tellText(const std::optional<QColor> &text)
+{
     if (std::exchange(m_text, text) != text)
         Q_EMIT changed();
 }

@@ -27,7 +27,8 @@ public:
     using QObject::QObject;
     ~BarColours() override;
 
-    /// Asks the window manager behind the socket at the path; does nothing with an empty path.
+    /// Asks the window manager behind the socket at the path, in place of the one before. Where
+    /// there is none, nothing is known any more.
     void start(const QString &socketPath);
 
     [[nodiscard]] const std::optional<QColor> &text() const noexcept { return m_text; }
@@ -40,6 +41,7 @@ private:
     void receive();
     void take(quint32 type, const QByteArray &payload);
     void takeBar(const QJsonObject &bar);
+    void tellText(const std::optional<QColor> &text);
     void close();
 
     /// -1 for none.

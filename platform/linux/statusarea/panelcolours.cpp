@@ -6,6 +6,8 @@
 #include <QFont>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace ferrin {
 
 namespace {
@@ -60,6 +62,12 @@ void PanelColours::setHostText(const HostProfile &profile, const std::optional<Q
     Q_EMIT changed();
 }
 
+void PanelColours::setI3BarText(const std::optional<QColor> &colour)
+{
+    if (std::exchange(m_i3BarText, colour) != colour)
+        Q_EMIT changed();
+}
+
 std::optional<QColor> PanelColours::textFor(const HostProfile &profile) const
 {
     if (m_appearance.forcedDark)
@@ -102,14 +110,16 @@ ViewContext PanelColours::contextOnChip() const
     return context;
 }
 
-ViewContext PanelColours::contextForTray(const std::optional<QColor> &ground) const
+ViewContext PanelColours::contextForTray(const TraySurroundings &tray) const
 {
     if (m_appearance.forcedDark)
         return contextWith(textOn(*m_appearance.forcedDark));
+    if (tray.isI3Bar && m_i3BarText)
+        return contextWith(*m_i3BarText);
     if (m_trayText)
         return contextWith(*m_trayText);
-    if (ground)
-        return contextWith(textOn(!isLight(*ground)));
+    if (tray.ground)
+        return contextWith(textOn(!isLight(*tray.ground)));
     return contextOnChip();
 }
 

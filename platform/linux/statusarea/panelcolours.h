@@ -30,6 +30,15 @@ struct StatusAreaAppearance
     bool operator==(const StatusAreaAppearance &) const = default;
 };
 
+/// What an item in an XEmbed tray finds around it.
+struct TraySurroundings
+{
+    /// Absent where the tray keeps it to itself.
+    std::optional<QColor> ground {};
+    /// The tray is that of i3's own bar.
+    bool isI3Bar = false;
+};
+
 /// Which colours read on a host's panel. No host tells, so the best informed voice decides: the
 /// user's choice, then what the host's own settings say, then the colours that the panel's tray
 /// announces on X11, then what such hosts look like by default, then the desktop's own scheme.
@@ -49,9 +58,11 @@ public:
     /// The text colour that the settings of this host tell; absent where they do not.
     void setHostText(const HostProfile &profile, const std::optional<QColor> &colour);
 
+    /// The text colour that i3 tells of its own bar; absent where it does not.
+    void setI3BarText(const std::optional<QColor> &colour);
+
     [[nodiscard]] ViewContext contextFor(const HostProfile &profile) const;
-    /// In an XEmbed tray, whose ground can be seen in some; `ground` is absent elsewhere.
-    [[nodiscard]] ViewContext contextForTray(const std::optional<QColor> &ground) const;
+    [[nodiscard]] ViewContext contextForTray(const TraySurroundings &tray) const;
     /// On a ground of our own, which is dark or light as the desktop is.
     [[nodiscard]] ViewContext contextForOwnBar() const;
     /// The own bar's ground is dark.
@@ -69,6 +80,7 @@ private:
     StatusAreaAppearance m_appearance;
     std::optional<QColor> m_trayText;
     QHash<const HostProfile *, QColor> m_hostTexts;
+    std::optional<QColor> m_i3BarText;
 };
 
 } // namespace ferrin

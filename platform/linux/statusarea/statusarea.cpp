@@ -52,9 +52,13 @@ void StatusAreaChooser::setAppearance(const StatusAreaAppearance &appearance)
 
 void StatusAreaChooser::followHosts()
 {
-    connect(&m_barColours, &BarColours::changed, this,
-            [this] { m_colours.setHostText(profileForProcess(u"swaybar"), m_barColours.text()); });
-    m_barColours.start(qEnvironmentVariable("SWAYSOCK"));
+    connect(&m_barColours, &BarColours::changed, this, [this] {
+        m_colours.setHostText(profileForProcess(u"swaybar"), m_barColours.text());
+        m_colours.setI3BarText(m_barColours.text());
+    });
+    connect(&m_barSocket, &WindowManagerSocket::renewed, this,
+            [this] { m_barColours.start(m_barSocket.path()); });
+    m_barColours.start(m_barSocket.path());
     follow(m_plasmaColours, u"plasmashell");
     follow(m_lxqtColours, u"lxqt-panel");
     follow(m_waybarColours, u"waybar");

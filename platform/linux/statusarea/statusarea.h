@@ -7,6 +7,7 @@
 #include "platform/linux/statusarea/panelcolours.h"
 #include "platform/linux/statusarea/panelsheets.h"
 #include "platform/linux/statusarea/plasmacolours.h"
+#include "platform/linux/statusarea/windowmanagersocket.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -85,6 +86,7 @@ private:
     DefaultsStore *m_store = nullptr;
     std::unique_ptr<TrayOwner> m_trayOwner;
     std::unique_ptr<TrayColours> m_trayColours;
+    WindowManagerSocket m_barSocket;
     BarColours m_barColours;
     PlasmaColours m_plasmaColours;
     LxqtColours m_lxqtColours;

@@ -14,8 +14,11 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
+
+using namespace std::chrono_literals;
 
 namespace ferrin {
 
@@ -23,6 +26,8 @@ namespace {
 
 constexpr qreal highlightOpacity = 0.2;
 constexpr qreal highlightRadius = 0.15;
+// A bar that reads its configuration again lets go of all that is in its tray first.
+constexpr auto returnAfter = 200ms;
 
 /// What a bar that leaves its icons no air would have to leave, device pixels: the square would
 /// touch both of its edges.
@@ -54,12 +59,17 @@ TrayItem::TrayItem(const PanelColours &colours, QObject *parent)
 {
     connect(&m_colours, &PanelColours::changed, this, &TrayItem::paint);
     connect(&m_popup, &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
+    m_return.setSingleShot(true);
+    m_return.setInterval(returnAfter);
+    connect(&m_return, &QTimer::timeout, this, [this] { dockInto(m_tray); });
 }
 
 TrayItem::~TrayItem() = default;
 
 void TrayItem::dockInto(quint32 tray)
 {
+    m_tray = tray;
+    m_return.stop();
     leave();
     if (!tray)
         return;
@@ -72,7 +82,10 @@ void TrayItem::dockInto(quint32 tray)
         Q_EMIT activated();
     });
     connect(window, &DockedWindow::menuRequested, this, &TrayItem::popUpMenu);
-    connect(window, &DockedWindow::undocked, this, &TrayItem::leave);
+    connect(window, &DockedWindow::undocked, this, [this] {
+        leave();
+        m_return.start();
+    });
     connect(window, &DockedWindow::entered, this, [this] {
         m_toolTip.showSoon(sentenceFor(m_content), place().item, ownWindowLook(m_colours));
     });
@@ -122,7 +135,8 @@ void TrayItem::paint()
     const QSize size = m_window ? m_window->size() : QSize();
     if (size.isEmpty())
         return;
-    const ViewContext context = m_colours.contextForTray(m_window->ground());
+    const ViewContext context = m_colours.contextForTray(
+        { .ground = m_window->ground(), .isI3Bar = m_window->panelClass() == "i3bar" });
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);

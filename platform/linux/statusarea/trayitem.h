@@ -8,6 +8,8 @@
 #include "platform/linux/statusarea/popupmenu.h"
 #include "platform/linux/statusarea/tooltip.h"
 
+#include <QTimer>
+
 #include <memory>
 #include <vector>
 
@@ -26,7 +28,8 @@ public:
     explicit TrayItem(const PanelColours &colours, QObject *parent = nullptr);
     ~TrayItem() override;
 
-    /// Moves into the tray whose window this is; 0 takes it out of the one that it is in.
+    /// Moves into the tray whose window this is, and back into it whenever that lets go of it; 0
+    /// takes it out of the one that it is in.
     void dockInto(quint32 tray);
 
     void setLength(qreal length) override { m_length = length; }
@@ -45,7 +48,9 @@ private:
     void leave();
 
     const PanelColours &m_colours;
-    /// Null while there is no tray.
+    quint32 m_tray = 0;
+    QTimer m_return;
+    /// Null while no tray has it.
     std::unique_ptr<DockedWindow> m_window;
     std::unique_ptr<ItemHostingView> m_view;
     ItemContent m_content;

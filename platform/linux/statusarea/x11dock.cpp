@@ -5,6 +5,8 @@
 
 #include "platform/linux/statusarea/x11connection.h"
 
+#include <QList>
+
 #include <xcb/xcb.h>
 
 namespace ferrin {
@@ -38,14 +40,29 @@ public:
         return {};
     }
 
-    [[nodiscard]] QRect around(quint32 window) const
+    [[nodiscard]] quint32 around(quint32 window) const
     {
         for (int height = 0; height < deepest && window != XCB_WINDOW_NONE; ++height) {
             if (isDock(window))
-                return bounds(window);
+                return window;
             window = parentOf(window);
         }
-        return {};
+        return XCB_WINDOW_NONE;
+    }
+
+    [[nodiscard]] QByteArray classOf(quint32 window) const
+    {
+        constexpr quint32 longestWords = 16;
+        const auto request = xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_CLASS,
+                                              XCB_ATOM_STRING, 0, longestWords);
+        const XcbReply<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(m_connection, request, nullptr));
+        if (!reply)
+            return {};
+        const QByteArray nameAndClass(
+            static_cast<const char *>(xcb_get_property_value(reply.get())),
+            xcb_get_property_value_length(reply.get()));
+        return nameAndClass.split('\0').value(1);
     }
 
     [[nodiscard]] QRect bounds(quint32 window) const
@@ -102,7 +119,21 @@ QRect dockUnderPointer()
 QRect dockAround(quint32 window)
 {
     const X11Connection x11;
-    return x11 ? Docks(x11).around(window) : QRect();
+    if (!x11)
+        return {};
+    const Docks docks(x11);
+    const quint32 dock = docks.around(window);
+    return dock == XCB_WINDOW_NONE ? QRect() : docks.bounds(dock);
+}
+
+QByteArray classOfDockAround(quint32 window)
+{
+    const X11Connection x11;
+    if (!x11)
+        return {};
+    const Docks docks(x11);
+    const quint32 dock = docks.around(window);
+    return dock == XCB_WINDOW_NONE ? QByteArray() : docks.classOf(dock);
 }
 
 QRect windowBounds(quint32 window)

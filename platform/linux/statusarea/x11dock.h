@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QRect>
 
 namespace ferrin {
@@ -13,6 +14,9 @@ namespace ferrin {
 
 /// The same of the dock that this window is in.
 [[nodiscard]] QRect dockAround(quint32 window);
+
+/// The class of that dock, empty where there is none.
+[[nodiscard]] QByteArray classOfDockAround(quint32 window);
 
 /// Where a window is on the screen, in the X server's own pixels; null when it is gone.
 [[nodiscard]] QRect windowBounds(quint32 window);

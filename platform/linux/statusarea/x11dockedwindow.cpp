@@ -157,6 +157,11 @@ QRect DockedWindow::panel() const
     return m_isDocked ? dockAround(m_window) : QRect();
 }
 
+QByteArray DockedWindow::panelClass() const
+{
+    return m_isDocked ? classOfDockAround(m_window) : QByteArray();
+}
+
 void DockedWindow::setTitle(const QString &title)
 {
     if (!m_window)

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] QRect bounds() const;
     /// The panel that it stands in; null where nobody tells.
     [[nodiscard]] QRect panel() const;
+    /// Of which class the panel is; empty where nobody tells.
+    [[nodiscard]] QByteArray panelClass() const;
 
     /// What the tray's own ground looks like behind it; absent where the tray blends the picture
     /// over a ground that it keeps to itself, and while nothing can be seen.

@@ -98,15 +98,25 @@ class I3Screen(TrayBar):
 
     def __init__(self, position="top", background="#000000", text="#ffffff", **options):
         super().__init__(**options)
-        self._configuration = I3.format(position=position, background=background, text=text,
-                                        points=10 * self.scale)
+        self._position = position
+        self._configure(background, text)
 
     def boot(self):
         Screen.boot(self)
-        self.start(["i3", "-c", self.write("config/i3", self._configuration)])
+        self.start(["i3", "-c", self.configuration])
         eventually(lambda: b"I3_SOCKET_PATH(" in self.run("xprop", "-root", "I3_SOCKET_PATH"),
                    "the window manager is there")
         self.start_bar()
+
+    def recolour(self, background, text):
+        """The user changes the bar's colours and has the configuration read again."""
+        self._configure(background, text)
+        self.run("i3-msg", "reload")
+
+    def _configure(self, background, text):
+        self.configuration = self.write("config/i3", I3.format(
+            position=self._position, background=background, text=text,
+            points=10 * self.scale))
 
     def command(self):
         return ["i3bar", "--bar_id=bar-0"]

@@ -26,6 +26,9 @@ FakeTray::FakeTray(const QColor &ground)
                       values.data());
     const quint32 dock = atom("_NET_WM_WINDOW_TYPE_DOCK");
     announce("_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, { &dock, 1 });
+    static constexpr char instanceAndClass[] = "fakebar\0Bar";
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_bar, XCB_ATOM_WM_CLASS,
+                        XCB_ATOM_STRING, 8, sizeof instanceAndClass, instanceAndClass);
     xcb_map_window(m_connection, m_bar);
     xcb_flush(m_connection);
 }

@@ -162,6 +162,23 @@ private Q_SLOTS:
         QCOMPARE(colours.text(), std::optional(QColor(0xdd, 0xdd, 0xdd)));
     }
 
+    void followsTheOneThatIsStartedNext()
+    {
+        FakeWindowManager before;
+        FakeWindowManager after;
+        BarColours colours;
+        for (FakeWindowManager *manager : { &before, &after }) {
+            const char *const text = manager == &before ? "#dddddd" : "#eeeeee";
+            colours.start(manager->path());
+            manager->accept();
+            manager->say(message(barConfig, R"(["b"])")
+                         + message(barConfig, bar("b", "#000000", text)));
+            QTRY_COMPARE(colours.text(), std::optional(QColor(text)));
+        }
+        colours.start({});
+        QVERIFY(!colours.text());
+    }
+
     void survivesNonsense_data()
     {
         QTest::addColumn<QByteArray>("words");

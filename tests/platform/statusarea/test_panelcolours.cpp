@@ -28,6 +28,7 @@ private Q_SLOTS:
     void followsTheDesktopWhereNothingBetterIsKnown();
     void bringsItsOwnGroundWhereNothingIsKnown();
     void takesWhatTheHostsSettingsSayBeforeTheTray();
+    void takesWhatI3TellsOfItsBarBeforeTheTrayInThatBarOnly();
     void takesWhatSuchHostsLookLikeBeforeTheDesktop();
     void takesTheColoursOfTheTrayBeforeTheHostsDefault();
     void takesTheUsersChoiceBeforeEverything();
@@ -77,6 +78,23 @@ void PanelColoursTest::takesWhatTheHostsSettingsSayBeforeTheTray()
     colours.setHostText(swaybar, {});
     QCOMPARE(changes.size(), 3);
     QCOMPARE(colours.contextFor(swaybar).text, trayText);
+}
+
+void PanelColoursTest::takesWhatI3TellsOfItsBarBeforeTheTrayInThatBarOnly()
+{
+    PanelColours colours;
+    const QSignalSpy changes(&colours, &PanelColours::changed);
+    colours.setTrayText(trayText);
+    colours.setI3BarText(QColor(0x20, 0x20, 0x20));
+    colours.setI3BarText(QColor(0x20, 0x20, 0x20));
+    QCOMPARE(changes.size(), 2);
+    QCOMPARE(colours.contextForTray({ .isI3Bar = true }).text, QColor(0x20, 0x20, 0x20));
+    QCOMPARE(colours.contextForTray({}).text, trayText);
+    colours.setI3BarText({});
+    QCOMPARE(colours.contextForTray({ .isI3Bar = true }).text, trayText);
+    colours.setI3BarText(QColor(0x20, 0x20, 0x20));
+    colours.setAppearance({ .forcedDark = true });
+    QCOMPARE(colours.contextForTray({ .isI3Bar = true }).text, QColor(Qt::white));
 }
 
 void PanelColoursTest::takesWhatSuchHostsLookLikeBeforeTheDesktop()

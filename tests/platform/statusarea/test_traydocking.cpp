@@ -62,6 +62,8 @@ private Q_SLOTS:
     void isGoneWithTheTray();
     void leavesNoWindowBehind();
     void readsTheGroundWhereTheTrayTellsNoColour();
+    void itemComesBackToATrayThatLetsGoOfIt();
+    void knowsWhosePanelItIsIn();
     void itemStandsWhereItsWindowIs();
     void itemStandsInTheTrayWhereNoHostComes();
     void itemReturnsToATrayThatIsRestarted();
@@ -251,12 +253,37 @@ void TrayDockingTest::leavesNoWindowBehind()
 void TrayDockingTest::readsTheGroundWhereTheTrayTellsNoColour()
 {
     PanelColours colours;
-    QCOMPARE(colours.contextForTray(QColor(Qt::black)).text, QColor(Qt::white));
-    QCOMPARE(colours.contextForTray(QColor(Qt::white)).text, QColor(Qt::black));
+    QCOMPARE(colours.contextForTray({ .ground = Qt::black }).text, QColor(Qt::white));
+    QCOMPARE(colours.contextForTray({ .ground = Qt::white }).text, QColor(Qt::black));
     colours.setTrayText(Qt::green);
-    QCOMPARE(colours.contextForTray(QColor(Qt::white)).text, QColor(Qt::green));
+    QCOMPARE(colours.contextForTray({ .ground = Qt::white }).text, QColor(Qt::green));
     colours.setAppearance({ .forcedDark = true });
-    QCOMPARE(colours.contextForTray(QColor(Qt::white)).text, QColor(Qt::white));
+    QCOMPARE(colours.contextForTray({ .ground = Qt::white }).text, QColor(Qt::white));
+}
+
+void TrayDockingTest::itemComesBackToATrayThatLetsGoOfIt()
+{
+    PanelColours colours;
+    TrayItem item(colours);
+    item.addContentView(viewOf(dischargingAt(37, u"4:29"_s)));
+    item.dockInto(m_tray->window());
+    xcb_window_t icon = requested();
+    for (int times = 0; times < 2; ++times) {
+        m_tray->takeIn(icon, { 24, 24 });
+        QTRY_COMPARE(item.place().item, QRect(2, 2, 24, 24));
+        m_tray->letGo(icon);
+        icon = requested();
+    }
+    m_tray->takeIn(icon, { 24, 24 });
+    QTRY_COMPARE(item.place().item, QRect(2, 2, 24, 24));
+}
+
+void TrayDockingTest::knowsWhosePanelItIsIn()
+{
+    DockedWindow window(m_tray->window());
+    QVERIFY(window.panelClass().isEmpty());
+    m_tray->takeIn(requested(), { 24, 24 });
+    QTRY_COMPARE(window.panelClass(), QByteArray("Bar"));
 }
 
 void TrayDockingTest::itemStandsWhereItsWindowIs()
