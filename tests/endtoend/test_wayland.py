@@ -39,6 +39,8 @@ class InLayers(OnADesktop):
         return self.seen() or box
 
     def has_closed(self):
+        # A pointer that stays there brings out a tool tip.
+        self.session.point(ELSEWHERE)
         eventually(lambda: not self.seen(), "the dashboard has closed")
         self.assertTrue(self.program.is_running())
 
@@ -128,6 +130,27 @@ class WithABar(InLayers):
         self.assertLessEqual(self.program.open_files(but="socket:"), files)
 
 
+class WithABarBelow(InLayers):
+    """The item in the middle of a bar at the lower edge."""
+
+    def make_session(self):
+        return wayland.WaybarScreen(edge="bottom", place="center")
+
+    appear = WithABar.appear
+
+    def test_it_opens_above_the_bar_at_the_item(self):
+        box = self.open()
+        self.assertLess(abs(box.centre[0] - self.item.centre[0]), 20, (box, self.item))
+        self.assertTrue(0 < HEIGHT - 30 - box.bottom < 13, box)
+        self.session.click(self.item.centre)
+        self.has_closed()
+
+    def test_it_opens_in_the_corner_for_who_does_not_click(self):
+        self.program.item().activate()
+        box = eventually(self.seen, "the dashboard has opened")
+        self.assertGreaterEqual(box.right, WIDTH - 13, box)
+
+
 class WithoutABar(InLayers):
     """The program brings its own."""
 
@@ -179,6 +202,50 @@ class WithoutABar(InLayers):
     def test_a_second_start_opens_the_dashboard_at_it(self):
         self.assertEqual(self.start().exit_code(), 0)
         self.assertLess(eventually(self.seen, "the dashboard has opened").top, 60)
+
+
+class SettingsInSway(InLayers):
+    """The settings are an ordinary window, which the compositor places."""
+
+    title = "Ferrin Settings"
+
+    def make_session(self):
+        return wayland.SwayScreen()
+
+    appear = WithoutABar.appear
+
+    def box(self):
+        return self.session.box_of(self.title)
+
+    def open_settings(self):
+        dashboard = self.open()
+        self.session.click((dashboard.left + 70, dashboard.top + 145))
+        eventually(self.box, "the settings are open")
+        a_moment()
+        return self.box()
+
+    def test_they_open_in_their_own_size_and_close_and_open_again(self):
+        box = self.open_settings()
+        self.assertTrue(0 <= box.left and 0 <= box.top, box)
+        self.assertTrue(box.right <= WIDTH and box.bottom <= HEIGHT, box)
+        self.session.run("swaymsg", f'[title="{self.title}"]', "kill")
+        eventually(lambda: not self.box(), "the settings have closed")
+        self.has_closed()
+        self.assertEqual(self.open_settings(), box)
+
+    def test_what_they_open_stays_inside(self):
+        box = self.open_settings()
+        before = self.session.settled_picture()
+        # The button that chooses an icon, then the question before quitting.
+        for place in ((461, 88), (65, 198)):
+            self.session.click((box.left + place[0], box.top + place[1]))
+            a_moment()
+            changed = before.difference(self.session.picture())
+            self.assertTrue(changed and changed.height > 60, changed)
+            self.assertTrue(box.left <= changed.left and changed.right <= box.right, changed)
+            self.assertTrue(box.top <= changed.top and changed.bottom <= box.bottom, changed)
+            self.session.press("Escape")
+            a_moment()
 
 
 class WithoutLayers(OnADesktop):

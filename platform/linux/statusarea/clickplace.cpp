@@ -4,6 +4,7 @@
 #include "platform/linux/statusarea/clickplace.h"
 
 #include <algorithm>
+#include <array>
 
 namespace ferrin {
 
@@ -43,6 +44,21 @@ QPoint devicePoint(QPoint logical, const ScaledScreen &screen)
 ItemPlace placeOfClick(QPoint pointer, const QRect &dock, const ScaledScreen &screen)
 {
     return placeIn(dock, QRect(pointer, QSize(1, 1)), screen);
+}
+
+ItemPlace placeAtEdge(QPoint pointer, const QRect &screen)
+{
+    const std::array distances { pointer.y() - screen.top(), screen.bottom() - pointer.y(),
+                                 pointer.x() - screen.left(), screen.right() - pointer.x() };
+    const auto nearest = std::ranges::min_element(distances);
+    if (*nearest < thickestPanel) {
+        const std::array<QPoint, 4> edges { QPoint(pointer.x(), screen.top()),
+                                            QPoint(pointer.x(), screen.bottom()),
+                                            QPoint(screen.left(), pointer.y()),
+                                            QPoint(screen.right(), pointer.y()) };
+        pointer = edges[size_t(nearest - distances.begin())];
+    }
+    return { .item = QRect(pointer, QSize(1, 1)) };
 }
 
 ItemPlace placeOfItem(const QRect &item, const QRect &dock, const ScaledScreen &screen)

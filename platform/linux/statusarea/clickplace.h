@@ -32,4 +32,12 @@ struct ScaledScreen
 [[nodiscard]] ItemPlace placeOfItem(const QRect &item, const QRect &dock,
                                     const ScaledScreen &screen);
 
+/// No panel is thicker, in logical pixels.
+inline constexpr int thickestPanel = 72;
+
+/// The place of an item that was clicked at `pointer`, for windows that the desktop itself keeps
+/// off its panels: a click so near to an edge of the screen was on a panel there, and counts as one
+/// on the edge.
+[[nodiscard]] ItemPlace placeAtEdge(QPoint pointer, const QRect &screen);
+
 } // namespace ferrin

@@ -183,6 +183,9 @@ std::unique_ptr<LayerSurface> LayerShell::dress(QWindow &window, const LayerPlac
         zwlr_layer_shell_v1_get_layer_surface(m_shell, surface, outputOf(window.screen()),
                                               layerOf(kind), "ferrin")));
     layer->apply(place);
+    constexpr int overPanels = -1;
+    if (kind == Kind::Cover)
+        zwlr_layer_surface_v1_set_exclusive_zone(layer->m_surface, overPanels);
     zwlr_layer_surface_v1_set_keyboard_interactivity(
         layer->m_surface,
         kind == Kind::Popover ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE

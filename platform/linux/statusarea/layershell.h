@@ -64,6 +64,8 @@ public:
         Popover,
         /// Never has it, and is above all but full-screen windows.
         Bar,
+        /// Never has it, and is above everything, panels as well, which it does not keep off.
+        Cover,
     };
 
     LayerShell();

@@ -27,11 +27,13 @@ std::optional<QPoint> trueClick(QPoint told)
     return told.isNull() ? std::nullopt : std::optional(told);
 }
 
-ItemPlace placeAt(std::optional<QPoint> click)
+ItemPlace placeAt(std::optional<QPoint> click, bool hasLayers)
 {
     const QScreen *const screen = click ? QGuiApplication::screenAt(*click) : nullptr;
     if (!screen)
         return {};
+    if (hasLayers)
+        return placeAtEdge(*click, screen->geometry());
     return placeOfClick(*click, dockUnderPointer(),
                         { .geometry = screen->geometry(), .ratio = screen->devicePixelRatio() });
 }
@@ -88,13 +90,31 @@ void StatusNotifierStatusItem::showContent()
 
 void StatusNotifierStatusItem::activateAt(QPoint told)
 {
-    m_place = placeAt(trueClick(told));
+    // Where it stands matters only to what opens.
+    if (told.isNull() && m_pointer.isPossible() && !m_isHighlighted)
+        m_pointer.find([this](std::optional<QPoint> found) { activateAtClick(found); });
+    else
+        activateAtClick(trueClick(told));
+}
+
+void StatusNotifierStatusItem::activateAtClick(std::optional<QPoint> click)
+{
+    m_place = placeAt(click, m_pointer.isPossible());
     Q_EMIT activated();
 }
 
 void StatusNotifierStatusItem::setContextMenu(const std::vector<MenuEntry> &entries)
 {
     m_menu.setEntries(entries);
+}
+
+void StatusNotifierStatusItem::setHighlighted(bool highlighted)
+{
+    m_isHighlighted = highlighted;
+    // To the host the pointer has left the item while it was looked for, and come back: a reason to
+    // bring out the tool tip, for which the dashboard has no room.
+    if (m_pointer.isPossible())
+        m_item.setSilenced(highlighted);
 }
 
 void StatusNotifierStatusItem::popUpMenu(QPoint told)

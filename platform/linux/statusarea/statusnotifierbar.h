@@ -9,8 +9,10 @@
 #include "platform/linux/statusarea/itemregistration.h"
 #include "platform/linux/statusarea/popupmenu.h"
 #include "platform/linux/statusarea/statusnotifieritem.h"
+#include "platform/linux/statusarea/waylandpointer.h"
 
 #include <memory>
+#include <optional>
 
 namespace ferrin {
 
@@ -34,12 +36,13 @@ public:
     void removeContentViews() override;
     void addContentView(std::unique_ptr<ItemHostingView> view) override;
     void setContextMenu(const std::vector<MenuEntry> &entries) override;
-    void setHighlighted(bool) override { }
+    void setHighlighted(bool highlighted) override;
     [[nodiscard]] ItemPlace place() const override { return m_place; }
 
 private:
     void showContent();
     void activateAt(QPoint told);
+    void activateAtClick(std::optional<QPoint> click);
     void popUpMenu(QPoint told);
 
     const PanelColours &m_colours;
@@ -47,8 +50,10 @@ private:
     DBusMenu m_menu;
     std::unique_ptr<ItemHostingView> m_view;
     std::unique_ptr<PopupMenu> m_popup;
+    WaylandPointer m_pointer;
     ItemPlace m_place;
     qreal m_length = 0;
+    bool m_isHighlighted = false;
 };
 
 /// The desktop's status area: whatever hosts there are and will be.

@@ -67,6 +67,12 @@ void StatusNotifierItem::setContent(const ItemContent &content)
     scheduleNews(canWait ? std::chrono::milliseconds(m_peaceEnds.remainingTime()) : 0ms);
 }
 
+void StatusNotifierItem::setSilenced(bool isSilenced)
+{
+    if (std::exchange(m_isSilenced, isSilenced) != isSilenced)
+        scheduleNews(0ms);
+}
+
 void StatusNotifierItem::scheduleNews(std::chrono::milliseconds delay)
 {
     // What is urgent stays so.
@@ -89,14 +95,14 @@ void StatusNotifierItem::sendNews()
             newLabels.append(profile);
         seen = now;
     }
-    const QString seenWords = std::exchange(m_seenWords, words());
+    const QString seenToolTip = std::exchange(m_seenToolTip, toolTip());
 
     if (isIconNew)
         sendSignal(u"NewIcon"_s);
     // Who draws a label shows no tool tip.
     const bool hasTip = std::any_of(m_readers.cbegin(), m_readers.cend(),
                                     [](const HostProfile *profile) { return !profile->label; });
-    if (hasTip && m_seenWords != seenWords)
+    if (hasTip && m_seenToolTip != seenToolTip)
         sendSignal(u"NewToolTip"_s);
     for (auto [reader, profile] : m_readers.asKeyValueRange()) {
         if (newLabels.contains(profile))
@@ -116,6 +122,11 @@ QString StatusNotifierItem::words() const
     return withoutMarkup(sentenceFor(m_content));
 }
 
+QString StatusNotifierItem::toolTip() const
+{
+    return m_isSilenced ? QString() : words();
+}
+
 QString StatusNotifierItem::moreWords() const
 {
     ItemContent state = m_content;
@@ -128,7 +139,7 @@ QString StatusNotifierItem::moreWords() const
 void StatusNotifierItem::remember(const QString &caller, const HostProfile &profile)
 {
     if (m_readers.isEmpty()) {
-        m_seenWords = words();
+        m_seenToolTip = toolTip();
         m_told = m_content;
     }
     m_readers.insert(caller, &profile);
@@ -189,7 +200,8 @@ QVariant StatusNotifierItem::property(const QString &name, const QString &caller
     if (name == u"IconPixmap")
         return QVariant::fromValue(m_seen[&profile].pictures);
     if (name == u"ToolTip")
-        return QVariant::fromValue(StatusNotifierToolTip { .title = words(), .text = moreWords() });
+        return QVariant::fromValue(StatusNotifierToolTip {
+            .title = toolTip(), .text = m_isSilenced ? QString() : moreWords() });
     if (name == u"IconAccessibleDesc")
         return words();
     if (!profile.label)

@@ -35,6 +35,8 @@ public:
     /// are told of together and no oftener than the hosts' peace allows: at most two signals each
     /// time.
     void setContent(const ItemContent &content);
+    /// A silenced item has no tool tip.
+    void setSilenced(bool isSilenced);
 
     /// From one such news to the next.
     void setPeace(std::chrono::milliseconds peace) { m_peace = peace; }
@@ -65,6 +67,7 @@ private:
                                     const HostProfile &profile);
     [[nodiscard]] Seen seenBy(const HostProfile &profile);
     [[nodiscard]] QString words() const;
+    [[nodiscard]] QString toolTip() const;
     [[nodiscard]] QString moreWords() const;
     void remember(const QString &caller, const HostProfile &profile);
     void forget(const QString &caller);
@@ -77,7 +80,8 @@ private:
     /// The readers that are on the bus, by unique name.
     QHash<QString, const HostProfile *> m_readers;
     QHash<const HostProfile *, Seen> m_seen;
-    QString m_seenWords;
+    QString m_seenToolTip;
+    bool m_isSilenced = false;
     /// The content that the hosts were last told of.
     ItemContent m_told;
     QTimer m_news;

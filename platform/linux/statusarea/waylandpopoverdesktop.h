@@ -8,9 +8,9 @@
 
 namespace ferrin {
 
-/// Popovers on Wayland: surfaces of the desktop's topmost layer, at the corner that they ask for
-/// and off its panels; what belongs to one of them is a part of it, and so above it. Where the
-/// compositor has no layers they are windows like any other.
+/// Popovers on Wayland: surfaces of the desktop's topmost layer, off the edges that they are
+/// nearest to and off the panels there; what belongs to one of them is a part of it, and so above
+/// it. Where the compositor has no layers they are windows like any other.
 class WaylandPopoverDesktop final : public PopoverDesktop
 {
 public:

@@ -3,10 +3,10 @@
 
 #include "platform/linux/statusarea/waylandpresswatcher.h"
 
+#include "platform/linux/statusarea/unseenwindow.h"
+
 #include <QGuiApplication>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QRasterWindow>
 #include <QScreen>
 #include <QTouchEvent>
 
@@ -14,40 +14,18 @@
 
 namespace ferrin {
 
-class WaylandPressWatcher::Pane final : public QRasterWindow
+class WaylandPressWatcher::Pane final : public UnseenWindow
 {
 public:
-    Pane(LayerShell &shell, QScreen *screen, WaylandPressWatcher &watcher)
-        : m_watcher(watcher)
+    Pane(LayerShell &shell, QScreen &screen, WaylandPressWatcher &watcher)
+        : UnseenWindow(screen, screen.geometry())
+        , m_watcher(watcher)
     {
-        setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
-        QSurfaceFormat format = requestedFormat();
-        format.setAlphaBufferSize(8);
-        setFormat(format);
-        setScreen(screen);
-        setGeometry(screen->geometry());
-        m_surface = shell.dress(
-            *this, { .edges = Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge },
-            LayerShell::Kind::Bar);
-        show();
-    }
-
-    ~Pane() override { end(); }
-
-    void end()
-    {
-        m_surface.reset();
-        hide();
+        showIn(shell, { .edges = Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge },
+               LayerShell::Kind::Bar);
     }
 
 protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.fillRect(QRect(QPoint(), size()), Qt::transparent);
-    }
-
     void mousePressEvent(QMouseEvent *) override { Q_EMIT m_watcher.pressed(nullptr); }
     void touchEvent(QTouchEvent *event) override
     {
@@ -57,7 +35,6 @@ protected:
 
 private:
     WaylandPressWatcher &m_watcher;
-    std::unique_ptr<LayerSurface> m_surface;
 };
 
 WaylandPressWatcher::WaylandPressWatcher(QObject *parent)
@@ -75,17 +52,15 @@ bool WaylandPressWatcher::start()
         return true;
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (QScreen *const screen : screens)
-        m_panes.push_back(std::make_unique<Pane>(m_shell, screen, *this));
+        m_panes.push_back(std::make_unique<Pane>(m_shell, *screen, *this));
     return true;
 }
 
 void WaylandPressWatcher::stop()
 {
     // It may be one of them that has told of a press.
-    for (auto &pane : std::exchange(m_panes, {})) {
-        pane->end();
-        pane.release()->deleteLater();
-    }
+    for (auto &pane : std::exchange(m_panes, {}))
+        UnseenWindow::end(std::move(pane));
 }
 
 } // namespace ferrin

@@ -5,6 +5,7 @@
 import json
 import os
 
+from harness.picture import Box
 from harness.processes import eventually
 from harness.session import Screen, Session
 
@@ -14,7 +15,7 @@ SWAY = """output X11-1 resolution {width}x{height} scale {scale}
 output * bg {desktop} solid_color
 xwayland disable
 """
-WAYBAR = '{"layer": "top", "position": "top", "height": 30, "modules-right": ["tray"]}'
+WAYBAR = '{{"layer": "top", "position": "{edge}", "height": 30, "modules-{place}": ["tray"]}}'
 WAYBAR_STYLE = "window#waybar {{ background: {ground}; color: {text}; }}"
 SWAYBAR = """bar {{
     position top
@@ -37,6 +38,7 @@ class SwayScreen(Screen):
 
     desktop = "sway"
     bar = ""
+    edge = "top"
 
     def __init__(self, scale=1, dark=True):
         super().__init__("nobody" if os.geteuid() == 0 else None, scale)
@@ -47,6 +49,15 @@ class SwayScreen(Screen):
         whatever else lies on the bare desktop is taken for the one that the test is about."""
         windows = [node["name"] for node in self._nodes() if node.get("pid") == process_id]
         return windows or ["in a layer"] * self._is_covered()
+
+    def box_of(self, title):
+        """Where the window of this title shows what is its own; None for none."""
+        for node in self._nodes():
+            if node["name"] == title and node.get("pid"):
+                inner, outer = node["window_rect"], node["rect"]
+                left, top = outer["x"] + inner["x"], outer["y"] + inner["y"]
+                return Box(left, top, left + inner["width"], top + inner["height"])
+        return None
 
     def _is_covered(self):
         picture = self.picture()
@@ -82,18 +93,24 @@ class SwayScreen(Screen):
 
     def _bar_is_drawn(self):
         ground = tuple(bytes.fromhex(self.colours["ground"][1:]))
-        middle = self.size[0] // 2 * self.scale
-        eventually(lambda: self.picture().pixel(middle, 8 * self.scale) == ground,
+        aside = self.size[0] // 4 * self.scale
+        row = (8 if self.edge == "top" else self.size[1] - 8) * self.scale
+        eventually(lambda: self.picture().pixel(aside, row) == ground,
                    "the bar is drawn")
 
 
 class WaybarScreen(SwayScreen):
     """Waybar in its usual size, with icons of its default of 16 pixels."""
 
+    def __init__(self, scale=1, dark=True, edge="top", place="right"):
+        super().__init__(scale, dark)
+        self.edge = edge
+        self.settings = WAYBAR.format(edge=edge, place=place)
+
     def boot(self):
         super().boot()
         style = self.write("config/waybar.css", WAYBAR_STYLE.format(**self.colours))
-        self.start(["waybar", "-c", self.write("config/waybar.json", WAYBAR), "-s", style])
+        self.start(["waybar", "-c", self.write("config/waybar.json", self.settings), "-s", style])
         eventually(self.bus.has_host, "Waybar offers a status area")
         self._bar_is_drawn()
 

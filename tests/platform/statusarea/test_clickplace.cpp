@@ -28,6 +28,8 @@ private Q_SLOTS:
     void cutsThePanelAtItsScreen();
     void keepsTheSpotWithoutAPanel_data();
     void keepsTheSpotWithoutAPanel();
+    void takesAClickOnAPanelForOneOnTheEdge_data();
+    void takesAClickOnAPanelForOneOnTheEdge();
 };
 
 void ClickPlaceTest::coversTheDevicePixels_data()
@@ -90,6 +92,25 @@ void ClickPlaceTest::keepsTheSpotWithoutAPanel()
     QFETCH(QRect, dock);
     const ItemPlace expected { .item { 1800, 15, 1, 1 } };
     QCOMPARE(placeOfClick({ 1800, 15 }, dock, atOneX), expected);
+}
+
+void ClickPlaceTest::takesAClickOnAPanelForOneOnTheEdge_data()
+{
+    QTest::addColumn<QPoint>("pointer");
+    QTest::addColumn<QPoint>("spot");
+    QTest::newRow("top") << QPoint(2800, 15) << QPoint(2800, 0);
+    QTest::newRow("bottom") << QPoint(2000, 530) << QPoint(2000, 539);
+    QTest::newRow("left") << QPoint(1930, 300) << QPoint(1920, 300);
+    QTest::newRow("right") << QPoint(2860, 300) << QPoint(2879, 300);
+    QTest::newRow("in the middle of the screen") << QPoint(2400, 270) << QPoint(2400, 270);
+}
+
+void ClickPlaceTest::takesAClickOnAPanelForOneOnTheEdge()
+{
+    QFETCH(QPoint, pointer);
+    QFETCH(QPoint, spot);
+    QCOMPARE(placeAtEdge(pointer, second.geometry),
+             (ItemPlace { .item = QRect(spot, QSize(1, 1)) }));
 }
 
 QTEST_APPLESS_MAIN(ClickPlaceTest)

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void tellsOfTheDriftWhenThePeaceIsOver();
     void breaksThePeaceForWhatAUserWaitsFor();
     void sparesHostsThatLabelTheToolTip();
+    void hasNoToolTipWhileItIsSilenced();
     void tellsOfNewColours();
     void tellsTheOthersOfWhatOneIsAboutToSee();
     void forgetsReadersThatLeave();
@@ -304,6 +305,22 @@ void StatusNotifierItemTest::sparesHostsThatLabelTheToolTip()
     m_item->setContent(dischargingAt(12, u"1:02"_s));
     settle(*gnome);
     QCOMPARE(gnome->takeSignals(), (QStringList { u"NewIcon"_s, u"XAyatanaNewLabel"_s }));
+}
+
+void StatusNotifierItemTest::hasNoToolTipWhileItIsSilenced()
+{
+    BusPeer *const host = newHost(u"waybar"_s);
+    host->allProperties(m_service, itemPath, itemInterface);
+    for (const bool isSilenced : { true, false }) {
+        m_item->setSilenced(isSilenced);
+        m_item->setSilenced(isSilenced);
+        settle(*host);
+        QCOMPARE(host->takeSignals(), QStringList(u"NewToolTip"_s));
+        const auto toolTip = as<StatusNotifierToolTip>(read(host, u"ToolTip"_s));
+        QCOMPARE(toolTip.title.isEmpty(), isSilenced);
+        QCOMPARE(toolTip.text.isEmpty(), isSilenced);
+        QCOMPARE(read(host, u"IconAccessibleDesc"_s).toString(), u"37%, 4:29 to empty"_s);
+    }
 }
 
 void StatusNotifierItemTest::tellsOfNewColours()
