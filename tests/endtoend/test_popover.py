@@ -243,7 +243,8 @@ class ItsWindow(WithAPopover):
             eventually(self.windows, "the popover has opened")
             self.program.item().activate()
             eventually(lambda: not self.windows(), "the popover has closed")
-        self.assertEqual(self.session.all_windows().count(b'("ferrin"'), windows)
+        eventually(lambda: self.session.all_windows().count(b'("ferrin"') == windows,
+                   "no window is left behind")
         self.assertTrue(self.program.is_running())
 
 
