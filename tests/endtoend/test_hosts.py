@@ -90,6 +90,8 @@ class InAHost:
         eventually(self.has_window, "the dashboard has opened")
         self.check_place(before, cell)
         self.session.click(cell.centre)
+        # A pointer that stays there may bring out a tool tip.
+        self.session.point((100, 400))
         eventually(lambda: not self.has_window(), "the dashboard has closed")
         self.assertTrue(self.program.is_running())
 
