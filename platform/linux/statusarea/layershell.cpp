@@ -98,13 +98,14 @@ struct LayerSurface::Listener
     {
         zwlr_layer_surface_v1_ack_configure(surface, serial);
         if (width && height)
-            static_cast<QWindow *>(data)->resize(int(width), int(height));
+            static_cast<LayerSurface *>(data)->m_window.resize(int(width), int(height));
     }
     static void closed(void *data, zwlr_layer_surface_v1 *)
     {
         // The screen has gone, or the compositor wants it so.
-        QMetaObject::invokeMethod(static_cast<QWindow *>(data), &QWindow::close,
-                                  Qt::QueuedConnection);
+        auto *const self = static_cast<LayerSurface *>(data);
+        QMetaObject::invokeMethod(
+            &self->m_context, [self] { self->m_window.close(); }, Qt::QueuedConnection);
     }
     static constexpr zwlr_layer_surface_v1_listener callbacks { configure, closed };
 };
@@ -113,7 +114,7 @@ LayerSurface::LayerSurface(QWindow &window, zwlr_layer_surface_v1 *surface)
     : m_window(window)
     , m_surface(surface)
 {
-    zwlr_layer_surface_v1_add_listener(m_surface, &Listener::callbacks, &window);
+    zwlr_layer_surface_v1_add_listener(m_surface, &Listener::callbacks, this);
 }
 
 LayerSurface::~LayerSurface()
@@ -174,6 +175,9 @@ std::unique_ptr<LayerSurface> LayerShell::dress(QWindow &window, const LayerPlac
         return {};
     // As the application is set up, Qt gives such a window no role of its own.
     window.setFlag(Qt::BypassWindowManagerHint);
+    // Qt makes the surface of a window that was hidden anew when it is shown, which is too late.
+    if (window.handle() && !surfaceOf(window))
+        window.destroy();
     window.create();
     wl_surface *const surface = surfaceOf(window);
     if (!surface)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QMargins>
+#include <QObject>
 #include <QRect>
 #include <Qt>
 #include <QtGlobal>
@@ -51,6 +52,8 @@ private:
 
     struct Listener;
     QWindow &m_window;
+    /// For what is done later, and not at all once this surface is gone.
+    QObject m_context;
     zwlr_layer_surface_v1 *m_surface;
 };
 

@@ -26,6 +26,7 @@ OwnBarItem::OwnBarItem(const PanelColours &colours, DefaultsStore *store, QObjec
     connect(&m_colours, &PanelColours::changed, this, &OwnBarItem::showColours);
     connect(&m_window, &OwnBarWindow::clicked, this, &StatusItem::activated);
     connect(&m_window, &OwnBarWindow::menuRequested, this, &OwnBarItem::popUpMenu);
+    connect(&m_window, &OwnBarWindow::screenChosen, this, &OwnBarItem::changeScreen);
     connect(&m_popup, &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
     if (store) {
         const auto remembered = barPlaceIn(store->string(placeKey).value_or(QString()));
@@ -40,9 +41,30 @@ OwnBarItem::~OwnBarItem() = default;
 
 void OwnBarItem::show()
 {
+    m_isWanted = true;
     m_layers.prepare(m_window, LayerShell::Kind::Bar);
     m_window.setFollowing(!m_layers.contains(&m_window));
     m_window.show();
+}
+
+void OwnBarItem::hide()
+{
+    m_isWanted = false;
+    m_window.hide();
+}
+
+void OwnBarItem::changeScreen()
+{
+    // A surface in a layer belongs to a screen, and goes with it.
+    if (!m_layers.isPossible())
+        return;
+    m_window.hide();
+    m_window.goToScreen();
+    if (!m_isWanted)
+        return;
+    show();
+    // Qt moves the windows of a screen that has gone once more.
+    QMetaObject::invokeMethod(&m_window, &OwnBarWindow::goToScreen, Qt::QueuedConnection);
 }
 
 void OwnBarItem::setLength(qreal length)

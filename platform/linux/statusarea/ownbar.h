@@ -28,6 +28,7 @@ public:
     ~OwnBarItem() override;
 
     void show();
+    void hide();
 
     void setLength(qreal length) override;
     [[nodiscard]] qreal length() const override { return m_length; }
@@ -44,6 +45,7 @@ private:
     void showContent();
     void showColours();
     void popUpMenu();
+    void changeScreen();
 
     const PanelColours &m_colours;
     LayeredWindows m_layers;
@@ -52,6 +54,7 @@ private:
     std::unique_ptr<ItemHostingView> m_view;
     std::vector<MenuEntry> m_entries;
     qreal m_length = 0;
+    bool m_isWanted = false;
 };
 
 /// Stands in for the desktop's status area where there is none: a strip with one item at the top
@@ -68,7 +71,7 @@ public:
     [[nodiscard]] static bool isPossible();
 
     void show() { m_item.show(); }
-    void hide() { m_item.window().hide(); }
+    void hide() { m_item.hide(); }
 
     [[nodiscard]] qreal thickness() const override { return OwnBarWindow::contentHeight; }
     [[nodiscard]] StatusItem *item() override { return &m_item; }

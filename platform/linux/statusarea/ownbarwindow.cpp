@@ -100,12 +100,23 @@ QScreen *OwnBarWindow::chosenScreen() const
 
 void OwnBarWindow::followScreen()
 {
+    const QScreen *const before = m_followed;
     if (m_followed)
         m_followed->disconnect(this);
     m_followed = chosenScreen();
     if (!m_followed)
         return;
     connect(m_followed, &QScreen::availableGeometryChanged, this, &OwnBarWindow::place);
+    place();
+    // Of a screen that has gone Qt may have taken it away already.
+    if (m_followed != before || m_followed != screen())
+        Q_EMIT screenChosen();
+}
+
+void OwnBarWindow::goToScreen()
+{
+    if (m_followed)
+        setScreen(m_followed);
     place();
 }
 

@@ -40,6 +40,9 @@ public:
     /// Wayland's compositors do not agree on where the pointer is in a surface that moves below it.
     void setFollowing(bool isFollowing) { m_isFollowing = isFollowing; }
 
+    /// Goes to the screen where it belongs; for who has hidden it to show it there.
+    void goToScreen();
+
     /// Where the user keeps it.
     void setPlace(const BarPlace &place);
     [[nodiscard]] const BarPlace &barPlace() const noexcept { return m_place; }
@@ -54,6 +57,8 @@ Q_SIGNALS:
     void menuRequested();
     /// The user has dragged it to another place.
     void placeChanged();
+    /// It belongs on another screen from now on: the user's choice, or what is left.
+    void screenChosen();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

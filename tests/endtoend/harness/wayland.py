@@ -4,6 +4,7 @@
 
 import json
 import os
+import re
 
 from harness.picture import Box
 from harness.processes import eventually
@@ -99,6 +100,43 @@ class SwayScreen(Screen):
                    "the bar is drawn")
 
 
+class TwoScreens:
+    """Mixed into a session: a second screen to the right of the first, each in a window of the
+    compositor's."""
+
+    size = (1600, 600)
+    first, second = Box(0, 0, 800, 600), Box(800, 0, 1600, 600)
+    name_of_second = "X11-2"
+
+    def _start_display(self):
+        super()._start_display()
+        self._set_up("X11-1", self.first)
+        self.run("swaymsg", "create_output")
+        self._set_up(self.name_of_second, self.second)
+        self._on_screen("xdotool", "windowmove", self._newest_window(), str(self.second.left), "0")
+
+    def scale_first(self, scale):
+        self.run("swaymsg", "output", "X11-1", "scale", scale)
+
+    def output(self, name):
+        """Where a screen is on the desktop; None for none."""
+        for output in json.loads(self.run("swaymsg", "-t", "get_outputs")):
+            if output["name"] == name and output["active"]:
+                place = output["rect"]
+                return Box(place["x"], place["y"], place["x"] + place["width"],
+                           place["y"] + place["height"])
+        return None
+
+    def _set_up(self, name, box):
+        self.run("swaymsg", "output", name, "resolution", f"{box.width}x{box.height}",
+                 "position", str(box.left), str(box.top))
+        eventually(lambda: self.output(name) == box, f"{name} is there")
+
+    def _newest_window(self):
+        windows = self._on_screen("xwininfo", "-root", "-children").decode()
+        return re.search(r"^ +(0x\w+)", windows[windows.index("children:"):], re.M).group(1)
+
+
 class WaybarScreen(SwayScreen):
     """Waybar in its usual size, with icons of its default of 16 pixels."""
 
@@ -113,6 +151,14 @@ class WaybarScreen(SwayScreen):
         self.start(["waybar", "-c", self.write("config/waybar.json", self.settings), "-s", style])
         eventually(self.bus.has_host, "Waybar offers a status area")
         self._bar_is_drawn()
+
+
+class TwoWaybarScreens(TwoScreens, WaybarScreen):
+    """With a bar on each."""
+
+
+class TwoSwayScreens(TwoScreens, SwayScreen):
+    """Without any bar."""
 
 
 class SwaybarScreen(SwayScreen):
