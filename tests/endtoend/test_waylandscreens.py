@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""A Wayland desktop on two screens: where the dashboard and the bar of the program's own stand."""
+"""A Wayland desktop on two screens, one of which comes and goes: where the dashboard and the bar of the
+program's own stand."""
 
 from harness import wayland
 from harness.case import AT_START, OnADesktop, main
@@ -65,6 +66,26 @@ class Dashboard(OnTwoScreens):
         self.open_on_first()
         self.assertFalse(self.seen(SECOND))
 
+    def test_nothing_is_lost_with_the_screen_of_the_popover(self):
+        self.open_on_second()
+        # The compositor does not survive a screen that goes with the tool tip of a bar on it.
+        self.session.point((100, 400))
+        a_moment()
+        self.session.remove_second()
+        a_moment()
+        self.assertTrue(self.program.is_running())
+        # It has closed with its screen: this click opens it.
+        self.open_on_first()
+
+    def test_it_outlives_a_screen_beside_its_own(self):
+        box = self.open_on_first()
+        self.session.remove_second()
+        a_moment()
+        self.assertEqual(self.seen(FIRST), box)
+        self.session.add_second()
+        a_moment()
+        self.assertEqual(self.seen(FIRST), box)
+
     def test_it_stays_wholly_on_a_screen_of_another_scale(self):
         box = self.open_on_first()
         self.session.scale_first("1.5")
@@ -87,7 +108,7 @@ class OwnBar(OnTwoScreens):
 
     def setUp(self):
         super().setUp()
-        store_settings(self.session, ownBarPlace=f"top 1.0 {self.session.name_of_second}")
+        store_settings(self.session, ownBarPlace=f"top 1.0 {self.session.name_of_second()}")
         self.program = self.start()
         self.is_on(SECOND_BAR)
 
@@ -103,6 +124,18 @@ class OwnBar(OnTwoScreens):
         self.assertFalse(self.seen(FIRST_BAR))
         self.session.click(box.centre)
         eventually(lambda: self.seen(SECOND), "the dashboard opens there")
+
+    def test_it_moves_to_the_screen_that_is_left(self):
+        self.session.remove_second()
+        self.session.click(self.is_on(FIRST_BAR).centre)
+        eventually(lambda: self.seen(FIRST), "the dashboard opens there")
+
+    def test_the_dashboard_may_be_open_when_its_screen_goes(self):
+        self.session.click(self.is_on(SECOND_BAR).centre)
+        eventually(lambda: self.seen(SECOND), "the dashboard opens there")
+        self.session.remove_second()
+        self.session.click(self.is_on(FIRST_BAR).centre)
+        eventually(lambda: self.seen(FIRST), "the dashboard opens there")
 
 
 if __name__ == "__main__":

@@ -9,6 +9,7 @@ import re
 from harness.picture import Box
 from harness.processes import eventually
 from harness.session import Screen, Session
+from harness.xwindows import close_window
 
 GROUND = "#336699"
 BELOW_BARS = 40
@@ -81,6 +82,9 @@ class SwayScreen(Screen):
             "SWAYSOCK": os.path.join(self.folder, "run", "sway.sock"),
             "XDG_SESSION_TYPE": "wayland"}
         width, height = (length * self.scale for length in self.size)
+        # It knows the names of requests to close a window only if they are there before it.
+        self._on_screen("xprop", "-root", "-f", "WM_PROTOCOLS", "32a", "-set", "WM_PROTOCOLS",
+                        "WM_DELETE_WINDOW")
         configuration = SWAY.format(desktop=GROUND, width=width, height=height, scale=self.scale)
         self.start(
             ["sway", "-c", self.write("config/sway", configuration + self.bar)],
@@ -102,18 +106,29 @@ class SwayScreen(Screen):
 
 class TwoScreens:
     """Mixed into a session: a second screen to the right of the first, each in a window of the
-    compositor's."""
+    compositor's. Removed and added again, it has another name."""
 
     size = (1600, 600)
     first, second = Box(0, 0, 800, 600), Box(800, 0, 1600, 600)
-    name_of_second = "X11-2"
+    _count = 1
 
     def _start_display(self):
         super()._start_display()
         self._set_up("X11-1", self.first)
+        self.add_second()
+
+    def add_second(self):
+        self._count += 1
         self.run("swaymsg", "create_output")
-        self._set_up(self.name_of_second, self.second)
+        self._set_up(self.name_of_second(), self.second)
         self._on_screen("xdotool", "windowmove", self._newest_window(), str(self.second.left), "0")
+
+    def remove_second(self):
+        close_window(self._screen["DISPLAY"], int(self._newest_window(), 16))
+        eventually(lambda: not self.output(self.name_of_second()), "the screen is gone")
+
+    def name_of_second(self):
+        return f"X11-{self._count}"
 
     def scale_first(self, scale):
         self.run("swaymsg", "output", "X11-1", "scale", scale)

@@ -1,0 +1,30 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""What no tool does to the windows of an X server without a window manager."""
+
+import ctypes
+
+CLIENT_MESSAGE = 33
+
+
+class ClientMessage(ctypes.Structure):
+    _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
+                ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
+                ("message_type", ctypes.c_ulong), ("format", ctypes.c_int),
+                ("data", ctypes.c_long * 5), ("rest_of_any_event", ctypes.c_long * 24)]
+
+
+def close_window(display_name, window):
+    """Asks a window's program to close it, as a click on a title bar's button does."""
+    x11 = ctypes.CDLL("libX11.so.6")
+    x11.XOpenDisplay.restype = ctypes.c_void_p
+    x11.XInternAtom.restype = ctypes.c_ulong
+    display = ctypes.c_void_p(x11.XOpenDisplay(display_name.encode()))
+
+    def atom(name):
+        return x11.XInternAtom(display, name, 0)
+    event = ClientMessage(type=CLIENT_MESSAGE, window=window, message_type=atom(b"WM_PROTOCOLS"),
+                          format=32)
+    event.data[0] = atom(b"WM_DELETE_WINDOW")
+    x11.XSendEvent(display, ctypes.c_ulong(window), 0, ctypes.c_long(0), ctypes.byref(event))
+    x11.XCloseDisplay(display)
