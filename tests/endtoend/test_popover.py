@@ -11,6 +11,7 @@ NEAR = 12
 LEFT, RIGHT = 1, 3
 WHEEL_UP, WHEEL_DOWN = 4, 5
 NOWHERE = 40, 300
+LOCKED = bytes.fromhex("336699")
 
 
 class WithAPopover(OnADesktop):
@@ -223,6 +224,19 @@ class ItsWindow(WithAPopover):
         self.has_closed()
         eventually(self.drawn, "the item is on the screen again")
         a_moment()
+        self.open()
+
+    def test_a_screen_locker_covers_it_and_leaves_the_item_where_it_was(self):
+        self.open()
+        seen = self.box().centre, self.item
+        locker = self.session.start(["i3lock", "--nofork", "--color", LOCKED.hex()])
+        eventually(lambda: all(self.session.picture().pixel(*at) == tuple(LOCKED) for at in seen),
+                   "the screen is locked")
+        self.session.end_process(locker)
+        self.program.item()
+        self.assertEqual(self.session.bus.item_count(), 1)
+        self.session.press("Escape")
+        self.has_closed()
         self.open()
 
     def test_it_moves_when_the_screen_becomes_smaller(self):
