@@ -254,7 +254,6 @@ class GNOME(InAHost, OnADesktop):
 
 class Waybar(InAHost, OnADesktop):
     look = Look("waybar", "scaled:16")
-    opens_at_item = False
 
     def make_session(self):
         return wayland.WaybarScreen()
@@ -262,7 +261,6 @@ class Waybar(InAHost, OnADesktop):
 
 class swaybar(InAHost, OnADesktop):  # noqa: N801: it is spelt so
     look = Look("swaybar", 18)
-    opens_at_item = False
 
     def make_session(self):
         return wayland.SwaybarScreen()
