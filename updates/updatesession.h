@@ -112,7 +112,7 @@ Q_SIGNALS:
     void receivedChanged();
     void totalChanged();
     void failureChanged();
-    /// The user should see this session.
+    /// The user should see how it goes.
     void presentationRequested();
 
 private:

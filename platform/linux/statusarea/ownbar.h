@@ -67,7 +67,7 @@ public:
     explicit OwnBar(const PanelColours &colours, DefaultsStore *store = nullptr,
                     QObject *parent = nullptr);
 
-    /// Whether this session lets a program say where its windows stand, as a bar must.
+    /// Whether the desktop lets a program say where its windows stand, as a bar must.
     [[nodiscard]] static bool isPossible();
 
     void show() { m_item.show(); }

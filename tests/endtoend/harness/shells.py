@@ -133,7 +133,7 @@ class GnomeScreen(Shell, Screen):
             "org/gnome/shell": {"enabled-extensions": f"['{APPINDICATOR}']",
                                 "welcome-dialog-last-shown-version": "'99'"},
             "org/gnome/desktop/interface": {"enable-animations": "false"},
-            # Else it tells in a message that this session cannot be locked.
+            # Else it tells in a message that the screen cannot be locked.
             "org/gnome/desktop/lockdown": {"disable-lock-screen": "true"},
         })
         width, height = (length * self.scale for length in self.size)
