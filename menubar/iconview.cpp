@@ -73,10 +73,8 @@ AnyView IconView::body(const ViewContext &context) const
                                    .height = symbolHeight,
                                    .opacity = 0.875 };
 
-    constexpr double lowCharge = 10.0;
-    const bool low = status == BatteryChargingStatus::discharging && charge <= lowCharge;
     return glyph(drawings[std::size_t(icon)], charge,
-                 low ? std::optional(context.red) : std::nullopt);
+                 isNearlyEmpty(charge, status) ? std::optional(context.red) : std::nullopt);
 }
 
 } // namespace ferrin

@@ -12,8 +12,14 @@ namespace ferrin {
 /// The height that symbols are drawn at, logical pixels.
 inline constexpr qreal symbolHeight = 16.5;
 
-/// Draws any icon for a charge and a status: a glyph, red inside while discharging at 10 % or less
-/// (one with a bolt never is), or a symbol.
+/// Whether a battery at this charge, in percent, is shown in red.
+[[nodiscard]] constexpr bool isNearlyEmpty(double charge, BatteryChargingStatus status)
+{
+    return status == BatteryChargingStatus::discharging && charge <= 10;
+}
+
+/// Draws any icon for a charge and a status: a glyph, red inside while nearly empty (one with a
+/// bolt never is), or a symbol.
 struct IconView
 {
     Icon icon = Icon::battery1V;

@@ -3,6 +3,8 @@
 
 #include "menubar/itemdrift.h"
 
+#include "menubar/iconview.h"
+
 #include <QStringList>
 
 #include <cstdlib>
@@ -41,10 +43,8 @@ bool isSameIcon(const std::optional<IconElement> &one, const std::optional<IconE
 {
     if (!one || !other)
         return one.has_value() == other.has_value();
-    // At ten percent it turns red.
-    constexpr double lowCharge = 10;
     return one->icon == other->icon && one->fault == other->fault && one->status == other->status
-        && (one->charge <= lowCharge) == (other->charge <= lowCharge)
+        && isNearlyEmpty(one->charge, one->status) == isNearlyEmpty(other->charge, other->status)
         && std::abs(one->charge - other->charge) <= mostPercent;
 }
 

@@ -6,6 +6,7 @@
 #include "menubar/devicegrid.h"
 #include "menubar/fillview.h"
 #include "menubar/fittedtextview.h"
+#include "menubar/iconview.h"
 #include "menubar/templateimageview.h"
 
 #include <QPainter>
@@ -95,8 +96,7 @@ void SquareBatteryView::paint(QPainter &painter, const QRectF &bounds,
     painter.setRenderHint(QPainter::Antialiasing);
     const Geometry geometry(QRect(topLeft.toPoint(), (bounds.size() * grid.scale()).toSize()));
 
-    const bool low
-        = icon.status == BatteryChargingStatus::discharging && icon.charge <= 10 && !bolt;
+    const bool low = isNearlyEmpty(icon.charge, icon.status) && !bolt;
     const bool isPlain = charge.isEmpty() && !bolt;
     // What is left of the fill is too little to be seen at a glance.
     paintOutline(painter, geometry,

@@ -6,6 +6,7 @@
 #include "menubar/itemform.h"
 
 #include <QMetaType>
+#include <QTest>
 
 #include <optional>
 #include <vector>
@@ -72,3 +73,20 @@ inline const Size sizes[] = {
 } // namespace ferrin::test
 
 Q_DECLARE_METATYPE(ferrin::test::Size)
+
+namespace ferrin::test {
+
+/// The columns "size" and "content" of a test's data.
+inline void addEveryFormOfEverySample()
+{
+    QTest::addColumn<Size>("size");
+    QTest::addColumn<ItemContent>("content");
+    for (const Size &size : sizes) {
+        for (const Sample &sample : samples)
+            QTest::addRow("form %d, %d at %g: %s", int(size.form), size.height, size.scale,
+                          sample.name)
+                << size << sample.content;
+    }
+}
+
+} // namespace ferrin::test

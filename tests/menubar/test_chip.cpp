@@ -68,17 +68,7 @@ class ChipTest : public QObject
 
 private Q_SLOTS:
     /// The text and the glyph against their own ground, whatever is behind it.
-    void aChipIsLegibleOnEveryBar_data()
-    {
-        QTest::addColumn<Size>("size");
-        QTest::addColumn<ItemContent>("content");
-        for (const Size &size : sizes) {
-            for (const Sample &sample : samples)
-                QTest::addRow("form %d, %d at %g: %s", int(size.form), size.height, size.scale,
-                              sample.name)
-                    << size << sample.content;
-        }
-    }
+    void aChipIsLegibleOnEveryBar_data() { addEveryFormOfEverySample(); }
 
     void aChipIsLegibleOnEveryBar()
     {

@@ -20,18 +20,6 @@ QImage paint(const Size &size, const ItemContent &content)
     return paintForm(size.form, content, size.height, size.scale, blackOnClear);
 }
 
-void addEveryFormOfEverySample()
-{
-    QTest::addColumn<Size>("size");
-    QTest::addColumn<ItemContent>("content");
-    for (const Size &size : sizes) {
-        for (const Sample &sample : samples)
-            QTest::addRow("form %d, %d at %g: %s", int(size.form), size.height, size.scale,
-                          sample.name)
-                << size << sample.content;
-    }
-}
-
 double strongest(const QImage &image)
 {
     double most = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "menubar/contrast.h"
 #include "quick/quickengine.h"
 #include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"
@@ -14,25 +15,6 @@ using namespace ferrin;
 using namespace ferrin::test;
 
 namespace {
-
-double linear(double channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminanceOf(const QColor &colour)
-{
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-/// As the accessibility guidelines for web content compute it, 1 to 21.
-double contrast(const QColor &one, const QColor &other)
-{
-    const double a = luminanceOf(one) + 0.05;
-    const double b = luminanceOf(other) + 0.05;
-    return a > b ? a / b : b / a;
-}
 
 QColor over(const QColor &ground, const QColor &colour, double opacity)
 {
@@ -294,7 +276,7 @@ void ColoursTest::followTheAppearance()
     m_appearance.setAppearance(Appearance::light);
     const QColor light = named("cardColor");
     m_appearance.setAppearance(Appearance::dark);
-    QVERIFY(luminanceOf(named("cardColor")) < luminanceOf(light));
+    QVERIFY(contrast(named("cardColor"), Qt::black) < contrast(light, Qt::black));
     m_appearance.setAppearance(Appearance::light);
     QCOMPARE(named("cardColor"), light);
 }

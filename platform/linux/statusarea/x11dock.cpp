@@ -108,6 +108,18 @@ private:
     quint32 m_dock;
 };
 
+/// What is told of the dock around a window; nothing where there is none.
+template <typename Told>
+Told ofDockAround(quint32 window, Told (Docks::*told)(quint32) const)
+{
+    const X11Connection x11;
+    if (!x11)
+        return {};
+    const Docks docks(x11);
+    const quint32 dock = docks.around(window);
+    return dock == XCB_WINDOW_NONE ? Told() : (docks.*told)(dock);
+}
+
 } // namespace
 
 QRect dockUnderPointer()
@@ -118,22 +130,12 @@ QRect dockUnderPointer()
 
 QRect dockAround(quint32 window)
 {
-    const X11Connection x11;
-    if (!x11)
-        return {};
-    const Docks docks(x11);
-    const quint32 dock = docks.around(window);
-    return dock == XCB_WINDOW_NONE ? QRect() : docks.bounds(dock);
+    return ofDockAround(window, &Docks::bounds);
 }
 
 QByteArray classOfDockAround(quint32 window)
 {
-    const X11Connection x11;
-    if (!x11)
-        return {};
-    const Docks docks(x11);
-    const quint32 dock = docks.around(window);
-    return dock == XCB_WINDOW_NONE ? QByteArray() : docks.classOf(dock);
+    return ofDockAround(window, &Docks::classOf);
 }
 
 QRect windowBounds(quint32 window)

@@ -53,7 +53,10 @@ void PanelColoursTest::bringsItsOwnGroundWhereNothingIsKnown()
 {
     PanelColours colours;
     colours.setAppearance({ .desktopDark = true });
-    QVERIFY(colours.contextFor(unknownHost).chip);
+    const ViewContext onChip = colours.contextFor(unknownHost);
+    QVERIFY(onChip.chip);
+    QVERIFY(contrast(onChip.text, *onChip.chip) >= leastContrast);
+    QVERIFY(contrast(onChip.red, *onChip.chip) >= leastContrast);
     QVERIFY(colours.contextFor(profileForProcess(u"lxqt-panel")).chip);
     QVERIFY(colours.contextFor(profileForProcess(u"waybar")).chip);
     QVERIFY(!colours.contextForOwnBar().chip);

@@ -2,18 +2,16 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/statusarea/panelsheets.h"
+#include "tests/platform/statusarea/homeofsettings.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
 
 using namespace ferrin;
+using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,14 +27,7 @@ class PanelSheetsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_home = std::make_unique<QTemporaryDir>();
-        qputenv("XDG_CONFIG_HOME", m_home->filePath(u"config"_s).toUtf8());
-        qputenv("XDG_CONFIG_DIRS", m_home->filePath(u"system"_s).toUtf8());
-        qputenv("XDG_DATA_HOME", m_home->filePath(u"data"_s).toUtf8());
-        qputenv("XDG_DATA_DIRS", m_home->filePath(u"shared"_s).toUtf8());
-    }
+    void init() { m_home = std::make_unique<HomeOfSettings>(); }
 
     void knowsNothingOfLxqtWithoutAnySettings() { QVERIFY(!lxqt()); }
 
@@ -166,16 +157,9 @@ private:
         return colours.text();
     }
 
-    void write(const QString &name, const QByteArray &text) const
-    {
-        const QString path = m_home->filePath(name);
-        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
+    void write(const QString &name, const QByteArray &text) const { m_home->write(name, text); }
 
-    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<HomeOfSettings> m_home;
 };
 
 QTEST_GUILESS_MAIN(PanelSheetsTest)
