@@ -4,7 +4,7 @@
 #include "app/windowsmodule.h"
 
 #include "app/installation.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QPluginLoader>
 

@@ -3,7 +3,7 @@
 
 #include "core/batterydata.h"
 
-#include "sources/checkedarithmetic.h"
+#include "base/checkedarithmetic.h"
 
 #include <cmath>
 

@@ -5,7 +5,7 @@
 
 #include "core/batterytime.h"
 #include "core/batterytypes.h"
-#include "sources/variantcast.h"
+#include "base/variantcast.h"
 
 #include <QObject>
 #include <QProperty>

@@ -4,8 +4,8 @@
 #include "core/batterydataprovider.h"
 
 #include "core/storeddata.h"
-#include "sources/checkedarithmetic.h"
-#include "sources/variantcast.h"
+#include "base/checkedarithmetic.h"
+#include "base/variantcast.h"
 
 #include <chrono>
 

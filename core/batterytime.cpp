@@ -3,7 +3,7 @@
 
 #include "core/batterytime.h"
 
-#include "sources/checkedarithmetic.h"
+#include "base/checkedarithmetic.h"
 
 namespace ferrin {
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "sources/variantcast.h"
+#include "base/variantcast.h"
 
 #include <QMetaType>
 #include <QVariant>

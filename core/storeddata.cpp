@@ -3,8 +3,8 @@
 
 #include "core/storeddata.h"
 
-#include "sources/logging.h"
-#include "sources/variantcast.h"
+#include "base/logging.h"
+#include "base/variantcast.h"
 #include "state/defaultsstore.h"
 #include "state/shareddefaults.h"
 

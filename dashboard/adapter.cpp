@@ -6,7 +6,7 @@
 #include "core/batterydata.h"
 #include "core/storeddata.h"
 #include "quick/quickengine.h"
-#include "sources/variantcast.h"
+#include "base/variantcast.h"
 
 #include <QLocale>
 

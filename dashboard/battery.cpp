@@ -5,7 +5,7 @@
 
 #include "core/batterydata.h"
 #include "quick/quickengine.h"
-#include "sources/variantcast.h"
+#include "base/variantcast.h"
 
 namespace ferrin {
 

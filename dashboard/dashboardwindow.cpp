@@ -5,7 +5,7 @@
 
 #include "menubar/popoverdesktop.h"
 #include "quick/quickengine.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

@@ -6,7 +6,7 @@
 #include "menubar/itemhostingview.h"
 #include "menubar/menubaritemselecteditemview.h"
 #include "menubar/statusitem.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 #include "state/settingsdata.h"
 
 #include <optional>

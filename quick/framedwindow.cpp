@@ -6,7 +6,7 @@
 #include "menubar/popoverdesktop.h"
 #include "quick/popoverframe.h"
 #include "quick/quickengine.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>

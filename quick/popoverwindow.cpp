@@ -6,7 +6,7 @@
 #include "menubar/popoverdesktop.h"
 #include "quick/framedwindow.h"
 #include "quick/quickengine.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QKeyEvent>
 #include <QScreen>

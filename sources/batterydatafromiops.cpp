@@ -3,8 +3,8 @@
 
 #include "sources/batterydatafromiops.h"
 
-#include "sources/logging.h"
-#include "sources/variantcast.h"
+#include "base/logging.h"
+#include "base/variantcast.h"
 
 #include <utility>
 

@@ -3,9 +3,9 @@
 
 #include "sources/batterydatafromioservice.h"
 
-#include "sources/checkedarithmetic.h"
-#include "sources/logging.h"
-#include "sources/variantcast.h"
+#include "base/checkedarithmetic.h"
+#include "base/logging.h"
+#include "base/variantcast.h"
 
 #include <cmath>
 

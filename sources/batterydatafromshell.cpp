@@ -3,7 +3,7 @@
 
 #include "sources/batterydatafromshell.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 #include "sources/processlauncher.h"
 
 #include <QRegularExpression>

@@ -3,7 +3,7 @@
 
 #include "state/defaultsstore.h"
 
-#include "sources/variantcast.h"
+#include "base/variantcast.h"
 
 namespace ferrin {
 

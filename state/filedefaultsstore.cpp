@@ -3,7 +3,7 @@
 
 #include "state/filedefaultsstore.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 #include "state/filelock.h"
 #include "state/jsonproperty.h"
 

@@ -3,7 +3,7 @@
 
 #include "state/settingsdata.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 #include "state/defaultsstore.h"
 #include "state/iconcatalogues.h"
 #include "state/shareddefaults.h"

@@ -3,7 +3,7 @@
 
 #include "updates/updater.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 #include "updates/updateschedule.h"
 
 #include <QPointer>

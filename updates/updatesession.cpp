@@ -3,7 +3,7 @@
 
 #include "updates/updatesession.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 #include "updates/packagefile.h"
 #include "updates/packageinstaller.h"
 #include "updates/updaterecords.h"

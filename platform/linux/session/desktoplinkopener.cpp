@@ -4,7 +4,7 @@
 #include "platform/linux/session/desktoplinkopener.h"
 
 #include "platform/linux/session/powerpage.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QUrl>
 

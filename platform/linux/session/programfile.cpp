@@ -3,7 +3,7 @@
 
 #include "platform/linux/session/programfile.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QFile>
 

@@ -3,7 +3,7 @@
 
 #include "platform/linux/session/singleinstance.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

@@ -3,7 +3,7 @@
 
 #include "platform/linux/statusarea/itemregistration.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QDBusError>
 #include <QDBusMessage>

@@ -8,7 +8,7 @@
 #include "platform/linux/statusarea/traycolours.h"
 #include "platform/linux/statusarea/trayitem.h"
 #include "platform/linux/statusarea/x11trayowner.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <algorithm>
 #include <utility>

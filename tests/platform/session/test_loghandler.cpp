@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/session/loghandler.h"
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QProcess>
 #include <QTemporaryFile>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/linux/power/upower/steadynow.h"
+#include "base/steadynow.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -3,7 +3,7 @@
 
 #include "platform/linux/power/upower/supplymonitor.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 
 #include <QSocketNotifier>
 

@@ -3,7 +3,7 @@
 
 #include "platform/linux/power/upower/troublelog.h"
 
-#include "sources/logging.h"
+#include "base/logging.h"
 
 namespace ferrin {
 
