@@ -4,7 +4,7 @@
 #pragma once
 
 #include "menubar/itemplace.h"
-#include "settingswindow/vendor.h"
+#include "settingswindow/support/vendor.h"
 
 #include <QtPlugin>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "settingswindow/linkopener.h"
+#include "state/linkopener.h"
 
 #include <QList>
 #include <QUrl>

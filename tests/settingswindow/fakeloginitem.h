@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "settingswindow/loginitem.h"
+#include "state/loginitem.h"
 
 #include <QStringList>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "settingswindow/statechoices.h"
+#include "settingswindow/menubaricon/statechoices.h"
 #include "tests/settingswindow/stage.h"
 
 namespace ferrin::test {

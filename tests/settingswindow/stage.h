@@ -4,12 +4,12 @@
 #pragma once
 
 #include "core/batterydata.h"
-#include "settingswindow/colortheme.h"
-#include "settingswindow/launchatlogin.h"
-#include "settingswindow/links.h"
-#include "settingswindow/menubaricon.h"
+#include "settingswindow/general/colortheme.h"
+#include "settingswindow/general/launchatlogin.h"
+#include "settingswindow/menubaricon/menubaricon.h"
 #include "settingswindow/settings.h"
-#include "settingswindow/softwareupdates.h"
+#include "settingswindow/support/links.h"
+#include "settingswindow/updates/softwareupdates.h"
 #include "state/appcolorscheme.h"
 #include "state/appstatus.h"
 #include "state/displayswitches.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/bundleinformation.h"
+#include "settingswindow/about/bundleinformation.h"
 #include "state/bundle.h"
 #include "tests/settingswindow/stage.h"
 #include "tests/support/logcapture.h"

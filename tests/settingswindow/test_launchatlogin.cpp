@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/launchatlogin.h"
+#include "settingswindow/general/launchatlogin.h"
 #include "tests/settingswindow/fakeloginitem.h"
 #include "tests/support/logcapture.h"
 

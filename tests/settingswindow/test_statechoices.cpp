@@ -4,8 +4,8 @@
 #include "core/batterydata.h"
 #include "menubar/iconview.h"
 #include "menubar/itemcontent.h"
-#include "settingswindow/mockupviews.h"
-#include "settingswindow/statechoices.h"
+#include "settingswindow/menubaricon/mockupviews.h"
+#include "settingswindow/menubaricon/statechoices.h"
 #include "tests/settingswindow/stage.h"
 
 #include <QSignalSpy>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/updatewindow.h"
+#include "settingswindow/updates/updatewindow.h"
 #include "tests/settingswindow/updatescenes.h"
 
 using namespace ferrin;

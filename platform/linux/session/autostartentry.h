@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/linux/session/desktopentry.h"
-#include "settingswindow/loginitem.h"
+#include "state/loginitem.h"
 
 #include <QString>
 #include <QStringList>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/linux/session/programstarter.h"
-#include "settingswindow/linkopener.h"
+#include "state/linkopener.h"
 
 #include <QList>
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/statesample.h"
+#include "settingswindow/menubaricon/statesample.h"
 
 #include "state/iconcatalogues.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "settingswindow/vendor.h"
+#include "settingswindow/support/vendor.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "quick/viewitem.h"
-#include "settingswindow/statechoices.h"
+#include "settingswindow/menubaricon/statechoices.h"
 
 #include <QPointer>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/colortheme.h"
+#include "settingswindow/general/colortheme.h"
 
 #include "quick/quickengine.h"
 #include "state/appcolorscheme.h"

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "menubar/itemcontent.h"
-#include "settingswindow/statesample.h"
+#include "settingswindow/menubaricon/statesample.h"
 
 #include <QObject>
 #include <QProperty>

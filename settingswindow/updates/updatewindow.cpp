@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/updatewindow.h"
+#include "settingswindow/updates/updatewindow.h"
 
 #include "quick/quickengine.h"
-#include "settingswindow/softwareupdates.h"
+#include "settingswindow/updates/softwareupdates.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>

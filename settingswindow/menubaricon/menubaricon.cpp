@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/menubaricon.h"
+#include "settingswindow/menubaricon/menubaricon.h"
 
 #include "core/batterydata.h"
 #include "quick/quickengine.h"
-#include "settingswindow/spokennames.h"
+#include "settingswindow/menubaricon/spokennames.h"
 
 namespace ferrin {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/launchatlogin.h"
+#include "settingswindow/general/launchatlogin.h"
 
 #include "quick/quickengine.h"
-#include "settingswindow/loginitem.h"
+#include "state/loginitem.h"
 
 #include <QLoggingCategory>
 

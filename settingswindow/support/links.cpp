@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "settingswindow/links.h"
+#include "settingswindow/support/links.h"
 
 #include "quick/quickengine.h"
-#include "settingswindow/linkopener.h"
+#include "state/linkopener.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "settingswindow/statechoices.h"
+#include "settingswindow/menubaricon/statechoices.h"
 
 class QJSEngine;
 class QQmlEngine;
