@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "base/variantcast.h"
 #include "core/batterytime.h"
 #include "core/batterytypes.h"
-#include "base/variantcast.h"
 
 #include <QObject>
 #include <QProperty>

@@ -3,9 +3,9 @@
 
 #include "core/batterydataprovider.h"
 
-#include "core/storeddata.h"
 #include "base/checkedarithmetic.h"
 #include "base/variantcast.h"
+#include "core/storeddata.h"
 
 #include <chrono>
 

@@ -3,10 +3,10 @@
 
 #include "dashboard/adapter.h"
 
+#include "base/variantcast.h"
 #include "core/batterydata.h"
 #include "core/storeddata.h"
 #include "quick/quickengine.h"
-#include "base/variantcast.h"
 
 #include <QLocale>
 

@@ -3,9 +3,9 @@
 
 #include "dashboard/battery.h"
 
+#include "base/variantcast.h"
 #include "core/batterydata.h"
 #include "quick/quickengine.h"
-#include "base/variantcast.h"
 
 namespace ferrin {
 

@@ -3,9 +3,9 @@
 
 #include "dashboard/dashboardwindow.h"
 
+#include "base/logging.h"
 #include "menubar/popoverdesktop.h"
 #include "quick/quickengine.h"
-#include "base/logging.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

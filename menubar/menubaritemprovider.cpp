@@ -3,10 +3,10 @@
 
 #include "menubar/menubaritemprovider.h"
 
+#include "base/logging.h"
 #include "menubar/itemhostingview.h"
 #include "menubar/menubaritemselecteditemview.h"
 #include "menubar/statusitem.h"
-#include "base/logging.h"
 #include "state/settingsdata.h"
 
 #include <optional>

@@ -3,10 +3,10 @@
 
 #include "quick/framedwindow.h"
 
+#include "base/logging.h"
 #include "menubar/popoverdesktop.h"
 #include "quick/popoverframe.h"
 #include "quick/quickengine.h"
-#include "base/logging.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>

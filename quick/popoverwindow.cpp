@@ -3,10 +3,10 @@
 
 #include "quick/popoverwindow.h"
 
+#include "base/logging.h"
 #include "menubar/popoverdesktop.h"
 #include "quick/framedwindow.h"
 #include "quick/quickengine.h"
-#include "base/logging.h"
 
 #include <QKeyEvent>
 #include <QScreen>

@@ -6,7 +6,7 @@ behind."""
 import re
 
 from harness import desktop, traybars
-from harness.case import AT_START, OnADesktop, main
+from harness.case import OnADesktop, main
 from harness.processes import a_moment, eventually
 
 # What a hundred of anything may leave to the program alone, in kB: less than 10 each.

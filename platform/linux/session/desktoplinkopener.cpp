@@ -3,8 +3,8 @@
 
 #include "platform/linux/session/desktoplinkopener.h"
 
-#include "platform/linux/session/powerpage.h"
 #include "base/logging.h"
+#include "platform/linux/session/powerpage.h"
 
 #include <QUrl>
 

@@ -4,9 +4,7 @@
 
 import os
 import re
-import signal
 
-from harness import processes
 from harness.picture import Box
 from harness.processes import eventually
 from harness.session import Screen
@@ -40,8 +38,6 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
   </property>
 </channel>
 """
-
-
 
 
 class BareScreen(Screen):

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "platform/linux/session/loghandler.h"
 #include "base/logging.h"
+#include "platform/linux/session/loghandler.h"
 
 #include <QProcess>
 #include <QTemporaryFile>
