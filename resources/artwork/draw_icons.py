@@ -48,8 +48,10 @@ def path(data, fill, opacity=None):
 def drawing(size, *elements):
     return "\n".join(
         (
+            # REUSE-IgnoreStart
             "<!-- SPDX-License-Identifier: GPL-3.0-or-later -->",
             "<!-- SPDX-FileCopyrightText: 2026 The Ferrin developers -->",
+            # REUSE-IgnoreEnd
             f'<svg xmlns="http://www.w3.org/2000/svg" width="{size}" height="{size}" '
             f'viewBox="0 0 {size} {size}">',
             *elements,

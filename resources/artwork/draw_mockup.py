@@ -80,8 +80,10 @@ def svg(top, foot, edge, sign):
     bar = rectangle(0, 0, WIDTH, HEIGHT, 6)
     return "\n".join(
         (
+            # REUSE-IgnoreStart
             "<!-- SPDX-License-Identifier: GPL-3.0-or-later -->",
             "<!-- SPDX-FileCopyrightText: 2026 The Ferrin developers -->",
+            # REUSE-IgnoreEnd
             f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}" '
             f'viewBox="0 0 {WIDTH} {HEIGHT}">',
             '  <linearGradient id="bar" x1="0" y1="0" x2="0" y2="1">',
