@@ -29,6 +29,8 @@ target_compile_options(ferrin_options INTERFACE
 target_compile_definitions(ferrin_options INTERFACE
     QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+# Single precision in the order that is written: no two operations fused into one rounding.
+target_compile_options(ferrin_options INTERFACE -ffp-contract=off)
 
 if(FERRIN_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined

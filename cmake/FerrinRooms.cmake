@@ -10,6 +10,7 @@ function(ferrin_add_room name)
     qt_add_library(ferrin_${name} STATIC ${room_SOURCES})
     target_include_directories(ferrin_${name} PUBLIC "${PROJECT_SOURCE_DIR}")
     target_link_libraries(ferrin_${name} PUBLIC ${room_LIBRARIES} PRIVATE ferrin_options)
+    ferrin_precompile(ferrin_${name} LIBRARIES ${room_LIBRARIES})
 endfunction()
 
 # ferrin_add_qml_room(NAME URI SOURCES file... QML_FILES file... [LIBRARIES target...]
@@ -19,11 +20,15 @@ endfunction()
 # those are the program's, and the module of the windows takes them from the program that loads it.
 # A test links them beside the room. BASES are the modules whose C++ types it derives from.
 #
+# The files are compiled to byte code. The C++ that Qt could make of them takes ten times as long to
+# build and works with one version of Qt only, and the windows are no quicker for it.
+#
 # A source names the module once, with FERRIN_USE_QML_TYPES and FERRIN_USE_QML_FILES of
 # quick/quickengine.h: nothing else would make a linker take them out of a static library.
 function(ferrin_add_qml_room name uri)
     cmake_parse_arguments(PARSE_ARGV 2 room "" "" "SOURCES;QML_FILES;LIBRARIES;BASES")
     ferrin_add_room(${name} SOURCES ${room_SOURCES} LIBRARIES Qt6::Quick ${room_LIBRARIES})
+    set_target_properties(ferrin_${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
     string(REPLACE "." "/" path ${uri})
     qt_add_qml_module(ferrin_${name} URI ${uri} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /qt/qml
         DEPENDENCIES QtQuick ${room_BASES}
@@ -31,9 +36,11 @@ function(ferrin_add_qml_room name uri)
         OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" QML_FILES ${room_QML_FILES})
     # The generated registration includes headers by their names alone.
     target_include_directories(ferrin_${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    # A hundred little arrays of bytes: one compilation.
     get_target_property(sources ferrin_${name} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/")
-    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -Wno-shadow)
+    set_source_files_properties(${sources} PROPERTIES UNITY_GROUP qml)
+    set_target_properties(ferrin_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()
 
 # ferrin_export_rooms(TARGET)

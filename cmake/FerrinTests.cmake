@@ -3,31 +3,70 @@
 
 include(CTest)
 
-# ferrin_add_test(NAME unit ROOM room SOURCES file... LIBRARIES target... [ON_VIRTUAL_LAPTOP])
-#
-# One Qt Test executable for one unit, run on the offscreen platform and a private home. Its CTest
-# label is the room; every test that needs no screen also carries "headless". One that runs on the
-# virtual laptop carries "virtual" instead: the laptop's preloaded library and the sanitizers' both
-# want to be the first.
-function(ferrin_add_test)
-    cmake_parse_arguments(PARSE_ARGV 0 test "ON_VIRTUAL_LAPTOP" "NAME;ROOM" "SOURCES;LIBRARIES")
-    set(target test_${test_ROOM}_${test_NAME})
+# All that runs under the sanitizers: `cmake --build … --target headless_tests` builds no more than it.
+add_custom_target(headless_tests)
+
+# ferrin_add_test_executable(TARGET SOURCES file... LIBRARIES target...)
+function(ferrin_add_test_executable target)
+    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LIBRARIES")
+    string(REGEX MATCH "^test_[^_]+" room ${target})
+    string(REPLACE "test_" "" room ${room})
     qt_add_executable(${target} ${test_SOURCES})
     set_target_properties(${target} PROPERTIES
-        RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/${test_ROOM}")
-    target_link_libraries(${target} PRIVATE ferrin_options ferrin_test_support Qt6::Test
+        RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/${room}")
+    target_link_libraries(${target} PRIVATE ferrin_test_options ferrin_test_support
         ${test_LIBRARIES})
     target_compile_definitions(${target} PRIVATE
         FERRIN_TEST_DATA="${PROJECT_SOURCE_DIR}/tests")
-    set(command ${target})
-    set(label headless)
+    ferrin_precompile_test(${target} LIBRARIES ${test_LIBRARIES})
+endfunction()
+
+# ferrin_register_test(NAME room.unit LABELS label... COMMAND argument...)
+#
+# A test on the offscreen platform.
+function(ferrin_register_test)
+    cmake_parse_arguments(PARSE_ARGV 0 test "" "NAME" "LABELS;COMMAND;ENVIRONMENT")
+    add_test(NAME ${test_NAME} COMMAND ${test_COMMAND})
+    set_tests_properties(${test_NAME} PROPERTIES LABELS "${test_LABELS}" TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${test_ENVIRONMENT}")
+endfunction()
+
+# ferrin_add_tests(ROOM room UNITS unit... LIBRARIES target... [SOURCES file...] [GROUP group]
+#                  [PREFIX prefix])
+#
+# One Qt Test executable for all units of a room, or of a group within it: test_UNIT.cpp ends with
+# FERRIN_TEST of tests/support/testmain.h. Each unit is a test of its own, ROOM.PREFIXUNIT, and runs in
+# a process of its own. Its label is the room; every test that needs no screen also carries "headless".
+function(ferrin_add_tests)
+    cmake_parse_arguments(PARSE_ARGV 0 tests "" "ROOM;GROUP;PREFIX" "UNITS;LIBRARIES;SOURCES")
+    string(JOIN _ target test ${tests_ROOM} ${tests_GROUP})
+    list(TRANSFORM tests_UNITS REPLACE "(.+)" "test_\\1.cpp" OUTPUT_VARIABLE sources)
+    ferrin_add_test_executable(${target}
+        SOURCES ${sources} ${tests_SOURCES}
+        LIBRARIES ferrin_test_main ${tests_LIBRARIES})
+    add_dependencies(headless_tests ${target})
+    foreach(unit IN LISTS tests_UNITS)
+        ferrin_register_test(NAME ${tests_ROOM}.${tests_PREFIX}${unit} COMMAND ${target} ${unit}
+            LABELS ${tests_ROOM} headless)
+    endforeach()
+endfunction()
+
+# ferrin_add_test(NAME unit ROOM room SOURCES file... LIBRARIES target... [ON_VIRTUAL_LAPTOP])
+#
+# An executable for one unit, which has a main function of its own: for tests that start themselves
+# anew, and those on the virtual laptop. These carry the label "virtual" in the place of "headless": the
+# laptop's preloaded library and the sanitizers' both want to be the first.
+function(ferrin_add_test)
+    cmake_parse_arguments(PARSE_ARGV 0 test "ON_VIRTUAL_LAPTOP" "NAME;ROOM" "SOURCES;LIBRARIES")
+    set(target test_${test_ROOM}_${test_NAME})
+    ferrin_add_test_executable(${target} SOURCES ${test_SOURCES} LIBRARIES ${test_LIBRARIES})
     if(test_ON_VIRTUAL_LAPTOP)
-        set(command "${PROJECT_SOURCE_DIR}/tests/virtuallaptop/virtual-laptop" --
-            $<TARGET_FILE:${target}>)
-        set(label virtual)
+        ferrin_register_test(NAME ${test_ROOM}.${test_NAME} LABELS ${test_ROOM} virtual
+            COMMAND "${PROJECT_SOURCE_DIR}/tests/virtuallaptop/virtual-laptop" --
+                $<TARGET_FILE:${target}>)
+    else()
+        add_dependencies(headless_tests ${target})
+        ferrin_register_test(NAME ${test_ROOM}.${test_NAME} COMMAND ${target}
+            LABELS ${test_ROOM} headless)
     endif()
-    add_test(NAME ${test_ROOM}.${test_NAME} COMMAND ${command})
-    set_tests_properties(${test_ROOM}.${test_NAME} PROPERTIES
-        LABELS "${test_ROOM};${label}" TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()

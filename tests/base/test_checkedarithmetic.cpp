@@ -3,6 +3,7 @@
 
 #include "base/checkedarithmetic.h"
 #include "tests/support/lastwords.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -88,5 +89,5 @@ void TestCheckedArithmetic::knowsWhenNothingStopped()
     QCOMPARE(lastWords([] { std::ignore = checkedAdd(1, 1); }), std::nullopt);
 }
 
-QTEST_GUILESS_MAIN(TestCheckedArithmetic)
+FERRIN_TEST(QCoreApplication, TestCheckedArithmetic)
 #include "test_checkedarithmetic.moc"

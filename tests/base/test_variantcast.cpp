@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "base/variantcast.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -156,5 +157,5 @@ void TestVariantCast::readsADictionaryFromADictionaryAlone()
     QCOMPARE(variantCast<QVariantMap>({}), std::nullopt);
 }
 
-QTEST_GUILESS_MAIN(TestVariantCast)
+FERRIN_TEST(QCoreApplication, TestVariantCast)
 #include "test_variantcast.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/core/providerbench.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -325,5 +326,5 @@ void TestAdapterStorage::asksForTheStoredDataOnlyOnExternalPower()
     QVERIFY(bench.storedDataAccesses > 0);
 }
 
-QTEST_GUILESS_MAIN(TestAdapterStorage)
+FERRIN_TEST(QCoreApplication, TestAdapterStorage)
 #include "test_adapterstorage.moc"

@@ -3,6 +3,7 @@
 
 #include "core/batterydata.h"
 #include "tests/support/lastwords.h"
+#include "tests/support/testmain.h"
 
 #include <QMetaProperty>
 #include <QSignalSpy>
@@ -364,5 +365,5 @@ void TestBatteryData::stopsTheProcessWhenTheMissingChargeDoesNotFit()
              u"Integer overflow: 100 - -9223372036854775808"_s);
 }
 
-QTEST_GUILESS_MAIN(TestBatteryData)
+FERRIN_TEST(QCoreApplication, TestBatteryData)
 #include "test_batterydata.moc"

@@ -3,6 +3,7 @@
 
 #include "tests/core/providerbench.h"
 #include "tests/support/lastwords.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -387,5 +388,5 @@ void TestBatteryDataProvider::isSharedOnThePlatformHandedOver()
     QCOMPARE(bench.log.take(), QStringList({ serviceFound, sourcesFound }));
 }
 
-QTEST_GUILESS_MAIN(TestBatteryDataProvider)
+FERRIN_TEST(QCoreApplication, TestBatteryDataProvider)
 #include "test_batterydataprovider.moc"

@@ -3,6 +3,7 @@
 
 #include "core/batterytime.h"
 #include "tests/support/lastwords.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -99,5 +100,5 @@ void TestBatteryTime::isUndefinedToQmlWhereItIsAbsent()
     QVERIFY(!minutes.readOnGadget(&unknown).isValid());
 }
 
-QTEST_GUILESS_MAIN(TestBatteryTime)
+FERRIN_TEST(QCoreApplication, TestBatteryTime)
 #include "test_batterytime.moc"

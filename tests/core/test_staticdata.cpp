@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/core/providerbench.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -218,5 +219,5 @@ void TestStaticData::keepsItsVerdictsWithoutABattery()
     QCOMPARE(bench.data->designCycles(), std::nullopt);
 }
 
-QTEST_GUILESS_MAIN(TestStaticData)
+FERRIN_TEST(QCoreApplication, TestStaticData)
 #include "test_staticdata.moc"

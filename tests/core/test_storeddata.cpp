@@ -6,6 +6,7 @@
 #include "tests/support/lastwords.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -367,5 +368,5 @@ void TestStoredData::isSharedOnTheSharedStore()
     QCOMPARE(shared.stored.keys(), QStringList(wattsKey));
 }
 
-QTEST_GUILESS_MAIN(TestStoredData)
+FERRIN_TEST(QCoreApplication, TestStoredData)
 #include "test_storeddata.moc"

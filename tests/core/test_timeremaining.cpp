@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/core/providerbench.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -385,5 +386,5 @@ void TestTimeRemaining::followsTheFreshSnapshotOfTheSameRefresh()
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 2, 0 }));
 }
 
-QTEST_GUILESS_MAIN(TestTimeRemaining)
+FERRIN_TEST(QCoreApplication, TestTimeRemaining)
 #include "test_timeremaining.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -159,5 +160,5 @@ void CardPixelsTest::looksTheSameInDarkWithOtherColours()
     m_stage.appearance.setAppearance(Appearance::light);
 }
 
-QTEST_MAIN(CardPixelsTest)
+FERRIN_TEST(QGuiApplication, CardPixelsTest)
 #include "test_cardpixels.moc"

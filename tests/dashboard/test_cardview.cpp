@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -358,5 +359,5 @@ void CardViewTest::keepsTitlesWholeInAWideFont()
     }
 }
 
-QTEST_MAIN(CardViewTest)
+FERRIN_TEST(QGuiApplication, CardViewTest)
 #include "test_cardview.moc"

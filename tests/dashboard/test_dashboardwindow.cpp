@@ -4,6 +4,7 @@
 #include "dashboard/dashboardwindow.h"
 #include "menubar/popoverdesktop.h"
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -55,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDashboardWindow)
+FERRIN_TEST(QGuiApplication, TestDashboardWindow)
 #include "test_dashboardwindow.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -257,5 +258,5 @@ void HealthViewTest::changesOnlyTheCardsOfAValue()
     QCOMPARE(after.copy(below), before.copy(below));
 }
 
-QTEST_MAIN(HealthViewTest)
+FERRIN_TEST(QGuiApplication, HealthViewTest)
 #include "test_healthview.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -94,5 +95,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestMainContent)
+FERRIN_TEST(QGuiApplication, TestMainContent)
 #include "test_maincontent.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -234,5 +235,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestMainMenu)
+FERRIN_TEST(QGuiApplication, TestMainMenu)
 #include "test_mainmenu.moc"

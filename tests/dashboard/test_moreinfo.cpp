@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 #include <QTextBlock>
@@ -299,5 +300,5 @@ void MoreInfoTest::isReadAloudWithoutMarkers()
     }
 }
 
-QTEST_MAIN(MoreInfoTest)
+FERRIN_TEST(QGuiApplication, MoreInfoTest)
 #include "test_moreinfo.moc"

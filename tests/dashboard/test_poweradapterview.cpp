@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -219,5 +220,5 @@ void PowerAdapterViewTest::hasNoPopovers()
     QVERIFY(!openPopover());
 }
 
-QTEST_MAIN(PowerAdapterViewTest)
+FERRIN_TEST(QGuiApplication, PowerAdapterViewTest)
 #include "test_poweradapterview.moc"

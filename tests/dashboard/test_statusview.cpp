@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/dashboard/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -295,5 +296,5 @@ void StatusViewTest::changesOnlyTheCardOfAValue()
     QCOMPARE(after.copy(below), before.copy(below));
 }
 
-QTEST_MAIN(StatusViewTest)
+FERRIN_TEST(QGuiApplication, StatusViewTest)
 #include "test_statusview.moc"

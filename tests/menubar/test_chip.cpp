@@ -4,6 +4,7 @@
 #include "ink.h"
 #include "itemsamples.h"
 #include "menubar/contrast.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -115,5 +116,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ChipTest)
+FERRIN_TEST(QGuiApplication, ChipTest)
 #include "test_chip.moc"

@@ -6,6 +6,7 @@
 #include "menubar/glyphs.h"
 #include "menubar/stackviews.h"
 #include "menubar/templateimageview.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -305,5 +306,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(GlyphsTest)
+FERRIN_TEST(QGuiApplication, GlyphsTest)
 #include "test_glyphs.moc"

@@ -3,6 +3,7 @@
 
 #include "ink.h"
 #include "menubar/iconview.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -133,5 +134,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(IconViewTest)
+FERRIN_TEST(QGuiApplication, IconViewTest)
 #include "test_iconview.moc"

@@ -6,6 +6,7 @@
 #include "menubar/itemcontent.h"
 #include "menubar/itemform.h"
 #include "menubar/itemviews.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -297,5 +298,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ItemContentTest)
+FERRIN_TEST(QGuiApplication, ItemContentTest)
 #include "test_itemcontent.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "menubar/itemdrift.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -74,5 +75,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ItemDriftTest)
+FERRIN_TEST(QCoreApplication, ItemDriftTest)
 #include "test_itemdrift.moc"

@@ -5,6 +5,7 @@
 #include "itemsamples.h"
 #include "menubar/itemform.h"
 #include "menubar/stackviews.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -283,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ItemFormTest)
+FERRIN_TEST(QGuiApplication, ItemFormTest)
 #include "test_itemform.moc"

@@ -7,6 +7,7 @@
 #include "menubar/stackviews.h"
 #include "menubar/templateimageview.h"
 #include "menubar/textview.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -184,5 +185,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ItemViewsTest)
+FERRIN_TEST(QGuiApplication, ItemViewsTest)
 #include "test_itemviews.moc"

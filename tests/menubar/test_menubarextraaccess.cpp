@@ -3,6 +3,7 @@
 
 #include "fakestatusbar.h"
 #include "menubar/menubarextraaccess.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -139,5 +140,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(MenuBarExtraAccessTest)
+FERRIN_TEST(QCoreApplication, MenuBarExtraAccessTest)
 #include "test_menubarextraaccess.moc"

@@ -5,6 +5,7 @@
 #include "itemsources.h"
 #include "menubar/menubaritemprovider.h"
 #include "tests/support/lastwords.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MenuBarItemProviderTest)
+FERRIN_TEST(QGuiApplication, MenuBarItemProviderTest)
 #include "test_menubaritemprovider.moc"

@@ -4,6 +4,7 @@
 #include "itemsources.h"
 #include "menubar/itemhostingview.h"
 #include "menubar/menubaritemselecteditemview.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -220,5 +221,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MenuBarItemSelectedItemViewTest)
+FERRIN_TEST(QGuiApplication, MenuBarItemSelectedItemViewTest)
 #include "test_menubaritemselecteditemview.moc"

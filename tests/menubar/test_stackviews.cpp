@@ -4,6 +4,7 @@
 #include "ink.h"
 #include "menubar/fillview.h"
 #include "menubar/stackviews.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -190,5 +191,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(StackViewsTest)
+FERRIN_TEST(QGuiApplication, StackViewsTest)
 #include "test_stackviews.moc"

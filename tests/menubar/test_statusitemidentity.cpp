@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "menubar/statusitemidentity.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -27,5 +28,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(StatusItemIdentityTest)
+FERRIN_TEST(QCoreApplication, StatusItemIdentityTest)
 #include "test_statusitemidentity.moc"

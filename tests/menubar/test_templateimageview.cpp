@@ -4,6 +4,7 @@
 #include "ink.h"
 #include "menubar/templateimageview.h"
 #include "state/icon.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -103,5 +104,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TemplateImageViewTest)
+FERRIN_TEST(QGuiApplication, TemplateImageViewTest)
 #include "test_templateimageview.moc"

@@ -4,6 +4,7 @@
 #include "ink.h"
 #include "menubar/fittedtextview.h"
 #include "menubar/textview.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -121,5 +122,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TextViewTest)
+FERRIN_TEST(QGuiApplication, TextViewTest)
 #include "test_textview.moc"

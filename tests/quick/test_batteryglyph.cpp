@@ -4,6 +4,7 @@
 #include "menubar/glyphs.h"
 #include "quick/batteryglyph.h"
 #include "tests/menubar/ink.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -89,5 +90,5 @@ void BatteryGlyphTest::staysInsideItsFrame()
     }
 }
 
-QTEST_MAIN(BatteryGlyphTest)
+FERRIN_TEST(QGuiApplication, BatteryGlyphTest)
 #include "test_batteryglyph.moc"

@@ -5,6 +5,7 @@
 #include "quick/quickengine.h"
 #include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"
+#include "tests/support/testmain.h"
 
 #include <QColor>
 #include <QTest>
@@ -281,5 +282,5 @@ void ColoursTest::followTheAppearance()
     QCOMPARE(named("cardColor"), light);
 }
 
-QTEST_MAIN(ColoursTest)
+FERRIN_TEST(QGuiApplication, ColoursTest)
 #include "test_colours.moc"

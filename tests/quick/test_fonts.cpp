@@ -4,6 +4,7 @@
 #include "quick/quickengine.h"
 #include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -61,5 +62,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestFonts)
+FERRIN_TEST(QGuiApplication, TestFonts)
 #include "test_fonts.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "quick/gauge.h"
+#include "tests/support/testmain.h"
 
 #include <QImage>
 #include <QPainter>
@@ -170,5 +171,5 @@ void GaugeTest::hasTheSameFormOnBothSides()
     }
 }
 
-QTEST_MAIN(GaugeTest)
+FERRIN_TEST(QGuiApplication, GaugeTest)
 #include "test_gauge.moc"

@@ -5,6 +5,7 @@
 #include "quick/iconitem.h"
 #include "tests/menubar/ink.h"
 #include "tests/quick/stage.h"
+#include "tests/support/testmain.h"
 
 using namespace ferrin;
 using namespace ferrin::test;
@@ -117,5 +118,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestIconItem)
+FERRIN_TEST(QGuiApplication, TestIconItem)
 #include "test_iconitem.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "quick/popoverplacement.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -253,5 +254,5 @@ void TestPopoverPlacement::liesOnTheScreenWhereNoSideHasRoom()
     QVERIFY(screen.contains(spot.frame));
 }
 
-QTEST_APPLESS_MAIN(TestPopoverPlacement)
+FERRIN_TEST(void, TestPopoverPlacement)
 #include "test_popoverplacement.moc"

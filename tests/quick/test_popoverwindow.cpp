@@ -5,6 +5,7 @@
 #include "quick/framedwindow.h"
 #include "quick/popoverwindow.h"
 #include "quick/quickengine.h"
+#include "tests/support/testmain.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -317,5 +318,5 @@ void PopoverWindowTest::endsAtItsFrameWhereWindowsAreNotBlended()
     QCOMPARE(stage.window->geometry(), stage.window->frame());
 }
 
-QTEST_MAIN(PopoverWindowTest)
+FERRIN_TEST(QGuiApplication, PopoverWindowTest)
 #include "test_popoverwindow.moc"

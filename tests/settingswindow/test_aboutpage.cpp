@@ -5,6 +5,7 @@
 #include "state/bundle.h"
 #include "tests/settingswindow/stage.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QFile>
 
@@ -250,5 +251,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestAboutPage)
+FERRIN_TEST(QGuiApplication, TestAboutPage)
 #include "test_aboutpage.moc"

@@ -3,6 +3,7 @@
 
 #include "tests/settingswindow/stage.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -229,5 +230,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestGeneralPage)
+FERRIN_TEST(QGuiApplication, TestGeneralPage)
 #include "test_generalpage.moc"

@@ -6,6 +6,7 @@
 #include "quick/iconitem.h"
 #include "tests/menubar/ink.h"
 #include "tests/settingswindow/iconstage.h"
+#include "tests/support/testmain.h"
 
 using namespace ferrin;
 using namespace ferrin::test;
@@ -301,5 +302,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestIconPopover)
+FERRIN_TEST(QGuiApplication, TestIconPopover)
 #include "test_iconpopover.moc"

@@ -4,6 +4,7 @@
 #include "settingswindow/general/launchatlogin.h"
 #include "tests/settingswindow/fakeloginitem.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QLoggingCategory>
 #include <QSignalSpy>
@@ -178,5 +179,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LaunchAtLoginTest)
+FERRIN_TEST(QCoreApplication, LaunchAtLoginTest)
 #include "test_launchatlogin.moc"

@@ -11,6 +11,7 @@
 #include "tests/support/fakepowersources.h"
 #include "tests/support/fakeprocesslauncher.h"
 #include "tests/support/fakeregistry.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -308,5 +309,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestMenuBarIconPage)
+FERRIN_TEST(QGuiApplication, TestMenuBarIconPage)
 #include "test_menubariconpage.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/settingswindow/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -71,5 +72,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestQuitPopover)
+FERRIN_TEST(QGuiApplication, TestQuitPopover)
 #include "test_quitpopover.moc"

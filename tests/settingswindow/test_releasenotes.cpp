@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "settingswindow/updates/releasenotes.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 #include <QTextBlock>
@@ -77,5 +78,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestReleaseNotes)
+FERRIN_TEST(QGuiApplication, TestReleaseNotes)
 #include "test_releasenotes.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/settingswindow/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -158,5 +159,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSettingsMenu)
+FERRIN_TEST(QGuiApplication, TestSettingsMenu)
 #include "test_settingsmenu.moc"

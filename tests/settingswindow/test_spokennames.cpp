@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "settingswindow/menubaricon/spokennames.h"
+#include "tests/support/testmain.h"
 
 #include <QSet>
 #include <QTest>
@@ -55,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSpokenNames)
+FERRIN_TEST(QCoreApplication, TestSpokenNames)
 #include "test_spokennames.moc"

@@ -7,6 +7,7 @@
 #include "settingswindow/menubaricon/mockupviews.h"
 #include "settingswindow/menubaricon/statechoices.h"
 #include "tests/settingswindow/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 
@@ -261,5 +262,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestStateChoices)
+FERRIN_TEST(QGuiApplication, TestStateChoices)
 #include "test_statechoices.moc"

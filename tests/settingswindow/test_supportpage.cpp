@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/settingswindow/stage.h"
+#include "tests/support/testmain.h"
 
 #include <QTextDocument>
 #include <QTextFragment>
@@ -152,5 +153,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSupportPage)
+FERRIN_TEST(QGuiApplication, TestSupportPage)
 #include "test_supportpage.moc"

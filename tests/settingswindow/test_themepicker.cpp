@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/settingswindow/stage.h"
+#include "tests/support/testmain.h"
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -192,5 +193,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestThemePicker)
+FERRIN_TEST(QGuiApplication, TestThemePicker)
 #include "test_themepicker.moc"

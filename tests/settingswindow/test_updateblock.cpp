@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/settingswindow/stage.h"
+#include "tests/support/testmain.h"
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -166,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestUpdateBlock)
+FERRIN_TEST(QGuiApplication, TestUpdateBlock)
 #include "test_updateblock.moc"

@@ -3,6 +3,7 @@
 
 #include "settingswindow/updates/updatewindow.h"
 #include "tests/settingswindow/updatescenes.h"
+#include "tests/support/testmain.h"
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestUpdateView)
+FERRIN_TEST(QGuiApplication, TestUpdateView)
 #include "test_updateview.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/sources/registrybench.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -88,5 +89,5 @@ void TestAdapterDetails::findsNoFloatInAnEntryThatIsNotANumber()
     QVERIFY(!bench.value(Key::current).isValid());
 }
 
-QTEST_GUILESS_MAIN(TestAdapterDetails)
+FERRIN_TEST(QCoreApplication, TestAdapterDetails)
 #include "test_adapterdetails.moc"

@@ -4,6 +4,7 @@
 #include "sources/batterydatafromiops.h"
 #include "tests/support/fakepowersources.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -332,5 +333,5 @@ void TestBatteryDataFromIOPS::readsAnewForEveryEstimate()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-QTEST_GUILESS_MAIN(TestBatteryDataFromIOPS)
+FERRIN_TEST(QCoreApplication, TestBatteryDataFromIOPS)
 #include "test_batterydatafromiops.moc"

@@ -3,6 +3,7 @@
 
 #include "tests/sources/registrybench.h"
 #include "tests/support/lastwords.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -323,5 +324,5 @@ void TestBatteryDataFromIOService::hasNothingToCloseWithoutAService()
     QVERIFY(!reader.connected());
 }
 
-QTEST_GUILESS_MAIN(TestBatteryDataFromIOService)
+FERRIN_TEST(QCoreApplication, TestBatteryDataFromIOService)
 #include "test_batterydatafromioservice.moc"

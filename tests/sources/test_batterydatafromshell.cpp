@@ -4,6 +4,7 @@
 #include "sources/batterydatafromshell.h"
 #include "tests/support/fakeprocesslauncher.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -325,5 +326,5 @@ void TestBatteryDataFromShell::findsNoConditionIn()
     QCOMPARE(log.take(), QStringList(noCondition));
 }
 
-QTEST_GUILESS_MAIN(TestBatteryDataFromShell)
+FERRIN_TEST(QCoreApplication, TestBatteryDataFromShell)
 #include "test_batterydatafromshell.moc"

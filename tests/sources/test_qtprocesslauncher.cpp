@@ -4,6 +4,7 @@
 #include "sources/batterydatafromshell.h"
 #include "sources/qtprocesslauncher.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -193,5 +194,5 @@ void TestQtProcessLauncher::readsFiguresBuriedInAHundredMegabytes()
     QCOMPARE(reader.condition(), u"Normal"_s);
 }
 
-QTEST_GUILESS_MAIN(TestQtProcessLauncher)
+FERRIN_TEST(QCoreApplication, TestQtProcessLauncher)
 #include "test_qtprocesslauncher.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "sources/smartbatterykey.h"
+#include "tests/support/testmain.h"
 
 #include <QStringList>
 #include <QTest>
@@ -54,5 +55,5 @@ void TestSmartBatteryKey::namesTheFiguresInTheirOrder()
     QCOMPARE(rawValue(SmartBatteryKey::charge), u"Charge"_s);
 }
 
-QTEST_GUILESS_MAIN(TestSmartBatteryKey)
+FERRIN_TEST(QCoreApplication, TestSmartBatteryKey)
 #include "test_smartbatterykey.moc"

@@ -5,6 +5,7 @@
 #include "state/appcolorschemeprovider.h"
 #include "state/applicationappearance.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -124,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(AppColorSchemeTest)
+FERRIN_TEST(void, AppColorSchemeTest)
 #include "test_appcolorscheme.moc"

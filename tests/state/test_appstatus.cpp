@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/appstatus.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -73,5 +74,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(AppStatusTest)
+FERRIN_TEST(void, AppStatusTest)
 #include "test_appstatus.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/bundle.h"
+#include "tests/support/testmain.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -31,5 +32,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(BundleTest)
+FERRIN_TEST(void, BundleTest)
 #include "test_bundle.moc"

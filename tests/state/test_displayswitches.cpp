@@ -3,6 +3,7 @@
 
 #include "state/displayswitches.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/support/testmain.h"
 
 #include <QMetaProperty>
 #include <QTest>
@@ -132,5 +133,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DisplaySwitchesTest)
+FERRIN_TEST(QCoreApplication, DisplaySwitchesTest)
 #include "test_displayswitches.moc"

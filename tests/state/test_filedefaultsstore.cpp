@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/filedefaultsstore.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 #include <QFile>
@@ -277,5 +278,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileDefaultsStoreTest)
+FERRIN_TEST(QCoreApplication, FileDefaultsStoreTest)
 #include "test_filedefaultsstore.moc"

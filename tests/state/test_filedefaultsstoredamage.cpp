@@ -3,6 +3,7 @@
 
 #include "state/filedefaultsstore.h"
 #include "tests/state/filefaults.h"
+#include "tests/support/testmain.h"
 
 #include <QFile>
 #include <QTest>
@@ -202,5 +203,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileDefaultsStoreDamageTest)
+FERRIN_TEST(QCoreApplication, FileDefaultsStoreDamageTest)
 #include "test_filedefaultsstoredamage.moc"

@@ -4,6 +4,7 @@
 #include "state/filedefaultsstore.h"
 #include "state/filelock.h"
 #include "tests/state/filefaults.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 #include <QFile>
@@ -273,5 +274,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileDefaultsStoreFaultsTest)
+FERRIN_TEST(QCoreApplication, FileDefaultsStoreFaultsTest)
 #include "test_filedefaultsstorefaults.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/filelock.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 #include <QFile>
@@ -84,5 +85,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileLockTest)
+FERRIN_TEST(QCoreApplication, FileLockTest)
 #include "test_filelock.moc"

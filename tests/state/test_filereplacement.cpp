@@ -3,6 +3,7 @@
 
 #include "state/filereplacement.h"
 #include "tests/state/filefaults.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -67,5 +68,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(FileReplacementTest)
+FERRIN_TEST(QCoreApplication, FileReplacementTest)
 #include "test_filereplacement.moc"

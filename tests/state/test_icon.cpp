@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/icon.h"
+#include "tests/support/testmain.h"
 
 #include <QSet>
 #include <QTest>
@@ -84,5 +85,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(IconTest)
+FERRIN_TEST(void, IconTest)
 #include "test_icon.moc"

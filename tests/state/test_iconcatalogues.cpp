@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/iconcatalogues.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -101,5 +102,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(IconCataloguesTest)
+FERRIN_TEST(void, IconCataloguesTest)
 #include "test_iconcatalogues.moc"

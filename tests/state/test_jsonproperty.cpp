@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "state/jsonproperty.h"
+#include "tests/support/testmain.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -96,5 +97,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JsonPropertyTest)
+FERRIN_TEST(void, JsonPropertyTest)
 #include "test_jsonproperty.moc"

@@ -8,6 +8,7 @@
 #include "state/shareddefaults.h"
 #include "tests/support/lastwords.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/support/testmain.h"
 
 #include <QJsonObject>
 #include <QTest>
@@ -107,5 +108,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ProgrammingErrorsTest)
+FERRIN_TEST(void, ProgrammingErrorsTest)
 #include "test_programmingerrors.moc"

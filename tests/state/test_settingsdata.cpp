@@ -5,6 +5,7 @@
 #include "state/settingsdata.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -373,5 +374,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SettingsDataTest)
+FERRIN_TEST(QCoreApplication, SettingsDataTest)
 #include "test_settingsdata.moc"

@@ -3,6 +3,7 @@
 
 #include "platform/linux/session/autostartentry.h"
 #include "tests/platform/session/session.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 #include <QFile>
@@ -384,5 +385,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(AutostartEntryTest)
+FERRIN_TEST(QCoreApplication, AutostartEntryTest)
 #include "test_autostartentry.moc"

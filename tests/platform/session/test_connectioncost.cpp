@@ -3,6 +3,7 @@
 
 #include "platform/linux/session/connectioncost.h"
 #include "tests/support/privatebus.h"
+#include "tests/support/testmain.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -178,5 +179,5 @@ void TestConnectionCost::staysSilentWhenItIsGone()
     QCOMPARE(told, 0);
 }
 
-QTEST_GUILESS_MAIN(TestConnectionCost)
+FERRIN_TEST(QCoreApplication, TestConnectionCost)
 #include "test_connectioncost.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/session/desktopentry.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -161,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DesktopEntryTest)
+FERRIN_TEST(QCoreApplication, DesktopEntryTest)
 #include "test_desktopentry.moc"

@@ -4,6 +4,7 @@
 #include "platform/linux/session/desktoplinkopener.h"
 #include "tests/platform/session/fakeprogramstarter.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 #include <QUrl>
@@ -189,5 +190,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DesktopLinkOpenerTest)
+FERRIN_TEST(QCoreApplication, DesktopLinkOpenerTest)
 #include "test_desktoplinkopener.moc"

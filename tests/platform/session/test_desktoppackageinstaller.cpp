@@ -3,6 +3,7 @@
 
 #include "platform/linux/session/desktoppackageinstaller.h"
 #include "tests/platform/session/fakeprogramstarter.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -70,5 +71,5 @@ void TestDesktopPackageInstaller::saysWhenThereIsNobody()
     QVERIFY(starter.started.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestDesktopPackageInstaller)
+FERRIN_TEST(QCoreApplication, TestDesktopPackageInstaller)
 #include "test_desktoppackageinstaller.moc"

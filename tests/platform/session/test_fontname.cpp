@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/session/fontname.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -47,5 +48,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(FontNameTest)
+FERRIN_TEST(void, FontNameTest)
 #include "test_fontname.moc"

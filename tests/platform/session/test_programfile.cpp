@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/session/programfile.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -126,5 +127,5 @@ void TestProgramFile::knowsAReplacementThatNobodyTold()
     QVERIFY(f.file->isReplaced());
 }
 
-QTEST_GUILESS_MAIN(TestProgramFile)
+FERRIN_TEST(QCoreApplication, TestProgramFile)
 #include "test_programfile.moc"

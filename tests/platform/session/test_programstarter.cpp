@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/session/programstarter.h"
+#include "tests/support/testmain.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -65,5 +66,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ProgramStarterTest)
+FERRIN_TEST(QCoreApplication, ProgramStarterTest)
 #include "test_programstarter.moc"

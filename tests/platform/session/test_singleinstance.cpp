@@ -4,6 +4,7 @@
 #include "platform/linux/session/singleinstance.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/privatebus.h"
+#include "tests/support/testmain.h"
 
 #include <QDBusMessage>
 #include <QSignalSpy>
@@ -113,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SingleInstanceTest)
+FERRIN_TEST(QCoreApplication, SingleInstanceTest)
 #include "test_singleinstance.moc"

@@ -5,6 +5,7 @@
 #include "state/appcolorschemeprovider.h"
 #include "tests/platform/session/fakeportal.h"
 #include "tests/support/privatebus.h"
+#include "tests/support/testmain.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -273,5 +274,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(SystemAppearanceTest)
+FERRIN_TEST(QGuiApplication, SystemAppearanceTest)
 #include "test_systemappearance.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTemporaryFile>
 #include <QTest>
@@ -212,5 +213,5 @@ void TestAdapters::takesNoUsbIdForAName()
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestAdapters)
+FERRIN_TEST(QCoreApplication, TestAdapters)
 #include "test_adapters.moc"

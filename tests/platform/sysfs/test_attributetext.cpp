@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/power/sysfs/attributetext.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -113,5 +114,5 @@ void TestAttributeText::survivesAnyBytes()
     }
 }
 
-QTEST_GUILESS_MAIN(TestAttributeText)
+FERRIN_TEST(QCoreApplication, TestAttributeText)
 #include "test_attributetext.moc"

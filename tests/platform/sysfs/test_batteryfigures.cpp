@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/power/sysfs/batteryfigures.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -202,5 +203,5 @@ void TestBatteryFigures::knowsNoChargingWithoutAStatus()
     QCOMPARE(isCharging(packsOf({ battery({}), battery(ChargeStatus::Charging) })), true);
 }
 
-QTEST_GUILESS_MAIN(TestBatteryFigures)
+FERRIN_TEST(QCoreApplication, TestBatteryFigures)
 #include "test_batteryfigures.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/breakablelaptop.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 #include <QFile>
@@ -199,5 +200,5 @@ void TestChanges::staysSaneOnAnyTextInAnyAttribute()
     }
 }
 
-QTEST_GUILESS_MAIN(TestChanges)
+FERRIN_TEST(QCoreApplication, TestChanges)
 #include "test_changes.moc"

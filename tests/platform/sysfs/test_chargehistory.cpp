@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/power/sysfs/chargehistory.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -145,5 +146,5 @@ void TestChargeHistory::hasNoChargeBeforeTheFirstThatCouldBeRead()
     QCOMPARE(gauges.sample({ 0 }, 60s, true), Percents { 0 });
 }
 
-QTEST_GUILESS_MAIN(TestChargeHistory)
+FERRIN_TEST(QCoreApplication, TestChargeHistory)
 #include "test_chargehistory.moc"

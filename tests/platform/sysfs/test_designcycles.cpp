@@ -3,6 +3,7 @@
 
 #include "platform/linux/power/sysfs/designcycles.h"
 #include "tests/support/fakesysfs.h"
+#include "tests/support/testmain.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -92,5 +93,5 @@ void TestDesignCycles::hasNoFigureWithoutATable()
     QVERIFY(!designCycles({}, R"({"notebooks": {"cycles": "300"}})"));
 }
 
-QTEST_GUILESS_MAIN(TestDesignCycles)
+FERRIN_TEST(QCoreApplication, TestDesignCycles)
 #include "test_designcycles.moc"

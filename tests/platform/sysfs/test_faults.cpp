@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/breakablelaptop.h"
+#include "tests/support/testmain.h"
 
 #include <QDir>
 
@@ -202,5 +203,5 @@ void TestFaults::leaksNoFileWhateverItMeets()
     QCOMPARE(openFiles(), before);
 }
 
-QTEST_GUILESS_MAIN(TestFaults)
+FERRIN_TEST(QCoreApplication, TestFaults)
 #include "test_faults.moc"

@@ -5,6 +5,7 @@
 #include "platform/linux/power/sysfs/supplyreader.h"
 #include "platform/linux/power/sysfs/sysfsregistry.h"
 #include "tests/support/fakesysfs.h"
+#include "tests/support/testmain.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -170,5 +171,5 @@ void TestMachines::staysSaneOnEveryRecord()
     }
 }
 
-QTEST_GUILESS_MAIN(TestMachines)
+FERRIN_TEST(QCoreApplication, TestMachines)
 #include "test_machines.moc"

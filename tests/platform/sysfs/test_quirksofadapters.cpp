@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -170,5 +171,5 @@ void TestQuirksOfAdapters::cleansNamesOfGarbage()
         QVERIFY2(!nameIs(placeholder).isValid(), placeholder);
 }
 
-QTEST_GUILESS_MAIN(TestQuirksOfAdapters)
+FERRIN_TEST(QCoreApplication, TestQuirksOfAdapters)
 #include "test_quirksofadapters.moc"

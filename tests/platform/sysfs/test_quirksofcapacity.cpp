@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -146,5 +147,5 @@ void TestQuirksOfCapacity::ignoresADesignVoltageOfOneMillivolt()
     QCOMPARE(laptop.fresh(u"AppleRawMaxCapacity").toInt(), 5110);
 }
 
-QTEST_GUILESS_MAIN(TestQuirksOfCapacity)
+FERRIN_TEST(QCoreApplication, TestQuirksOfCapacity)
 #include "test_quirksofcapacity.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -222,5 +223,5 @@ void TestQuirksOfCharge::doesNotCareForAThresholdOfGarbage()
     QCOMPARE(laptop.said(u"TimeRemaining").toInt(), 17);
 }
 
-QTEST_GUILESS_MAIN(TestQuirksOfCharge)
+FERRIN_TEST(QCoreApplication, TestQuirksOfCharge)
 #include "test_quirksofcharge.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -135,5 +136,5 @@ void TestQuirksOfFlow::hasNoTimeAtTheSentinelOf65535Minutes()
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 599);
 }
 
-QTEST_GUILESS_MAIN(TestQuirksOfFlow)
+FERRIN_TEST(QCoreApplication, TestQuirksOfFlow)
 #include "test_quirksofflow.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -133,5 +134,5 @@ void TestQuirksOfSupplies::followsAPackThatIsSwapped()
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 22);
 }
 
-QTEST_GUILESS_MAIN(TestQuirksOfSupplies)
+FERRIN_TEST(QCoreApplication, TestQuirksOfSupplies)
 #include "test_quirksofsupplies.moc"

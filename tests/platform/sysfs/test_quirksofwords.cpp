@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -146,5 +147,5 @@ void TestQuirksOfWords::takesTheSentinelOfSixteenBitsForNoTime()
     QCOMPARE(other.fresh(u"TimeRemaining").toInt(), 200);
 }
 
-QTEST_GUILESS_MAIN(TestQuirksOfWords)
+FERRIN_TEST(QCoreApplication, TestQuirksOfWords)
 #include "test_quirksofwords.moc"

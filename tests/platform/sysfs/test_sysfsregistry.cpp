@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/sysfs/laptop.h"
+#include "tests/support/testmain.h"
 
 #include <QCoreApplication>
 #include <QDirIterator>
@@ -256,5 +257,5 @@ void TestSysfsRegistry::startsTheSmoothingAnewWhenUnplugged()
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 60);
 }
 
-QTEST_GUILESS_MAIN(TestSysfsRegistry)
+FERRIN_TEST(QCoreApplication, TestSysfsRegistry)
 #include "test_sysfsregistry.moc"

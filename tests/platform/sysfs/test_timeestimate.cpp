@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/power/sysfs/timeestimate.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -245,5 +246,5 @@ void TestTimeEstimate::isAbsentWithoutADirection()
     QVERIFY(!estimate.update(load(10), std::nullopt, 0s));
 }
 
-QTEST_GUILESS_MAIN(TestTimeEstimate)
+FERRIN_TEST(QCoreApplication, TestTimeEstimate)
 #include "test_timeestimate.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/power/upower/settlingperiod.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -84,5 +85,5 @@ void SettlingPeriodTest::forgetsTheAdapterWhenItIsOver()
     QCOMPARE(m_period.onExternalPower(), std::nullopt);
 }
 
-QTEST_GUILESS_MAIN(SettlingPeriodTest)
+FERRIN_TEST(QCoreApplication, SettlingPeriodTest)
 #include "test_settlingperiod.moc"

@@ -3,6 +3,7 @@
 
 #include "platform/linux/power/upower/upowerdescription.h"
 #include "tests/platform/upower/devices.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -297,5 +298,5 @@ void UPowerDescriptionTest::saysStillEstimatingInOneDirectionOnlyWhileSettling()
     QCOMPARE(describeSettling(settled, PowerFlow::Resting), expected);
 }
 
-QTEST_GUILESS_MAIN(UPowerDescriptionTest)
+FERRIN_TEST(QCoreApplication, UPowerDescriptionTest)
 #include "test_upowerdescription.moc"

@@ -3,6 +3,7 @@
 
 #include "platform/linux/power/upower/upowerdescription.h"
 #include "tests/platform/upower/devices.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 
@@ -166,5 +167,5 @@ void UPowerDeviceTest::isAPowerSourceUnlessItIsKnownToBeAbsent()
     QVERIFY(!device.isPowerSource());
 }
 
-QTEST_GUILESS_MAIN(UPowerDeviceTest)
+FERRIN_TEST(QCoreApplication, UPowerDeviceTest)
 #include "test_upowerdevice.moc"

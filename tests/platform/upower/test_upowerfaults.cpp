@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/upower/serviceonthebus.h"
+#include "tests/support/testmain.h"
 
 #include <QTest>
 #include <QTimer>
@@ -172,5 +173,5 @@ void UPowerFaultsTest::believesNobodyButTheDaemon()
     QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
 }
 
-QTEST_GUILESS_MAIN(UPowerFaultsTest)
+FERRIN_TEST(QCoreApplication, UPowerFaultsTest)
 #include "test_upowerfaults.moc"

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/upower/serviceonthebus.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -153,5 +154,5 @@ void UPowerPresenceTest::livesOnWhenTheBusDies()
     QTRY_COMPARE(allLines(), QStringList(u"error: UPower has left the bus"_s));
 }
 
-QTEST_GUILESS_MAIN(UPowerPresenceTest)
+FERRIN_TEST(QCoreApplication, UPowerPresenceTest)
 #include "test_upowerpresence.moc"

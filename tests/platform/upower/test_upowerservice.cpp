@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "tests/platform/upower/serviceonthebus.h"
+#include "tests/support/testmain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -246,5 +247,5 @@ void UPowerServiceTest::isStillEstimatingInTheNewDirectionBeforeTheDaemonNoticed
     QCOMPARE(factOf(service.get(), u"Time to Full Charge"_s), QVariant(-1));
 }
 
-QTEST_GUILESS_MAIN(UPowerServiceTest)
+FERRIN_TEST(QCoreApplication, UPowerServiceTest)
 #include "test_upowerservice.moc"
