@@ -9,13 +9,12 @@
 namespace ferrin {
 
 PowerPlatform::PowerPlatform(const QDBusConnection &systemBus)
-    : m_upower(systemBus)
+    : m_upower(systemBus, [this] { return m_registry.externalPower(); })
     , m_events(systemBus)
     , m_launcher(privateFolder())
 {
-    connect(&m_upower, &UPowerService::powerStateChanged, &m_events, &PowerEvents::noteUPower);
-    connect(&m_events, &PowerEvents::powerSourceChanged, &m_upower, &UPowerService::settle);
-    connect(&m_events, &PowerEvents::woke, &m_upower, [this] { m_upower.settle(std::nullopt); });
+    connect(&m_upower, &UPowerService::powerStateChanged, &m_events, &PowerEvents::scheduleChanged);
+    connect(&m_events, &PowerEvents::woke, &m_upower, &UPowerService::settleAfterWaking);
 }
 
 BatteryDataProvider::Platform PowerPlatform::parts()

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "core/batterydataprovider.h"
+#include "platform/linux/power/events/powerevents.h"
 #include "platform/linux/power/sysfs/sysfsregistry.h"
-#include "platform/linux/power/upower/powerevents.h"
 #include "platform/linux/power/upower/upowerservice.h"
 #include "sources/qtprocesslauncher.h"
 
@@ -13,8 +13,8 @@
 
 namespace ferrin {
 
-/// Where the battery's figures come from on Linux, and what tells that they changed: the parts that
-/// the process-wide provider is made of, wired to each other. Owned by `main`, for the life of the
+/// The sources of the battery's figures on Linux and of the events that they changed, connected to
+/// each other: what the process-wide provider is made of. Owned by `main`, for the life of the
 /// process.
 class PowerPlatform final : public QObject
 {
@@ -25,8 +25,8 @@ public:
 
     [[nodiscard]] BatteryDataProvider::Platform parts();
 
-    /// From now on the process-wide provider's fast refresh is also called early, once for each
-    /// change of power and each waking.
+    /// From now on the process-wide provider also refreshes as soon as a supply changes or the
+    /// machine wakes, not only when its timer fires.
     void refreshEarly();
 
 private:

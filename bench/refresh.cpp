@@ -68,7 +68,7 @@ public:
 struct Subject
 {
     explicit Subject(const QString &root)
-        : registry({ .root = root.toStdString(), .usbVendors = {}, .clock = {} })
+        : registry({ .root = root.toStdString(), .usbVendors = {} })
     {
     }
 

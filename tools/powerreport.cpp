@@ -6,6 +6,7 @@
 #include "platform/linux/power/sysfs/attributetext.h"
 #include "platform/linux/power/sysfs/batteryfigures.h"
 #include "platform/linux/power/sysfs/batteryrecords.h"
+#include "platform/linux/power/sysfs/externalpower.h"
 #include "platform/linux/power/sysfs/pack.h"
 
 #include <algorithm>

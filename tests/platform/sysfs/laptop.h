@@ -37,14 +37,14 @@ public:
     [[nodiscard]] QVariantMap adapter() { return fresh(u"AdapterDetails").toMap(); }
     [[nodiscard]] bool absent(QStringView key) { return !fresh(key).isValid(); }
 
-    void pass(SysfsRegistry::Time time) { m_now += time; }
+    void pass(std::chrono::milliseconds time) { m_now += time; }
 
     FakeSysfs sysfs;
 
     SysfsRegistry &registry() { return m_registry; }
 
 private:
-    SysfsRegistry::Time m_now { 1'000'000 };
+    std::chrono::steady_clock::time_point m_now { std::chrono::hours(1) };
     SysfsRegistry m_registry;
 };
 

@@ -32,8 +32,8 @@ void TestAttributeText::readsNumbersOfAnySign()
 {
     QCOMPARE(numberOf("0"), 0);
     QCOMPARE(numberOf("-8597000"), -8'597'000);
-    QCOMPARE(numberOf("9223372036854775807"), std::numeric_limits<std::int64_t>::max());
-    QCOMPARE(numberOf("-9223372036854775808"), std::numeric_limits<std::int64_t>::min());
+    QCOMPARE(numberOf("9223372036854775807"), std::numeric_limits<qint64>::max());
+    QCOMPARE(numberOf("-9223372036854775808"), std::numeric_limits<qint64>::min());
 }
 
 void TestAttributeText::takesNothingButAWholeNumber()

@@ -20,10 +20,6 @@ private Q_SLOTS:
     void hasNoSumWhenOnePackDoesNotKnow();
     void hasNoFiguresWithoutPacks();
     void countsPhantomsOnlyWhenThereIsNothingElse();
-    void asksTheBatteriesWhereNoSupplyTells_data();
-    void asksTheBatteriesWhereNoSupplyTells();
-    void ignoresASupplyThatDoesNotTell();
-    void doesNotTakeAPackThatFeedsAnotherForExternalPower();
     void isFullOnlyWhenEveryPackIs();
     void isChargedAt95PercentOnExternalPowerOnly_data();
     void isChargedAt95PercentOnExternalPowerOnly();
@@ -39,14 +35,6 @@ BatterySupply battery(std::optional<ChargeStatus> status, Reading capacity = {},
     made.capacity = capacity;
     made.energyNow = energyNow;
     made.energyFull = energyFull;
-    return made;
-}
-
-AdapterSupply adapter(SupplyType type, Reading online)
-{
-    AdapterSupply made;
-    made.type = type;
-    made.online = online;
     return made;
 }
 
@@ -103,7 +91,6 @@ void TestBatteryFigures::hasNoFiguresWithoutPacks()
     QVERIFY(!chargePercent({}));
     QVERIFY(!fullMilliampHours({}));
     QVERIFY(!remainingMilliampHours({}));
-    QVERIFY(!externalConnected({}));
     QVERIFY(!isCharging({}));
     QVERIFY(!isFullyCharged({}, true));
 }
@@ -115,45 +102,6 @@ void TestBatteryFigures::countsPhantomsOnlyWhenThereIsNothingElse()
     QCOMPARE(realPacks(packsOf({ phantom, real })).size(), 1U);
     QCOMPARE(realPacks(packsOf({ phantom, phantom })).size(), 2U);
     QCOMPARE(realPacks(packsOf({ battery(discharging), real })).size(), 2U);
-}
-
-void TestBatteryFigures::asksTheBatteriesWhereNoSupplyTells_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("charging") << int(ChargeStatus::Charging) << 1;
-    QTest::newRow("full") << int(ChargeStatus::Full) << 1;
-    QTest::newRow("not charging") << int(ChargeStatus::NotCharging) << 1;
-    QTest::newRow("discharging") << int(ChargeStatus::Discharging) << 0;
-    QTest::newRow("unknown") << int(ChargeStatus::Unknown) << -1;
-}
-
-void TestBatteryFigures::asksTheBatteriesWhereNoSupplyTells()
-{
-    QFETCH(int, status);
-    PowerSupplies supplies;
-    supplies.batteries = { battery(static_cast<ChargeStatus>(status)) };
-    const std::optional<bool> external = externalConnected(supplies);
-    QTEST(external ? int(*external) : -1, "expected");
-}
-
-void TestBatteryFigures::ignoresASupplyThatDoesNotTell()
-{
-    PowerSupplies supplies;
-    supplies.adapters = { adapter(SupplyType::Mains, {}) };
-    QVERIFY(!externalConnected(supplies));
-    supplies.adapters.push_back(adapter(SupplyType::Wireless, 1));
-    QCOMPARE(externalConnected(supplies), true);
-    supplies.adapters.back().online = 0;
-    QCOMPARE(externalConnected(supplies), false);
-}
-
-void TestBatteryFigures::doesNotTakeAPackThatFeedsAnotherForExternalPower()
-{
-    PowerSupplies supplies;
-    supplies.adapters = { adapter(SupplyType::Mains, 0) };
-    supplies.batteries = { battery(ChargeStatus::Charging), battery(discharging) };
-    QCOMPARE(externalConnected(supplies), false);
 }
 
 void TestBatteryFigures::isFullOnlyWhenEveryPackIs()

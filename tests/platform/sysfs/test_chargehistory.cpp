@@ -31,11 +31,11 @@ namespace {
 struct Gauges
 {
     ChargeHistory history;
-    ChargeHistory::Time moment { 0 };
+    ChargeHistory::Time moment;
 
     // One sample of packs named a, b, c...; what is left after settling.
     std::vector<std::optional<int>> sample(const std::vector<std::optional<int>> &percents,
-                                           ChargeHistory::Time later = 5s, bool drained = false)
+                                           std::chrono::seconds later = 5s, bool drained = false)
     {
         moment += later;
         std::vector<BatterySupply> batteries(percents.size());

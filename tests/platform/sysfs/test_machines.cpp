@@ -80,7 +80,7 @@ void TestMachines::saysWhatACarefulPersonSays()
     const QJsonObject expected = m_expected.value(machine).toObject();
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(machine));
-    SysfsRegistry registry({ sysfs.root(), {}, {} });
+    SysfsRegistry registry({ sysfs.root(), {} });
     const RegistryService::Handle handle = service(registry);
     QVERIFY(handle != 0);
     for (const QString &figure : figures) {
@@ -143,7 +143,7 @@ void TestMachines::findsNoServiceWithoutASystemBattery()
     QFETCH(QString, machine);
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(machine));
-    SysfsRegistry registry({ sysfs.root(), {}, {} });
+    SysfsRegistry registry({ sysfs.root(), {} });
     QCOMPARE(service(registry), 0U);
 }
 
@@ -159,7 +159,7 @@ void TestMachines::staysSaneOnEveryRecord()
     QFETCH(QString, machine);
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(machine));
-    SysfsRegistry registry({ sysfs.root(), {}, {} });
+    SysfsRegistry registry({ sysfs.root(), {} });
     for (int refresh = 0; refresh < 3; ++refresh, registry.expire()) {
         const QVariant charge = registry.createProperty(1, u"CurrentCapacity"_s);
         QVERIFY(!charge.isValid() || (charge.toInt() >= 0 && charge.toInt() <= 100));

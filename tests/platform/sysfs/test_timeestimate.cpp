@@ -51,7 +51,7 @@ Pack pack(Reading now, Reading full, Reading rate, ChargeStatus status = ChargeS
 // 50 Wh at so many watts.
 std::vector<Pack> load(double watts)
 {
-    return { pack(50'000'000, 50'000'000, static_cast<std::int64_t>(watts * 1e6)) };
+    return { pack(50'000'000, 50'000'000, static_cast<qint64>(watts * 1e6)) };
 }
 
 std::optional<std::chrono::minutes> once(const std::vector<Pack> &packs, Direction direction)

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDBusMessage>
-#include <QDBusVariant>
 
 #include <csignal>
 
@@ -54,11 +53,6 @@ void FakeUPower::setDeviceQuietly(const QString &name, const QVariantMap &proper
 void FakeUPower::removeDevice(const QString &name)
 {
     control(u"RemoveDevice"_s, { path(name) });
-}
-
-void FakeUPower::setOnBattery(const QVariant &value)
-{
-    control(u"SetOnBattery"_s, { QVariant::fromValue(QDBusVariant(value)) });
 }
 
 void FakeUPower::addMany(const QString &prefix, uint count, const QVariantMap &properties)

@@ -31,8 +31,6 @@ public:
     /// Changes the device, and says only that it has changed.
     void setDeviceQuietly(const QString &name, const QVariantMap &properties);
     void removeDevice(const QString &name);
-    /// A value of any type.
-    void setOnBattery(const QVariant &value);
     /// Adds devices whose names are the prefix and a number, without a word.
     void addMany(const QString &prefix, uint count, const QVariantMap &properties);
     /// The device will vanish while it is asked about.

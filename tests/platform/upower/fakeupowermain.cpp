@@ -62,7 +62,6 @@ private:
 
     QDBusConnection m_bus;
     std::map<QString, QVariantMap> m_devices;
-    QVariant m_onBattery = false;
     /// Answers with text where something else belongs.
     bool m_talksNonsense = false;
     /// Refuses everything with this text; empty means that it does not.
@@ -96,8 +95,6 @@ QDBusMessage FakeUPower::answerTo(const QDBusMessage &message)
             paths.append(QDBusObjectPath(path));
         return message.createReply(QVariant::fromValue(paths));
     }
-    if (message.member() == u"Get"_s)
-        return message.createReply(QVariant::fromValue(QDBusVariant(m_onBattery)));
     return tellAll(message);
 }
 
@@ -122,9 +119,6 @@ QDBusMessage FakeUPower::obey(const QDBusMessage &message)
         emitProperties(first, deviceInterface, {}, { u"State"_s });
     } else if (message.member() == u"RemoveDevice"_s) {
         removeDevice(first);
-    } else if (message.member() == u"SetOnBattery"_s) {
-        m_onBattery = arguments.at(0).value<QDBusVariant>().variant();
-        emitProperties(daemonPath, daemonInterface, { { u"OnBattery"_s, m_onBattery } });
     } else if (message.member() == u"AddMany"_s) {
         for (uint number = 0; number < arguments.at(1).toUInt(); ++number)
             m_devices[u"%1%2"_s.arg(first).arg(number)] = qdbus_cast<QVariantMap>(arguments.at(2));

@@ -76,7 +76,8 @@ const QStringList &ServiceOnTheBus::allLines()
 
 std::unique_ptr<UPowerService> ServiceOnTheBus::makeService()
 {
-    return std::make_unique<UPowerService>(m_bus->connect(), [this] { return m_time; });
+    return std::make_unique<UPowerService>(
+        m_bus->connect(), [this] { return m_externalPower; }, [this] { return m_time; });
 }
 
 } // namespace ferrin::test

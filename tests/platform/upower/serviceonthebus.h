@@ -43,6 +43,8 @@ protected:
     [[nodiscard]] const QStringList &allLines();
     [[nodiscard]] std::unique_ptr<UPowerService> makeService();
 
+    /// What the service gets for the kernel's answer.
+    std::optional<bool> m_externalPower;
     std::chrono::steady_clock::time_point m_time;
     std::optional<LogCapture> m_log;
     QStringList m_lines;

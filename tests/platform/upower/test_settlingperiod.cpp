@@ -35,7 +35,7 @@ void SettlingPeriodTest::init()
 void SettlingPeriodTest::doesNotRunBeforeAnythingHappened()
 {
     QVERIFY(!m_period.isRunning());
-    QCOMPARE(m_period.onExternalPower(), std::nullopt);
+    QCOMPARE(m_period.externalPower(), std::nullopt);
 }
 
 void SettlingPeriodTest::runsForTenSecondsAndNotLonger()
@@ -62,9 +62,9 @@ void SettlingPeriodTest::beginsAnewWithEachEvent()
 void SettlingPeriodTest::knowsWhatTheLastEventSaidOfTheAdapter()
 {
     m_period.begin(true);
-    QCOMPARE(m_period.onExternalPower(), std::optional(true));
+    QCOMPARE(m_period.externalPower(), std::optional(true));
     m_period.begin(false);
-    QCOMPARE(m_period.onExternalPower(), std::optional(false));
+    QCOMPARE(m_period.externalPower(), std::optional(false));
 }
 
 void SettlingPeriodTest::keepsTheAdapterWhenTheMachineWakesWithin()
@@ -72,17 +72,17 @@ void SettlingPeriodTest::keepsTheAdapterWhenTheMachineWakesWithin()
     m_period.begin(true);
     m_time += 1s;
     m_period.begin(std::nullopt);
-    QCOMPARE(m_period.onExternalPower(), std::optional(true));
+    QCOMPARE(m_period.externalPower(), std::optional(true));
 }
 
 void SettlingPeriodTest::forgetsTheAdapterWhenItIsOver()
 {
     m_period.begin(true);
     m_time += 10s;
-    QCOMPARE(m_period.onExternalPower(), std::nullopt);
+    QCOMPARE(m_period.externalPower(), std::nullopt);
     m_period.begin(std::nullopt);
     QVERIFY(m_period.isRunning());
-    QCOMPARE(m_period.onExternalPower(), std::nullopt);
+    QCOMPARE(m_period.externalPower(), std::nullopt);
 }
 
 FERRIN_TEST(QCoreApplication, SettlingPeriodTest)

@@ -3,7 +3,9 @@
 
 // Runs on the virtual laptop, against the real UPower that it has.
 
-#include "platform/linux/power/upower/powerevents.h"
+#include "platform/linux/power/events/powerevents.h"
+#include "platform/linux/power/sysfs/externalpower.h"
+#include "platform/linux/power/sysfs/supplyreader.h"
 #include "platform/linux/power/upower/upowerservice.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/virtuallaptop.h"
@@ -54,12 +56,12 @@ void UPowerDaemonTest::init()
     // Not the shared one: as in the program, but new for each test.
     const QDBusConnection bus = QDBusConnection::connectToBus(
         QDBusConnection::SystemBus, QString::fromUtf8(QTest::currentTestFunction()));
-    m_service = std::make_unique<UPowerService>(bus, [this] { return m_time; });
+    m_service = std::make_unique<UPowerService>(
+        bus, [] { return externalConnected(SupplyReader("/sys").read()); },
+        [this] { return m_time; });
     m_events = std::make_unique<PowerEvents>(bus);
-    connect(m_events.get(), &PowerEvents::powerSourceChanged, m_service.get(),
-            &UPowerService::settle);
     connect(m_service.get(), &UPowerService::powerStateChanged, m_events.get(),
-            &PowerEvents::noteUPower);
+            &PowerEvents::scheduleChanged);
     QTRY_COMPARE(fact(u"Is Charging"_s), QVariant(false));
 }
 

@@ -55,8 +55,8 @@ private Q_SLOTS:
     void roundsAKnownTimeDownButNeverToNothing();
     void hasNoKeyForAFactThatIsNotKnown();
     void goesByTheTimesWhenTheStateIsUnknown();
-    void goesByTheDaemonWhenStateAndTimesAreUnknown();
-    void believesADischargingBatteryMoreThanTheDaemon();
+    void goesByExternalPowerWhenStateAndTimesAreUnknown();
+    void prefersADischargingBatteryToExternalPower();
     void callsAUpsAUps();
     void namesADeviceWithoutAModelAfterItsPath();
     void keepsTheOrderOfPacksThatAreAlike();
@@ -82,7 +82,7 @@ void UPowerDescriptionTest::tellsAllFactsOfADischargingBattery()
         { u"Is Present"_s, true },
         { u"Power Source State"_s, u"Battery Power"_s },
     };
-    QCOMPARE(describe(named(pack(UPowerState::Discharging, 135min), u"PABAS0241231"_s), true),
+    QCOMPARE(describe(named(pack(UPowerState::Discharging, 135min), u"PABAS0241231"_s), false),
              expected);
 }
 
@@ -99,7 +99,7 @@ void UPowerDescriptionTest::tellsAllFactsOfAChargingBattery()
         { u"Is Present"_s, true },
         { u"Power Source State"_s, u"AC Power"_s },
     };
-    QCOMPARE(describe(named(pack(UPowerState::Charging, 0s, 52min), u"PABAS0241231"_s), false),
+    QCOMPARE(describe(named(pack(UPowerState::Charging, 0s, 52min), u"PABAS0241231"_s), true),
              expected);
 }
 
@@ -175,17 +175,17 @@ void UPowerDescriptionTest::goesByTheTimesWhenTheStateIsUnknown()
     QCOMPARE(toFull(pack(UPowerState::Unknown, 0s, 1h)), QVariant(60));
 }
 
-void UPowerDescriptionTest::goesByTheDaemonWhenStateAndTimesAreUnknown()
+void UPowerDescriptionTest::goesByExternalPowerWhenStateAndTimesAreUnknown()
 {
-    const QVariantMap description = describe(pack(UPowerState::Unknown), true);
+    const QVariantMap description = describe(pack(UPowerState::Unknown), false);
     QCOMPARE(description.value(u"Time to Empty"_s), QVariant(-1));
     QCOMPARE(description.value(u"Time to Full Charge"_s), QVariant(0));
     QCOMPARE(description.value(u"Power Source State"_s), QVariant(u"Battery Power"_s));
 }
 
-void UPowerDescriptionTest::believesADischargingBatteryMoreThanTheDaemon()
+void UPowerDescriptionTest::prefersADischargingBatteryToExternalPower()
 {
-    const QVariantMap description = describe(pack(UPowerState::Discharging, 1h), false);
+    const QVariantMap description = describe(pack(UPowerState::Discharging, 1h), true);
     QCOMPARE(description.value(u"Power Source State"_s), QVariant(u"Battery Power"_s));
     QCOMPARE(description.value(u"Time to Empty"_s), QVariant(60));
 }
@@ -194,23 +194,23 @@ void UPowerDescriptionTest::callsAUpsAUps()
 {
     UPowerDevice ups = pack(UPowerState::FullyCharged, 2250s);
     ups.kind = UPowerKind::Ups;
-    QCOMPARE(describe(ups, false).value(u"Type"_s), QVariant(u"UPS"_s));
+    QCOMPARE(describe(ups, true).value(u"Type"_s), QVariant(u"UPS"_s));
 }
 
 void UPowerDescriptionTest::namesADeviceWithoutAModelAfterItsPath()
 {
     UPowerDevice device = pack(UPowerState::Charging);
     device.nativePath = u"/sys/devices/power_supply/CMB1"_s;
-    QCOMPARE(describe(device, false).value(u"Name"_s), QVariant(u"CMB1"_s));
+    QCOMPARE(describe(device, true).value(u"Name"_s), QVariant(u"CMB1"_s));
     device.nativePath.reset();
-    QVERIFY(!describe(device, false).contains(u"Name"_s));
+    QVERIFY(!describe(device, true).contains(u"Name"_s));
 }
 
 void UPowerDescriptionTest::keepsTheOrderOfPacksThatAreAlike()
 {
     const QList<UPowerDevice> packs { named(pack(UPowerState::Discharging, 2h), u"first"_s),
                                       named(pack(UPowerState::Discharging, 1h), u"second"_s) };
-    QCOMPARE(namesOf(powerSourcesInOrder(packs, true)), QStringList({ u"first"_s, u"second"_s }));
+    QCOMPARE(namesOf(powerSourcesInOrder(packs, false)), QStringList({ u"first"_s, u"second"_s }));
 }
 
 void UPowerDescriptionTest::putsThePackWithATimeBeforeThoseThatOnlySeemToBeInUse()
@@ -219,7 +219,7 @@ void UPowerDescriptionTest::putsThePackWithATimeBeforeThoseThatOnlySeemToBeInUse
                                       named(pack(UPowerState::Discharging, 0s), u"empty"_s),
                                       named(pack(UPowerState::Discharging, 80min), u"used"_s),
                                       named(pack(UPowerState::PendingCharge), u"rests"_s) };
-    QCOMPARE(namesOf(powerSourcesInOrder(packs, true)),
+    QCOMPARE(namesOf(powerSourcesInOrder(packs, false)),
              QStringList({ u"used"_s, u"waits"_s, u"empty"_s, u"rests"_s }));
 }
 
@@ -228,7 +228,7 @@ void UPowerDescriptionTest::putsThePackInUseFirst()
     const QList<UPowerDevice> packs { named(pack(UPowerState::PendingDischarge), u"waits"_s),
                                       named(pack(UPowerState::Empty), u"empty"_s),
                                       named(pack(UPowerState::Discharging, 1h), u"used"_s) };
-    QCOMPARE(namesOf(powerSourcesInOrder(packs, true)),
+    QCOMPARE(namesOf(powerSourcesInOrder(packs, false)),
              QStringList({ u"used"_s, u"waits"_s, u"empty"_s }));
 }
 
@@ -237,7 +237,7 @@ void UPowerDescriptionTest::putsBatteriesBeforeUpses()
     UPowerDevice ups = named(pack(UPowerState::Charging), u"ups"_s);
     ups.kind = UPowerKind::Ups;
     const QList<UPowerDevice> devices { ups, named(pack(UPowerState::FullyCharged), u"battery"_s) };
-    QCOMPARE(namesOf(powerSourcesInOrder(devices, false)), QStringList({ u"battery"_s, u"ups"_s }));
+    QCOMPARE(namesOf(powerSourcesInOrder(devices, true)), QStringList({ u"battery"_s, u"ups"_s }));
 }
 
 void UPowerDescriptionTest::leavesOutWhatIsNoPowerSource()
@@ -248,17 +248,16 @@ void UPowerDescriptionTest::leavesOutWhatIsNoPowerSource()
     absent.isPresent = false;
     const QList<UPowerDevice> devices { mouse, absent, UPowerDevice {},
                                         named(pack(UPowerState::Charging), u"battery"_s) };
-    QCOMPARE(namesOf(powerSourcesInOrder(devices, false)), QStringList(u"battery"_s));
+    QCOMPARE(namesOf(powerSourcesInOrder(devices, true)), QStringList(u"battery"_s));
 }
 
 void UPowerDescriptionTest::settlesInTheDirectionThatApplies_data()
 {
     QTest::addColumn<UPowerState>("state");
-    QTest::addColumn<std::optional<bool>>("onExternalPower");
+    QTest::addColumn<std::optional<bool>>("changedTo");
     QTest::addColumn<PowerFlow>("flow");
-    const auto row
-        = [](const char *name, UPowerState state, std::optional<bool> onExternalPower,
-             PowerFlow flow) { QTest::newRow(name) << state << onExternalPower << flow; };
+    const auto row = [](const char *name, UPowerState state, std::optional<bool> changedTo,
+                        PowerFlow flow) { QTest::newRow(name) << state << changedTo << flow; };
     using enum UPowerState;
     row("plugged in, not noticed yet", Discharging, true, PowerFlow::Charging);
     row("plugged in, unknown", Unknown, true, PowerFlow::Charging);
@@ -280,14 +279,14 @@ void UPowerDescriptionTest::settlesInTheDirectionThatApplies_data()
 void UPowerDescriptionTest::settlesInTheDirectionThatApplies()
 {
     QFETCH(UPowerState, state);
-    QFETCH(std::optional<bool>, onExternalPower);
+    QFETCH(std::optional<bool>, changedTo);
     QFETCH(PowerFlow, flow);
-    QVERIFY(settlingFlowOf(pack(state), std::nullopt, onExternalPower) == flow);
+    QVERIFY(settlingFlowOf(pack(state), std::nullopt, changedTo) == flow);
 }
 
 void UPowerDescriptionTest::saysStillEstimatingInOneDirectionOnlyWhileSettling()
 {
-    const QVariantMap settled = describe(pack(UPowerState::Discharging, 1h), true);
+    const QVariantMap settled = describe(pack(UPowerState::Discharging, 1h), false);
     QVariantMap expected = settled;
     expected.insert(u"Time to Empty"_s, -1);
     QCOMPARE(describeSettling(settled, PowerFlow::Discharging), expected);

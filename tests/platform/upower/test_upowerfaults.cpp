@@ -56,7 +56,7 @@ void UPowerFaultsTest::dropsAPropertyOfAWrongTypeAndKeepsTheRest()
         m_daemon->setDevice(u"battery_BAT0"_s, { { property, value } });
     QTRY_COMPARE(pictureOf(service.get())->at(0), expected);
     QCOMPARE(m_log->take(),
-             QStringList(u"error: UPower tells %1 in an unexpected type"_s.arg(property)));
+             QStringList(u"error: UPower sent %1 with an unexpected type"_s.arg(property)));
 }
 
 void UPowerFaultsTest::survivesAnswersOfAnotherForm()
@@ -67,12 +67,11 @@ void UPowerFaultsTest::survivesAnswersOfAnotherForm()
     const auto service = makeService();
     QCOMPARE(namesOf(service.get()), none());
     QCOMPARE(m_log->take(),
-             QStringList({ u"error: UPower tells OnBattery in an unexpected type"_s,
-                           u"error: UPower told its devices in an unexpected form"_s }));
+             QStringList(u"error: UPower listed its devices with an unexpected signature"_s));
     for (int number = 0; number < 3; ++number)
         m_daemon->setDevice(u"battery_BAT1%1"_s.arg(number), battery());
     QTRY_COMPARE(allLines(),
-                 QStringList(u"error: UPower told about a device in an unexpected form"_s));
+                 QStringList(u"error: UPower described a device with an unexpected signature"_s));
     QCOMPARE(namesOf(service.get()), none());
 }
 
@@ -82,7 +81,8 @@ void UPowerFaultsTest::survivesADaemonThatRefusesToAnswer()
     m_daemon->refuse(u"Not\n for you"_s);
     const auto service = makeService();
     QCOMPARE(namesOf(service.get()), none());
-    QCOMPARE(m_log->take(), QStringList(u"error: UPower does not tell its devices: Not for you"_s));
+    QCOMPARE(m_log->take(),
+             QStringList(u"error: UPower refuses to list its devices: Not for you"_s));
 }
 
 void UPowerFaultsTest::findsTheBatteryAmongTenThousandDevices()
@@ -107,9 +107,9 @@ void UPowerFaultsTest::keepsABoundedNumberOfTenThousandBatteries()
     m_daemon->addMany(u"battery_"_s, 10'000, battery());
     const auto service = makeService();
     QTRY_COMPARE_WITH_TIMEOUT(namesOf(service.get()).size(), 64, 120'000);
-    QTRY_COMPARE(allLines(),
-                 QStringList({ connected(),
-                               u"error: UPower tells of more devices than Ferrin looks at"_s }));
+    QTRY_COMPARE(
+        allLines(),
+        QStringList({ connected(), u"error: UPower has more devices than Ferrin reads"_s }));
     m_daemon->setDevice(u"battery_0"_s, { { u"Model"_s, u"still followed"_s } });
     QTRY_COMPARE(namesOf(service.get()).first(), u"still followed"_s);
 }

@@ -35,13 +35,13 @@ void UPowerPresenceTest::livesWithoutTheDaemon()
     const auto service = makeService();
     QCOMPARE(namesOf(service.get()), none());
     QCOMPARE(namesOf(service.get()), none());
-    QCOMPARE(m_log->takeCount(u"error: UPower cannot be reached: "_s), 1);
+    QCOMPARE(m_log->takeCount(u"error: Cannot start UPower: "_s), 1);
 }
 
 void UPowerPresenceTest::takesUpADaemonThatStartsLate()
 {
     const auto service = makeService();
-    QCOMPARE(m_log->takeCount(u"error: UPower cannot be reached: "_s), 1);
+    QCOMPARE(m_log->takeCount(u"error: Cannot start UPower: "_s), 1);
     const QSignalSpy spy(service.get(), &UPowerService::powerStateChanged);
     startDaemon();
     m_daemon->setDevice(u"battery_BAT0"_s, battery());
@@ -89,7 +89,7 @@ void UPowerPresenceTest::isNotStoppedByADaemonThatHangsFromTheStart()
     m_time += 30s;
     QCOMPARE(namesOf(service.get()), none());
     QCOMPARE(namesOf(service.get()), none());
-    QCOMPARE(m_log->take(), QStringList(u"error: UPower does not answer"_s));
+    QCOMPARE(m_log->take(), QStringList(u"error: UPower does not reply"_s));
     m_daemon->resume();
     QTRY_COMPARE(namesOf(service.get()), dell());
     QCOMPARE(m_log->take(), QStringList(connected()));
@@ -136,10 +136,11 @@ void UPowerPresenceTest::mayGoWhileTheDaemonOwesAnAnswer()
 
 void UPowerPresenceTest::livesWithoutABus()
 {
-    UPowerService service { QDBusConnection(u"there is no such connection"_s) };
+    UPowerService service(QDBusConnection(u"there is no such connection"_s),
+                          [] { return std::nullopt; });
     QCOMPARE(namesOf(&service), none());
     QCOMPARE(m_log->take(),
-             QStringList(u"error: The system bus cannot be reached, so UPower cannot either"_s));
+             QStringList(u"error: Cannot connect to the system bus, so UPower is not available"_s));
 }
 
 void UPowerPresenceTest::livesOnWhenTheBusDies()

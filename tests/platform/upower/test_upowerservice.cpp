@@ -29,9 +29,11 @@ private Q_SLOTS:
     void leavesOutPeripheralsAndTheSummary();
     void hasNoSourcesOnAMachineWithoutABattery();
     void putsThePackInUseFirst();
-    void tellsWhenThePowerStateChangesAndOnlyThen();
+    void reportsOnlyChangesOfThePowerState();
     void isStillEstimatingForTenSecondsAfterUnplugging();
     void isStillEstimatingInTheNewDirectionBeforeTheDaemonNoticed();
+    void isStillEstimatingAfterWaking();
+    void doesNotSettleWhileExternalPowerIsUnknown();
 };
 
 void UPowerServiceTest::hasThePictureAtOnceWhenTheDaemonIsThere()
@@ -194,7 +196,7 @@ void UPowerServiceTest::putsThePackInUseFirst()
     QTRY_COMPARE(namesOf(service.get()), QStringList({ u"01AV425"_s, u"01AV493"_s }));
 }
 
-void UPowerServiceTest::tellsWhenThePowerStateChangesAndOnlyThen()
+void UPowerServiceTest::reportsOnlyChangesOfThePowerState()
 {
     startDaemon();
     m_daemon->setDevice(u"battery_BAT0"_s, battery());
@@ -203,28 +205,26 @@ void UPowerServiceTest::tellsWhenThePowerStateChangesAndOnlyThen()
     const QSignalSpy spy(service.get(), &UPowerService::powerStateChanged);
     m_daemon->setDevice(u"battery_BAT0"_s, { { u"Percentage"_s, 49.0 }, { u"State"_s, 2U } });
     QTRY_COMPARE(factOf(service.get(), u"Current Capacity"_s), QVariant(49));
-    m_daemon->setOnBattery(false);
     m_daemon->setDevice(u"mouse"_s, mouse());
     m_daemon->setDevice(u"battery_BAT0"_s, { { u"Percentage"_s, 48.0 } });
     QTRY_COMPARE(factOf(service.get(), u"Current Capacity"_s), QVariant(48));
     QCOMPARE(spy.count(), 0);
-    m_daemon->setOnBattery(true);
-    QTRY_COMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).value<std::optional<bool>>(), std::optional(false));
     m_daemon->setDevice(u"battery_BAT0"_s, { { u"State"_s, 1U } });
-    QTRY_COMPARE(spy.count(), 2);
+    QTRY_COMPARE(spy.count(), 1);
     m_daemon->removeDevice(u"battery_BAT0"_s);
-    QTRY_COMPARE(spy.count(), 3);
+    QTRY_COMPARE(spy.count(), 2);
 }
 
 void UPowerServiceTest::isStillEstimatingForTenSecondsAfterUnplugging()
 {
     startDaemon();
     m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    m_externalPower = true;
     const auto service = makeService();
     QCOMPARE(m_log->take(), QStringList(connected()));
     const PowerSourcesService::Snapshot before = service->copyInfo();
-    service->settle(false);
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
+    m_externalPower = false;
     QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(-1));
     QCOMPARE(factOf(service.get(), u"Time to Full Charge"_s), QVariant(0));
     QCOMPARE(service->description(before, 0).toMap().value(u"Time to Empty"_s), QVariant(-1));
@@ -238,13 +238,41 @@ void UPowerServiceTest::isStillEstimatingInTheNewDirectionBeforeTheDaemonNoticed
 {
     startDaemon();
     m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    m_externalPower = false;
     const auto service = makeService();
     QCOMPARE(m_log->take(), QStringList(connected()));
-    service->settle(true);
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
+    m_externalPower = true;
     QCOMPARE(factOf(service.get(), u"Time to Full Charge"_s), QVariant(-1));
     QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(0));
-    service->settle(std::nullopt);
+    service->settleAfterWaking();
     QCOMPARE(factOf(service.get(), u"Time to Full Charge"_s), QVariant(-1));
+}
+
+void UPowerServiceTest::isStillEstimatingAfterWaking()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    const auto service = makeService();
+    QCOMPARE(m_log->take(), QStringList(connected()));
+    service->settleAfterWaking();
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(-1));
+    m_time += 10s;
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
+}
+
+void UPowerServiceTest::doesNotSettleWhileExternalPowerIsUnknown()
+{
+    startDaemon();
+    m_daemon->setDevice(u"battery_BAT0"_s, battery());
+    m_externalPower = false;
+    const auto service = makeService();
+    QCOMPARE(m_log->take(), QStringList(connected()));
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
+    m_externalPower.reset();
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
+    m_externalPower = false;
+    QCOMPARE(factOf(service.get(), u"Time to Empty"_s), QVariant(60));
 }
 
 FERRIN_TEST(QCoreApplication, UPowerServiceTest)

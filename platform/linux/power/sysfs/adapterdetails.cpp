@@ -12,12 +12,12 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr std::int64_t leastMillivolts = 5'000;
-constexpr std::int64_t greatestMillivolts = 48'000;
-constexpr std::int64_t greatestMilliamps = 5'000;
+constexpr qint64 leastMillivolts = 5'000;
+constexpr qint64 greatestMillivolts = 48'000;
+constexpr qint64 greatestMilliamps = 5'000;
 // What stands in the attributes before there is a contract, give or take what was measured.
-constexpr std::int64_t defaultMillivolts = 5'500;
-constexpr std::int64_t greatestMilliwatts = 500'000;
+constexpr qint64 defaultMillivolts = 5'500;
+constexpr qint64 greatestMilliwatts = 500'000;
 
 Reading milli(Reading micro)
 {
@@ -75,7 +75,7 @@ void insertName(QVariantMap &details, const QString &key, const QString &name)
 }
 } // namespace
 
-std::int64_t Offer::watts() const noexcept
+qint64 Offer::watts() const noexcept
 {
     return (millivolts * milliamps + 500'000) / 1'000'000;
 }
@@ -121,10 +121,10 @@ QVariantMap adapterDetails(const std::vector<AdapterSupply> &adapters, const Ada
     if (!offer)
         offer = hints.partner.greatest;
     if (const Reading watts = wattsOf(adapters, hints, offer))
-        details.insert(u"Watts"_s, static_cast<qlonglong>(*watts));
+        details.insert(u"Watts"_s, *watts);
     if (offer) {
-        details.insert(u"AdapterVoltage"_s, static_cast<qlonglong>(offer->millivolts));
-        details.insert(u"Current"_s, static_cast<qlonglong>(offer->milliamps));
+        details.insert(u"AdapterVoltage"_s, offer->millivolts);
+        details.insert(u"Current"_s, offer->milliamps);
     }
     if (best) {
         insertName(details, u"Name"_s, nameOf(best->modelName));

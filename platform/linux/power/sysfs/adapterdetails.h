@@ -15,11 +15,11 @@ namespace ferrin {
 /// Volts times amps that somebody offers.
 struct Offer
 {
-    std::int64_t millivolts = 0;
-    std::int64_t milliamps = 0;
+    qint64 millivolts = 0;
+    qint64 milliamps = 0;
 
     /// Rounded to whole watts.
-    [[nodiscard]] std::int64_t watts() const noexcept;
+    [[nodiscard]] qint64 watts() const noexcept;
     bool operator==(const Offer &) const = default;
 };
 

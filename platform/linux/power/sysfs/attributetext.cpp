@@ -81,9 +81,9 @@ std::string_view trimmed(std::string_view text) noexcept
     return text;
 }
 
-std::optional<std::int64_t> numberOf(std::string_view text) noexcept
+std::optional<qint64> numberOf(std::string_view text) noexcept
 {
-    std::int64_t number = 0;
+    qint64 number = 0;
     const char *end = text.data() + text.size();
     const auto [position, error] = std::from_chars(text.data(), end, number);
     if (text.empty() || error != std::errc() || position != end)
@@ -91,7 +91,7 @@ std::optional<std::int64_t> numberOf(std::string_view text) noexcept
     return number;
 }
 
-std::optional<std::int64_t> numberWithUnit(std::string_view text, std::string_view unit) noexcept
+std::optional<qint64> numberWithUnit(std::string_view text, std::string_view unit) noexcept
 {
     if (!text.ends_with(unit))
         return std::nullopt;

@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -18,11 +17,11 @@ namespace ferrin {
 [[nodiscard]] std::string_view trimmed(std::string_view text) noexcept;
 
 /// A decimal integer that is the whole text; absent when it is anything else or does not fit.
-[[nodiscard]] std::optional<std::int64_t> numberOf(std::string_view text) noexcept;
+[[nodiscard]] std::optional<qint64> numberOf(std::string_view text) noexcept;
 
 /// An integer followed by exactly this unit, as in "20000mV".
-[[nodiscard]] std::optional<std::int64_t> numberWithUnit(std::string_view text,
-                                                         std::string_view unit) noexcept;
+[[nodiscard]] std::optional<qint64> numberWithUnit(std::string_view text,
+                                                   std::string_view unit) noexcept;
 
 /// The word in brackets of a choice such as "C [PD] PD_PPS"; empty when none is.
 [[nodiscard]] std::string_view chosenWord(std::string_view text) noexcept;

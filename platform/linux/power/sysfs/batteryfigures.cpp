@@ -10,10 +10,10 @@ namespace ferrin {
 namespace {
 constexpr int chargedPercent = 95;
 
-std::int64_t usualFull(const std::vector<Pack> &packs)
+qint64 usualFull(const std::vector<Pack> &packs)
 {
-    std::int64_t sum = 0;
-    std::int64_t count = 0;
+    qint64 sum = 0;
+    qint64 count = 0;
     for (const Pack &pack : packs) {
         sum += pack.full.value_or(0);
         count += pack.full ? 1 : 0;
@@ -44,32 +44,6 @@ bool isFull(const Pack &pack, std::optional<bool> external)
     }
     return false;
 }
-
-struct Votes
-{
-    bool charging = false;
-    bool discharging = false;
-    bool resting = false;
-};
-
-Votes votesOf(const std::vector<BatterySupply> &batteries)
-{
-    Votes votes;
-    for (const BatterySupply &battery : batteries) {
-        votes.charging |= battery.status == ChargeStatus::Charging;
-        votes.discharging |= battery.status == ChargeStatus::Discharging;
-        votes.resting
-            |= battery.status == ChargeStatus::Full || battery.status == ChargeStatus::NotCharging;
-    }
-    return votes;
-}
-
-std::optional<bool> byStatus(const Votes &votes)
-{
-    if (votes.discharging)
-        return false;
-    return votes.charging || votes.resting ? std::optional(true) : std::nullopt;
-}
 } // namespace
 
 std::vector<Pack> realPacks(std::vector<Pack> packs)
@@ -84,24 +58,24 @@ std::optional<int> chargePercent(const std::vector<Pack> &packs)
 {
     if (packs.size() == 1)
         return packs.front().percent;
-    const std::int64_t usual = usualFull(packs);
-    std::int64_t sumOfNow = 0;
-    std::int64_t sumOfFull = 0;
+    const qint64 usual = usualFull(packs);
+    qint64 sumOfNow = 0;
+    qint64 sumOfFull = 0;
     for (const Pack &pack : packs) {
         if (!pack.percent)
             return std::nullopt;
-        const std::int64_t full = pack.full.value_or(usual);
+        const qint64 full = pack.full.value_or(usual);
         sumOfFull += full;
         sumOfNow += pack.now.value_or(full * *pack.percent / 100);
     }
     if (sumOfFull <= 0)
         return std::nullopt;
-    return static_cast<int>(std::clamp<std::int64_t>(sumOfNow * 100 / sumOfFull, 0, 100));
+    return static_cast<int>(std::clamp<qint64>(sumOfNow * 100 / sumOfFull, 0, 100));
 }
 
 Reading remainingMilliampHours(const std::vector<Pack> &packs)
 {
-    std::int64_t sum = 0;
+    qint64 sum = 0;
     for (const Pack &pack : packs) {
         if (!pack.now || !pack.full || !pack.fullMilliampHours)
             return std::nullopt;
@@ -112,39 +86,13 @@ Reading remainingMilliampHours(const std::vector<Pack> &packs)
 
 Reading fullMilliampHours(const std::vector<Pack> &packs)
 {
-    std::int64_t sum = 0;
+    qint64 sum = 0;
     for (const Pack &pack : packs) {
         if (!pack.fullMilliampHours)
             return std::nullopt;
         sum += *pack.fullMilliampHours;
     }
     return packs.empty() ? std::nullopt : Reading(sum);
-}
-
-std::optional<bool> externalConnected(const PowerSupplies &supplies)
-{
-    const Votes votes = votesOf(supplies.batteries);
-    bool told = false;
-    bool mainsOnline = false;
-    bool mainsOffline = false;
-    bool otherOnline = false;
-    for (const AdapterSupply &adapter : supplies.adapters) {
-        if (!adapter.online)
-            continue;
-        told = true;
-        const bool online = *adapter.online != 0;
-        if (adapter.type == SupplyType::Mains)
-            (online ? mainsOnline : mainsOffline) = true;
-        else
-            otherOnline |= online;
-    }
-    if (!told)
-        return byStatus(votes);
-    if (votes.charging && !votes.discharging)
-        return true;
-    if (mainsOnline && mainsOffline && !otherOnline)
-        return !votes.discharging || votes.charging;
-    return mainsOnline || otherOnline;
 }
 
 std::optional<bool> isCharging(const std::vector<Pack> &packs)

@@ -24,19 +24,6 @@ namespace ferrin {
 [[nodiscard]] Reading remainingMilliampHours(const std::vector<Pack> &packs);
 [[nodiscard]] Reading fullMilliampHours(const std::vector<Pack> &packs);
 
-/// Whether power comes from outside.
-///
-/// - Any supply that powers the system and is online (whatever the number, as long as it is not 0)
-///   says yes. A battery may still discharge then: a weak charger, or a controller that waits.
-/// - Of several supplies of type Mains that disagree, one lies for ever; then the batteries know:
-///   while one of them discharges and none charges, there is no external power.
-/// - A battery that charges while none discharges is fed by something, whatever the supplies say.
-/// - With no supply that tells, the batteries' status decides: Charging, Full and Not charging
-///   happen on external power only, Discharging only without.
-///
-/// Absent when nobody tells.
-[[nodiscard]] std::optional<bool> externalConnected(const PowerSupplies &supplies);
-
 /// Some pack says that it charges. A pack that says nothing, or Unknown, does not: its charge is
 /// known all the same, and would be lost to the user if its state were not. Absent when no pack
 /// tells its status or its charge.

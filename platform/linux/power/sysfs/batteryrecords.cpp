@@ -11,10 +11,10 @@
 namespace ferrin {
 
 namespace {
-constexpr std::int64_t mostCycles = 10'000;
+constexpr qint64 mostCycles = 10'000;
 // Tenths of a degree.
-constexpr std::int64_t coldest = -400;
-constexpr std::int64_t warmest = 1'200;
+constexpr qint64 coldest = -400;
+constexpr qint64 warmest = 1'200;
 
 // The MAX17042 family's driver hands its cycle register through, which counts hundredths of a cycle
 // in some chips and sixteenths of one in others. The driver names all of its supplies like this.
@@ -33,7 +33,7 @@ Reading greatestCycleCount(const std::vector<BatteryRecord> &records)
 {
     Reading greatest;
     for (const BatteryRecord &record : records) {
-        const std::int64_t count = record.cycleCount.value_or(0);
+        const qint64 count = record.cycleCount.value_or(0);
         if (count > 0 && count <= mostCycles && !countsParts(record))
             greatest = greater(greatest, count);
     }
@@ -45,7 +45,7 @@ Reading designMilliampHours(const std::vector<BatterySupply> &batteries,
 {
     if (batteries.empty() || batteries.size() != records.size())
         return std::nullopt;
-    std::int64_t sum = 0;
+    qint64 sum = 0;
     for (std::size_t index = 0; index < batteries.size(); ++index) {
         const Reading design = designMilliampHours(batteries[index], records[index]);
         if (!design)

@@ -10,8 +10,8 @@ namespace ferrin {
 using namespace std::chrono_literals;
 
 namespace {
-constexpr ChargeHistory::Time believedAfter = 30s;
-constexpr int nearlyEmpty = 5;
+constexpr auto acceptedAfter = 30s;
+constexpr int nearlyEmptyPercent = 5;
 } // namespace
 
 void ChargeHistory::settle(const std::vector<BatterySupply> &batteries, std::vector<Pack> &packs,
@@ -40,13 +40,13 @@ ChargeHistory::Entry ChargeHistory::take(const std::string &name)
 void ChargeHistory::settle(Entry &entry, Pack &pack, Time moment, bool alone)
 {
     if (pack.percent.value_or(0) > 0) {
-        entry.doubtedSince.reset();
+        entry.zeroSince.reset();
         entry.lastPercent = pack.percent;
         return;
     }
-    if (!entry.doubtedSince)
-        entry.doubtedSince = moment;
-    const bool overdue = moment - *entry.doubtedSince >= believedAfter;
+    if (!entry.zeroSince)
+        entry.zeroSince = moment;
+    const bool overdue = moment - *entry.zeroSince >= acceptedAfter;
     if (!pack.percent) {
         if (overdue)
             entry.lastPercent.reset();
@@ -54,7 +54,7 @@ void ChargeHistory::settle(Entry &entry, Pack &pack, Time moment, bool alone)
         return;
     }
     const bool known = entry.lastPercent.has_value();
-    const bool expected = known ? *entry.lastPercent <= nearlyEmpty : pack.drained || !alone;
+    const bool expected = known ? *entry.lastPercent <= nearlyEmptyPercent : pack.drained || !alone;
     if (expected || overdue) {
         entry.lastPercent = 0;
         return;

@@ -11,21 +11,21 @@
 
 namespace ferrin {
 
-/// Remembers each pack's last believable charge, because gauges fail by reading 0: while they wake,
-/// when their bus stalls, at random. A pack that fell from above 5 % to 0 keeps its last charge
-/// (and has no now) until it has said 0 without a break for half a minute. A pack that says 0 from
-/// the first sample on is believed at once when its voltage or its level agrees or when it is not
-/// the only one, else after the same time; until then its charge is absent.
+/// Keeps each pack's last plausible charge, because a failing gauge reads 0: while it wakes, when
+/// its bus stalls, or at random. A pack that fell from above 5 % to 0 keeps its last charge (and
+/// has no `now`) until it has read 0 for half a minute without interruption. A pack that reads 0
+/// from the first sample on is accepted at once if its voltage or its level confirms it or if it is
+/// not the only one, otherwise after the same time; until then its charge is absent.
 ///
-/// A charge that cannot be read is the last one for as long, because the user would be shown that
-/// nothing is known; after that, and before there was any, it is absent.
+/// A charge that cannot be read keeps its last value for the same time, since the user would
+/// otherwise see that nothing is known; after that, and before the first one, it is absent.
 class ChargeHistory
 {
 public:
-    using Time = std::chrono::milliseconds;
+    using Time = std::chrono::steady_clock::time_point;
 
-    /// Corrects the packs of these batteries (same order, sorted by name) at a monotonic moment.
-    /// Forgets the batteries that are not among them.
+    /// Corrects the packs of these batteries (same order, sorted by name). Drops what is kept of
+    /// batteries that are not among them.
     void settle(const std::vector<BatterySupply> &batteries, std::vector<Pack> &packs, Time moment);
 
 private:
@@ -33,8 +33,8 @@ private:
     {
         std::string name;
         std::optional<int> lastPercent;
-        /// Since when there was no charge above 0.
-        std::optional<Time> doubtedSince;
+        /// Since when there has been no charge above 0.
+        std::optional<Time> zeroSince;
     };
 
     [[nodiscard]] Entry take(const std::string &name);

@@ -29,13 +29,13 @@ bool isPortable(const MachineIdentity &machine, const QJsonArray &portableTypes)
 {
     if (!machine.chassisType)
         return true;
-    return portableTypes.contains(QJsonValue(static_cast<qint64>(*machine.chassisType)));
+    return portableTypes.contains(QJsonValue(*machine.chassisType));
 }
 
-std::optional<std::int64_t> countOf(const QJsonValue &value)
+std::optional<qint64> countOf(const QJsonValue &value)
 {
     const qint64 count = value.toInteger();
-    return count > 0 ? std::optional<std::int64_t>(count) : std::nullopt;
+    return count > 0 ? std::optional<qint64>(count) : std::nullopt;
 }
 } // namespace
 
@@ -53,7 +53,7 @@ MachineIdentity readMachineIdentity(const std::string &root)
     return machine;
 }
 
-std::optional<std::int64_t> designCycles(const MachineIdentity &machine, const QByteArray &table)
+std::optional<qint64> designCycles(const MachineIdentity &machine, const QByteArray &table)
 {
     const QJsonObject root = QJsonDocument::fromJson(table).object();
     const QJsonArray machines = root.value("machines"_L1).toArray();

@@ -16,7 +16,7 @@ struct MachineIdentity
     QString vendor;
     QString product;
     /// Absent on machines without this kind of firmware.
-    std::optional<std::int64_t> chassisType;
+    std::optional<qint64> chassisType;
 
     bool operator==(const MachineIdentity &) const = default;
 };
@@ -27,8 +27,8 @@ struct MachineIdentity
 /// How many charge cycles the maker says that this machine's battery is designed for, by a table
 /// with a source for each row (resources/designcycles.json). Machines without a row get the number
 /// to which notebook batteries are certified; machines that are no notebooks get none.
-[[nodiscard]] std::optional<std::int64_t> designCycles(const MachineIdentity &machine,
-                                                       const QByteArray &table);
+[[nodiscard]] std::optional<qint64> designCycles(const MachineIdentity &machine,
+                                                 const QByteArray &table);
 
 /// The table that is compiled in.
 [[nodiscard]] QByteArray designCyclesTable();

@@ -9,24 +9,28 @@
 namespace ferrin {
 
 namespace {
-constexpr std::int64_t million = 1'000'000;
+constexpr qint64 million = 1'000'000;
 // One cell nearly empty ... more than any notebook's pack; sentinels lie outside.
-constexpr std::int64_t leastVoltage = 2'500'000;
-constexpr std::int64_t greatestVoltage = 60'000'000;
-constexpr std::int64_t nominalCellVoltage = 3'700'000;
+constexpr qint64 leastVoltage = 2'500'000;
+constexpr qint64 greatestVoltage = 60'000'000;
+constexpr qint64 nominalCellVoltage = 3'700'000;
 // 1 kWh and 100 Ah: saturated registers lie far outside, and products with a voltage fit.
-constexpr std::int64_t greatestEnergy = 1'000 * million;
-constexpr std::int64_t greatestCharge = 100 * million;
-constexpr std::int64_t greatestRate = 10'000 * million;
-constexpr std::int64_t longestTime = std::int64_t { 48 } * 3600;
+constexpr qint64 greatestEnergy = 1'000 * million;
+constexpr qint64 greatestCharge = 100 * million;
+constexpr qint64 greatestRate = 10'000 * million;
+constexpr qint64 longestTime = qint64 { 48 } * 3600;
 // A register of 16 bits at its end, in whatever unit the driver took it to be.
-constexpr std::int64_t endlessTime = 65'535;
+constexpr qint64 endlessTime = 65'535;
 // A tenth of a small phone's. What is less was counted in another unit.
-constexpr std::int64_t leastMilliampHours = 100;
+constexpr qint64 leastMilliampHours = 100;
 // Firmware has been seen to round up to 111.
-constexpr std::int64_t greatestCapacity = 120;
+constexpr qint64 greatestCapacity = 120;
+// In percent of full; a gauge that reads more counts `now` in another unit.
+constexpr qint64 greatestShare = 110;
+// In percent; how far now/full may be from the kernel's capacity.
+constexpr qint64 greatestShareError = 25;
 
-Reading within(Reading value, std::int64_t least, std::int64_t greatest)
+Reading within(Reading value, qint64 least, qint64 greatest)
 {
     return value && *value >= least && *value <= greatest ? value : std::nullopt;
 }
@@ -51,12 +55,12 @@ bool isSaturated(const BatterySupply &battery)
 }
 
 // µAh × µV is pWh, µA × µV is pW.
-Reading times(Reading charge, std::int64_t voltage)
+Reading times(Reading charge, qint64 voltage)
 {
     return charge ? Reading(*charge * voltage / million) : std::nullopt;
 }
 
-std::int64_t rounded(std::int64_t dividend, std::int64_t divisor)
+qint64 rounded(qint64 dividend, qint64 divisor)
 {
     return (dividend + divisor / 2) / divisor;
 }
@@ -83,7 +87,7 @@ struct Family
     Reading rate;
 };
 
-Family familyOf(const BatterySupply &battery, std::int64_t voltage)
+Family familyOf(const BatterySupply &battery, qint64 voltage)
 {
     const Reading power = magnitude(battery.powerNow);
     const Reading current = magnitude(battery.currentNow);
@@ -100,28 +104,32 @@ Family familyOf(const BatterySupply &battery, std::int64_t voltage)
              times(chargeFull, voltage), current ? times(current, voltage) : power };
 }
 
+// In percent of full; absent when either is missing or `now` is no measure of it.
+Reading shareOf(const Family &family)
+{
+    if (!family.now || !family.full || *family.now * 100 > *family.full * greatestShare)
+        return std::nullopt;
+    return *family.now * 100 / *family.full;
+}
+
 std::optional<int> percentOf(const BatterySupply &battery, const Family &family)
 {
-    Reading share;
-    if (family.now && family.full && *family.now <= *family.full * 11 / 10)
-        share = std::min<std::int64_t>(*family.now * 100 / *family.full, 100);
+    const Reading share = shareOf(family);
     Reading capacity = within(battery.capacity, 0, greatestCapacity);
     if (capacity == 0 && share.value_or(0) > 3)
         capacity.reset();
-    if (capacity)
-        return static_cast<int>(std::min<std::int64_t>(*capacity, 100));
-    return share ? std::optional(static_cast<int>(*share)) : std::nullopt;
+    const Reading percent = capacity ? capacity : share;
+    return percent ? std::optional(static_cast<int>(std::min<qint64>(*percent, 100)))
+                   : std::nullopt;
 }
 
 Reading trustedNow(const Family &family, std::optional<int> percent)
 {
     if (!family.full)
         return std::nullopt;
-    if (family.now && *family.now <= *family.full * 11 / 10) {
-        const std::int64_t share = *family.now * 100 / *family.full;
-        if (!percent || std::abs(share - *percent) <= 25)
-            return std::min(*family.now, *family.full);
-    }
+    const Reading share = shareOf(family);
+    if (share && (!percent || std::abs(*share - *percent) <= greatestShareError))
+        return std::min(*family.now, *family.full);
     return percent ? Reading(*family.full * *percent / 100) : std::nullopt;
 }
 
@@ -152,7 +160,7 @@ bool isPhantom(const BatterySupply &battery, const Pack &pack)
         && battery.voltageNow.value_or(0) == 0;
 }
 
-Pack packOf(const BatterySupply &battery, std::int64_t voltage)
+Pack packOf(const BatterySupply &battery, qint64 voltage)
 {
     const Family family = isSaturated(battery) ? Family() : familyOf(battery, voltage);
     Pack pack;
@@ -176,7 +184,7 @@ Pack packOf(const BatterySupply &battery, std::int64_t voltage)
 std::vector<Pack> packsOf(const std::vector<BatterySupply> &batteries)
 {
     // A pack that does not tell its voltage is taken to be like its neighbour.
-    std::int64_t usual = nominalCellVoltage;
+    qint64 usual = nominalCellVoltage;
     for (const BatterySupply &battery : batteries)
         usual = voltageOf(battery).value_or(usual);
     std::vector<Pack> packs;
@@ -201,7 +209,7 @@ std::optional<int> healthPercent(const BatterySupply &battery, const BatteryReco
     }
     if (isSaturated(battery) || !full || !design || *full == *design || *full * 2 > *design * 3)
         return std::nullopt;
-    return static_cast<int>(std::min<std::int64_t>(*full * 100 / *design, 100));
+    return static_cast<int>(std::min<qint64>(*full * 100 / *design, 100));
 }
 
 } // namespace ferrin

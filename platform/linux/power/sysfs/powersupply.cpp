@@ -8,7 +8,6 @@
 namespace ferrin {
 
 namespace {
-// Drivers from outside the kernel write the words in letters of their own liking.
 bool isWord(std::string_view text, std::string_view word) noexcept
 {
     return QByteArrayView(text).compare(QByteArrayView(word), Qt::CaseInsensitive) == 0;
@@ -27,6 +26,11 @@ SupplyType supplyTypeOf(std::string_view text) noexcept
     if (text == "Wireless")
         return SupplyType::Wireless;
     return SupplyType::Other;
+}
+
+bool powersSystem(SupplyType type, std::string_view scope) noexcept
+{
+    return type != SupplyType::Other && scope != "Device";
 }
 
 std::optional<ChargeStatus> chargeStatusOf(std::string_view text) noexcept

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <cstdint>
+#include <QtGlobal>
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,7 +15,7 @@ namespace ferrin {
 /// What a power supply says of itself, attribute by attribute, as the kernel wrote it. Nothing here
 /// is believed yet: signs, sentinels and contradictions are as they came. An attribute that could
 /// not be read, or is no number, is absent.
-using Reading = std::optional<std::int64_t>;
+using Reading = std::optional<qint64>;
 
 enum class SupplyType {
     Battery,
@@ -102,7 +103,15 @@ struct PowerSupplies
     bool operator==(const PowerSupplies &) const = default;
 };
 
+/// From the attribute `type`.
 [[nodiscard]] SupplyType supplyTypeOf(std::string_view text) noexcept;
+
+/// Whether a supply with these attributes powers the machine: not a mouse, whose `scope` is
+/// "Device", and not a UPS, which is no part of it.
+[[nodiscard]] bool powersSystem(SupplyType type, std::string_view scope) noexcept;
+
+/// From the attribute `status`, in any case of letters: drivers from outside the kernel do not keep
+/// to its spelling. Absent for an empty text.
 [[nodiscard]] std::optional<ChargeStatus> chargeStatusOf(std::string_view text) noexcept;
 
 } // namespace ferrin

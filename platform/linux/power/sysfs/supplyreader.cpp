@@ -97,7 +97,7 @@ void readSupply(const AttributeDirectory &directory, const std::string &name,
 {
     AttributeDirectory::Buffer buffer;
     const SupplyType type = supplyTypeOf(directory.read("type", buffer));
-    if (type == SupplyType::Other || directory.read("scope", buffer) == "Device")
+    if (!powersSystem(type, directory.read("scope", buffer)))
         return;
     if (type != SupplyType::Battery)
         supplies.adapters.push_back(readAdapter(directory, type));

@@ -3,9 +3,11 @@
 
 #include "platform/linux/power/sysfs/sysfsregistry.h"
 
+#include "base/variantcast.h"
 #include "platform/linux/power/sysfs/batteryfigures.h"
 #include "platform/linux/power/sysfs/batteryrecords.h"
 #include "platform/linux/power/sysfs/designcycles.h"
+#include "platform/linux/power/sysfs/externalpower.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -20,22 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr RegistryService::Handle batteryHandle = 1;
 constexpr QEvent::Type expiry = QEvent::User;
-
-SysfsRegistry::Time steadyNow()
-{
-    return std::chrono::duration_cast<SysfsRegistry::Time>(
-        std::chrono::steady_clock::now().time_since_epoch());
-}
-
-QVariant variant(std::optional<bool> value)
-{
-    return value ? QVariant(*value) : QVariant();
-}
-
-QVariant variant(Reading value)
-{
-    return value ? QVariant(static_cast<qlonglong>(*value)) : QVariant();
-}
 
 std::optional<Direction> directionOf(const std::vector<Pack> &packs, std::optional<bool> charging,
                                      std::optional<bool> external)
@@ -72,7 +58,7 @@ struct SysfsRegistry::Property
 SysfsRegistry::SysfsRegistry(QObject *parent)
     : SysfsRegistry(
         Options { .usbVendors = { u"/usr/share/misc/usb.ids"_s, u"/usr/share/hwdata/usb.ids"_s },
-                  .clock = {} },
+                  .now = &std::chrono::steady_clock::now },
         parent)
 {
 }
@@ -84,8 +70,6 @@ SysfsRegistry::SysfsRegistry(Options options, QObject *parent)
     , m_adapters(m_options.root)
     , m_vendors(m_options.usbVendors)
 {
-    if (!m_options.clock)
-        m_options.clock = steadyNow;
 }
 
 SysfsRegistry::~SysfsRegistry() = default;
@@ -112,6 +96,11 @@ int SysfsRegistry::release(Handle service)
     return service == batteryHandle ? 0 : 1;
 }
 
+std::optional<bool> SysfsRegistry::externalPower()
+{
+    return moment().external;
+}
+
 void SysfsRegistry::expire()
 {
     m_moment.reset();
@@ -130,28 +119,28 @@ const SysfsRegistry::Property *SysfsRegistry::find(QStringView key)
 {
     static constexpr std::array properties {
         Property { u"ExternalConnected",
-                   [](SysfsRegistry &self) { return variant(self.moment().external); } },
+                   [](SysfsRegistry &self) { return toVariant(self.moment().external); } },
         Property { u"IsCharging",
-                   [](SysfsRegistry &self) { return variant(self.moment().charging); } },
+                   [](SysfsRegistry &self) { return toVariant(self.moment().charging); } },
         Property { u"FullyCharged",
-                   [](SysfsRegistry &self) { return variant(self.moment().fullyCharged); } },
+                   [](SysfsRegistry &self) { return toVariant(self.moment().fullyCharged); } },
         Property { u"CurrentCapacity",
                    [](SysfsRegistry &self) {
-                       return variant(Reading(chargePercent(self.moment().packs)));
+                       return toVariant(Reading(chargePercent(self.moment().packs)));
                    } },
         // The charge is a percentage; where there is none, there is nothing to divide by.
         Property { u"MaxCapacity",
                    [](SysfsRegistry &self) {
-                       return chargePercent(self.moment().packs) ? variant(Reading(100))
+                       return chargePercent(self.moment().packs) ? toVariant(Reading(100))
                                                                  : QVariant();
                    } },
         Property { u"AppleRawCurrentCapacity",
                    [](SysfsRegistry &self) {
-                       return variant(remainingMilliampHours(self.moment().packs));
+                       return toVariant(remainingMilliampHours(self.moment().packs));
                    } },
         Property {
             u"AppleRawMaxCapacity",
-            [](SysfsRegistry &self) { return variant(fullMilliampHours(self.moment().packs)); } },
+            [](SysfsRegistry &self) { return toVariant(fullMilliampHours(self.moment().packs)); } },
         Property { u"TimeRemaining", [](SysfsRegistry &self) { return self.time({}); } },
         Property { u"AvgTimeToEmpty",
                    [](SysfsRegistry &self) { return self.time(Direction::ToEmpty); } },
@@ -161,8 +150,8 @@ const SysfsRegistry::Property *SysfsRegistry::find(QStringView key)
         Property { u"CycleCount", [](SysfsRegistry &self) { return self.cycleCount(); } },
         Property { u"DesignCycleCount9C",
                    [](SysfsRegistry &self) {
-                       return variant(Reading(designCycles(readMachineIdentity(self.m_options.root),
-                                                           designCyclesTable())));
+                       return toVariant(Reading(designCycles(
+                           readMachineIdentity(self.m_options.root), designCyclesTable())));
                    } },
         Property { u"DesignCapacity", [](SysfsRegistry &self) { return self.designCapacity(); } },
         Property { u"Temperature", [](SysfsRegistry &self) { return self.temperature(); } },
@@ -178,7 +167,7 @@ std::unique_ptr<SysfsRegistry::Moment> SysfsRegistry::read()
 {
     auto moment = std::make_unique<Moment>();
     moment->supplies = m_supplies.read();
-    const Time now = m_options.clock();
+    const auto now = m_options.now();
     std::vector<Pack> packs = packsOf(moment->supplies.batteries);
     m_history.settle(moment->supplies.batteries, packs, now);
     moment->packs = realPacks(std::move(packs));
@@ -186,7 +175,9 @@ std::unique_ptr<SysfsRegistry::Moment> SysfsRegistry::read()
     moment->charging = isCharging(moment->packs);
     moment->fullyCharged = isFullyCharged(moment->packs, moment->external);
     moment->direction = directionOf(moment->packs, moment->charging, moment->external);
-    moment->time = m_estimate.update(moment->packs, moment->direction, now);
+    moment->time
+        = m_estimate.update(moment->packs, moment->direction,
+                            std::chrono::duration_cast<TimeEstimate::Time>(now.time_since_epoch()));
     return moment;
 }
 
@@ -228,23 +219,23 @@ QVariant SysfsRegistry::time(std::optional<Direction> wanted)
     const Moment &now = moment();
     if (!now.time || (wanted && now.direction != wanted))
         return {};
-    return static_cast<qlonglong>(now.time->count());
+    return toVariant(Reading(now.time->count()));
 }
 
 QVariant SysfsRegistry::cycleCount()
 {
-    return variant(greatestCycleCount(records()));
+    return toVariant(greatestCycleCount(records()));
 }
 
 QVariant SysfsRegistry::designCapacity()
 {
     const std::vector<BatteryRecord> &slow = records();
-    return variant(designMilliampHours(moment().supplies.batteries, slow));
+    return toVariant(designMilliampHours(moment().supplies.batteries, slow));
 }
 
 QVariant SysfsRegistry::temperature()
 {
-    return variant(temperatureHundredths(records()));
+    return toVariant(temperatureHundredths(records()));
 }
 
 QVariant SysfsRegistry::serial()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "base/steadynow.h"
 #include "platform/linux/power/sysfs/adapterreader.h"
 #include "platform/linux/power/sysfs/chargehistory.h"
 #include "platform/linux/power/sysfs/supplyreader.h"
@@ -12,40 +13,33 @@
 
 #include <QObject>
 
-#include <chrono>
-#include <functional>
 #include <memory>
 
 namespace ferrin {
 
-/// The registry of a Linux machine: one service, "AppleSmartBattery", which stands for all of its
-/// system batteries and for the adapter, out of the kernel's power supplies. A property that the
-/// machine does not have, or that cannot be right, is invalid.
+/// The registry of a Linux machine: one service, "AppleSmartBattery", which stands for all system
+/// batteries and the adapter. Its properties are computed from the kernel's power supplies. A
+/// property that the machine does not have, or that cannot be right, is invalid.
 ///
-/// Look-ups of one turn of the event loop see one reading of sysfs, made by the first of them, so
-/// that the figures of one refresh belong together and each file is read once for all of them.
-/// Where no event loop runs, expire() takes its place. A reading that comes right after a change of
-/// power therefore sees it, however short the time since the last.
+/// All look-ups in one turn of the event loop share one reading of sysfs, which the first of them
+/// makes: the figures of one refresh belong together, and each file is read once. Without an event
+/// loop, expire() ends a reading.
 ///
-/// It owns what must be remembered between readings (the last believable charge, the smoothed
-/// load), starts no timer, and belongs to the main thread. It has a member for each place that it
-/// reads and each thing that it remembers; what the figures are is decided by the functions that it
-/// calls.
+/// It owns what must be kept between readings (the last plausible charge, the smoothed load),
+/// starts no timer, and belongs to the main thread. It has a member for each place that it reads
+/// and for each thing that it keeps; the figures are decided by the functions that it calls.
 class SysfsRegistry final : public QObject, public RegistryService
 {
     Q_OBJECT
 
 public:
-    using Time = std::chrono::milliseconds;
-
     struct Options
     {
         /// The root of sysfs.
         std::string root = "/sys";
-        /// Lists of USB vendors, the first that exists counts.
+        /// Lists of USB vendors (usb.ids); the first that exists is used.
         QStringList usbVendors;
-        /// Monotonic time; the steady clock when empty.
-        std::function<Time()> clock;
+        SteadyNow now = &std::chrono::steady_clock::now;
     };
 
     explicit SysfsRegistry(QObject *parent = nullptr);
@@ -58,7 +52,10 @@ public:
     [[nodiscard]] QVariant createProperty(Handle service, const QString &key) override;
     int release(Handle service) override;
 
-    /// Forgets the present reading; the next look-up makes a new one.
+    /// Whether the machine gets power from outside, by the current reading; see externalpower.h.
+    [[nodiscard]] std::optional<bool> externalPower();
+
+    /// Discards the current reading; the next look-up makes a new one.
     void expire();
 
     bool event(QEvent *event) override;

@@ -12,10 +12,10 @@ SettlingPeriod::SettlingPeriod(SteadyNow now)
 {
 }
 
-void SettlingPeriod::begin(std::optional<bool> onExternalPower)
+void SettlingPeriod::begin(std::optional<bool> externalPower)
 {
-    if (!isRunning() || onExternalPower)
-        m_onExternalPower = onExternalPower;
+    if (!isRunning() || externalPower)
+        m_externalPower = externalPower;
     m_begin = m_now();
 }
 
@@ -24,9 +24,9 @@ bool SettlingPeriod::isRunning() const
     return m_begin && m_now() - *m_begin < length;
 }
 
-std::optional<bool> SettlingPeriod::onExternalPower() const
+std::optional<bool> SettlingPeriod::externalPower() const
 {
-    return isRunning() ? m_onExternalPower : std::nullopt;
+    return isRunning() ? m_externalPower : std::nullopt;
 }
 
 } // namespace ferrin

@@ -10,9 +10,9 @@
 
 namespace ferrin {
 
-/// The ten seconds after plugging in, unplugging or waking in which no time is worth telling: the
-/// rates that it would be made of are still those of the old state, or of nothing. Owned by
-/// UPowerService, begun from outside, and merely looked at: it runs no timer.
+/// The ten seconds after plugging in, unplugging or waking in which no time is shown: the rates
+/// that it would be computed from are still those of the old state, or zero. Owned by
+/// UPowerService. It runs no timer; it only compares the clock when it is asked.
 class SettlingPeriod
 {
 public:
@@ -20,19 +20,19 @@ public:
 
     explicit SettlingPeriod(SteadyNow now);
 
-    /// Begins, or begins anew. `onExternalPower` is what the event says of the adapter; absent when
-    /// it says nothing of it, as waking does, and what was said within this period then stands.
-    void begin(std::optional<bool> onExternalPower);
+    /// Begins, or begins again. `externalPower` is absent when the event says nothing about it, as
+    /// waking does; the value of the running period is then kept.
+    void begin(std::optional<bool> externalPower);
 
     [[nodiscard]] bool isRunning() const;
 
-    /// What the period's events said of the adapter; absent when nothing, or when it is over.
-    [[nodiscard]] std::optional<bool> onExternalPower() const;
+    /// The last value that was given to begin(); absent when there was none, or the period is over.
+    [[nodiscard]] std::optional<bool> externalPower() const;
 
 private:
     SteadyNow m_now;
     std::optional<std::chrono::steady_clock::time_point> m_begin;
-    std::optional<bool> m_onExternalPower;
+    std::optional<bool> m_externalPower;
 };
 
 } // namespace ferrin

@@ -13,22 +13,22 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int stillEstimating = -1;
-// Some gauges say 65535 minutes for "unknown", and a rate near zero makes times of weeks.
-constexpr std::chrono::seconds longestBelievedTime = 48h;
+// Some gauges report 65535 minutes for "unknown", and a rate near zero gives times of weeks.
+constexpr std::chrono::seconds longestPlausibleTime = 48h;
 
-PowerFlow flowOfTimes(const UPowerDevice &device, std::optional<bool> onBattery)
+PowerFlow flowOfTimes(const UPowerDevice &device, std::optional<bool> externalPower)
 {
     if (device.timeToEmpty.value_or(0s) > 0s)
         return PowerFlow::Discharging;
     if (device.timeToFull.value_or(0s) > 0s)
         return PowerFlow::Charging;
-    return onBattery.value_or(false) ? PowerFlow::Discharging : PowerFlow::Resting;
+    return externalPower == false ? PowerFlow::Discharging : PowerFlow::Resting;
 }
 
 /// Whole minutes; a known time is at least one, because 0 would say that there is none.
 int minutesOf(std::chrono::seconds time)
 {
-    if (time == 0s || time > longestBelievedTime)
+    if (time == 0s || time > longestPlausibleTime)
         return stillEstimating;
     const auto minutes = std::chrono::duration_cast<std::chrono::minutes>(time).count();
     return std::max(static_cast<int>(minutes), 1);
@@ -52,7 +52,7 @@ std::optional<QString> nameOf(const UPowerDevice &device)
     return std::nullopt;
 }
 
-bool isDrawnFrom(PowerFlow flow, std::optional<bool> onBattery)
+bool isDrawnFrom(PowerFlow flow, std::optional<bool> externalPower)
 {
     switch (flow) {
     case PowerFlow::Discharging:
@@ -62,7 +62,7 @@ bool isDrawnFrom(PowerFlow flow, std::optional<bool> onBattery)
     case PowerFlow::Resting:
         break;
     }
-    return onBattery.value_or(false);
+    return externalPower == false;
 }
 
 bool hasTime(const UPowerDevice &device, PowerFlow flow)
@@ -71,10 +71,10 @@ bool hasTime(const UPowerDevice &device, PowerFlow flow)
     return time && minutesOf(*time) != stillEstimating;
 }
 
-int rankOf(const UPowerDevice &device, std::optional<bool> onBattery)
+int rankOf(const UPowerDevice &device, std::optional<bool> externalPower)
 {
     const int kind = device.kind == UPowerKind::Battery ? 0 : 3;
-    const PowerFlow flow = flowOf(device, onBattery);
+    const PowerFlow flow = flowOf(device, externalPower);
     if (flow == PowerFlow::Resting)
         return kind + 2;
     // A pack that waits its turn may say Unknown, or Discharging at no rate.
@@ -83,7 +83,7 @@ int rankOf(const UPowerDevice &device, std::optional<bool> onBattery)
 
 } // namespace
 
-PowerFlow flowOf(const UPowerDevice &device, std::optional<bool> onBattery)
+PowerFlow flowOf(const UPowerDevice &device, std::optional<bool> externalPower)
 {
     switch (device.state.value_or(UPowerState::Unknown)) {
     case UPowerState::Charging:
@@ -98,32 +98,32 @@ PowerFlow flowOf(const UPowerDevice &device, std::optional<bool> onBattery)
     case UPowerState::Unknown:
         break;
     }
-    return flowOfTimes(device, onBattery);
+    return flowOfTimes(device, externalPower);
 }
 
-PowerFlow settlingFlowOf(const UPowerDevice &device, std::optional<bool> onBattery,
-                         std::optional<bool> onExternalPower)
+PowerFlow settlingFlowOf(const UPowerDevice &device, std::optional<bool> externalPower,
+                         std::optional<bool> changedTo)
 {
     const UPowerState state = device.state.value_or(UPowerState::Unknown);
-    if (!onExternalPower)
-        return flowOf(device, onBattery);
-    if (*onExternalPower) {
+    if (!changedTo)
+        return flowOf(device, externalPower);
+    if (*changedTo) {
         const bool mayBeStale = state == UPowerState::Discharging || state == UPowerState::Unknown;
-        return mayBeStale ? PowerFlow::Charging : flowOf(device, onBattery);
+        return mayBeStale ? PowerFlow::Charging : flowOf(device, externalPower);
     }
-    // A pack that is empty or waits for its turn is not the one that has just been drawn upon.
+    // A pack that is empty or waits for its turn is not the one in use.
     const bool waits = state == UPowerState::Empty || state == UPowerState::PendingDischarge;
     return waits ? PowerFlow::Resting : PowerFlow::Discharging;
 }
 
-QVariantMap describe(const UPowerDevice &device, std::optional<bool> onBattery)
+QVariantMap describe(const UPowerDevice &device, std::optional<bool> externalPower)
 {
-    const PowerFlow flow = flowOf(device, onBattery);
+    const PowerFlow flow = flowOf(device, externalPower);
     QVariantMap description {
         { u"Type"_s, device.kind == UPowerKind::Battery ? u"InternalBattery"_s : u"UPS"_s },
         { u"Max Capacity"_s, 100 },
         { u"Power Source State"_s,
-          isDrawnFrom(flow, onBattery) ? u"Battery Power"_s : u"AC Power"_s },
+          isDrawnFrom(flow, externalPower) ? u"Battery Power"_s : u"AC Power"_s },
     };
     if (const std::optional<QString> name = nameOf(device))
         description.insert(u"Name"_s, *name);
@@ -148,14 +148,14 @@ QVariantMap describeSettling(QVariantMap description, PowerFlow flow)
 }
 
 QList<UPowerDevice> powerSourcesInOrder(const QList<UPowerDevice> &devices,
-                                        std::optional<bool> onBattery)
+                                        std::optional<bool> externalPower)
 {
     QList<UPowerDevice> sources;
     std::copy_if(devices.begin(), devices.end(), std::back_inserter(sources),
                  [](const UPowerDevice &device) { return device.isPowerSource(); });
     std::stable_sort(sources.begin(), sources.end(),
-                     [onBattery](const UPowerDevice &left, const UPowerDevice &right) {
-                         return rankOf(left, onBattery) < rankOf(right, onBattery);
+                     [externalPower](const UPowerDevice &left, const UPowerDevice &right) {
+                         return rankOf(left, externalPower) < rankOf(right, externalPower);
                      });
     return sources;
 }

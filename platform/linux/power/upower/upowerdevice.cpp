@@ -12,8 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A name is for people: whatever is longer than this was never meant to be read.
-constexpr qsizetype longestName = 256;
+constexpr qsizetype maxNameLength = 256;
 
 UPowerKind kindOf(uint type)
 {
@@ -47,42 +46,42 @@ std::chrono::seconds timeOf(qlonglong seconds)
 
 std::optional<QString> nameOf(const QString &name)
 {
-    const QString text = name.left(longestName).trimmed();
+    const QString text = name.left(maxNameLength).trimmed();
     return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
-bool same(bool value)
+bool unchanged(bool value)
 {
     return value;
 }
 
-/// Takes single properties out of a map, and keeps the names of those that were of a wrong type.
-class PropertyTaker
+/// Reads single properties from a map, and collects the names of those with a wrong type.
+class PropertyReader
 {
 public:
-    explicit PropertyTaker(const QVariantMap &properties)
+    explicit PropertyReader(const QVariantMap &properties)
         : m_properties(properties)
     {
     }
 
     template <typename Value, typename Wire>
-    void take(const QString &name, std::optional<Value> *value, Value (*convert)(Wire))
+    void read(const QString &name, std::optional<Value> *value, Value (*convert)(Wire))
     {
-        takeAs<std::decay_t<Wire>>(name, value, convert);
+        readAs<std::decay_t<Wire>>(name, value, convert);
     }
 
     template <typename Value, typename Wire>
-    void take(const QString &name, std::optional<Value> *value,
+    void read(const QString &name, std::optional<Value> *value,
               std::optional<Value> (*convert)(Wire))
     {
-        takeAs<std::decay_t<Wire>>(name, value, convert);
+        readAs<std::decay_t<Wire>>(name, value, convert);
     }
 
-    [[nodiscard]] const QStringList &wrong() const { return m_wrong; }
+    [[nodiscard]] const QStringList &wrongTypes() const { return m_wrongTypes; }
 
 private:
     template <typename Wire, typename Value, typename Convert>
-    void takeAs(const QString &name, std::optional<Value> *value, Convert convert)
+    void readAs(const QString &name, std::optional<Value> *value, Convert convert)
     {
         const auto found = m_properties.constFind(name);
         if (found == m_properties.constEnd())
@@ -91,29 +90,29 @@ private:
             *value = convert(found->template value<Wire>());
         } else {
             value->reset();
-            m_wrong.append(name);
+            m_wrongTypes.append(name);
         }
     }
 
     const QVariantMap &m_properties;
-    QStringList m_wrong;
+    QStringList m_wrongTypes;
 };
 
 } // namespace
 
 QStringList UPowerDevice::update(const QVariantMap &properties)
 {
-    PropertyTaker taker(properties);
-    taker.take(u"Type"_s, &kind, &kindOf);
-    taker.take(u"PowerSupply"_s, &powersSystem, &same);
-    taker.take(u"IsPresent"_s, &isPresent, &same);
-    taker.take(u"State"_s, &state, &stateOf);
-    taker.take(u"Percentage"_s, &percentage, &percentageOf);
-    taker.take(u"TimeToEmpty"_s, &timeToEmpty, &timeOf);
-    taker.take(u"TimeToFull"_s, &timeToFull, &timeOf);
-    taker.take(u"Model"_s, &model, &nameOf);
-    taker.take(u"NativePath"_s, &nativePath, &nameOf);
-    return taker.wrong();
+    PropertyReader reader(properties);
+    reader.read(u"Type"_s, &kind, &kindOf);
+    reader.read(u"PowerSupply"_s, &powersSystem, &unchanged);
+    reader.read(u"IsPresent"_s, &isPresent, &unchanged);
+    reader.read(u"State"_s, &state, &stateOf);
+    reader.read(u"Percentage"_s, &percentage, &percentageOf);
+    reader.read(u"TimeToEmpty"_s, &timeToEmpty, &timeOf);
+    reader.read(u"TimeToFull"_s, &timeToFull, &timeOf);
+    reader.read(u"Model"_s, &model, &nameOf);
+    reader.read(u"NativePath"_s, &nativePath, &nameOf);
+    return reader.wrongTypes();
 }
 
 bool UPowerDevice::mayPowerSystem() const noexcept

@@ -12,10 +12,12 @@
 
 namespace ferrin {
 
-/// UPower's kinds of devices, as far as they may power the system.
+/// UPower's device types, as far as they may power the system.
+/// https://upower.freedesktop.org/docs/Device.html
 enum class UPowerKind { Battery, Ups, Other };
 
-/// UPower's states of a battery.
+/// UPower's battery states, in the order of their numbers.
+/// https://upower.freedesktop.org/docs/Device.html
 enum class UPowerState {
     Unknown,
     Charging,
@@ -26,8 +28,8 @@ enum class UPowerState {
     PendingDischarge,
 };
 
-/// What UPower says of one device, value by value: each is absent while it is not known, and when
-/// it came in another type than UPower's own. A plain value, kept by UPowerPicture.
+/// UPower's properties of one device. Each is absent while it is not known, and when it came with a
+/// type that differs from UPower's documentation. A plain value, kept by UPowerClient.
 struct UPowerDevice
 {
     std::optional<UPowerKind> kind;
@@ -37,19 +39,19 @@ struct UPowerDevice
     std::optional<UPowerState> state;
     /// 0 to 100, clamped.
     std::optional<int> percentage;
-    /// Zero is UPower's "not known".
+    /// Zero means "not known" in UPower.
     std::optional<std::chrono::seconds> timeToEmpty;
-    /// Zero is UPower's "not known".
+    /// Zero means "not known" in UPower.
     std::optional<std::chrono::seconds> timeToFull;
-    /// As its maker wrote it, shortened to a bearable length; absent when empty.
+    /// At most 256 characters; absent when empty.
     std::optional<QString> model;
-    /// The kernel's name of it, mostly; absent when empty.
+    /// Usually the kernel's name of the supply; absent when empty.
     std::optional<QString> nativePath;
 
     friend bool operator==(const UPowerDevice &, const UPowerDevice &) = default;
 
-    /// Takes over the properties that are in the map and leaves all others as they are. Answers
-    /// with the names of those whose value was of another type than UPower's.
+    /// Sets the properties that are in the map and leaves all others unchanged. Returns the names
+    /// of those with a wrong type.
     QStringList update(const QVariantMap &properties);
 
     /// A battery or a UPS of the machine itself, or not yet known to be something else.

@@ -14,50 +14,51 @@ namespace ferrin {
 
 namespace {
 
-struct Picture
+struct PowerSources
 {
-    QList<UPowerDevice> sources;
+    QList<UPowerDevice> devices;
     QList<QVariantMap> descriptions;
-    std::optional<bool> onBattery;
+    std::optional<bool> externalPower;
 };
 
-std::shared_ptr<const Picture> pictureOf(const UPowerPicture &devices)
+std::shared_ptr<const PowerSources> powerSourcesOf(const UPowerClient &client,
+                                                   std::optional<bool> externalPower)
 {
-    auto picture = std::make_shared<Picture>();
-    picture->onBattery = devices.onBattery();
-    picture->sources = powerSourcesInOrder(devices.devices(), picture->onBattery);
-    for (const UPowerDevice &source : std::as_const(picture->sources))
-        picture->descriptions.append(describe(source, picture->onBattery));
-    return picture;
+    auto sources = std::make_shared<PowerSources>();
+    sources->externalPower = externalPower;
+    sources->devices = powerSourcesInOrder(client.devices(), externalPower);
+    for (const UPowerDevice &device : std::as_const(sources->devices))
+        sources->descriptions.append(describe(device, externalPower));
+    return sources;
 }
 
-const Picture *pictureIn(const PowerSourcesService::Snapshot &snapshot)
+const PowerSources *sourcesIn(const PowerSourcesService::Snapshot &snapshot)
 {
-    return static_cast<const Picture *>(snapshot.get());
+    return static_cast<const PowerSources *>(snapshot.get());
 }
 
 } // namespace
 
-UPowerService::UPowerService(const QDBusConnection &bus, SteadyNow now, QObject *parent)
+UPowerService::UPowerService(const QDBusConnection &bus, ExternalPower externalPower, SteadyNow now,
+                             QObject *parent)
     : QObject(parent)
-    , m_picture(bus, now)
+    , m_client(bus, now)
     , m_settling(std::move(now))
+    , m_externalPower(std::move(externalPower))
 {
-    connect(&m_picture, &UPowerPicture::changed, this, [this] { m_snapshot.reset(); });
-    connect(&m_picture, &UPowerPicture::powerStateChanged, this, [this] {
-        const std::optional<bool> onBattery = m_picture.onBattery();
-        Q_EMIT powerStateChanged(onBattery ? std::optional(!*onBattery) : std::nullopt);
-    });
-    m_picture.waitForFirstPicture(firstPictureBudget);
+    connect(&m_client, &UPowerClient::changed, this, [this] { m_snapshot.reset(); });
+    connect(&m_client, &UPowerClient::powerStateChanged, this, &UPowerService::powerStateChanged);
+    m_client.waitForFirstReplies(firstReplyBudget);
 }
 
 PowerSourcesService::Snapshot UPowerService::copyInfo()
 {
-    m_picture.noteSilence();
-    if (!m_picture.isKnown())
+    m_client.logOverdueReplies();
+    updateExternalPower();
+    if (!m_client.isKnown())
         return {};
     if (!m_snapshot)
-        m_snapshot = pictureOf(m_picture);
+        m_snapshot = powerSourcesOf(m_client, m_lastExternalPower);
     return m_snapshot;
 }
 
@@ -66,27 +67,39 @@ UPowerService::copyList(const Snapshot &snapshot)
 {
     if (!snapshot)
         return std::nullopt;
-    QList<SourceHandle> handles(pictureIn(snapshot)->sources.size());
+    QList<SourceHandle> handles(sourcesIn(snapshot)->devices.size());
     std::iota(handles.begin(), handles.end(), 0);
     return handles;
 }
 
 QVariant UPowerService::description(const Snapshot &snapshot, SourceHandle handle)
 {
-    const Picture *picture = pictureIn(snapshot);
-    if (!picture || handle < 0 || handle >= picture->sources.size())
+    const PowerSources *sources = sourcesIn(snapshot);
+    if (!sources || handle < 0 || handle >= sources->devices.size())
         return {};
-    const QVariantMap &description = picture->descriptions.at(handle);
+    const QVariantMap &description = sources->descriptions.at(handle);
     if (!m_settling.isRunning())
         return description;
     return describeSettling(description,
-                            settlingFlowOf(picture->sources.at(handle), picture->onBattery,
-                                           m_settling.onExternalPower()));
+                            settlingFlowOf(sources->devices.at(handle), sources->externalPower,
+                                           m_settling.externalPower()));
 }
 
-void UPowerService::settle(std::optional<bool> onExternalPower)
+void UPowerService::settleAfterWaking()
 {
-    m_settling.begin(onExternalPower);
+    m_settling.begin(std::nullopt);
+}
+
+void UPowerService::updateExternalPower()
+{
+    const std::optional<bool> external = m_externalPower();
+    if (!external || external == m_lastExternalPower)
+        return;
+    // The first answer is no change.
+    if (m_lastExternalPower)
+        m_settling.begin(external);
+    m_lastExternalPower = external;
+    m_snapshot.reset();
 }
 
 } // namespace ferrin

@@ -4,49 +4,58 @@
 #pragma once
 
 #include "platform/linux/power/upower/settlingperiod.h"
-#include "platform/linux/power/upower/upowerpicture.h"
+#include "platform/linux/power/upower/upowerclient.h"
 #include "sources/powersourcesservice.h"
 
 #include <QDBusConnection>
 #include <QObject>
 
+#include <functional>
 #include <optional>
 
 namespace ferrin {
 
-/// The power-sources service as UPower gives it. Built once at start and owned by the application,
-/// which hands it settle() from PowerEvents and PowerEvents its powerStateChanged(). A snapshot is
-/// a share of the picture that UPower's signals keep up to date, so that none of the three
-/// operations ever waits for the daemon; only the constructor waits, for the very first picture and
-/// not for long. It is null while there is no daemon, or none that has answered.
+/// The power-sources service on top of UPower. Built once at start and owned by the application. A
+/// snapshot is made from UPowerClient's copy of the devices, so none of the three operations waits
+/// for the daemon; only the constructor waits, for at most firstReplyBudget. It is null while there
+/// is no daemon, or none that has replied.
+///
+/// When external power was connected or disconnected since the last snapshot, times are reported as
+/// still being estimated for the length of a SettlingPeriod.
 class UPowerService final : public QObject, public PowerSourcesService
 {
     Q_OBJECT
 
 public:
-    static constexpr std::chrono::milliseconds firstPictureBudget { 250 };
+    static constexpr std::chrono::milliseconds firstReplyBudget { 250 };
 
-    explicit UPowerService(const QDBusConnection &bus,
-                           SteadyNow now = &std::chrono::steady_clock::now,
-                           QObject *parent = nullptr);
+    /// Whether power is external, absent when that is not known: the kernel's answer, which UPower
+    /// does not always share. Called for each snapshot, never from the constructor.
+    using ExternalPower = std::function<std::optional<bool>()>;
+
+    UPowerService(const QDBusConnection &bus, ExternalPower externalPower,
+                  SteadyNow now = &std::chrono::steady_clock::now, QObject *parent = nullptr);
 
     [[nodiscard]] Snapshot copyInfo() override;
     [[nodiscard]] std::optional<QList<SourceHandle>> copyList(const Snapshot &snapshot) override;
     [[nodiscard]] QVariant description(const Snapshot &snapshot, SourceHandle handle) override;
 
-    /// For the next ten seconds times are told as still being estimated. `onExternalPower` is what
-    /// the adapter now does; absent when the machine only woke.
-    void settle(std::optional<bool> onExternalPower);
+    /// To be called when the machine woke: begins a settling period.
+    void settleAfterWaking();
 
 Q_SIGNALS:
-    /// UPower tells of another power state of the machine or of one of its sources. The word on
-    /// external power is absent when UPower has none.
-    void powerStateChanged(std::optional<bool> onExternalPower);
+    /// UPower reports another state of a source, or a source was added or removed.
+    void powerStateChanged();
 
 private:
-    UPowerPicture m_picture;
+    void updateExternalPower();
+
+    UPowerClient m_client;
     SettlingPeriod m_settling;
-    /// Of the present picture; null when it changed since it was last asked for.
+    ExternalPower m_externalPower;
+    /// The last answer that was not absent.
+    std::optional<bool> m_lastExternalPower;
+    /// Null when something changed since the last one was made.
     Snapshot m_snapshot;
 };
 
