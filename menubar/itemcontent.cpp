@@ -4,6 +4,7 @@
 #include "menubar/itemcontent.h"
 
 #include "core/batterydata.h"
+#include "core/itemstateof.h"
 #include "menubar/iconview.h"
 #include "menubar/itemviews.h"
 #include "state/displayswitches.h"
@@ -17,20 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isCharged(BatteryChargingStatus status)
-{
-    switch (status) {
-    case BatteryChargingStatus::charging:
-    case BatteryChargingStatus::discharging:
-        return false;
-    case BatteryChargingStatus::charged:
-    case BatteryChargingStatus::finishingCharge:
-    case BatteryChargingStatus::unknown:
-        return true;
-    }
-    Q_UNREACHABLE();
-}
-
 QString chargeTextOf(const BatteryData &data)
 {
     const auto charge = data.charge();
@@ -43,11 +30,17 @@ QString timeTextOf(const BatteryData &data)
     return (hours ? QString::number(*hours) : u"?"_s) + u':' + data.timeRemainingMinutesText();
 }
 
-QString nameOf(BatteryChargingStatus status)
+QString nameOf(ItemState state)
 {
-    if (isCharged(status))
+    switch (state) {
+    case ItemState::discharging:
+        return u"Discharging"_s;
+    case ItemState::charging:
+        return u"Charging"_s;
+    case ItemState::charged:
         return u"Charged"_s;
-    return status == BatteryChargingStatus::charging ? u"Charging"_s : u"Discharging"_s;
+    }
+    Q_UNREACHABLE();
 }
 
 /// The seven mixes, in words of the views.
@@ -72,31 +65,15 @@ AnyView viewWithIcon(const ItemContent &content, const AnyView &icon)
 
 } // namespace
 
-ItemElements switchedOnFor(BatteryChargingStatus status, const DisplaySwitches &switches)
+ItemElements switchedOnFor(ItemState state, const DisplaySwitches &switches)
 {
-    if (status == BatteryChargingStatus::discharging)
-        return { switches.showIconWhenDischarging(), switches.showChargeWhenDischarging(),
-                 switches.showTimeWhenDischarging() };
-    if (status == BatteryChargingStatus::charging)
-        return { switches.showIconWhenCharging(), switches.showChargeWhenCharging(),
-                 switches.showTimeWhenCharging() };
-    return { switches.showIconWhenCharged(), switches.showChargeWhenCharged(),
-             switches.showTimeWhenCharged() };
+    const auto [icon, charge, time] = switchesOf(state);
+    return { switches.isOn(icon), switches.isOn(charge), switches.isOn(time) };
 }
 
-Icon selectedIconFor(BatteryChargingStatus status, SettingsData &settings)
+ItemElements shownElements(ItemState state, ItemElements switchedOn)
 {
-    // Through the bindables, which never write: this runs inside a binding.
-    if (status == BatteryChargingStatus::discharging)
-        return settings.bindableDischargingIconSelected().value();
-    if (status == BatteryChargingStatus::charging)
-        return settings.bindableChargingIconSelected().value();
-    return settings.bindableChargedIconSelected().value();
-}
-
-ItemElements shownElements(BatteryChargingStatus status, ItemElements switchedOn)
-{
-    if (isCharged(status))
+    if (state == ItemState::charged)
         return { switchedOn.icon, switchedOn.charge || !switchedOn.icon, false };
     if (switchedOn == ItemElements {})
         return { .time = true };
@@ -107,7 +84,8 @@ ItemContent contentFor(const BatteryData &data, const DisplaySwitches &switches,
                        SettingsData &settings, bool connected)
 {
     const BatteryChargingStatus status = data.chargingStatus();
-    const ItemElements shown = shownElements(status, switchedOnFor(status, switches));
+    const ItemState state = itemStateOf(status);
+    const ItemElements shown = shownElements(state, switchedOnFor(state, switches));
 
     ItemContent content { .status = status, .hasBattery = connected };
     if (shown.icon) {
@@ -115,10 +93,10 @@ ItemContent contentFor(const BatteryData &data, const DisplaySwitches &switches,
                                      .status = status,
                                      .fault = !connected };
         if (connected)
-            content.icon->icon = selectedIconFor(status, settings);
+            content.icon->icon = bindableIconSelected(state, settings).value();
     }
     if (shown.charge)
-        content.charge = isCharged(status) ? u"100"_s : chargeTextOf(data);
+        content.charge = state == ItemState::charged ? u"100"_s : chargeTextOf(data);
     if (shown.time)
         content.time = timeTextOf(data);
     return content;
@@ -147,7 +125,7 @@ QString sentenceFor(const ItemContent &content)
         parts << *content.time
                 + (content.status == BatteryChargingStatus::charging ? u" to full"_s
                                                                      : u" to empty"_s);
-    return parts.isEmpty() ? nameOf(content.status) : parts.join(u", "_s);
+    return parts.isEmpty() ? nameOf(itemStateOf(content.status)) : parts.join(u", "_s);
 }
 
 } // namespace ferrin

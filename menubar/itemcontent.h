@@ -6,6 +6,7 @@
 #include "core/batterytypes.h"
 #include "menubar/view.h"
 #include "state/icon.h"
+#include "state/itemstate.h"
 
 #include <QString>
 
@@ -58,16 +59,13 @@ struct ItemElements
     bool operator==(const ItemElements &) const = default;
 };
 
-/// What the user switched on for the state that this status belongs to.
-[[nodiscard]] ItemElements switchedOnFor(BatteryChargingStatus status,
-                                         const DisplaySwitches &switches);
+/// What the user switched on for this state.
+[[nodiscard]] ItemElements switchedOnFor(ItemState state, const DisplaySwitches &switches);
 
-/// The icon that the user selected for the state that this status belongs to. Never writes.
-[[nodiscard]] Icon selectedIconFor(BatteryChargingStatus status, SettingsData &settings);
-
-/// What is shown where these elements are switched on. The time stands in for nothing at all while
-/// the battery works; once it is charged the charge does, and the time is never shown.
-[[nodiscard]] ItemElements shownElements(BatteryChargingStatus status, ItemElements switchedOn);
+/// What is shown where these elements are switched on. Without any, the time is shown while the
+/// battery is charging or discharging. Once it is charged the time is never shown, and without an
+/// icon the charge is.
+[[nodiscard]] ItemElements shownElements(ItemState state, ItemElements switchedOn);
 
 /// What the item shows now. Reads no more of the snapshot, the settings and the switches than it
 /// shows, so that a binding over it is evaluated again only when that changes. `connected`: the

@@ -12,9 +12,9 @@ namespace ferrin {
 MenuBarIcon::MenuBarIcon(const StateChoices::Sources &sources, QObject *parent)
     : QObject(parent)
     , m_data(sources.data)
-    , m_discharging(BatteryChargingStatus::discharging, sources)
-    , m_charging(BatteryChargingStatus::charging, sources)
-    , m_charged(BatteryChargingStatus::charged, sources)
+    , m_discharging(ItemState::discharging, sources)
+    , m_charging(ItemState::charging, sources)
+    , m_charged(ItemState::charged, sources)
 {
     for (StateChoices *choices : { &m_discharging, &m_charging, &m_charged })
         QJSEngine::setObjectOwnership(choices, QJSEngine::CppOwnership);

@@ -10,25 +10,6 @@ namespace ferrin {
 
 namespace {
 
-QBindable<Icon> selectionOf(BatteryChargingStatus status, SettingsData &settings)
-{
-    if (status == BatteryChargingStatus::discharging)
-        return settings.bindableDischargingIconSelected();
-    if (status == BatteryChargingStatus::charging)
-        return settings.bindableChargingIconSelected();
-    return settings.bindableChargedIconSelected();
-}
-
-void select(Icon icon, BatteryChargingStatus status, SettingsData &settings)
-{
-    if (status == BatteryChargingStatus::discharging)
-        settings.setDischargingIconSelected(icon);
-    else if (status == BatteryChargingStatus::charging)
-        settings.setChargingIconSelected(icon);
-    else
-        settings.setChargedIconSelected(icon);
-}
-
 QStringList rawValues(std::span<const Icon> icons, bool areGlyphs)
 {
     QStringList values;
@@ -41,18 +22,19 @@ QStringList rawValues(std::span<const Icon> icons, bool areGlyphs)
 
 } // namespace
 
-StateChoices::StateChoices(BatteryChargingStatus status, const Sources &sources, QObject *parent)
+StateChoices::StateChoices(ItemState state, const Sources &sources, QObject *parent)
     : QObject(parent)
-    , m_sample(sampleOf(status))
+    , m_sample(sampleOf(state))
+    , m_switches(switchesOf(state))
     , m_sources(sources)
 {
-    const std::array all { m_sample.showIcon, m_sample.showCharge, m_sample.showTime };
+    const std::array all { m_switches.icon, m_switches.charge, m_switches.time };
     for (std::size_t i = 0; i < all.size(); ++i) {
         const DisplaySwitch which = all[i];
         m_switchFollowers[i]
             = sources.switches.bindable(which).addNotifier([this, which] { keepOne(which); });
     }
-    m_iconFollower = selectionOf(m_sample.status, sources.settings).addNotifier([this] {
+    m_iconFollower = bindableIconSelected(state, sources.settings).addNotifier([this] {
         Q_EMIT iconChanged();
     });
     m_preview.setBinding([this] { return computePreview(); });
@@ -60,53 +42,53 @@ StateChoices::StateChoices(BatteryChargingStatus status, const Sources &sources,
 
 bool StateChoices::showIcon() const
 {
-    return m_sources.switches.isOn(m_sample.showIcon);
+    return m_sources.switches.isOn(m_switches.icon);
 }
 
 void StateChoices::setShowIcon(bool on)
 {
-    m_sources.switches.set(m_sample.showIcon, on);
+    m_sources.switches.set(m_switches.icon, on);
 }
 
 bool StateChoices::showCharge() const
 {
-    return m_sources.switches.isOn(m_sample.showCharge);
+    return m_sources.switches.isOn(m_switches.charge);
 }
 
 void StateChoices::setShowCharge(bool on)
 {
-    m_sources.switches.set(m_sample.showCharge, on);
+    m_sources.switches.set(m_switches.charge, on);
 }
 
 bool StateChoices::showTime() const
 {
-    return m_sources.switches.isOn(m_sample.showTime);
+    return m_sources.switches.isOn(m_switches.time);
 }
 
 void StateChoices::setShowTime(bool on)
 {
-    m_sources.switches.set(m_sample.showTime, on);
+    m_sources.switches.set(m_switches.time, on);
 }
 
 QString StateChoices::icon() const
 {
-    return rawValue(selectedIconFor(m_sample.status, m_sources.settings));
+    return rawValue(bindableIconSelected(m_sample.state, m_sources.settings).value());
 }
 
 void StateChoices::setIcon(const QString &rawValue)
 {
     if (const auto icon = iconFromRawValue(rawValue))
-        select(*icon, m_sample.status, m_sources.settings);
+        setIconSelected(m_sample.state, *icon, m_sources.settings);
 }
 
 QStringList StateChoices::glyphs() const
 {
-    return rawValues(m_sample.icons, true);
+    return rawValues(availableIcons(m_sample.state), true);
 }
 
 QStringList StateChoices::symbols() const
 {
-    return rawValues(m_sample.icons, false);
+    return rawValues(availableIcons(m_sample.state), false);
 }
 
 QString StateChoices::sentence() const
@@ -116,7 +98,7 @@ QString StateChoices::sentence() const
 
 void StateChoices::keepOne(DisplaySwitch changed)
 {
-    const bool isLast = switchedOnFor(m_sample.status, m_sources.switches) == ItemElements {};
+    const bool isLast = switchedOnFor(m_sample.state, m_sources.switches) == ItemElements {};
     // Whoever listens hears of it when the switch is on again. This change is not told here once
     // more: a notifier is not called while it runs.
     if (isLast)
@@ -129,12 +111,14 @@ void StateChoices::keepOne(DisplaySwitch changed)
 ItemContent StateChoices::computePreview() const
 {
     const ItemElements shown
-        = shownElements(m_sample.status, switchedOnFor(m_sample.status, m_sources.switches));
+        = shownElements(m_sample.state, switchedOnFor(m_sample.state, m_sources.switches));
     ItemContent content { .status = m_sample.status };
     if (shown.icon)
-        content.icon = IconElement { .icon = selectedIconFor(m_sample.status, m_sources.settings),
-                                     .charge = charge(),
-                                     .status = m_sources.data.chargingStatus() };
+        content.icon
+            = IconElement { .icon
+                            = bindableIconSelected(m_sample.state, m_sources.settings).value(),
+                            .charge = charge(),
+                            .status = m_sources.data.chargingStatus() };
     if (shown.charge)
         content.charge = QString::number(m_sample.charge);
     if (shown.time)

@@ -52,7 +52,7 @@ public:
         DisplaySwitches &switches;
     };
 
-    StateChoices(BatteryChargingStatus status, const Sources &sources, QObject *parent = nullptr);
+    StateChoices(ItemState state, const Sources &sources, QObject *parent = nullptr);
 
     [[nodiscard]] int status() const { return int(m_sample.status); }
     [[nodiscard]] bool showIcon() const;
@@ -90,6 +90,7 @@ private:
     [[nodiscard]] ItemContent computePreview() const;
 
     StateSample m_sample;
+    ItemSwitches m_switches;
     Sources m_sources;
     std::array<QPropertyNotifier, 3> m_switchFollowers;
     QPropertyNotifier m_iconFollower;

@@ -3,8 +3,6 @@
 
 #include "settingswindow/menubaricon/statesample.h"
 
-#include "state/iconcatalogues.h"
-
 namespace ferrin {
 
 using namespace Qt::StringLiterals;
@@ -13,11 +11,8 @@ namespace {
 
 StateSample discharging()
 {
-    return { .status = BatteryChargingStatus::discharging,
-             .showIcon = DisplaySwitch::showIconWhenDischarging,
-             .showCharge = DisplaySwitch::showChargeWhenDischarging,
-             .showTime = DisplaySwitch::showTimeWhenDischarging,
-             .icons = DischargingIconsAvailable::shared().list,
+    return { .state = ItemState::discharging,
+             .status = BatteryChargingStatus::discharging,
              .charge = 37,
              .time = u"4:29"_s,
              .caption = u"Preview 37% and 4:29 to empty"_s,
@@ -29,11 +24,8 @@ StateSample discharging()
 
 StateSample charging()
 {
-    return { .status = BatteryChargingStatus::charging,
-             .showIcon = DisplaySwitch::showIconWhenCharging,
-             .showCharge = DisplaySwitch::showChargeWhenCharging,
-             .showTime = DisplaySwitch::showTimeWhenCharging,
-             .icons = ChargingIconsAvailable::shared().list,
+    return { .state = ItemState::charging,
+             .status = BatteryChargingStatus::charging,
              .charge = 78,
              .time = u"0:52"_s,
              .caption = u"Preview 78% and 0:52 to full"_s,
@@ -45,11 +37,8 @@ StateSample charging()
 
 StateSample charged()
 {
-    return { .status = BatteryChargingStatus::charged,
-             .showIcon = DisplaySwitch::showIconWhenCharged,
-             .showCharge = DisplaySwitch::showChargeWhenCharged,
-             .showTime = DisplaySwitch::showTimeWhenCharged,
-             .icons = ChargedIconsAvailable::shared().list,
+    return { .state = ItemState::charged,
+             .status = BatteryChargingStatus::charged,
              .charge = 100,
              .caption = u"Preview 100% fully charged"_s,
              .title = u"When fully charged"_s,
@@ -59,16 +48,14 @@ StateSample charged()
 
 } // namespace
 
-StateSample sampleOf(BatteryChargingStatus status)
+StateSample sampleOf(ItemState state)
 {
-    switch (status) {
-    case BatteryChargingStatus::discharging:
+    switch (state) {
+    case ItemState::discharging:
         return discharging();
-    case BatteryChargingStatus::charging:
+    case ItemState::charging:
         return charging();
-    case BatteryChargingStatus::charged:
-    case BatteryChargingStatus::finishingCharge:
-    case BatteryChargingStatus::unknown:
+    case ItemState::charged:
         return charged();
     }
     Q_UNREACHABLE();

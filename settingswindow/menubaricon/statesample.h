@@ -4,23 +4,18 @@
 #pragma once
 
 #include "core/batterytypes.h"
-#include "state/displayswitches.h"
-#include "state/icon.h"
+#include "state/itemstate.h"
 
 #include <QString>
-
-#include <span>
 
 namespace ferrin {
 
 /// What the settings window says and shows of one battery state, apart from what the user chose.
 struct StateSample
 {
+    ItemState state = ItemState::discharging;
+    /// Of the preview.
     BatteryChargingStatus status = BatteryChargingStatus::discharging;
-    DisplaySwitch showIcon {};
-    DisplaySwitch showCharge {};
-    DisplaySwitch showTime {};
-    std::span<const Icon> icons = {};
     /// Percent.
     int charge = 0;
     /// "4:29"; empty where no time is ever shown.
@@ -33,7 +28,6 @@ struct StateSample
     QString timeLabel = {};
 };
 
-/// Of the three states with choices of their own: discharging, charging and charged.
-[[nodiscard]] StateSample sampleOf(BatteryChargingStatus status);
+[[nodiscard]] StateSample sampleOf(ItemState state);
 
 } // namespace ferrin

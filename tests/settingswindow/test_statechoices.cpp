@@ -14,27 +14,27 @@
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
-using enum BatteryChargingStatus;
+using enum ItemState;
 
 namespace {
 
 /// The settings of one user, and what is chosen for one state.
 struct Fixture
 {
-    explicit Fixture(BatteryChargingStatus state)
-        : status(state)
+    explicit Fixture(ItemState itemState)
+        : state(itemState)
     {
     }
 
     /// As stored before anybody watches over it.
     void store3(bool icon, bool charge, bool time)
     {
-        const StateSample sample = sampleOf(status);
-        switches.set(sample.showIcon, icon);
-        switches.set(sample.showCharge, charge);
-        switches.set(sample.showTime, time);
+        const ItemSwitches which = switchesOf(state);
+        switches.set(which.icon, icon);
+        switches.set(which.charge, charge);
+        switches.set(which.time, time);
     }
-    void watch() { choices = std::make_unique<StateChoices>(status, sources()); }
+    void watch() { choices = std::make_unique<StateChoices>(state, sources()); }
     [[nodiscard]] StateChoices::Sources sources() { return { data, *settings, switches }; }
     [[nodiscard]] QList<bool> shown() const
     {
@@ -42,7 +42,7 @@ struct Fixture
     }
     [[nodiscard]] bool stored(const QString &key) const { return store.stored.value(key).toBool(); }
 
-    BatteryChargingStatus status;
+    ItemState state;
     MemoryDefaultsStore store;
     BatteryData data;
     std::unique_ptr<SettingsData> settings = newSettings(store);
@@ -52,7 +52,7 @@ struct Fixture
 
 void addStates()
 {
-    QTest::addColumn<BatteryChargingStatus>("status");
+    QTest::addColumn<ItemState>("state");
     QTest::newRow("discharging") << discharging;
     QTest::newRow("charging") << charging;
     QTest::newRow("charged") << charged;
@@ -67,31 +67,31 @@ class TestStateChoices : public QObject
 private Q_SLOTS:
     void previewsWhatTheItemWouldShow_data()
     {
-        QTest::addColumn<BatteryChargingStatus>("status");
+        QTest::addColumn<ItemState>("state");
         QTest::addColumn<int>("mix");
-        const QList<std::pair<QByteArray, BatteryChargingStatus>> states {
-            { "discharging", discharging }, { "charging", charging }, { "charged", charged }
-        };
-        for (const auto &[name, status] : states) {
+        const QList<std::pair<QByteArray, ItemState>> states { { "discharging", discharging },
+                                                               { "charging", charging },
+                                                               { "charged", charged } };
+        for (const auto &[name, state] : states) {
             for (int mix = 0; mix < 8; ++mix)
                 QTest::addRow("%s, %s%s%s.", name.constData(), mix & 4 ? "I" : "",
                               mix & 2 ? "C" : "", mix & 1 ? "T" : "")
-                    << status << mix;
+                    << state << mix;
         }
     }
 
     void previewsWhatTheItemWouldShow()
     {
-        QFETCH(BatteryChargingStatus, status);
+        QFETCH(ItemState, state);
         QFETCH(int, mix);
-        Fixture f(status);
+        Fixture f(state);
         f.store3((mix & 4) != 0, (mix & 2) != 0, (mix & 1) != 0);
         f.watch();
-        f.choices->setIcon(rawValue(sampleOf(status).icons[5]));
-        f.data.setChargingStatus(status);
-        f.data.setCharge(sampleOf(status).charge);
-        f.data.setTimeRemaining(status == discharging ? BatteryTime { 4, 29 }
-                                                      : BatteryTime { 0, 52 });
+        f.choices->setIcon(rawValue(availableIcons(state)[5]));
+        f.data.setChargingStatus(sampleOf(state).status);
+        f.data.setCharge(sampleOf(state).charge);
+        f.data.setTimeRemaining(state == discharging ? BatteryTime { 4, 29 }
+                                                     : BatteryTime { 0, 52 });
         const ItemContent item = contentFor(f.data, f.switches, *f.settings, true);
         QVERIFY(viewFor(f.choices->preview()) == viewFor(item));
         QCOMPARE(f.choices->sentence(), sentenceFor(item));
@@ -124,12 +124,12 @@ private Q_SLOTS:
         Fixture f(charging);
         f.watch();
         const QSignalSpy changes(f.choices.get(), &StateChoices::previewChanged);
-        f.data.setChargingStatus(discharging);
+        f.data.setChargingStatus(BatteryChargingStatus::discharging);
         QCOMPARE(changes.count(), 1);
         const IconElement icon = f.choices->preview().icon.value();
-        QCOMPARE(icon.status, discharging);
+        QCOMPARE(icon.status, BatteryChargingStatus::discharging);
         QCOMPARE(icon.charge, 78.0);
-        QCOMPARE(f.choices->preview().status, charging);
+        QCOMPARE(f.choices->preview().status, BatteryChargingStatus::charging);
     }
 
     void turnsTheLastSwitchBackOnAtOnce()
@@ -150,7 +150,7 @@ private Q_SLOTS:
 
     void whicheverOfThemIsTheLast_data()
     {
-        QTest::addColumn<BatteryChargingStatus>("status");
+        QTest::addColumn<ItemState>("state");
         QTest::addColumn<int>("last");
         for (int last = 0; last < 3; ++last) {
             QTest::addRow("discharging %d", last) << discharging << last;
@@ -161,9 +161,9 @@ private Q_SLOTS:
 
     void whicheverOfThemIsTheLast()
     {
-        QFETCH(BatteryChargingStatus, status);
+        QFETCH(ItemState, state);
         QFETCH(int, last);
-        Fixture f(status);
+        Fixture f(state);
         f.watch();
         using Setter = void (StateChoices::*)(bool);
         const std::array<Setter, 3> setters { &StateChoices::setShowIcon,
@@ -232,30 +232,30 @@ private Q_SLOTS:
 
     void offersItsCatalogueInOrder()
     {
-        QFETCH(BatteryChargingStatus, status);
-        Fixture f(status);
+        QFETCH(ItemState, state);
+        Fixture f(state);
         f.watch();
         QStringList expected;
-        for (const Icon icon : sampleOf(status).icons)
+        for (const Icon icon : availableIcons(state))
             expected.append(rawValue(icon));
         QCOMPARE(f.choices->icons(), expected);
-        QCOMPARE(f.choices->glyphs().size(), status == discharging ? 8 : 12);
+        QCOMPARE(f.choices->glyphs().size(), state == discharging ? 8 : 12);
     }
 
     void theIconIsTheSelectedOneOfItsState_data() { addStates(); }
 
     void theIconIsTheSelectedOneOfItsState()
     {
-        QFETCH(BatteryChargingStatus, status);
-        Fixture f(status);
+        QFETCH(ItemState, state);
+        Fixture f(state);
         f.watch();
         f.store.writes.clear();
         const QSignalSpy changes(f.choices.get(), &StateChoices::iconChanged);
-        const Icon icon = sampleOf(status).icons.back();
+        const Icon icon = availableIcons(state).back();
         f.choices->setIcon(rawValue(icon));
         QVERIFY(changes.count() > 0);
         QCOMPARE(f.choices->icon(), rawValue(icon));
-        QCOMPARE(selectedIconFor(status, *f.settings), icon);
+        QCOMPARE(bindableIconSelected(state, *f.settings).value(), icon);
         QCOMPARE(f.store.writes.size(), 1);
         f.choices->setIcon(u"no icon"_s);
         QCOMPARE(f.choices->icon(), rawValue(icon));
