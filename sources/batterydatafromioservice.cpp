@@ -130,9 +130,8 @@ QVariant BatteryDataFromIOService::charge() const
 
 QVariant BatteryDataFromIOService::adapterDetail(SmartBatteryKey key) const
 {
-    static const QString adapterDetails = u"AdapterDetails"_s;
     const auto details
-        = variantCast<QVariantMap>(m_registry->createProperty(m_service, adapterDetails));
+        = variantCast<QVariantMap>(m_registry->createProperty(m_service, adapterDetailsProperty()));
     return details ? details->value(rawValue(key)) : QVariant();
 }
 

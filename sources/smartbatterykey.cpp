@@ -42,4 +42,10 @@ const QString &rawValue(SmartBatteryKey key)
     return rawValues.at(static_cast<std::size_t>(key));
 }
 
+const QString &adapterDetailsProperty()
+{
+    static const QString name = u"AdapterDetails"_s;
+    return name;
+}
+
 } // namespace ferrin

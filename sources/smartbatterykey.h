@@ -9,8 +9,10 @@
 
 namespace ferrin {
 
-/// The figures that the smart battery can be asked for, in their order. Where a figure is read from
-/// the registry as it stands, its raw value is the name of the property.
+/// The figures of the smart battery, in their order. The raw value of a figure that is read from
+/// the registry unchanged is the name of its property, of one of the adapter the key of its entry
+/// in the property adapterDetailsProperty(). Both the reader and the platform's registry take the
+/// names from here.
 enum class SmartBatteryKey {
     externalConnected,
     isCharging,
@@ -43,5 +45,8 @@ inline constexpr std::size_t smartBatteryKeyCount = 25;
 
 /// The text lives as long as the process; taking it allocates nothing.
 [[nodiscard]] const QString &rawValue(SmartBatteryKey key);
+
+/// The name of the property that holds the adapter's figures, a QVariantMap.
+[[nodiscard]] const QString &adapterDetailsProperty();
 
 } // namespace ferrin

@@ -4,12 +4,11 @@
 #include "platform/linux/power/sysfs/adapterdetails.h"
 
 #include "platform/linux/power/sysfs/attributetext.h"
+#include "sources/smartbatterykey.h"
 
 #include <algorithm>
 
 namespace ferrin {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 constexpr qint64 leastMillivolts = 5'000;
@@ -121,17 +120,17 @@ QVariantMap adapterDetails(const std::vector<AdapterSupply> &adapters, const Ada
     if (!offer)
         offer = hints.partner.greatest;
     if (const Reading watts = wattsOf(adapters, hints, offer))
-        details.insert(u"Watts"_s, *watts);
+        details.insert(rawValue(SmartBatteryKey::watts), *watts);
     if (offer) {
-        details.insert(u"AdapterVoltage"_s, offer->millivolts);
-        details.insert(u"Current"_s, offer->milliamps);
+        details.insert(rawValue(SmartBatteryKey::adapterVoltage), offer->millivolts);
+        details.insert(rawValue(SmartBatteryKey::current), offer->milliamps);
     }
     if (best) {
-        insertName(details, u"Name"_s, nameOf(best->modelName));
-        insertName(details, u"Manufacturer"_s, nameOf(best->manufacturer));
+        insertName(details, rawValue(SmartBatteryKey::name), nameOf(best->modelName));
+        insertName(details, rawValue(SmartBatteryKey::manufacturer), nameOf(best->manufacturer));
     }
-    if (!details.contains(u"Manufacturer"_s))
-        insertName(details, u"Manufacturer"_s, hints.partnerMaker);
+    if (!details.contains(rawValue(SmartBatteryKey::manufacturer)))
+        insertName(details, rawValue(SmartBatteryKey::manufacturer), hints.partnerMaker);
     return details;
 }
 

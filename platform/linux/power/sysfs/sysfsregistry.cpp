@@ -8,6 +8,7 @@
 #include "platform/linux/power/sysfs/batteryrecords.h"
 #include "platform/linux/power/sysfs/designcycles.h"
 #include "platform/linux/power/sysfs/externalpower.h"
+#include "sources/smartbatterykey.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -51,7 +52,7 @@ struct SysfsRegistry::Moment
 
 struct SysfsRegistry::Property
 {
-    QStringView key;
+    SmartBatteryKey key;
     QVariant (*value)(SysfsRegistry &registry);
 };
 
@@ -87,6 +88,8 @@ RegistryService::Handle SysfsRegistry::matchingService(const Matching &matching)
 
 QVariant SysfsRegistry::createProperty(Handle service, const QString &key)
 {
+    if (service == batteryHandle && key == adapterDetailsProperty())
+        return adapter();
     const Property *property = service == batteryHandle ? find(key) : nullptr;
     return property ? property->value(*this) : QVariant();
 }
@@ -117,49 +120,49 @@ bool SysfsRegistry::event(QEvent *event)
 
 const SysfsRegistry::Property *SysfsRegistry::find(QStringView key)
 {
+    using Key = SmartBatteryKey;
     static constexpr std::array properties {
-        Property { u"ExternalConnected",
+        Property { Key::externalConnected,
                    [](SysfsRegistry &self) { return toVariant(self.moment().external); } },
-        Property { u"IsCharging",
+        Property { Key::isCharging,
                    [](SysfsRegistry &self) { return toVariant(self.moment().charging); } },
-        Property { u"FullyCharged",
+        Property { Key::fullyCharged,
                    [](SysfsRegistry &self) { return toVariant(self.moment().fullyCharged); } },
-        Property { u"CurrentCapacity",
+        Property { Key::currentCapacity,
                    [](SysfsRegistry &self) {
                        return toVariant(Reading(chargePercent(self.moment().packs)));
                    } },
         // The charge is a percentage; where there is none, there is nothing to divide by.
-        Property { u"MaxCapacity",
+        Property { Key::maxCapacity,
                    [](SysfsRegistry &self) {
                        return chargePercent(self.moment().packs) ? toVariant(Reading(100))
                                                                  : QVariant();
                    } },
-        Property { u"AppleRawCurrentCapacity",
+        Property { Key::appleRawCurrentCapacity,
                    [](SysfsRegistry &self) {
                        return toVariant(remainingMilliampHours(self.moment().packs));
                    } },
         Property {
-            u"AppleRawMaxCapacity",
+            Key::appleRawMaxCapacity,
             [](SysfsRegistry &self) { return toVariant(fullMilliampHours(self.moment().packs)); } },
-        Property { u"TimeRemaining", [](SysfsRegistry &self) { return self.time({}); } },
-        Property { u"AvgTimeToEmpty",
+        Property { Key::timeRemaining, [](SysfsRegistry &self) { return self.time({}); } },
+        Property { Key::avgTimeToEmpty,
                    [](SysfsRegistry &self) { return self.time(Direction::ToEmpty); } },
-        Property { u"AvgTimeToFull",
+        Property { Key::avgTimeToFull,
                    [](SysfsRegistry &self) { return self.time(Direction::ToFull); } },
-        Property { u"AdapterDetails", [](SysfsRegistry &self) { return self.adapter(); } },
-        Property { u"CycleCount", [](SysfsRegistry &self) { return self.cycleCount(); } },
-        Property { u"DesignCycleCount9C",
+        Property { Key::cycleCount, [](SysfsRegistry &self) { return self.cycleCount(); } },
+        Property { Key::designCycleCount9C,
                    [](SysfsRegistry &self) {
                        return toVariant(Reading(designCycles(
                            readMachineIdentity(self.m_options.root), designCyclesTable())));
                    } },
-        Property { u"DesignCapacity", [](SysfsRegistry &self) { return self.designCapacity(); } },
-        Property { u"Temperature", [](SysfsRegistry &self) { return self.temperature(); } },
-        Property { u"Serial", [](SysfsRegistry &self) { return self.serial(); } },
+        Property { Key::designCapacity, [](SysfsRegistry &self) { return self.designCapacity(); } },
+        Property { Key::temperature, [](SysfsRegistry &self) { return self.temperature(); } },
+        Property { Key::serial, [](SysfsRegistry &self) { return self.serial(); } },
     };
     const auto found
         = std::find_if(properties.begin(), properties.end(),
-                       [key](const Property &property) { return property.key == key; });
+                       [key](const Property &property) { return rawValue(property.key) == key; });
     return found == properties.end() ? nullptr : &*found;
 }
 
