@@ -7,8 +7,8 @@
 
 namespace ferrin {
 
-/// Arithmetic on 64-bit integers that cannot be wrong in silence: a result that does not fit is a
-/// programming error and stops the process with one line.
+/// Arithmetic on 64-bit integers that never overflows silently: a result that does not fit is a
+/// programming error and stops the process with one log line.
 
 [[nodiscard]] qint64 checkedAdd(qint64 left, qint64 right);
 [[nodiscard]] qint64 checkedSubtract(qint64 left, qint64 right);

@@ -7,8 +7,8 @@
 
 namespace ferrin {
 
-/// The one logger of the system. Its category is "stats"; the subsystem, the bundle identifier, is
-/// added where lines leave the process.
+/// The only logging category of the program, "stats". The message handler adds the subsystem, which
+/// is the bundle identifier.
 Q_DECLARE_LOGGING_CATEGORY(logger)
 
 } // namespace ferrin

@@ -8,8 +8,8 @@
 
 namespace ferrin {
 
-/// Tells the time by which durations are measured. Owned by whoever measures; a test hands in its
-/// own, so that nothing waits for seconds to pass.
+/// Returns the current time of a monotonic clock, by default std::chrono::steady_clock. Tests pass
+/// a clock of their own, so that no test waits for time to pass.
 using SteadyNow = std::function<std::chrono::steady_clock::time_point()>;
 
 } // namespace ferrin

@@ -54,7 +54,7 @@ std::optional<bool> variantCast(const QVariant &value)
 template <>
 std::optional<qint64> variantCast(const QVariant &value)
 {
-    // Without a detour where nothing has to be bridged: this runs at every refresh.
+    // The common case first, without a conversion: this runs several times in each refresh.
     if (const auto held = exactly<qint64>(value))
         return held;
     const int type = value.typeId();

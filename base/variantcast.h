@@ -11,11 +11,12 @@
 
 namespace ferrin {
 
-/// The one way to take a plain value out of a value of any type. A value of another type is absent,
-/// never converted: a bool is not a number, a text is neither. Numbers alone are bridged: a whole
-/// number reads as an integer however it is held, and every number reads as a float.
+/// The value of a QVariant as T; absent when it holds another type. Unlike QVariant::value(), it
+/// does not convert: a bool is not a number, and a string is neither. Only numbers are converted to
+/// each other: a whole number of any numeric type can be read as an integer, and every number as a
+/// float.
 ///
-/// Exists for bool, qint64, float, double, QString, QByteArray and QVariantMap.
+/// Specialized for bool, qint64, float, double, QString, QByteArray and QVariantMap.
 template <typename T>
 [[nodiscard]] std::optional<T> variantCast(const QVariant &value);
 
@@ -42,7 +43,7 @@ std::optional<QByteArray> variantCast(const QVariant &value);
 template <>
 std::optional<QVariantMap> variantCast(const QVariant &value);
 
-/// The way back. An absent value is an invalid one, which QML reads as `undefined`.
+/// The reverse. An absent value becomes an invalid QVariant, which QML reads as `undefined`.
 template <typename T>
 [[nodiscard]] QVariant toVariant(const std::optional<T> &value)
 {

@@ -11,9 +11,9 @@
 
 namespace ferrin {
 
-/// The system's own estimate of the time left, taken from the power sources' description of the
-/// internal battery. The provider owns the one instance. It interprets nothing, and a failed read
-/// leaves the last good description in place.
+/// Reads the system's own estimate of the remaining time from the power-sources service. Owned by
+/// the provider. It returns the service's values unchanged, and keeps the last description when a
+/// read fails.
 class BatteryDataFromIOPS
 {
 public:
@@ -22,7 +22,7 @@ public:
     BatteryDataFromIOPS(const BatteryDataFromIOPS &) = delete;
     BatteryDataFromIOPS &operator=(const BatteryDataFromIOPS &) = delete;
 
-    /// The last description of the internal battery; absent until one was read.
+    /// The last description of the internal battery; absent until the first successful read.
     [[nodiscard]] const std::optional<QVariantMap> &batteryInfo() const noexcept
     {
         return m_batteryInfo;
@@ -30,11 +30,11 @@ public:
     /// True until the first successful read.
     [[nodiscard]] bool entryFlag() const noexcept { return m_entryFlag; }
 
-    /// Reads the power sources anew. A failure costs one log line.
+    /// Reads the power sources again. A failure is logged.
     void refresh();
 
-    /// Refreshes, then answers the minutes until empty or until full as the service states them: -1
-    /// while it is still estimating. Absent when it states none.
+    /// Refreshes, then returns the minutes until empty or until full: -1 while the service is still
+    /// estimating, 0 in the direction that does not apply. Absent when the service gives none.
     [[nodiscard]] std::optional<qint64> timeEstimate(bool toEmpty);
 
 private:

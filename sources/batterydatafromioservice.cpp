@@ -123,7 +123,7 @@ QVariant BatteryDataFromIOService::charge() const
     const auto maximum = variantCast<qint64>(property(SmartBatteryKey::maxCapacity));
     if (!maximum)
         return {};
-    // A registry that says that a full battery holds nothing is broken beyond repair: no guard.
+    // A maximum of 0 is a programming error of the registry: checkedInteger() stops the process.
     const float percent = static_cast<float>(*current) * 100.0F / static_cast<float>(*maximum);
     return checkedInteger(std::floor(percent));
 }

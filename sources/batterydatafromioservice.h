@@ -11,13 +11,13 @@
 
 namespace ferrin {
 
-/// The battery controller's own figures, read from the registry service of the smart battery. A
-/// value held by the provider. It looks for the service once, when it is made, and reads afresh at
-/// each look-up: it caches nothing and never looks for the service again.
+/// Reads the battery controller's figures from the registry service of the smart battery. A value
+/// held by the provider. It looks for the service once, in the constructor; it caches nothing, so
+/// every call reads the registry.
 class BatteryDataFromIOService
 {
 public:
-    /// The name that the service is looked for by.
+    /// The name of the registry service.
     static const QString IOSERVICE_BATTERY;
 
     /// Logs whether the service was found. The registry must outlive this value.
@@ -25,23 +25,24 @@ public:
 
     /// 0 when the service was not found or has been closed.
     [[nodiscard]] RegistryService::Handle service() const noexcept { return m_service; }
-    /// Every look-up is refused while this is false.
+    /// While this is false, every figure is absent.
     [[nodiscard]] bool connected() const noexcept { return m_connected; }
 
-    /// The figure in the type and unit that belong to the key; invalid when there is none now.
+    /// The figure in its type and unit; invalid when it is not available.
     ///
     /// bool: externalConnected, isCharging, fullyCharged. qint64: the capacities (mAh, or the
     /// registry's own scale), the cycle counts, the times (minutes; timeRemainingInHs: whole
     /// hours), charge (percent). float: the temperatures (hundredths of a degree Celsius, degrees
     /// Celsius, degrees Fahrenheit), current (A), adapterVoltage (V). QString: serial. As stored,
-    /// whatever the type: watts, name, manufacturer.
+    /// of any type: watts, name, manufacturer.
     [[nodiscard]] QVariant value(SmartBatteryKey key) const;
 
-    /// The registry property named by the key's raw value, with the type it has there; invalid when
-    /// there is none.
+    /// The registry property with the key's raw value for its name, unconverted; invalid when there
+    /// is none.
     [[nodiscard]] QVariant property(SmartBatteryKey key) const;
 
-    /// Releases the service for good; the release result, 0 when there was nothing to release.
+    /// Releases the service for good. Returns the registry's result; 0 when nothing was to be
+    /// released.
     int close();
 
 private:

@@ -21,7 +21,7 @@ std::optional<QString> firstCapture(const QRegularExpression &pattern, const QSt
     return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
 }
 
-/// The list with its brackets and quotes: ["first", "second"].
+/// The list as it is logged: ["first", "second"].
 QString printed(const QStringList &list)
 {
     QStringList quoted;
@@ -81,7 +81,7 @@ std::optional<qint64> BatteryDataFromShell::maxCapacity() const
 
 std::optional<QString> BatteryDataFromShell::condition() const
 {
-    // The verb makes the dot stop at every kind of line end, not at a line feed only.
+    // (*ANY) makes the dot stop at every kind of line end, not only at a line feed.
     static const QRegularExpression pattern(u"(*ANY)Condition: (.*)"_s);
     if (!m_response)
         return std::nullopt;

@@ -12,9 +12,9 @@ namespace ferrin {
 
 class ProcessLauncher;
 
-/// The two health figures that only the hardware report tool states. A value held by the provider.
-/// It runs the tool only when it is told to refresh, which is slow, and answers from the text that
-/// the last run left.
+/// Reads the two health figures that only the hardware report tool provides. A value held by the
+/// provider. It runs the tool in refresh() only, which is slow; everything else parses the text of
+/// the last run.
 class BatteryDataFromShell
 {
 public:
@@ -25,17 +25,19 @@ public:
     /// be started.
     [[nodiscard]] const std::optional<QString> &response() const noexcept { return m_response; }
 
-    /// What the shell prints when it is given the arguments after its "-c": decoded and trimmed,
-    /// absent when it could not be started. Blocks until the shell has exited.
+    /// The output of the shell for the arguments after "-c", decoded and trimmed; absent when it
+    /// could not be started. Blocks until the shell has exited.
     [[nodiscard]] std::optional<QString> runShell(const QStringList &arguments) const;
 
-    /// Runs the report tool and replaces the response, with nothing too. Blocks as long as it runs.
+    /// Runs the report tool and replaces the response, which becomes absent when that fails. Blocks
+    /// until the tool has exited.
     void refresh();
 
-    /// Percent of the design capacity, as the report states it.
+    /// Percent of the design capacity; absent when the report does not contain it.
     [[nodiscard]] std::optional<qint64> maxCapacity() const;
 
-    /// The text to the end of its line, possibly empty.
+    /// The text up to the end of its line, possibly empty; absent when the report does not contain
+    /// it.
     [[nodiscard]] std::optional<QString> condition() const;
 
 private:

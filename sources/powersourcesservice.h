@@ -13,13 +13,13 @@ namespace ferrin {
 
 /// The power-sources service of the machine: a snapshot of all power sources, the handles in it,
 /// and one description for each. The platform implements it; BatteryDataFromIOPS is its only user.
-/// No call may block: the platform keeps its own picture up to date.
+/// No call may block: the platform keeps its own copy of the data up to date.
 class PowerSourcesService
 {
 public:
-    /// Opaque to everyone but the platform. Null when the service cannot be reached.
+    /// Only the platform knows what it contains. Null when the service is not available.
     using Snapshot = std::shared_ptr<const void>;
-    /// Names one power source within its snapshot.
+    /// Identifies one power source within its snapshot.
     using SourceHandle = int;
 
     virtual ~PowerSourcesService() = default;
@@ -29,7 +29,7 @@ public:
     /// The handles in their order; absent when the snapshot has no list.
     [[nodiscard]] virtual std::optional<QList<SourceHandle>> copyList(const Snapshot &snapshot) = 0;
 
-    /// A QVariantMap of the source's facts; invalid when it has none.
+    /// A QVariantMap that describes the source; invalid when there is none.
     [[nodiscard]] virtual QVariant description(const Snapshot &snapshot, SourceHandle handle) = 0;
 };
 

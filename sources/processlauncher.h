@@ -11,15 +11,15 @@
 
 namespace ferrin {
 
-/// Runs a program to its end and keeps what it prints.
+/// Runs a program until it exits and returns its output.
 class ProcessLauncher
 {
 public:
     virtual ~ProcessLauncher() = default;
 
-    /// Everything that the program wrote to its standard output until it closed it; absent when the
-    /// program could not be started. Blocks until the program has exited; its exit status and its
-    /// standard error do not matter here.
+    /// Everything that the program wrote to its standard output; absent when it could not be
+    /// started. Blocks until the program has exited. Its exit status and its standard error are
+    /// ignored.
     [[nodiscard]] virtual std::optional<QByteArray> output(const QString &executable,
                                                            const QStringList &arguments)
         = 0;

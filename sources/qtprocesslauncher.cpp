@@ -35,12 +35,12 @@ std::optional<QByteArray> QtProcessLauncher::output(const QString &executable,
     QProcess process;
     process.setProcessEnvironment(environmentWithPath(m_firstInPath));
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    // A program that asks its standard input must not wait for an answer that never comes.
+    // A program that reads its standard input must not wait for input that never comes.
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(executable, arguments);
     if (!process.waitForStarted(forever))
         return std::nullopt;
-    // Reads while it waits, so that a full pipe never holds up the program.
+    // QProcess reads while it waits, so that a full pipe does not block the program.
     process.waitForFinished(forever);
     return process.readAllStandardOutput();
 }

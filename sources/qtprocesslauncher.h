@@ -7,12 +7,12 @@
 
 namespace ferrin {
 
-/// The process launcher for every system that Qt runs on. The programs it starts look for theirs in
-/// one folder of ours before any other. It keeps no process beyond the call that started it.
+/// A process launcher on top of QProcess. The programs that it starts find the programs of one
+/// folder of ours before any other, because that folder comes first in their PATH.
 class QtProcessLauncher final : public ProcessLauncher
 {
 public:
-    /// `firstInPath` is put before the folders of the PATH that this process has.
+    /// `firstInPath` is put in front of this process's own PATH.
     explicit QtProcessLauncher(QString firstInPath);
 
     [[nodiscard]] std::optional<QByteArray> output(const QString &executable,

@@ -16,10 +16,10 @@ namespace ferrin {
 class RegistryService
 {
 public:
-    /// A service of the registry; 0 is no service.
+    /// Identifies a service of the registry; 0 is none.
     using Handle = std::uint32_t;
 
-    /// What a service is looked for by.
+    /// The criterion for a service.
     struct Matching
     {
         QString name;
@@ -32,8 +32,8 @@ public:
     /// The first service that matches, or 0. The caller owns the handle until it releases it.
     [[nodiscard]] virtual Handle matchingService(const Matching &matching) = 0;
 
-    /// The present value of the property: a bool, an integer, a floating-point number, a text or a
-    /// QVariantMap; invalid when the service has no such property now.
+    /// The current value of the property: a bool, an integer, a floating-point number, a text or a
+    /// QVariantMap; invalid when the service does not have the property at the moment.
     [[nodiscard]] virtual QVariant createProperty(Handle service, const QString &key) = 0;
 
     /// 0 on success.

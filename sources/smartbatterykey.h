@@ -43,7 +43,7 @@ enum class SmartBatteryKey {
 
 inline constexpr std::size_t smartBatteryKeyCount = 25;
 
-/// The text lives as long as the process; taking it allocates nothing.
+/// Valid for the life of the process. Does not allocate.
 [[nodiscard]] const QString &rawValue(SmartBatteryKey key);
 
 /// The name of the property that holds the adapter's figures, a QVariantMap.

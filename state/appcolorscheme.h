@@ -15,13 +15,13 @@ namespace ferrin {
 
 class DefaultsStore;
 
-/// The user's choice of colours: those of the desktop, or one of the two whatever the desktop says.
+/// The user's choice of appearance: `system` follows the desktop, the others do not.
 enum class AppColorScheme { system, light, dark };
 
-/// The three schemes in the order in which they are offered.
+/// The three schemes in the order of the settings page.
 [[nodiscard]] std::span<const AppColorScheme> allAppColorSchemes();
 
-/// The text that the scheme is stored under and shown as: "System", "Light", "Dark".
+/// The text that is stored and shown: "System", "Light", "Dark".
 [[nodiscard]] QString rawValue(AppColorScheme scheme);
 
 /// Absent when the text is none of the three.

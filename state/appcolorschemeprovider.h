@@ -7,12 +7,12 @@
 
 namespace ferrin {
 
-/// Applies a colour scheme to the whole application. It holds nothing, persists nothing.
+/// Applies a colour scheme to the whole application. Stateless; it stores nothing.
 class AppColorSchemeProvider
 {
 public:
-    /// Stands until the next one. Before the application has started it is a programming error and
-    /// stops the process.
+    /// Valid until the next call. Calling it before the application has started is a programming
+    /// error and stops the process.
     void apply(AppColorScheme scheme) const;
 };
 

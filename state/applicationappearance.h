@@ -13,8 +13,8 @@ namespace ferrin {
 
 enum class Appearance { light, dark };
 
-/// The appearance of the whole running application. The platform implements it; while its object
-/// lives it is the one that AppColorSchemeProvider reaches. Every value may change at any time.
+/// The appearance of the whole application, implemented by the platform. The object registers
+/// itself: AppColorSchemeProvider uses it as long as it exists. Every value may change at any time.
 class ApplicationAppearance
 {
 public:
@@ -26,14 +26,14 @@ public:
     ApplicationAppearance(const ApplicationAppearance &) = delete;
     ApplicationAppearance &operator=(const ApplicationAppearance &) = delete;
 
-    /// Forces an appearance; absent leaves it to the desktop, whose changes are then followed.
+    /// Forces an appearance; absent follows the desktop, its changes included.
     virtual void setAppearance(std::optional<Appearance> appearance) = 0;
 
-    /// What holds: what is forced, else what the desktop prefers.
+    /// The appearance in effect: the forced one, else the one that the desktop prefers.
     [[nodiscard]] bool isDark() const { return m_isDark; }
     /// The interface font; never empty while there is a graphical application.
     [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
-    /// The desktop asks for no animations.
+    /// Whether the desktop asks for reduced motion.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
 
     /// All three are read-only.

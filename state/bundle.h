@@ -10,13 +10,13 @@
 
 namespace ferrin {
 
-/// What the program knows of itself: its information keys, compiled in and never changed. The four
-/// that every bundle defines have functions of their own; a bundle without the one that is asked
-/// for stops the process.
+/// The program's own information keys, which are compiled in and constant. The four keys that every
+/// bundle defines have functions of their own; such a function stops the process when its key is
+/// missing.
 class Bundle
 {
 public:
-    /// The running program's.
+    /// The bundle of the running program.
     [[nodiscard]] static const Bundle &main();
 
     explicit Bundle(QJsonObject information);
@@ -27,11 +27,11 @@ public:
     /// Reverse-DNS name of the program; it names the defaults suite, the log's subsystem and the
     /// program on the session bus.
     [[nodiscard]] QString identifier() const;
-    /// What people call the program.
+    /// The name that is shown to the user.
     [[nodiscard]] QString name() const;
-    /// The release, as people read it: "0.1.0".
+    /// The release as it is shown to the user: "0.1.0".
     [[nodiscard]] QString shortVersion() const;
-    /// Tells builds of one release apart.
+    /// Distinguishes builds of the same release.
     [[nodiscard]] QString buildNumber() const;
 
 private:

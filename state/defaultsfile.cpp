@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Some thousand times what the program ever writes.
+// About a thousand times the size that the program writes.
 constexpr qint64 greatestSize = 1'048'576;
 
 QJsonObject salvaged(const QByteArray &text)
@@ -34,7 +34,7 @@ QJsonObject salvaged(const QByteArray &text)
             line.chop(1);
         const QJsonObject entry = QJsonDocument::fromJson('{' + line + '}').object();
         for (auto it = entry.begin(); it != entry.end(); ++it) {
-            // Of a number alone, a part is another one.
+            // Part of a truncated number would be a different number.
             if (isComplete || !it.value().isDouble())
                 entries.insert(it.key(), it.value());
         }
@@ -63,7 +63,7 @@ DefaultsFile::DefaultsFile(QString path)
 DefaultsFile::Contents DefaultsFile::read() const
 {
     const QFileInfo info(m_path);
-    // Opening a pipe would wait for its other end.
+    // Opening a pipe would block until its other end is opened.
     if (info.exists() && !info.isFile())
         return { State::Unreadable, {}, u"Not a file"_s };
     QFile file(m_path);
@@ -105,9 +105,9 @@ QString DefaultsFile::setAside() const
         if (!error)
             return name;
         if (error != std::errc::file_exists)
-            // Not every file system has links.
+            // Not every file system supports hard links.
             return QFile::copy(damaged, name) ? name : QString();
-        // A process that ended in the middle of this may have left it.
+        // May be left by a process that ended at this point.
         if (std::filesystem::equivalent(source, target, error))
             return name;
     }

@@ -8,9 +8,9 @@
 
 namespace ferrin {
 
-/// The file behind a defaults store: a JSON object with one entry a line, so that a damaged file
-/// gives up only its damaged lines. It is read and replaced as a whole and knows nothing of what
-/// the entries mean. Nothing here logs.
+/// The file of a defaults store: a JSON object with one entry per line, so that of a damaged file
+/// only the damaged lines are lost. It is read and replaced as a whole. What the entries mean is
+/// not known here, and nothing is logged.
 class DefaultsFile
 {
 public:
@@ -18,9 +18,9 @@ public:
         /// Every entry was read.
         Whole,
         Missing,
-        /// Not a JSON object; `entries` holds what the lines still give.
+        /// Not a JSON object; `entries` holds what could be read line by line.
         Damaged,
-        /// Something stands there that cannot be read, or not now; `error` says why.
+        /// There is a file, but it cannot be read; `error` says why.
         Unreadable,
     };
 
@@ -37,20 +37,21 @@ public:
 
     [[nodiscard]] Contents read() const;
 
-    /// Makes the folder when it is missing. Whether it could shows when the file is written.
+    /// Creates the folder when it is missing. A failure shows when the file is written.
     void makeFolder() const;
 
-    /// Replaces the file in one step. Null, or why it failed; the file is then what it was.
+    /// Replaces the file atomically. Returns null, or why it failed; the file is then unchanged.
     [[nodiscard]] QString write(const QJsonObject &entries) const;
 
-    /// Removes what processes left that ended while they wrote. Only for who holds the file's lock.
+    /// Removes temporary files of processes that ended while they wrote. The caller must hold the
+    /// file's lock.
     void removeLeftovers() const;
 
-    /// Gives the file a second name, which stays when it is replaced: at no time is it missing, so
-    /// that whatever ends the process, the next one finds what this one found. That name, which
-    /// nothing else has, or null when it failed.
+    /// Gives the file a second, unused name, under which it remains when it is replaced: should the
+    /// process end at any moment, the next one finds the same content. Returns that name, or null
+    /// when it failed.
     [[nodiscard]] QString setAside() const;
-    /// Takes the second name back: the file was not replaced.
+    /// Removes the second name again: the file was not replaced.
     void forgetSetAside(const QString &name) const;
 
 private:

@@ -12,9 +12,9 @@
 
 namespace ferrin {
 
-/// The user's per-user key-value store. One instance serves the whole process: the settings, the
-/// display switches, the colour scheme and the stored adapter. A value is a bool, a number, a text
-/// or data, and its type survives: a text is never read as a number, nor a number as a bool. A
+/// The per-user key-value store. One instance serves the whole process: the settings, the display
+/// switches, the colour scheme and the stored adapter. A value is a bool, a number, a string or
+/// bytes, and its type is preserved: a string is never read as a number, nor a number as a bool. A
 /// missing key reads as absent.
 class DefaultsStore : public QObject
 {
@@ -26,19 +26,19 @@ public:
     /// The stored value, else the registered default, else invalid.
     [[nodiscard]] virtual QVariant object(const QString &key) const = 0;
 
-    /// Stores the value under the key; an invalid value removes the key. Sends `changed` when what
-    /// `object` answers has changed. A failure to persist costs one log line; the value is kept for
-    /// the life of the process.
+    /// Stores the value; an invalid value removes the key. Emits `changed` when the result of
+    /// `object` changes. A failure to write the file is logged once; the value is kept for the life
+    /// of the process.
     virtual void setObject(const QString &key, const QVariant &value) = 0;
 
-    /// Stores a value that nobody chose under a key that nothing is stored under. A store that
-    /// could not be read so far keeps what it then turns out to hold.
+    /// Stores a default, unless the key has a value. If the file could not be read so far and turns
+    /// out to have one, that value is kept.
     virtual void setMissingObject(const QString &key, const QVariant &value)
     {
         setObject(key, value);
     }
 
-    /// Values that are answered while nothing is stored under their keys. Never written.
+    /// Fallback values for keys that are not stored. Never written.
     virtual void registerDefaults(const QVariantMap &defaults) = 0;
 
     void removeObject(const QString &key) { setObject(key, {}); }

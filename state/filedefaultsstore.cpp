@@ -18,14 +18,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A write takes milliseconds: who holds the lock longer is gone or hangs, and is not waited for.
+// A write takes milliseconds. A process that holds the lock for longer is stuck; do not wait for
+// it.
 constexpr std::chrono::milliseconds patience { 1000 };
 
-// A write that failed is repeated after this, and each time after twice as long as before.
+// The delay before a failed write is repeated; it doubles each time.
 constexpr std::chrono::milliseconds firstRepetition { 1000 };
 constexpr std::chrono::milliseconds rarestRepetition { 16'000 };
 
-// To QVariant alone, true and 1 are equal.
+// QVariant considers true and 1 equal.
 bool differ(const QVariant &a, const QVariant &b)
 {
     return a.metaType() != b.metaType() || a != b;
@@ -94,7 +95,7 @@ void FileDefaultsStore::store(const QString &key, const QVariant &value)
     const QVariant before = object(key);
     m_entries.insert(key, json);
     m_pending.insert(key);
-    // Starting it anew each time would put it off for as long as there are changes.
+    // Restarting it each time would delay the write for as long as there are changes.
     if (!m_flushTimer.isActive() || m_flushTimer.interval() > 0)
         m_flushTimer.start(0);
     if (differ(before, object(key)))
@@ -129,11 +130,12 @@ void FileDefaultsStore::flush()
         Q_EMIT changed(key);
 }
 
-/// Null, or why the file could not take what is pending.
+/// Returns null, or why the pending changes could not be written.
 QString FileDefaultsStore::mergeIntoFile(QStringList &adopted)
 {
     m_file.makeFolder();
-    // Without it a write can lose another's key; without the write ours is lost for sure.
+    // A write without the lock may lose another process's key; without the write, ours is lost
+    // for certain.
     const FileLock lock(m_file.path() + u".lock"_s, patience);
     const DefaultsFile::Contents contents = m_file.read();
     if (contents.state == DefaultsFile::State::Unreadable)
@@ -148,7 +150,7 @@ QString FileDefaultsStore::mergeIntoFile(QStringList &adopted)
     return replaceFile(contents.state);
 }
 
-/// Null, or why the file is still what it was.
+/// Returns null, or why the file is unchanged.
 QString FileDefaultsStore::replaceFile(DefaultsFile::State found)
 {
     if (found != DefaultsFile::State::Damaged)
@@ -165,8 +167,8 @@ QString FileDefaultsStore::replaceFile(DefaultsFile::State found)
     return trouble;
 }
 
-/// Takes over what the file says of the keys that have no change pending; the keys that thereby
-/// changed. Only a whole file can say that a key is gone.
+/// Adopts the file's values of the keys without a pending change, and returns the keys that changed
+/// by that. Only an undamaged file can prove that a key was removed.
 QStringList FileDefaultsStore::adopt(const DefaultsFile::Contents &contents)
 {
     QJsonObject merged = contents.state == DefaultsFile::State::Whole ? QJsonObject() : m_entries;

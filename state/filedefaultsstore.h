@@ -16,19 +16,19 @@
 
 namespace ferrin {
 
-/// The defaults store that is one JSON file of one user. What is set is answered at once and
-/// reaches the file in the same turn of the event loop, all changes of a turn in one atomic step;
-/// only the keys that were changed here are changed there, so that two processes never lose each
-/// other's. Nothing that happens to the file stops the process or overwrites what might still be
-/// read: a damaged file is set aside, a write that fails is tried again with the next and, ever
-/// more rarely, by itself, and each trouble costs one log line until it is over.
+/// A defaults store in one JSON file per user. A new value can be read at once; the file is written
+/// at the end of the same turn of the event loop, all changes of the turn in one atomic step. Only
+/// the keys that were changed here are changed in the file, so two processes do not overwrite each
+/// other's values. No state of the file stops the process or lets it overwrite readable data: a
+/// damaged file is set aside, and a write that fails is repeated with the next one and at growing
+/// intervals. Each problem is logged once until it is over.
 class FileDefaultsStore final : public DefaultsStore
 {
     Q_OBJECT
 
 public:
-    /// The suite's store, in its own folder under the folder of the user's configuration. Without a
-    /// name or an absolute folder there is no store to open, which stops the process.
+    /// The store of the suite, in a folder of its name under the user's configuration folder. An
+    /// empty name or a relative folder is a programming error and stops the process.
     [[nodiscard]] static std::unique_ptr<FileDefaultsStore> open(const QString &configFolder,
                                                                  const QString &suiteName);
 
@@ -36,12 +36,12 @@ public:
     ~FileDefaultsStore() override;
 
     [[nodiscard]] QVariant object(const QString &key) const override;
-    /// A value that is no bool, finite number, text or data is not taken, here and below.
+    /// A value that is not a bool, finite number, string or bytes is rejected, here and below.
     void setObject(const QString &key, const QVariant &value) override;
     void setMissingObject(const QString &key, const QVariant &value) override;
     void registerDefaults(const QVariantMap &defaults) override;
 
-    /// Writes what has changed now. Called by itself; of use before an end without an event loop.
+    /// Writes pending changes now. Only needed before the process ends without an event loop.
     void flush();
 
 private:
@@ -56,15 +56,14 @@ private:
     DefaultsFile m_file;
     QJsonObject m_entries;
     QVariantMap m_registered;
-    /// Changed here and not yet in the file.
+    /// Changed here, but not written yet.
     QSet<QString> m_pending;
-    /// Of the pending ones those that give way to what the file holds.
+    /// Those pending changes that yield to a value in the file.
     QSet<QString> m_givingWay;
-    /// Runs out as soon as the event loop is reached, or when a write that failed is to be
-    /// repeated.
+    /// Fires in the next turn of the event loop, or when a failed write is to be repeated.
     QTimer m_flushTimer;
     std::chrono::milliseconds m_untilNextAttempt;
-    /// The log knows of a trouble that is not over.
+    /// A problem that is not over has been logged.
     bool m_isInTrouble = false;
 };
 

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::chrono::milliseconds betweenAttempts { 5 };
 
-/// Whether the path still leads to the open file: its last owner removed it.
+/// Whether the path still refers to the open file; the previous owner may have removed it.
 bool isAt(int descriptor, const char *path)
 {
     struct stat open

@@ -10,13 +10,13 @@
 
 namespace ferrin {
 
-/// Keeps processes that change the same file from each other for as long as it lives. The system
-/// frees it when its process ends, however that ends: nobody has to guess from what was left
-/// whether the owner is alive. The lock's file, if an end left one, is used again by the next.
+/// A lock between processes that change the same file; held for the lifetime of the object. The
+/// kernel releases it when the process ends in any way, so a lock is never stale. A lock file that
+/// was left behind is used again.
 class FileLock
 {
 public:
-    /// Waits no longer than this, and not at all where no lock can be had.
+    /// Waits at most for this long, and not at all if a lock is impossible.
     FileLock(const QString &path, std::chrono::milliseconds patience);
     ~FileLock();
     Q_DISABLE_COPY_MOVE(FileLock)

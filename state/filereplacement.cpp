@@ -19,10 +19,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// No suffix that a person would give a copy. QSaveFile gives six letters, such as "backup".
+// A suffix that no user would give to a copy. That of QSaveFile has six random letters, which may
+// spell "backup".
 const QString unfinished = u".unfinished-"_s;
 
-/// The file itself, where the path is a link. What a link points to may be missing for now.
+/// The target, if the path is a symbolic link. The target may be missing.
 QString realPath(const QString &path)
 {
     const QFileInfo info(path);
@@ -31,11 +32,11 @@ QString realPath(const QString &path)
     return info.isSymLink() ? info.symLinkTarget() : path;
 }
 
-/// Null, or why the content is not on the disk in a new file.
+/// Returns null, or why the content could not be written to a new file.
 QString writeNew(QFile &file, const QByteArray &content)
 {
-    // On a disk that fills up the system writes a part first and fails at the rest, which the
-    // toolkit takes for the whole; flushing again writes the rest or learns the reason.
+    // When the disk is nearly full, write(2) first writes a part, which QFileDevice::flush()
+    // reports as success. Flushing again writes the rest or returns the error.
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
         && file.write(content) == content.size() && (file.flush() || file.flush());
     if (!written)
@@ -53,7 +54,7 @@ std::filesystem::path native(const QString &path)
 QString replaceFile(const QString &path, const QByteArray &content)
 {
     const QString real = realPath(path);
-    // A file that its owner protects from writing is meant to stay.
+    // A write-protected file is not replaced, although rename(2) would allow it.
     QFile before(real);
     if (before.exists() && !before.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         return before.errorString();
@@ -67,7 +68,7 @@ QString replaceFile(const QString &path, const QByteArray &content)
         if (error)
             trouble = qt_error_string(error.value());
     }
-    // One that was there before is another's. QFile itself would first insist on writing the rest.
+    // A file that existed before belongs to another process. QFile::remove() would flush first.
     if (!trouble.isNull() && file.isOpen())
         QFile::remove(file.fileName());
     return trouble;

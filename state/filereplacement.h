@@ -8,13 +8,13 @@
 
 namespace ferrin {
 
-/// How a file of the user's is replaced: in one step and only by all of the new content, whatever
-/// the disk says and whenever the process ends. Who reads it meets the old content or the new.
-/// A link is followed. Null, or why it failed; the file is then what it was.
+/// Replaces a file of the user's atomically: whatever the disk reports and whenever the process
+/// ends, a reader sees either the old content or all of the new one. A symbolic link is followed.
+/// Returns null, or why it failed; the file is then unchanged.
 [[nodiscard]] QString replaceFile(const QString &path, const QByteArray &content);
 
-/// Removes what processes left beside the file that ended while they replaced it. It would remove
-/// the beginnings of another's replacement, too, which then fails: for who holds the file's lock.
+/// Removes temporary files of processes that ended during a replacement. The caller must hold the
+/// file's lock, since the temporary file of a running replacement would be removed, too.
 void removeUnfinishedReplacements(const QString &path);
 
 } // namespace ferrin

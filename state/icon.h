@@ -10,9 +10,9 @@
 
 namespace ferrin {
 
-/// Every icon that the status item can show, in the order in which they are listed everywhere. The
-/// first twelve are glyphs, drawn here with a fill that follows the charge; the others are symbols,
-/// which never change. It lives beside the settings because a selection is stored by its raw value.
+/// Every icon that the status item can show, in the order of all lists. The first twelve are
+/// glyphs, which are drawn with a fill that follows the charge; the others are symbols, which do
+/// not change. Part of state/ because a selection is stored by its raw value.
 enum class Icon {
     battery1V,
     battery1H,
@@ -68,19 +68,19 @@ enum class Icon {
     poweroutletTypeGFill,
 };
 
-/// How body and fill of a second-generation glyph are painted.
+/// How the body and the fill of a second-generation glyph are painted.
 enum class BatteryStyle { normal, inverted, black };
 
 /// The 52 icons in declaration order.
 [[nodiscard]] std::span<const Icon> allIcons();
 
-/// The text an icon is stored under; for a symbol also the name of its image.
+/// The text that an icon is stored as; for a symbol also the name of its image.
 [[nodiscard]] QString rawValue(Icon icon);
 
-/// Absent when the text is not a raw value.
+/// Absent when the text is not the raw value of an icon.
 [[nodiscard]] std::optional<Icon> iconFromRawValue(QStringView rawValue);
 
-/// Its fill follows the charge.
+/// Whether the fill of the icon follows the charge.
 [[nodiscard]] constexpr bool isGlyph(Icon icon) noexcept
 {
     return icon <= Icon::battery2HBlackWithBolt;

@@ -10,8 +10,8 @@
 namespace ferrin {
 
 /// The icons that the user may choose for one battery state, in the order of the settings pages.
-/// There is one catalogue a state, made on first use and never changed; the first entry is the
-/// state's default.
+/// Each state has one catalogue, which is created on first use and constant. The first entry is the
+/// default of the state.
 class DischargingIconsAvailable
 {
 public:

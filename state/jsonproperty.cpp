@@ -15,7 +15,7 @@ namespace {
 
 constexpr auto dataKey = "data"_L1;
 
-// JSON has one kind of number: 48 and 48.0 are the same text, so they are the same value here.
+// JSON has one type of number; 48 and 48.0 are the same value.
 QJsonValue jsonFromNumber(double number)
 {
     constexpr double beyondWhole = 0x1p63;

@@ -8,13 +8,13 @@
 
 namespace ferrin {
 
-/// A stored value as JSON: a bool, a number and a text as themselves, data as an object whose one
-/// entry "data" is its base64. Undefined for a value of any other type and for a number that JSON
-/// has no text for.
+/// A stored value as JSON: a bool, a number and a string as such, bytes as an object with the
+/// single entry "data" in base64. Undefined for any other type and for a number that JSON cannot
+/// express (an infinity or "not a number").
 [[nodiscard]] QJsonValue jsonFromProperty(const QVariant &value);
 
-/// The reverse: a bool, a whole number (qlonglong) or another (double), a text or data. Invalid for
-/// what `jsonFromProperty` never makes.
+/// The reverse: a bool, a whole number (qlonglong), another number (double), a string or bytes.
+/// Invalid for anything that `jsonFromProperty` does not produce.
 [[nodiscard]] QVariant propertyFromJson(const QJsonValue &json);
 
 } // namespace ferrin

@@ -9,18 +9,18 @@
 
 namespace ferrin {
 
-/// What the session knows of the application's own login item. `enabled` alone counts as on.
+/// The state of the application's own login item. Only `enabled` counts as on.
 enum class LoginItemStatus {
     notRegistered,
     enabled,
-    /// It stands, and the user or the desktop has switched it off elsewhere.
+    /// It exists, but the user or the desktop has disabled it elsewhere.
     requiresApproval,
-    /// It stands, and the program that it would start is not there.
+    /// It exists, but the program that it would start does not.
     notFound,
 };
 
 /// The entry by which the session starts the application when the user logs in. The platform
-/// implements it. Nothing of it is remembered: each call asks or changes the session itself.
+/// implements it. Nothing is cached: each call reads or changes the session's entry.
 class LoginItem
 {
 public:
@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] virtual LoginItemStatus status() const = 0;
 
-    /// Both answer with the text of the error; absent when it worked.
+    /// Both return the error message; absent on success.
     [[nodiscard]] virtual std::optional<QString> registerItem() = 0;
     [[nodiscard]] virtual std::optional<QString> unregisterItem() = 0;
 };

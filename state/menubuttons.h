@@ -13,7 +13,7 @@ enum class DashboardMenuButton { status, health, adapter, settings };
 /// The sections of the settings window, in menu order; `quit` ends the program.
 enum class SettingsMenuButton { general, icon, support, about, quit };
 
-/// What a menu button of either draws itself as.
+/// The appearance of a menu button of either window.
 enum class ButtonState { selected, hovered, none };
 
 [[nodiscard]] QString rawValue(DashboardMenuButton button);

@@ -9,12 +9,12 @@ namespace ferrin {
 
 class DefaultsStore;
 
-/// Hands over the store that serves the whole process. The application does so once, before
-/// anything reads a setting; a test hands over its own. A store that is replaced must have no
-/// readers left.
+/// Sets the store of the whole process. The application calls it once, before anything reads a
+/// setting; tests set their own. A store that is replaced must not be used any more.
 void setSharedDefaults(std::unique_ptr<DefaultsStore> store);
 
-/// The store of the process. Asking before one was handed over is a programming error and stops it.
+/// The store of the process. Calling this before one is set is a programming error and stops the
+/// process.
 [[nodiscard]] DefaultsStore &sharedDefaults();
 
 } // namespace ferrin

@@ -16,7 +16,7 @@ namespace ferrin {
 namespace {
 using Clock = std::chrono::steady_clock;
 
-// Only a child that came to its end says so; half a report is none.
+// Sent by the child when it is done, so that half a report is not taken for a whole one.
 constexpr char complete = '\0';
 
 void writeAll(int descriptor, std::string_view text)
@@ -82,7 +82,7 @@ std::optional<std::string> resultWithin(std::chrono::milliseconds limit,
     std::optional<std::string> result;
     if (child > 0) {
         result = readAll(ends[0], end);
-        // One that hangs in a driver dies when the driver lets go; we do not wait for that.
+        // A child that hangs in a driver dies when the driver returns; it is not waited for.
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, result ? 0 : WNOHANG);
     }

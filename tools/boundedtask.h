@@ -10,13 +10,12 @@
 
 namespace ferrin {
 
-/// What the task returns, if it does so in time. It runs in a process of its own: a read that hangs
-/// in a driver can neither be interrupted nor can a process end while one of its threads is in it,
-/// but a child can be left behind. The child holds none of our files, so that nobody waits for it
-/// either.
+/// Runs the task in a child process and returns its result; absent when it took too long, crashed,
+/// or could not be started. A read that hangs in a driver cannot be interrupted, and a process
+/// cannot exit while one of its threads hangs, but a child process can be abandoned. The child has
+/// none of our files open, so nobody waits for it through a pipe.
 ///
-/// Call it before there are threads. Absent when the task took too long, crashed, or could not be
-/// started.
+/// To be called before any thread is started, since it forks.
 [[nodiscard]] std::optional<std::string> resultWithin(std::chrono::milliseconds limit,
                                                       const std::function<std::string()> &task);
 

@@ -18,7 +18,8 @@ namespace ferrin {
 namespace {
 constexpr int soundPercent = 80;
 
-// The kernel's other words are of the moment (the weather, a charger's timer), not of the pack.
+// The kernel's other values describe the moment (the temperature, a charger's timer), not the pack:
+// https://www.kernel.org/doc/Documentation/ABI/testing/sysfs-class-power
 constexpr std::array<std::string_view, 8> faults {
     "Dead",       "Overheat",       "Over voltage",        "Over current",
     "Blown fuse", "Cell imbalance", "Unspecified failure", "Calibration required",
@@ -31,7 +32,7 @@ struct Health
     std::optional<bool> sound;
     Reading cycles;
 
-    // Faults first, then the least capacity; what nobody knows comes last.
+    // Faulty packs first, then by capacity; packs of unknown capacity last.
     [[nodiscard]] auto rank() const
     {
         return std::tuple(sound.value_or(true), percent.value_or(101), name);

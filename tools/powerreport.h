@@ -12,11 +12,11 @@ namespace ferrin {
 
 /// The battery's part of the hardware report: for each system battery a section with its condition
 /// ("Normal" or "Service Recommended") and its maximum capacity in percent of the design, at most
-/// 100. The pack in the worst state comes first, because readers take the first figure that they
-/// find. A line whose figure the machine does not know, or that cannot be right, is left out:
-/// without a word on its health and without a usable design there is no condition either.
+/// 100. The pack in the worst state comes first, because readers use the first figure that they
+/// find. A line is omitted when its figure is not known or cannot be right: without a `health` and
+/// without a usable design capacity there is no condition either.
 ///
-/// A pure function; records are those of the batteries, in their order.
+/// A pure function; `records` belong to the batteries, in the same order.
 [[nodiscard]] std::string powerReport(const PowerSupplies &supplies,
                                       const std::vector<BatteryRecord> &records);
 

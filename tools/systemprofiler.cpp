@@ -19,7 +19,7 @@ std::string report()
 }
 } // namespace
 
-/// Prints the hardware report of one data type, SPPowerDataType, and ends within a second whatever
+/// Prints the hardware report of the data type SPPowerDataType, and exits within a second whatever
 /// the kernel does; what is not known by then is not printed.
 int main(int count, char **arguments)
 {

@@ -40,7 +40,7 @@ void drawLabel(QPainter &painter, const QRect &rect, const QString &text, const 
     painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter, text);
 }
 
-/// An icon as it stands in a bar of 22 pixels.
+/// An icon as it appears in a panel of 22 pixels.
 QImage iconPicture(Icon icon, int charge, qreal scale, const SheetTheme &theme)
 {
     const bool whileDischarging = charge <= 10 && isGlyph(icon);
@@ -56,8 +56,8 @@ QImage iconPicture(Icon icon, int charge, qreal scale, const SheetTheme &theme)
     return image;
 }
 
-/// The artwork that is no icon of the item and no part of one, and what of the icons the windows
-/// show too.
+/// The artwork of the windows: symbols that are no icons of the item, and those icons that the
+/// windows show, too.
 QStringList windowSymbols()
 {
     QStringList names { u"bolt.circle"_s, u"bolt.fill"_s };

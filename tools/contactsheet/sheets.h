@@ -9,7 +9,7 @@
 
 namespace ferrin {
 
-/// A bar that items are drawn on.
+/// A panel that items are drawn on.
 struct SheetTheme
 {
     QColor bar;
@@ -27,7 +27,7 @@ struct SheetTheme
 /// Every symbol of the windows at three heights, at 1x and at 2x.
 [[nodiscard]] QImage symbolSheet(const SheetTheme &theme);
 
-/// Every form at a choice of contents and of the sizes that hosts ask for.
+/// Every form with a selection of contents, in sizes that hosts request.
 [[nodiscard]] QImage formSheet(const SheetTheme &theme);
 
 } // namespace ferrin
