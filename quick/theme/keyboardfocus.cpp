@@ -32,9 +32,8 @@ bool KeyboardFocus::eventFilter(QObject *watched, QEvent *event)
     if (watched->isWindowType()) {
         if (event->type() == QEvent::KeyPress)
             setVisible(true);
-        else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
-            setVisible(false);
-        else if (event->type() == QEvent::Show && isOnItsOwn(*static_cast<QWindow *>(watched)))
+        else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin
+                 || (event->type() == QEvent::Show && isOnItsOwn(*static_cast<QWindow *>(watched))))
             setVisible(false);
     }
     return QObject::eventFilter(watched, event);
