@@ -3,7 +3,7 @@
 
 option(BUILD_TESTING "Build the tests" ON)
 option(FERRIN_BUILD_BENCH "Build the benchmarks" OFF)
-option(FERRIN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+set(FERRIN_SANITIZERS "" CACHE STRING "Sanitizers to build with: address,undefined or thread")
 option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
 set(FERRIN_FAQ_URL "" CACHE STRING
     "Page of frequently asked questions; empty: the one that is installed with the program")
@@ -32,8 +32,8 @@ target_compile_definitions(ferrin_options INTERFACE
 # Single precision in the order that is written: no two operations fused into one rounding.
 target_compile_options(ferrin_options INTERFACE -ffp-contract=off)
 
-if(FERRIN_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+if(FERRIN_SANITIZERS)
+    add_compile_options(-fsanitize=${FERRIN_SANITIZERS} -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
-    add_link_options(-fsanitize=address,undefined)
+    add_link_options(-fsanitize=${FERRIN_SANITIZERS})
 endif()
