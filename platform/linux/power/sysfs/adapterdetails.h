@@ -12,7 +12,7 @@
 
 namespace ferrin {
 
-/// Volts times amps that somebody offers.
+/// A pair of voltage and current that a power supply offers.
 struct Offer
 {
     qint64 millivolts = 0;
@@ -23,45 +23,46 @@ struct Offer
     bool operator==(const Offer &) const = default;
 };
 
-/// What the USB-C ports that take power know of who is at the other end.
+/// What the USB-C ports that take power know of the other end of the cable.
+/// https://www.kernel.org/doc/Documentation/ABI/testing/sysfs-class-typec
 struct PortPartner
 {
-    /// The greatest of the partner's fixed offers.
+    /// The most powerful of the partner's fixed offers.
     std::optional<Offer> greatest;
-    /// The USB vendor that the partner names; absent when it names none.
+    /// The partner's USB vendor ID; absent when it reports none.
     std::optional<std::uint16_t> vendor;
 
     bool operator==(const PortPartner &) const = default;
 };
 
-/// Other places that state an adapter's power.
+/// What is known of the adapter from outside the power-supply class.
 struct AdapterHints
 {
     PortPartner partner;
-    /// What the firmware says of the adapter as a whole, mW.
+    /// The firmware's rating of the adapter, mW.
     Reading ratedMilliwatts;
-    /// The maker of partner.vendor, or empty.
+    /// The name of partner.vendor, or empty.
     QString partnerMaker;
 
     bool operator==(const AdapterHints &) const = default;
 };
 
-/// 5...48 V and above 0 to 5 A, the range of what can come over a USB-C cable; everything else is a
-/// misread description of an adapter.
+/// Absent outside of 5...48 V and 0...5 A, the range of USB Power Delivery: the attributes then
+/// describe something else.
 [[nodiscard]] std::optional<Offer> plausibleOffer(Reading millivolts, Reading milliamps) noexcept;
 
-/// What an online supply itself lets us conclude:
-/// 1. the pair in use, when a power contract above the 5 V that stand there by default is in force;
-/// 2. the greatest of the partner's fixed offers;
-/// 3. the greatest pair that the supply states, unless its present voltage is above that;
+/// The best known offer of an online supply, the first of these that exists:
+/// 1. the pair in use, if its voltage is above the 5 V that are reported without a power contract;
+/// 2. the partner's most powerful fixed offer;
+/// 3. the maximum that the supply reports, unless its present voltage exceeds it;
 /// 4. the pair in use at 5 V.
-/// A charger chip (USB type not C or PD) speaks of the host's limits, not of the adapter: no pair.
+/// Absent for a charger chip (USB type neither C nor PD), which reports the host's limits.
 [[nodiscard]] std::optional<Offer> offerOf(const AdapterSupply &adapter,
                                            const PortPartner &partner) noexcept;
 
 /// The dictionary "AdapterDetails": "Watts" (W), "Current" (mA), "AdapterVoltage" (mV), "Name" and
-/// "Manufacturer", each only where known. It is of the online supply with the greatest offer; a
-/// plain ACPI adapter only knows that it is there, and its dictionary is empty.
+/// "Manufacturer", each only if known. It describes the online supply with the most powerful offer;
+/// that of a plain ACPI adapter, which reports nothing but `online`, is empty.
 [[nodiscard]] QVariantMap adapterDetails(const std::vector<AdapterSupply> &adapters,
                                          const AdapterHints &hints);
 

@@ -13,7 +13,7 @@ namespace ferrin {
 namespace {
 constexpr std::string_view partnerSuffix = "-partner";
 
-// A port that gives power describes what it feeds, not what feeds us.
+// The partner of a port that gives power is a device, not an adapter.
 bool takesPower(const AttributeDirectory &ports, const std::string &port)
 {
     AttributeDirectory::Buffer buffer;
@@ -39,7 +39,7 @@ std::optional<Offer> greatestFixedOffer(const AttributeDirectory &partner)
     return greatest;
 }
 
-// The low half of the identity header, in hexadecimal; 0 means that nobody asked the partner.
+// The low 16 bits of the hexadecimal ID header; 0 means that the partner was not asked for it.
 std::optional<std::uint16_t> vendorOf(const AttributeDirectory &partner)
 {
     AttributeDirectory::Buffer buffer;

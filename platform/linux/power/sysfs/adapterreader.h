@@ -9,17 +9,16 @@
 
 namespace ferrin {
 
-/// Reads what stands outside the power-supply class about the adapter: the USB-C partners of the
-/// ports that take power, and the firmware's rating. It is asked only while external power is
-/// there.
+/// Reads what is known of the adapter outside the power-supply class: the USB-C partners of the
+/// ports that take power, and the firmware's rating. Used only on external power.
 class AdapterReader
 {
 public:
     /// The root of sysfs.
     explicit AdapterReader(const std::string &root);
 
-    /// Without the maker's name, which is no fact of sysfs. Of several ports the one with the
-    /// greatest offer.
+    /// Of several ports the one with the most powerful offer. `partnerMaker` stays empty; sysfs
+    /// does not know it.
     [[nodiscard]] AdapterHints read() const;
 
 private:

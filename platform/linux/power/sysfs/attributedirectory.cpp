@@ -16,7 +16,7 @@ namespace ferrin {
 
 namespace {
 constexpr int directoryFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
-// A pipe that somebody put in an attribute's place must not hold us up.
+// O_NONBLOCK: opening a pipe in place of an attribute must not block.
 constexpr int attributeFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 ssize_t readOnce(int descriptor, AttributeDirectory::Buffer &buffer)
@@ -80,7 +80,7 @@ std::string_view AttributeDirectory::read(const char *path, Buffer &buffer) cons
         return {};
     const ssize_t size = readOnce(descriptor, buffer);
     ::close(descriptor);
-    // What fills the page has no end that we know of.
+    // A full buffer may be truncated.
     if (size <= 0 || static_cast<std::size_t>(size) >= buffer.size())
         return {};
     return trimmed({ buffer.data(), static_cast<std::size_t>(size) });

@@ -10,14 +10,14 @@
 
 namespace ferrin {
 
-/// A directory of kernel attributes, held open while it is read. Everything that can go wrong with
-/// one attribute (it is missing, it vanishes, it is a directory or a pipe, reading it fails with
-/// any error, it is longer than a page) makes that attribute absent and nothing else. No call waits
-/// for another process: files are opened without blocking.
+/// A directory of kernel attributes, which stays open while it is read. An attribute that cannot be
+/// read for any reason (it is missing or disappears, it is a directory or a pipe, reading fails, it
+/// is longer than a page) is absent; nothing else is affected. Files are opened without blocking.
 class AttributeDirectory
 {
 public:
-    /// A page: the kernel gives an attribute no more.
+    /// A page, the greatest size of an attribute:
+    /// https://www.kernel.org/doc/html/latest/filesystems/sysfs.html
     using Buffer = std::array<char, 4096>;
 
     explicit AttributeDirectory(const char *path);
@@ -29,14 +29,14 @@ public:
 
     [[nodiscard]] bool exists() const noexcept { return m_descriptor >= 0; }
 
-    /// The directory at a path relative to this one; one that does not exist has no attributes.
+    /// A subdirectory; one that does not exist has no attributes.
     [[nodiscard]] AttributeDirectory child(const char *path) const;
 
-    /// The names in it without the hidden ones, sorted, so that no answer depends on their order.
+    /// The names of all entries that are not hidden, sorted, since the kernel's order is undefined.
     [[nodiscard]] std::vector<std::string> entries() const;
 
-    /// The attribute's bytes without white space around them; empty when it is absent. They live in
-    /// the buffer and may be no text at all.
+    /// The attribute's bytes without surrounding white space; empty when it is absent. They point
+    /// into the buffer and need not be valid text.
     [[nodiscard]] std::string_view read(const char *path, Buffer &buffer) const;
 
 private:

@@ -55,7 +55,7 @@ bool isPlaceholder(const QString &text)
     });
 }
 
-// Packs leave bytes of other fields behind their name; what stands before them is the name.
+// Some packs append bytes of other fields to their name; the text before them is the name.
 QString readablePart(std::string_view text)
 {
     QStringDecoder decode(QStringDecoder::Utf8);

@@ -9,30 +9,30 @@
 
 namespace ferrin {
 
-/// What all packs of the machine say together. Pure functions over packs and supplies; where they
-/// cannot be right, they are absent. Slots that hold no pack count only when there is nothing else.
+/// The figures of the whole machine, computed from all packs. Pure functions; a figure that cannot
+/// be right is absent.
 
 /// The packs without the phantoms, or all when there are only phantoms.
 [[nodiscard]] std::vector<Pack> realPacks(std::vector<Pack> packs);
 
-/// The charge of the machine, 0...100: of one pack its own, of several what is left in all over
-/// what all hold, rounded down. A pack that does not tell its size weighs as much as the others do
-/// on average. Absent when one pack's charge is unknown.
+/// The charge of the machine, 0...100: that of the only pack, or the sum of what is left divided by
+/// the sum of the capacities, rounded down. A pack of unknown capacity counts with the average of
+/// the others. Absent when the charge of any pack is unknown.
 [[nodiscard]] std::optional<int> chargePercent(const std::vector<Pack> &packs);
 
-/// Sums in mAh; absent when one pack does not know.
+/// Sums in mAh; absent when the value of any pack is unknown.
 [[nodiscard]] Reading remainingMilliampHours(const std::vector<Pack> &packs);
 [[nodiscard]] Reading fullMilliampHours(const std::vector<Pack> &packs);
 
-/// Some pack says that it charges. A pack that says nothing, or Unknown, does not: its charge is
-/// known all the same, and would be lost to the user if its state were not. Absent when no pack
-/// tells its status or its charge.
+/// Whether any pack reports Charging. A pack with the status Unknown or without one does not
+/// charge: if the result were absent, the user would not see its charge either. Absent when no pack
+/// has a status or a charge.
 [[nodiscard]] std::optional<bool> isCharging(const std::vector<Pack> &packs);
 
-/// Every pack is full: it says so; or it stopped charging at 95 % or more on external power, which
-/// controllers call Not charging and older drivers Unknown; or it is Unknown, all full and not
-/// known to run the machine. A status that could not be read counts as Unknown. Absent when a pack
-/// tells neither its status nor its charge.
+/// Whether every pack is full: it reports Full; or it has 95 % or more on external power and does
+/// not charge, which is reported as Not charging, by older drivers as Unknown; or it reports
+/// Unknown at 100 % and the machine is not known to run on battery. A status that could not be read
+/// counts as Unknown. Absent when a pack has neither a status nor a charge.
 [[nodiscard]] std::optional<bool> isFullyCharged(const std::vector<Pack> &packs,
                                                  std::optional<bool> external);
 

@@ -16,8 +16,8 @@ constexpr qint64 mostCycles = 10'000;
 constexpr qint64 coldest = -400;
 constexpr qint64 warmest = 1'200;
 
-// The MAX17042 family's driver hands its cycle register through, which counts hundredths of a cycle
-// in some chips and sixteenths of one in others. The driver names all of its supplies like this.
+// The driver of the MAX17042 family reports the raw cycle register, which counts hundredths of a
+// cycle in some chips and sixteenths in others. All its supplies have names with this prefix.
 bool countsParts(const BatteryRecord &record)
 {
     return record.name.starts_with("max170");

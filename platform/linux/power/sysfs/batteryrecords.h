@@ -11,21 +11,22 @@
 
 namespace ferrin {
 
-/// The slow facts of all packs together; pure functions, absent where no pack tells something that
-/// can be right.
+/// The slow figures of the whole machine, computed from all packs. Pure functions; absent when no
+/// pack has a plausible value.
 
-/// Charge cycles of the pack that has most. 0 is the kernel's word for "not available"; saturated
-/// registers are dropped, and so is the gauge family that counts parts of a cycle.
+/// The greatest cycle count of any pack. Ignored are 0, which means "not available"
+/// (https://www.kernel.org/doc/Documentation/ABI/testing/sysfs-class-power), saturated registers,
+/// and gauges that count fractions of a cycle.
 [[nodiscard]] Reading greatestCycleCount(const std::vector<BatteryRecord> &records);
 
-/// Sum in mAh; absent when one pack does not know.
+/// Sum in mAh; absent when the value of any pack is unknown.
 [[nodiscard]] Reading designMilliampHours(const std::vector<BatterySupply> &batteries,
                                           const std::vector<BatteryRecord> &records);
 
 /// Of the warmest pack, in hundredths of a degree Celsius, -4000...12000.
 [[nodiscard]] Reading temperatureHundredths(const std::vector<BatteryRecord> &records);
 
-/// Of the first pack that has one; empty when none has.
+/// The serial number of the first pack that has one; empty when none has.
 [[nodiscard]] QString serialNumber(const std::vector<BatteryRecord> &records);
 
 } // namespace ferrin

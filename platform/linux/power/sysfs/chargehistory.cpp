@@ -33,7 +33,7 @@ ChargeHistory::Entry ChargeHistory::take(const std::string &name)
     const auto found = std::lower_bound(
         m_entries.begin(), m_entries.end(), name,
         [](const Entry &entry, const std::string &wanted) { return entry.name < wanted; });
-    // The name is copied, not moved out: the search needs the order of the rest.
+    // Copied, not moved: later searches need the names to stay in order.
     return found != m_entries.end() && found->name == name ? *found : Entry { name, {}, {} };
 }
 

@@ -10,7 +10,7 @@
 
 namespace ferrin {
 
-/// Who made the machine, as its firmware says; texts are empty where it does not.
+/// The maker and the model of the machine, as its firmware reports them; empty when it does not.
 struct MachineIdentity
 {
     QString vendor;
@@ -24,13 +24,13 @@ struct MachineIdentity
 /// Reads the identity under the root of sysfs: the DMI tables, else the device tree's model.
 [[nodiscard]] MachineIdentity readMachineIdentity(const std::string &root);
 
-/// How many charge cycles the maker says that this machine's battery is designed for, by a table
-/// with a source for each row (resources/designcycles.json). Machines without a row get the number
-/// to which notebook batteries are certified; machines that are no notebooks get none.
+/// The number of charge cycles that the battery is designed for, from a table of the makers'
+/// figures (resources/designcycles.json, with a source for each row). Notebooks without a row get
+/// the number to which notebook batteries are certified; absent for other machines.
 [[nodiscard]] std::optional<qint64> designCycles(const MachineIdentity &machine,
                                                  const QByteArray &table);
 
-/// The table that is compiled in.
+/// The content of the compiled-in table.
 [[nodiscard]] QByteArray designCyclesTable();
 
 } // namespace ferrin

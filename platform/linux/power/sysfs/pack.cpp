@@ -10,20 +10,21 @@ namespace ferrin {
 
 namespace {
 constexpr qint64 million = 1'000'000;
-// One cell nearly empty ... more than any notebook's pack; sentinels lie outside.
+// µV: one cell that is nearly empty, and more than any notebook's pack has.
 constexpr qint64 leastVoltage = 2'500'000;
 constexpr qint64 greatestVoltage = 60'000'000;
 constexpr qint64 nominalCellVoltage = 3'700'000;
-// 1 kWh and 100 Ah: saturated registers lie far outside, and products with a voltage fit.
+// µWh, µAh and µW or µA. Saturated registers are far above, and products with a voltage fit 64
+// bits.
 constexpr qint64 greatestEnergy = 1'000 * million;
 constexpr qint64 greatestCharge = 100 * million;
 constexpr qint64 greatestRate = 10'000 * million;
 constexpr qint64 longestTime = qint64 { 48 } * 3600;
-// A register of 16 bits at its end, in whatever unit the driver took it to be.
+// A saturated 16-bit register, in any unit.
 constexpr qint64 endlessTime = 65'535;
-// A tenth of a small phone's. What is less was counted in another unit.
+// A tenth of a small phone's battery; a smaller value was counted in another unit.
 constexpr qint64 leastMilliampHours = 100;
-// Firmware has been seen to round up to 111.
+// In percent. Some firmware rounds up to 111.
 constexpr qint64 greatestCapacity = 120;
 // In percent of full; a gauge that reads more counts `now` in another unit.
 constexpr qint64 greatestShare = 110;
@@ -48,7 +49,7 @@ Reading magnitude(Reading value)
     return bounded ? Reading(std::abs(*bounded)) : std::nullopt;
 }
 
-// A gauge whose registers stand at their end measures nothing; what else it says is noise, too.
+// A gauge with a saturated voltage register measures nothing; its other values are noise, too.
 bool isSaturated(const BatterySupply &battery)
 {
     return battery.voltageNow > greatestVoltage;
@@ -94,12 +95,12 @@ Family familyOf(const BatterySupply &battery, qint64 voltage)
     const Reading energyFull = within(battery.energyFull, 1, greatestEnergy);
     const Reading chargeFull = within(battery.chargeFull, 1, greatestCharge);
     if (energyFull || !chargeFull) {
-        // Energy beside a current: only the present voltage makes it the power of this moment.
+        // A current beside energies: power is its product with the present voltage.
         const Reading present = within(battery.voltageNow, leastVoltage, greatestVoltage);
         return { within(battery.energyNow, 0, 100 * greatestEnergy), energyFull,
                  power ? power : times(current, present.value_or(voltage)) };
     }
-    // Charge and current by the same voltage, so that their quotient is the gauge's own.
+    // The same voltage for charge and current, so that it cancels out in their quotient.
     return { times(within(battery.chargeNow, 0, 100 * greatestCharge), voltage),
              times(chargeFull, voltage), current ? times(current, voltage) : power };
 }
@@ -138,7 +139,7 @@ Reading knownTime(Reading seconds)
     return seconds == endlessTime ? std::nullopt : within(seconds, 1, longestTime);
 }
 
-// The average goes first: it is the steadier of the two.
+// The average is preferred, because it is steadier.
 Reading timeOf(Reading average, Reading now)
 {
     const Reading settled = knownTime(average);
@@ -152,7 +153,7 @@ bool isDrained(const BatterySupply &battery)
     return battery.capacityLevel == "Critical" || (design && now && *now < *design);
 }
 
-// Zeros are a statement; what could not be read is none.
+// Requires a full capacity of 0; a missing attribute proves nothing.
 bool isPhantom(const BatterySupply &battery, const Pack &pack)
 {
     const bool saysZero = battery.energyFull == 0 || battery.chargeFull == 0;
@@ -183,7 +184,7 @@ Pack packOf(const BatterySupply &battery, qint64 voltage)
 
 std::vector<Pack> packsOf(const std::vector<BatterySupply> &batteries)
 {
-    // A pack that does not tell its voltage is taken to be like its neighbour.
+    // A pack of unknown voltage is assumed to be like its neighbour.
     qint64 usual = nominalCellVoltage;
     for (const BatterySupply &battery : batteries)
         usual = voltageOf(battery).value_or(usual);

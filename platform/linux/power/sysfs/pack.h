@@ -9,20 +9,22 @@
 
 namespace ferrin {
 
-/// One battery after its attributes were held against each other: one unit family, magnitudes
-/// instead of signs, and nothing that another attribute contradicts. Pure values; what remembers
-/// earlier samples stands in ChargeHistory.
+/// One battery after its attributes have been checked against each other: in one family of units,
+/// without signs, and without values that contradict others. It only depends on the present sample;
+/// ChargeHistory corrects it by earlier ones.
 ///
-/// Which figure wins:
-/// - The charge is the kernel's capacity, clamped to 100. Where it is missing, negative, beyond
-///   anything that rounding explains, or 0 while now and full clearly say otherwise, it is
-///   now/full.
-/// - Now is the gauge's own, unless it is more than a tenth above full or a quarter away from the
-///   charge (some gauges count it in another unit); then it is the charge's part of full.
-/// - Energy attributes go before charge attributes. Charge becomes energy by the design voltage,
-///   else by the present one: only the relation to other packs depends on it, never the percent.
-/// - A gauge whose voltage register is saturated measures nothing: only its status is left.
-/// - A gauge that reads 0 V with a charge of 0 is not answering: it has neither charge nor now.
+/// Precedence:
+/// - The percentage is the kernel's `capacity`, clamped to 100. If it is missing, negative, above
+/// 120,
+///   or 0 while now/full is clearly greater, it is now/full.
+/// - `now` is the gauge's own, unless it exceeds full by more than a tenth or differs from the
+///   percentage by more than 25 points (some gauges count it in another unit); then it is computed
+///   from full and the percentage.
+/// - Energy attributes are preferred to charge attributes. Charge is converted to energy by the
+///   design voltage, else by the present one, which affects the relation to other packs, but not
+///   the percentage.
+/// - A gauge whose voltage register is saturated measures nothing; only its status is used.
+/// - A gauge that reads 0 V and 0 % does not respond: it has neither a percentage nor `now`.
 struct Pack
 {
     std::optional<ChargeStatus> status;
@@ -31,16 +33,16 @@ struct Pack
     /// µWh.
     Reading now;
     Reading full;
-    /// mAh, rounded to the nearest, at least 100: less was counted in another unit.
+    /// mAh, rounded to the nearest; absent below 100, which was counted in another unit.
     Reading fullMilliampHours;
-    /// µW, magnitude; what the gauge says at this moment, noise and nonsense included.
+    /// µW, without a sign; the unfiltered value of the gauge.
     Reading rate;
-    /// Seconds, more than 0 and at most 48 h, and not a 16-bit register at its end.
+    /// Seconds, more than 0 and at most 48 h; absent for a saturated 16-bit register.
     Reading timeToEmpty;
     Reading timeToFull;
-    /// The pack says by other means than its charge that there is nothing left in it.
+    /// Another attribute than the charge confirms that the pack is empty.
     bool drained = false;
-    /// A slot that claims to hold a pack but measures none: neither full, nor charge, nor voltage.
+    /// A slot that is reported as present but measures nothing: no capacity, charge or voltage.
     bool phantom = false;
 
     bool operator==(const Pack &) const = default;
@@ -49,14 +51,13 @@ struct Pack
 /// The packs of these batteries, in their order.
 [[nodiscard]] std::vector<Pack> packsOf(const std::vector<BatterySupply> &batteries);
 
-/// The full-charge capacity that the pack was made for in mAh, rounded; absent when the pack does
-/// not say.
+/// The design capacity in mAh, rounded; absent when the pack does not report it.
 [[nodiscard]] Reading designMilliampHours(const BatterySupply &battery,
                                           const BatteryRecord &record);
 
-/// Present full charge as a percentage of the design, at most 100, rounded down. Absent when either
-/// is missing or the design is no measure: a copy of the present value, or less than two thirds of
-/// it.
+/// The full-charge capacity as a percentage of the design capacity, at most 100, rounded down.
+/// Absent when either is missing or the design capacity is not credible: a copy of the full-charge
+/// capacity, or less than two thirds of it.
 [[nodiscard]] std::optional<int> healthPercent(const BatterySupply &battery,
                                                const BatteryRecord &record);
 

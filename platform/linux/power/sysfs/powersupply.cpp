@@ -20,7 +20,7 @@ SupplyType supplyTypeOf(std::string_view text) noexcept
         return SupplyType::Battery;
     if (text == "Mains")
         return SupplyType::Mains;
-    // USB, USB_DCP, USB_CDP, USB_ACA, USB_C, USB_PD, USB_PD_DRP; BrickID is a USB charger's, too.
+    // USB, USB_DCP, USB_CDP, USB_ACA, USB_C, USB_PD, USB_PD_DRP; BrickID is a USB charger, too.
     if (text.starts_with("USB") || text == "BrickID")
         return SupplyType::Usb;
     if (text == "Wireless")

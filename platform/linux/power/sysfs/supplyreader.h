@@ -9,20 +9,20 @@
 
 namespace ferrin {
 
-/// Reads the kernel's power supplies. Type and scope are read first and decide: a supply's name
-/// says nothing, a mouse is a battery too, and of what does not power the system no other file is
-/// opened. Keeps nothing between two readings.
+/// Reads the kernel's power supplies. `type` and `scope` decide which of them power the system,
+/// never the name; of the others, such as the battery of a mouse, no other attribute is read.
+/// Stateless.
 class SupplyReader
 {
 public:
     /// The root of sysfs, usually "/sys".
     explicit SupplyReader(std::string root);
 
-    /// What may change from one refresh to the next, each file read once. Details of an adapter are
-    /// read only while it is online.
+    /// The attributes that may change from one refresh to the next; each file is read once. Details
+    /// of an adapter are read only while it is online.
     [[nodiscard]] PowerSupplies read() const;
 
-    /// The slow facts of these batteries, in their order.
+    /// The slow attributes of these batteries, in the same order.
     [[nodiscard]] std::vector<BatteryRecord>
     readRecords(const std::vector<BatterySupply> &batteries) const;
 

@@ -30,7 +30,7 @@ QString UsbVendors::search(std::uint16_t vendor) const
             continue;
         while (!list.atEnd()) {
             const QByteArray line = list.readLine(1024);
-            // The classes follow the vendors, with lines that could be taken for one.
+            // The device classes follow the vendors; some of their lines look like a vendor.
             if (line.startsWith("C "))
                 break;
             if (line.startsWith(start))

@@ -11,12 +11,13 @@
 
 namespace ferrin {
 
-/// The makers behind USB vendor numbers, by the list that distributions ship (usb.ids). The list is
-/// not kept: it is searched once for each vendor in turn, which is when an adapter is plugged in.
+/// The names of USB vendors, from the list that distributions ship (usb.ids). The list is not kept
+/// in memory: it is searched whenever the vendor differs from the last, that is, once for each
+/// adapter.
 class UsbVendors
 {
 public:
-    /// Where the list may be; the first that can be opened counts, none is no failure.
+    /// The possible paths of the list; the first that can be opened is used. There may be none.
     explicit UsbVendors(QStringList paths);
 
     /// Empty when the vendor is not in the list, or when there is none.
