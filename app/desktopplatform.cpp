@@ -4,45 +4,19 @@
 #include "app/desktopplatform.h"
 
 #include "menubar/statusitem.h"
+#include "platform/linux/popovers/desktoppopovers.h"
 #include "platform/linux/session/desktopnames.h"
-#include "platform/linux/statusarea/waylandpopoverdesktop.h"
-#include "platform/linux/statusarea/waylandpresswatcher.h"
-#include "platform/linux/statusarea/x11popoverdesktop.h"
-#include "platform/linux/statusarea/x11presswatcher.h"
 #include "state/shareddefaults.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 
 namespace ferrin {
-
-namespace {
-
-bool isWayland()
-{
-    return QGuiApplication::platformName().startsWith(u"wayland");
-}
-
-std::unique_ptr<PressWatcher> pressWatcher()
-{
-    if (isWayland())
-        return std::make_unique<WaylandPressWatcher>();
-    return std::make_unique<X11PressWatcher>();
-}
-
-std::unique_ptr<PopoverDesktop> popoverDesktop()
-{
-    if (isWayland())
-        return std::make_unique<WaylandPopoverDesktop>();
-    return std::make_unique<X11PopoverDesktop>();
-}
-
-} // namespace
 
 DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus, const QString &identifier)
     : m_appearance(sessionBus)
     , m_statusArea(sessionBus)
-    , m_presses(pressWatcher())
-    , m_popovers(popoverDesktop())
+    , m_presses(makePressWatcher())
+    , m_popovers(makePopoverDesktop())
     , m_links(m_programs, currentDesktopNames())
     , m_loginItem(identifier, QCoreApplication::applicationFilePath())
 {

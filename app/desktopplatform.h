@@ -9,7 +9,7 @@
 #include "platform/linux/session/desktoplinkopener.h"
 #include "platform/linux/session/programstarter.h"
 #include "platform/linux/session/systemappearance.h"
-#include "platform/linux/statusarea/statusarea.h"
+#include "platform/linux/statusarea/statusareachooser.h"
 
 #include <QObject>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "app/popoverdismissal.h"
 #include "app/windows.h"
+#include "popover/popoverdismissal.h"
 
 #include <QObject>
 #include <QProperty>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "menubar/itemplace.h"
+#include "popover/itemplace.h"
 #include "settingswindow/support/vendor.h"
 
 #include <QtPlugin>

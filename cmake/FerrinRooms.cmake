@@ -49,5 +49,5 @@ endfunction()
 function(ferrin_export_rooms target)
     target_link_libraries(${target} PRIVATE ferrin_menubar ferrin_updates)
     set_target_properties(${target} PROPERTIES ENABLE_EXPORTS ON LINK_LIBRARY_OVERRIDE
-        "WHOLE_ARCHIVE,ferrin_base,ferrin_sources,ferrin_state,ferrin_updates,ferrin_core,ferrin_menubar")
+        "WHOLE_ARCHIVE,ferrin_base,ferrin_sources,ferrin_state,ferrin_updates,ferrin_core,ferrin_popover,ferrin_menubar")
 endfunction()

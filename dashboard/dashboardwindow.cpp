@@ -4,7 +4,7 @@
 #include "dashboard/dashboardwindow.h"
 
 #include "base/logging.h"
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "quick/quickengine.h"
 
 #include <QGuiApplication>

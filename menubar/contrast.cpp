@@ -10,13 +10,13 @@ namespace ferrin {
 
 namespace {
 
-double luminance(const QColor &colour)
+double luminance(const QColor &color)
 {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
 }
 
 } // namespace

@@ -39,7 +39,7 @@ void FillView::paint(QPainter &painter, const QRectF &bounds, const ViewContext 
         return;
     QRectF rect(QPointF(), size);
     rect.moveCenter(bounds.center());
-    QColor fill = colour.value_or(context.text);
+    QColor fill = color.value_or(context.text);
     fill.setAlphaF(float(fill.alphaF() * opacity));
 
     painter.save();

@@ -20,7 +20,7 @@ struct FillView
 {
     QSizeF size;
     /// Absent: the text colour.
-    std::optional<QColor> colour = {};
+    std::optional<QColor> color = {};
     qreal opacity = 1;
     qreal cornerRadius = 1.2;
 

@@ -35,14 +35,14 @@ constexpr Opacities opacitiesOf(BatteryStyle style)
     Q_UNREACHABLE();
 }
 
-TemplateImageView outlineOf(const QString &name, const std::optional<QColor> &colour, qreal opacity)
+TemplateImageView outlineOf(const QString &name, const std::optional<QColor> &color, qreal opacity)
 {
-    return { .name = name, .colour = colour, .opacity = opacity };
+    return { .name = name, .color = color, .opacity = opacity };
 }
 
-FillView uprightFill(double percent, const std::optional<QColor> &colour, qreal opacity)
+FillView uprightFill(double percent, const std::optional<QColor> &color, qreal opacity)
 {
-    return { .size = { 6, percent * 12 / 100 }, .colour = colour, .opacity = opacity };
+    return { .size = { 6, percent * 12 / 100 }, .color = color, .opacity = opacity };
 }
 
 /// The battery with a bolt standing in a gap that is cut out of it.
@@ -99,7 +99,7 @@ AnyView HorzBattery1View::body(const ViewContext &) const
         .layers
         = { outlineOf(u"horzBatt1Border"_s, borderColor, weak),
             FillView {
-                .size = { percent * 18 / 100, 8 }, .colour = insideColor, .opacity = strong } },
+                .size = { percent * 18 / 100, 8 }, .color = insideColor, .opacity = strong } },
     };
 }
 
@@ -125,12 +125,12 @@ AnyView VertBattery2View::body(const ViewContext &) const
     };
 }
 
-AnyView SizeForBorder::applied(const std::optional<QColor> &colour, qreal opacity) const
+AnyView SizeForBorder::applied(const std::optional<QColor> &color, qreal opacity) const
 {
     const qreal height = border == HorzBatt2BorderThickness::max ? 6 : 7;
     return OffsetView {
         .content
-        = FillView { .size = { percent * 16 / 100, height }, .colour = colour, .opacity = opacity },
+        = FillView { .size = { percent * 16 / 100, height }, .color = color, .opacity = opacity },
         .offset = { 2.5, 0 },
     };
 }

@@ -93,7 +93,7 @@ struct SizeForBorder
 
     bool operator==(const SizeForBorder &) const = default;
 
-    [[nodiscard]] AnyView applied(const std::optional<QColor> &colour, qreal opacity) const;
+    [[nodiscard]] AnyView applied(const std::optional<QColor> &color, qreal opacity) const;
 };
 
 } // namespace ferrin

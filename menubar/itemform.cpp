@@ -101,10 +101,10 @@ QMarginsF chipMargins(ItemForm form, int height, qreal scale)
                           : QMarginsF(height * 0.25, 0, height * 0.25, 0);
 }
 
-void paintChip(QPainter &painter, const QRectF &bounds, const QColor &colour)
+void paintChip(QPainter &painter, const QRectF &bounds, const QColor &color)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(smoothlyRoundedRect(bounds, bounds.height() * 0.18), colour);
+    painter.fillPath(smoothlyRoundedRect(bounds, bounds.height() * 0.18), color);
 }
 
 Form formOf(ItemForm form, const ItemContent &content, int height, const ViewContext &context)

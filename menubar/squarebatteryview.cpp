@@ -25,10 +25,10 @@ constexpr qreal outlineOpacity = 0.6;
 constexpr qreal fillOpacity = 0.35;
 constexpr qreal strongFillOpacity = 0.875;
 
-QColor withOpacity(QColor colour, qreal opacity)
+QColor withOpacity(QColor color, qreal opacity)
 {
-    colour.setAlphaF(float(colour.alphaF() * opacity));
-    return colour;
+    color.setAlphaF(float(color.alphaF() * opacity));
+    return color;
 }
 
 /// The parts of the battery in whole device pixels.
@@ -54,23 +54,23 @@ struct Geometry
     }
 };
 
-void paintOutline(QPainter &painter, const Geometry &geometry, const QColor &colour)
+void paintOutline(QPainter &painter, const Geometry &geometry, const QColor &color)
 {
     QPainterPath outline = smoothlyRoundedRect(geometry.body, geometry.radius);
     outline.addPath(smoothlyRoundedRect(geometry.inside, geometry.radius - geometry.stroke));
     outline.setFillRule(Qt::OddEvenFill);
-    painter.fillPath(outline, colour);
-    painter.fillRect(geometry.terminal, colour);
+    painter.fillPath(outline, color);
+    painter.fillRect(geometry.terminal, color);
 }
 
-void paintFill(QPainter &painter, const Geometry &geometry, double percent, const QColor &colour)
+void paintFill(QPainter &painter, const Geometry &geometry, double percent, const QColor &color)
 {
     QRect filled = geometry.inside;
     filled.setWidth(int(std::lround(filled.width() * std::clamp(percent, 0.0, 100.0) / 100)));
     painter.save();
     painter.setClipRect(filled);
     painter.fillPath(smoothlyRoundedRect(geometry.inside, geometry.radius - geometry.stroke),
-                     colour);
+                     color);
     painter.restore();
 }
 

@@ -77,11 +77,11 @@ QImage rendered(const Stencil &stencil)
     return image;
 }
 
-QImage tinted(QImage stencil, const QColor &colour)
+QImage tinted(QImage stencil, const QColor &color)
 {
     QPainter painter(&stencil);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(stencil.rect(), colour);
+    painter.fillRect(stencil.rect(), color);
     return stencil;
 }
 
@@ -118,7 +118,7 @@ void TemplateImageView::paint(QPainter &painter, const QRectF &bounds,
     const QRectF place(rounded(device.x() - tile.x()), rounded(device.y() - tile.y()),
                        rounded(deviceSize.width()), rounded(deviceSize.height()));
 
-    QColor tint = colour.value_or(context.text);
+    QColor tint = color.value_or(context.text);
     tint.setAlphaF(float(tint.alphaF() * opacity));
     const QImage image = tinted(rendered({ name, place }), tint);
 

@@ -19,7 +19,7 @@ struct TemplateImageView
     /// Logical pixels; absent: the artwork's own height. The width follows from its shape.
     std::optional<qreal> height = {};
     /// Absent: the text colour.
-    std::optional<QColor> colour = {};
+    std::optional<QColor> color = {};
     qreal opacity = 1;
 
     bool operator==(const TemplateImageView &) const = default;

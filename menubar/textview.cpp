@@ -52,9 +52,9 @@ void TextView::paint(QPainter &painter, const QRectF &bounds, const ViewContext 
     painter.translate(baseline);
     painter.scale(stretch, stretch);
     painter.setFont(font);
-    QColor colour = context.text;
-    colour.setAlphaF(float(context.text.alphaF() * opacity));
-    painter.setPen(colour);
+    QColor color = context.text;
+    color.setAlphaF(float(context.text.alphaF() * opacity));
+    painter.setPen(color);
     painter.drawText(QPointF(0, 0), text);
 }
 

@@ -4,7 +4,7 @@
 #include "quick/framedwindow.h"
 
 #include "base/logging.h"
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "quick/popoverframe.h"
 #include "quick/quickengine.h"
 

@@ -3,7 +3,7 @@
 
 #include "quick/popoverframe.h"
 
-#include "quick/popoverplacement.h"
+#include "popover/popoverplacement.h"
 #include "quick/softshadow.h"
 
 #include <QImage>

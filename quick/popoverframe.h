@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "quick/popoverplacement.h"
+#include "popover/popoverplacement.h"
 
 #include <QMargins>
 #include <QPainterPath>

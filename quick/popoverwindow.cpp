@@ -4,7 +4,7 @@
 #include "quick/popoverwindow.h"
 
 #include "base/logging.h"
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "quick/framedwindow.h"
 #include "quick/quickengine.h"
 

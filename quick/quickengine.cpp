@@ -3,7 +3,7 @@
 
 #include "quick/quickengine.h"
 
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 
 #include <QQuickWindow>
 

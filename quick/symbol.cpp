@@ -37,7 +37,7 @@ void Symbol::setColor(const QColor &color)
 
 void Symbol::paint(QPainter *painter)
 {
-    const TemplateImageView view { .name = m_name, .height = m_size, .colour = m_color };
+    const TemplateImageView view { .name = m_name, .height = m_size, .color = m_color };
     view.paint(*painter, boundingRect(), {});
 }
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "app/windows.h"
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "tests/settingswindow/fakelinkopener.h"
 #include "tests/settingswindow/fakeloginitem.h"
 

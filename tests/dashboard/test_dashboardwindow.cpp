@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "dashboard/dashboardwindow.h"
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "tests/dashboard/stage.h"
 #include "tests/support/testmain.h"
 

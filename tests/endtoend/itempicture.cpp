@@ -12,8 +12,8 @@
 // crossed-out battery. For each content it writes the width, the height and the grey values, row by
 // row, as one line of numbers.
 
-#include "platform/linux/statusarea/itempictures.h"
-#include "platform/linux/statusarea/panelcolours.h"
+#include "platform/linux/panelcolors/panelcolors.h"
+#include "platform/linux/statusnotifier/itempictures.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -117,9 +117,9 @@ int main(int argc, char **argv)
     if (words.size() < 7)
         qFatal("item_picture PROCESS SCALE GROUND TEXT HEIGHT CONTENT...");
     const HostProfile &profile = profileForProcess(words[1]);
-    PanelColours colours;
-    colours.setHostText(profile, QColor(words[4]));
-    const ViewContext context = colours.contextFor(profile);
+    PanelColors colors;
+    colors.setPanelText(profile.name, QColor(words[4]));
+    const ViewContext context = colors.contextFor(profile.panel());
     QTextStream out(stdout);
     for (const QString &word : words.sliced(6)) {
         ItemPictures pictures;

@@ -16,14 +16,15 @@ FLOORS = {
     "state": {"base"},
     "updates": {"state", "base"},
     "core": {"state", "sources", "base"},
-    "menubar": {"core", "state", "base"},
-    "quick": {"menubar", "core", "state", "base"},
-    "dashboard": {"quick", "menubar", "core", "state", "base"},
-    "settingswindow": {"quick", "menubar", "core", "updates", "state", "base"},
-    "platform": {"menubar", "core", "updates", "state", "sources", "base"},
+    "popover": {"base"},
+    "menubar": {"popover", "core", "state", "base"},
+    "quick": {"menubar", "popover", "core", "state", "base"},
+    "dashboard": {"quick", "menubar", "popover", "core", "state", "base"},
+    "settingswindow": {"quick", "menubar", "popover", "core", "updates", "state", "base"},
+    "platform": {"menubar", "popover", "core", "updates", "state", "sources", "base"},
     "tools": {"platform", "menubar", "core", "updates", "state", "base"},
-    "app": {"platform", "dashboard", "settingswindow", "quick", "menubar", "core", "updates", "state",
-            "sources", "base"},
+    "app": {"platform", "dashboard", "settingswindow", "quick", "menubar", "popover", "core", "updates",
+            "state", "sources", "base"},
 }
 INCLUDE = re.compile(r'^\s*#include "([^"/]+)/', re.MULTILINE)
 

@@ -36,14 +36,14 @@ QRect inside(const QImage &image)
     return image.rect().adjusted(corner, 1, -corner, -1);
 }
 
-bool contains(const QImage &image, const QColor &colour, int tolerance = 2)
+bool contains(const QImage &image, const QColor &color, int tolerance = 2)
 {
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QColor found = image.pixelColor(x, y);
-            if (std::abs(found.red() - colour.red()) <= tolerance
-                && std::abs(found.green() - colour.green()) <= tolerance
-                && std::abs(found.blue() - colour.blue()) <= tolerance)
+            if (std::abs(found.red() - color.red()) <= tolerance
+                && std::abs(found.green() - color.green()) <= tolerance
+                && std::abs(found.blue() - color.blue()) <= tolerance)
                 return true;
         }
     }

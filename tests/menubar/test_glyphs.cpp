@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(rawValue(HorzBatt2BorderThickness::max), u"horzBatt2Border.150"_s);
     }
 
-    void aColourOfItsOwnTintsOneLayerOnly()
+    void aColorOfItsOwnTintsOneLayerOnly()
     {
         const QImage image = painted(horz2(100, { QColor(0, 0, 255), QColor(0, 255, 0) }), 4);
         QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2).green(), 255);

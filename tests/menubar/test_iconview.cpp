@@ -18,8 +18,8 @@ bool isRedSomewhere(const QImage &image)
 {
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            const QColor colour = image.pixelColor(x, y);
-            if (colour.alpha() > 64 && colour.red() > 128 && colour.green() < 64)
+            const QColor color = image.pixelColor(x, y);
+            if (color.alpha() > 64 && color.red() > 128 && color.green() < 64)
                 return true;
         }
     }
@@ -72,7 +72,7 @@ private Q_SLOTS:
             QVERIFY(!isRed(icon, 3, discharging));
     }
 
-    void keepsItsOutlineInTheTextColourWhenLow()
+    void keepsItsOutlineInTheTextColorWhenLow()
     {
         const QImage image = painted(IconView { Icon::battery2H, 3, discharging }, 4);
         QCOMPARE(image.pixelColor(image.width() / 2, 1).red(), 0);

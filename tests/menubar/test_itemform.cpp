@@ -35,8 +35,8 @@ bool isRedSomewhere(const QImage &image)
 {
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            const QColor colour = image.pixelColor(x, y);
-            if (colour.alpha() > 64 && colour.red() > 128)
+            const QColor color = image.pixelColor(x, y);
+            if (color.alpha() > 64 && color.red() > 128)
                 return true;
         }
     }
@@ -262,7 +262,7 @@ private Q_SLOTS:
         }
     }
 
-    void coloursAreNotMultipliedByTheirOpacity()
+    void colorsAreNotMultipliedByTheirOpacity()
     {
         ViewContext white = blackOnClear;
         white.text = Qt::white;

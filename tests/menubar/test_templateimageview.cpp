@@ -55,10 +55,10 @@ private Q_SLOTS:
         QCOMPARE(twice.idealSize(blackOnClear), size * 2);
     }
 
-    void isTintedInItsColourAndOpacity()
+    void isTintedInItsColorAndOpacity()
     {
         const TemplateImageView view { .name = u"arrow.up.square.fill"_s,
-                                       .colour = QColor(0, 0, 255),
+                                       .color = QColor(0, 0, 255),
                                        .opacity = 0.5 };
         const QColor inside = painted(view, { 22, 22 }, 2).pixelColor(14, 22);
         QCOMPARE(inside.blue(), 255);
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QVERIFY(near(inside.alphaF(), 0.5, 0.01));
     }
 
-    void takesTheTextColourByDefault()
+    void takesTheTextColorByDefault()
     {
         ViewContext white = blackOnClear;
         white.text = Qt::white;

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QVERIFY(near(ink.center().x(), 40, 1.5));
     }
 
-    void paintsInTheTextColourAtItsOpacity()
+    void paintsInTheTextColorAtItsOpacity()
     {
         const QImage image = painted(TextView { .text = u"1"_s }, { 60, 60 }, 6);
         double strongest = 0;

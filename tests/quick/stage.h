@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "quick/quickengine.h"
 #include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "menubar/popoverdesktop.h"
+#include "popover/popoverdesktop.h"
 #include "quick/framedwindow.h"
 #include "quick/popoverwindow.h"
 #include "quick/quickengine.h"

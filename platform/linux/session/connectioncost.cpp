@@ -3,9 +3,10 @@
 
 #include "platform/linux/session/connectioncost.h"
 
+#include "platform/linux/dbus/asynccall.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusReply>
 #include <QDBusVariant>
 #include <QFile>
 
@@ -66,15 +67,12 @@ void ConnectionCost::ask(std::function<void(NetworkReach)> answer)
         = QDBusMessage::createMethodCall(service, path, propertiesInterface, u"Get"_s);
     call << service << u"Metered"_s;
     call.setAutoStartService(false);
-    const auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [answer = std::move(answer)](QDBusPendingCallWatcher *finished) {
-                const QDBusPendingReply<QDBusVariant> reply = *finished;
-                finished->deleteLater();
-                const uint metered = reply.isValid() ? reply.value().variant().toUInt() : 0;
-                answer(metered == meteredYes || metered == meteredGuessedYes ? NetworkReach::metered
-                                                                             : NetworkReach::free);
-            });
+    callAsync(m_bus, call, this, [answer = std::move(answer)](const QDBusMessage &message) {
+        const QDBusReply<QDBusVariant> reply = message;
+        const uint metered = reply.isValid() ? reply.value().variant().toUInt() : 0;
+        answer(metered == meteredYes || metered == meteredGuessedYes ? NetworkReach::metered
+                                                                     : NetworkReach::free);
+    });
 }
 
 bool ConnectionCost::hasDefaultRoute() const

@@ -3,9 +3,10 @@
 
 #include "platform/linux/session/settingsportal.h"
 
+#include "platform/linux/dbus/asynccall.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
@@ -60,14 +61,11 @@ void SettingsPortal::read(const QString &group, const QString &key)
         return;
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
     call << group << key;
-    const auto *const watcher = new QDBusPendingCallWatcher(m_session.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, group, key](QDBusPendingCallWatcher *finished) {
-                const QDBusPendingReply<QDBusVariant> reply = *finished;
-                finished->deleteLater();
-                if (reply.isValid())
-                    Q_EMIT valueChanged(group, key, unwrapped(reply.value().variant()));
-            });
+    callAsync(m_session, call, this, [this, group, key](const QDBusMessage &message) {
+        const QDBusReply<QDBusVariant> reply = message;
+        if (reply.isValid())
+            Q_EMIT valueChanged(group, key, unwrapped(reply.value().variant()));
+    });
 }
 
 void SettingsPortal::settingChanged(const QString &group, const QString &key,

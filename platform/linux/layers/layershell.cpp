@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/layers/layershell.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+#include <qpa/qplatformnativeinterface.h>
+
+#include <algorithm>
+#include <cstring>
+#include <wayland-client.h>
+#include <wlr-layer-shell-unstable-v1.h>
+
+namespace ferrin {
+
+namespace {
+
+// The last version that this was tried with.
+constexpr quint32 knownVersion = 4;
+constexpr Qt::Edges everyEdge = Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge;
+
+void bindShell(void *data, wl_registry *registry, quint32 name, const char *interface,
+               quint32 version)
+{
+    if (std::strcmp(interface, zwlr_layer_shell_v1_interface.name) != 0)
+        return;
+    *static_cast<zwlr_layer_shell_v1 **>(data)
+        = static_cast<zwlr_layer_shell_v1 *>(wl_registry_bind(
+            registry, name, &zwlr_layer_shell_v1_interface, std::min(version, knownVersion)));
+}
+
+void forgetGlobal(void *, wl_registry *, quint32) { }
+
+constexpr wl_registry_listener registryListener { bindShell, forgetGlobal };
+
+wl_surface *surfaceOf(QWindow &window)
+{
+    return static_cast<wl_surface *>(
+        QGuiApplication::platformNativeInterface()->nativeResourceForWindow("surface", &window));
+}
+
+wl_output *outputOf(QScreen *screen)
+{
+    return screen
+        ? static_cast<wl_output *>(
+            QGuiApplication::platformNativeInterface()->nativeResourceForScreen("output", screen))
+        : nullptr;
+}
+
+quint32 anchorsFor(Qt::Edges edges)
+{
+    quint32 anchors = 0;
+    if (edges & Qt::TopEdge)
+        anchors |= ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP;
+    if (edges & Qt::BottomEdge)
+        anchors |= ZWLR_LAYER_SURFACE_V1_ANCHOR_BOTTOM;
+    if (edges & Qt::LeftEdge)
+        anchors |= ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT;
+    if (edges & Qt::RightEdge)
+        anchors |= ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
+    return anchors;
+}
+
+quint32 layerOf(LayerShell::Kind kind)
+{
+    return kind == LayerShell::Kind::Bar ? ZWLR_LAYER_SHELL_V1_LAYER_TOP
+                                         : ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY;
+}
+
+} // namespace
+
+LayerPlace layerPlaceFor(const QRect &frame, const QRect &screen)
+{
+    const int left = frame.left() - screen.left();
+    const int right = screen.right() - frame.right();
+    const int top = frame.top() - screen.top();
+    const int bottom = screen.bottom() - frame.bottom();
+    LayerPlace place;
+    place.edges |= left < right ? Qt::LeftEdge : Qt::RightEdge;
+    place.edges |= bottom < top ? Qt::BottomEdge : Qt::TopEdge;
+    if (left < right)
+        place.margins.setLeft(left);
+    else
+        place.margins.setRight(right);
+    if (bottom < top)
+        place.margins.setBottom(bottom);
+    else
+        place.margins.setTop(top);
+    return place;
+}
+
+struct LayerSurface::Listener
+{
+    static void configure(void *data, zwlr_layer_surface_v1 *surface, quint32 serial, quint32 width,
+                          quint32 height)
+    {
+        zwlr_layer_surface_v1_ack_configure(surface, serial);
+        if (width && height)
+            static_cast<LayerSurface *>(data)->m_window.resize(int(width), int(height));
+    }
+    static void closed(void *data, zwlr_layer_surface_v1 *)
+    {
+        // The screen has gone, or the compositor wants it so.
+        auto *const self = static_cast<LayerSurface *>(data);
+        QMetaObject::invokeMethod(
+            &self->m_context, [self] { self->m_window.close(); }, Qt::QueuedConnection);
+    }
+    static constexpr zwlr_layer_surface_v1_listener callbacks { configure, closed };
+};
+
+LayerSurface::LayerSurface(QWindow &window, zwlr_layer_surface_v1 *surface)
+    : m_window(window)
+    , m_surface(surface)
+{
+    zwlr_layer_surface_v1_add_listener(m_surface, &Listener::callbacks, this);
+}
+
+LayerSurface::~LayerSurface()
+{
+    zwlr_layer_surface_v1_destroy(m_surface);
+}
+
+void LayerSurface::apply(const LayerPlace &place)
+{
+    const QMargins &margins = place.margins;
+    const QSize size = place.edges == everyEdge ? QSize(0, 0) : m_window.size();
+    zwlr_layer_surface_v1_set_size(m_surface, quint32(size.width()), quint32(size.height()));
+    zwlr_layer_surface_v1_set_anchor(m_surface, anchorsFor(place.edges));
+    zwlr_layer_surface_v1_set_margin(m_surface, margins.top(), margins.right(), margins.bottom(),
+                                     margins.left());
+}
+
+void LayerSurface::move(const LayerPlace &place)
+{
+    apply(place);
+    if (wl_surface *const surface = surfaceOf(m_window))
+        wl_surface_commit(surface);
+}
+
+LayerShell::LayerShell()
+{
+    if (!QGuiApplication::platformName().startsWith(u"wayland"))
+        return;
+    m_display = static_cast<wl_display *>(
+        QGuiApplication::platformNativeInterface()->nativeResourceForIntegration("wl_display"));
+    if (m_display)
+        bind();
+}
+
+LayerShell::~LayerShell()
+{
+    if (m_shell)
+        wl_proxy_destroy(reinterpret_cast<wl_proxy *>(m_shell));
+    if (m_queue)
+        wl_event_queue_destroy(m_queue);
+}
+
+void LayerShell::bind()
+{
+    m_queue = wl_display_create_queue(m_display);
+    auto *const wrapper = static_cast<wl_display *>(wl_proxy_create_wrapper(m_display));
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy *>(wrapper), m_queue);
+    wl_registry *const registry = wl_display_get_registry(wrapper);
+    wl_proxy_wrapper_destroy(wrapper);
+    wl_registry_add_listener(registry, &registryListener, &m_shell);
+    wl_display_roundtrip_queue(m_display, m_queue);
+    wl_registry_destroy(registry);
+}
+
+std::unique_ptr<LayerSurface> LayerShell::dress(QWindow &window, const LayerPlace &place, Kind kind)
+{
+    if (!m_shell)
+        return {};
+    // As the application is set up, Qt gives such a window no role of its own.
+    window.setFlag(Qt::BypassWindowManagerHint);
+    // Qt makes the surface of a window that was hidden anew when it is shown, which is too late.
+    if (window.handle() && !surfaceOf(window))
+        window.destroy();
+    window.create();
+    wl_surface *const surface = surfaceOf(window);
+    if (!surface)
+        return {};
+    std::unique_ptr<LayerSurface> layer(new LayerSurface(
+        window,
+        zwlr_layer_shell_v1_get_layer_surface(m_shell, surface, outputOf(window.screen()),
+                                              layerOf(kind), "ferrin")));
+    layer->apply(place);
+    constexpr int overPanels = -1;
+    if (kind == Kind::Cover)
+        zwlr_layer_surface_v1_set_exclusive_zone(layer->m_surface, overPanels);
+    zwlr_layer_surface_v1_set_keyboard_interactivity(
+        layer->m_surface,
+        kind == Kind::Popover ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE
+                              : ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
+    wl_surface_commit(surface);
+    // Nothing may be shown before the compositor has said how; from then on Qt hears of changes.
+    wl_display_roundtrip_queue(m_display, m_queue);
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy *>(layer->m_surface), nullptr);
+    return layer;
+}
+
+} // namespace ferrin

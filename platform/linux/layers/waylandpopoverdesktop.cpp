@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/layers/waylandpopoverdesktop.h"
+
+#include <QPainterPath>
+#include <QRect>
+#include <QRegion>
+#include <QWindow>
+
+namespace ferrin {
+
+void WaylandPopoverDesktop::place(QWindow &window, const QRect &frame)
+{
+    QWindow *const whole = window.transientParent();
+    if (!m_layers.contains(whole)) {
+        PopoverDesktop::place(window, frame);
+        return;
+    }
+    // Of two surfaces of a layer nobody says which is above, and only the compositor knows where
+    // this one's whole is.
+    if (window.parent() != whole)
+        window.setParent(whole);
+    PopoverDesktop::place(window, frame.translated(-whole->position()));
+}
+
+void WaylandPopoverDesktop::prepare(QWindow &window)
+{
+    if (!window.parent())
+        m_layers.prepare(window, LayerShell::Kind::Popover);
+}
+
+void WaylandPopoverDesktop::setOutline(QWindow &window, const QPainterPath &outline)
+{
+    window.setMask(QRegion(outline.toFillPolygon().toPolygon()));
+}
+
+} // namespace ferrin

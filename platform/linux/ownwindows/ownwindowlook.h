@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+namespace ferrin {
+
+class PanelColors;
+
+/// How the small windows of our own are painted.
+struct OwnWindowLook
+{
+    bool isDark = false;
+    /// The desktop's interface font; empty for the default one.
+    QString fontFamily {};
+};
+
+struct OwnWindowColors
+{
+    QColor ground;
+    QColor border;
+    QColor text;
+    QColor highlight;
+};
+
+[[nodiscard]] OwnWindowColors colorsFor(bool isDark);
+[[nodiscard]] OwnWindowLook ownWindowLook(const PanelColors &colors);
+
+} // namespace ferrin

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "platform/linux/ownwindows/popupmenu.h"
+
+#include <QObject>
+#include <QRasterWindow>
+#include <QTimer>
+
+#include <memory>
+
+namespace ferrin {
+
+/// A line of text beside the item while the pointer rests on it, for the places where no desktop
+/// shows one for us. Takes neither the focus nor presses.
+class ToolTip final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ToolTip(QObject *parent = nullptr);
+    ~ToolTip() override;
+
+    /// Shows it once the pointer has rested; `item` is what it explains, on the desktop.
+    void showSoon(const QString &text, const QRect &item, const OwnWindowLook &look);
+    void hide();
+
+    /// Null while nothing is shown.
+    [[nodiscard]] const QWindow *window() const;
+
+private:
+    void show();
+
+    class Window;
+
+    QTimer m_rest;
+    QString m_text;
+    QRect m_item;
+    OwnWindowLook m_look;
+    std::unique_ptr<Window> m_window;
+};
+
+} // namespace ferrin

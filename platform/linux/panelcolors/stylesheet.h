@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace ferrin {
+
+/// The colours in a panel's style sheet, of GTK's dialect or of Qt's: enough of either to learn
+/// what a panel looks like, and no more. Whatever is not understood is absent.
+class StyleSheet
+{
+public:
+    /// The sheet in this file with those that it imports; empty where there is none.
+    [[nodiscard]] static StyleSheet read(const QString &file);
+
+    /// What the last rule for exactly this selector says of the property. Of a gradient the middle;
+    /// absent for nothing, for a picture, and for colours of the toolkit's.
+    [[nodiscard]] std::optional<QColor> color(const QString &selector,
+                                              const QString &property) const;
+    /// The ground that the last rule for exactly this selector gives.
+    [[nodiscard]] std::optional<QColor> ground(const QString &selector) const;
+
+    /// Every file that was read.
+    [[nodiscard]] const QStringList &files() const noexcept { return m_files; }
+
+private:
+    void add(const QString &file, int depth);
+    void addRules(const QString &text);
+    [[nodiscard]] std::optional<QColor> colorIn(const QString &value, int depth = 0) const;
+    [[nodiscard]] std::optional<QColor> colorOf(const QString &word, int depth) const;
+
+    /// By selector and property.
+    QHash<QString, QHash<QString, QString>> m_rules;
+    /// By name.
+    QHash<QString, QString> m_definitions;
+    QStringList m_files;
+};
+
+} // namespace ferrin

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusarea/statusareachooser.h"
+
+#include "base/logging.h"
+#include "platform/linux/ownbar/ownbar.h"
+#include "platform/linux/statusnotifier/statusnotifierbar.h"
+#include "platform/linux/xembed/traycolors.h"
+#include "platform/linux/xembed/trayitem.h"
+#include "platform/linux/xembed/trayowner.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace ferrin {
+
+namespace {
+
+// A panel that has both kinds of status area takes the tray a moment before or after the other.
+constexpr std::chrono::milliseconds patienceWithTray = 500ms;
+
+} // namespace
+
+StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *parent)
+    : QObject(parent)
+    , m_trayOwner(std::make_unique<TrayOwner>())
+    , m_trayColors(std::make_unique<TrayColors>(*m_trayOwner))
+{
+    readTrayColors();
+    connect(m_trayColors.get(), &TrayColors::changed, this, &StatusAreaChooser::readTrayColors);
+    followHosts();
+    if (session.isConnected()) {
+        m_notifierBar = std::make_unique<StatusNotifierBar>(session, m_colors);
+        connect(&m_notifierBar->resolver(), &HostResolver::found, this,
+                &StatusAreaChooser::hostFound);
+    }
+    m_patienceTimer.setSingleShot(true);
+    connect(&m_patienceTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);
+}
+
+StatusAreaChooser::~StatusAreaChooser() = default;
+
+void StatusAreaChooser::setAppearance(const StatusAreaAppearance &appearance)
+{
+    m_plasmaColors.refresh();
+    m_colors.setAppearance(appearance);
+}
+
+void StatusAreaChooser::followHosts()
+{
+    connect(&m_barColors, &BarColors::changed, this, [this] {
+        m_colors.setPanelText("swaybar"_L1, m_barColors.text());
+        m_colors.setI3BarText(m_barColors.text());
+    });
+    connect(&m_barSocket, &WindowManagerSocket::renewed, this,
+            [this] { m_barColors.start(m_barSocket.path()); });
+    m_barColors.start(m_barSocket.path());
+    follow(m_plasmaColors, "plasmashell"_L1);
+    follow(m_lxqtColors, "lxqt-panel"_L1);
+    follow(m_waybarColors, "waybar"_L1);
+    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"KDE"_s))
+        m_plasmaColors.start();
+}
+
+void StatusAreaChooser::follow(FileColors &colors, QLatin1StringView panel)
+{
+    connect(&colors, &FileColors::changed, this,
+            [this, &colors, panel] { m_colors.setPanelText(panel, colors.text()); });
+}
+
+void StatusAreaChooser::hostFound(const HostProfile &profile, uint processId)
+{
+    if (profile.name == "lxqt-panel"_L1)
+        m_lxqtColors.start();
+    if (profile.name == "waybar"_L1) {
+        m_waybarColors.setArguments(argumentsFromKernel(processId));
+        m_waybarColors.start();
+    }
+}
+
+void StatusAreaChooser::readTrayColors()
+{
+    m_colors.setTrayText(m_trayColors->text());
+}
+
+void StatusAreaChooser::start()
+{
+    connect(m_trayOwner.get(), &TrayOwner::changed, this, &StatusAreaChooser::trayOwnerChanged);
+    if (!m_notifierBar) {
+        standIn();
+        return;
+    }
+    connect(&m_notifierBar->registration(), &ItemRegistration::hostPresentChanged, this,
+            &StatusAreaChooser::hostPresentChanged);
+    m_notifierBar->start();
+    waitForHost();
+    Q_EMIT itemAvailable(item());
+}
+
+StatusBar *StatusAreaChooser::bar() const
+{
+    if (m_trayBar)
+        return m_trayBar.get();
+    if (m_ownBar)
+        return m_ownBar.get();
+    return m_notifierBar.get();
+}
+
+StatusItem *StatusAreaChooser::item() const
+{
+    StatusBar *const inUse = bar();
+    return inUse ? inUse->item() : nullptr;
+}
+
+bool StatusAreaChooser::isHostPresent() const
+{
+    return m_notifierBar && m_notifierBar->registration().isHostPresent();
+}
+
+void StatusAreaChooser::waitForHost()
+{
+    m_patienceTimer.start(m_trayOwner->window() ? std::min(m_patience, patienceWithTray)
+                                                : m_patience);
+}
+
+void StatusAreaChooser::hostPresentChanged(bool present)
+{
+    if (!present) {
+        waitForHost();
+        return;
+    }
+    m_patienceTimer.stop();
+    if (m_ownBar || m_trayBar)
+        useStatusNotifier();
+}
+
+void StatusAreaChooser::trayOwnerChanged()
+{
+    // A bar that is restarted gets its item back at once.
+    if (m_trayBar)
+        m_trayBar->item()->dockInto(m_trayOwner->window());
+    if (!isHostPresent())
+        waitForHost();
+}
+
+void StatusAreaChooser::standIn()
+{
+    if (m_trayOwner->window())
+        useTray();
+    else if (!m_notifierBar || OwnBar::isPossible())
+        useOwnBar();
+    else
+        goWithout();
+}
+
+void StatusAreaChooser::goWithout()
+{
+    if (!std::exchange(m_isWantTold, true))
+        qCInfo(logger, "This session has no place for an item; start Ferrin again to open it");
+}
+
+void StatusAreaChooser::emptyItem()
+{
+    if (StatusItem *const inUse = item())
+        inUse->removeContentViews();
+}
+
+void StatusAreaChooser::useTray()
+{
+    if (m_trayBar)
+        return;
+    emptyItem();
+    OwnBar *const former = m_ownBar.release();
+    m_trayBar = std::make_unique<TrayBar>(m_colors);
+    tellOfItem(former);
+    m_trayBar->item()->dockInto(m_trayOwner->window());
+}
+
+void StatusAreaChooser::useOwnBar()
+{
+    if (m_ownBar)
+        return;
+    emptyItem();
+    TrayBar *const former = m_trayBar.release();
+    m_ownBar = std::make_unique<OwnBar>(m_colors, m_store);
+    tellOfItem(former);
+    m_ownBar->show();
+}
+
+void StatusAreaChooser::useStatusNotifier()
+{
+    emptyItem();
+    StatusBar *former = m_trayBar.release();
+    if (OwnBar *const ownBar = m_ownBar.release()) {
+        ownBar->hide();
+        former = ownBar;
+    }
+    tellOfItem(former);
+}
+
+void StatusAreaChooser::tellOfItem(StatusBar *former)
+{
+    Q_EMIT itemAvailable(item());
+    // Whoever used the former bar's item might do so until now.
+    if (former)
+        former->deleteLater();
+}
+
+} // namespace ferrin

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/itemcontent.h"
+#include "platform/linux/statusnotifier/hosttable.h"
+#include "platform/linux/statusnotifier/statusnotifiertypes.h"
+
+#include <QHash>
+
+namespace ferrin {
+
+/// Paints what a host is offered and keeps it, so that a host that reads everything anew costs no
+/// painting. Holds only the pictures of hosts that asked.
+class ItemPictures
+{
+public:
+    /// The pictures of the content for such a host, in the order in which they are offered.
+    /// `desktopScale` is in device pixels a logical one.
+    [[nodiscard]] const IconPixmapList &pictures(const HostProfile &profile,
+                                                 const ItemContent &content,
+                                                 const ViewContext &context, qreal desktopScale);
+
+    /// Lets go of the pictures for such hosts.
+    void forget(const HostProfile &profile) { m_painted.remove(&profile); }
+
+private:
+    struct Painted
+    {
+        ItemContent content;
+        ViewContext context;
+        qreal scale = 0;
+        IconPixmapList pictures;
+    };
+
+    QHash<const HostProfile *, Painted> m_painted;
+};
+
+} // namespace ferrin

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/statusnotifier/statusnotifierbar.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace ferrin {
+
+namespace {
+
+QString itemServiceName()
+{
+    static int count = 0;
+    return u"org.kde.StatusNotifierItem-%1-%2"_s.arg(QCoreApplication::applicationPid())
+        .arg(++count);
+}
+
+} // namespace
+
+StatusNotifierBar::StatusNotifierBar(const QDBusConnection &connection, const PanelColors &colors,
+                                     HostResolver::ProcessName processName, QObject *parent)
+    : StatusBar(parent)
+    , m_connection(connection)
+    , m_serviceName(itemServiceName())
+    , m_resolver(connection, std::move(processName))
+    , m_item(connection, m_resolver, colors)
+    , m_registration(connection)
+{
+}
+
+StatusNotifierBar::~StatusNotifierBar()
+{
+    m_connection.unregisterService(m_serviceName);
+}
+
+void StatusNotifierBar::start()
+{
+    const bool hasName = m_connection.registerService(m_serviceName);
+    m_registration.start(hasName ? m_serviceName : m_connection.baseService());
+}
+
+} // namespace ferrin

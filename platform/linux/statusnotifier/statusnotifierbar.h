@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#pragma once
+
+#include "menubar/statusitem.h"
+#include "platform/linux/statusnotifier/hostresolver.h"
+#include "platform/linux/statusnotifier/itemregistration.h"
+#include "platform/linux/statusnotifier/statusnotifierstatusitem.h"
+
+namespace ferrin {
+
+/// The desktop's status area: whatever hosts there are and will be.
+class StatusNotifierBar final : public StatusBar
+{
+    Q_OBJECT
+
+public:
+    /// `processName` says what the callers' processes are called.
+    StatusNotifierBar(const QDBusConnection &connection, const PanelColors &colors,
+                      HostResolver::ProcessName processName = processNameFromKernel,
+                      QObject *parent = nullptr);
+    ~StatusNotifierBar() override;
+
+    void start();
+
+    [[nodiscard]] qreal thickness() const override { return 22; }
+    [[nodiscard]] StatusItem *item() override { return &m_item; }
+    [[nodiscard]] const HostResolver &resolver() const noexcept { return m_resolver; }
+    [[nodiscard]] const ItemRegistration &registration() const noexcept { return m_registration; }
+
+private:
+    QDBusConnection m_connection;
+    /// The bus name that is the item's own.
+    QString m_serviceName;
+    HostResolver m_resolver;
+    StatusNotifierStatusItem m_item;
+    ItemRegistration m_registration;
+};
+
+} // namespace ferrin

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "platform/linux/panelcolors/panelsheets.h"
+#include "tests/platform/panelcolors/homeofsettings.h"
+#include "tests/support/testmain.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace ferrin;
+using namespace ferrin::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray darkSheet = "LXQtPanel #BackgroundWidget { background: #041b27; }\n"
+                             "Plugin > QToolButton, Plugin > QWidget { color: #dedede; }";
+
+} // namespace
+
+/// A home in which panels are dressed as their users dress them.
+class PanelSheetsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_home = std::make_unique<HomeOfSettings>(); }
+
+    void knowsNothingOfLxqtWithoutAnySettings() { QVERIFY(!lxqt()); }
+
+    void lxqtsThemeTells()
+    {
+        write(u"config/lxqt/lxqt.conf"_s, "theme=night\n");
+        write(u"shared/lxqt/themes/night/lxqt-panel.qss"_s, darkSheet);
+        QCOMPARE(lxqt(), QColor(0xde, 0xde, 0xde));
+    }
+
+    void lxqtsThemeMayBeTheSystems()
+    {
+        write(u"config/lxqt/lxqt.conf"_s, "icon_theme=oxygen\n");
+        write(u"system/lxqt/lxqt.conf"_s, "theme=night\n");
+        write(u"shared/lxqt/themes/night/lxqt-panel.qss"_s, darkSheet);
+        QCOMPARE(lxqt(), QColor(0xde, 0xde, 0xde));
+    }
+
+    void knowsNothingOfAThemeThatTakesThePalettesColors()
+    {
+        write(u"config/lxqt/lxqt.conf"_s, "theme=plain\n");
+        write(u"shared/lxqt/themes/plain/lxqt-panel.qss"_s,
+              "LXQtPanel #BackgroundWidget { background: palette(window); }");
+        QVERIFY(!lxqt());
+    }
+
+    void whatTheUserGaveThePanelCountsMore()
+    {
+        write(u"config/lxqt/lxqt.conf"_s, "theme=night\n");
+        write(u"shared/lxqt/themes/night/lxqt-panel.qss"_s, darkSheet);
+        QSettings panel(m_home->filePath(u"config/lxqt/panel.conf"_s), QSettings::IniFormat);
+        panel.setValue(u"panels"_s, QStringList { u"other"_s, u"panel1"_s });
+        panel.setValue(u"other/background-color"_s, QColor(Qt::black));
+        panel.setValue(u"panel1/plugins"_s, QStringList { u"taskbar"_s, u"statusnotifier"_s });
+        panel.setValue(u"panel1/background-color"_s, QColor(Qt::white));
+        panel.sync();
+        // The theme's text would not read on it.
+        QCOMPARE(lxqt(), QColor(Qt::black));
+        panel.setValue(u"panel1/font-color"_s, QColor(0, 0, 80));
+        panel.sync();
+        QCOMPARE(lxqt(), QColor(0, 0, 80));
+    }
+
+    void followsLxqtsTheme()
+    {
+        write(u"config/lxqt/lxqt.conf"_s, "theme=night\n");
+        write(u"shared/lxqt/themes/night/lxqt-panel.qss"_s, darkSheet);
+        write(u"shared/lxqt/themes/day/lxqt-panel.qss"_s, "Plugin > QToolButton { color: black; }");
+        LxqtColors colors;
+        colors.start();
+        const QSignalSpy changes(&colors, &FileColors::changed);
+        write(u"config/lxqt/lxqt.conf"_s, "theme=day\n");
+        QTRY_COMPARE(colors.text(), QColor(Qt::black));
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void waybarsSheetTells_data()
+    {
+        QTest::addColumn<QByteArray>("sheet");
+        QTest::addColumn<QColor>("expected");
+        QTest::addRow("its bar") << QByteArray(
+            "window#waybar { background: #f2f2f2; color: #202020; }")
+                                 << QColor(0x20, 0x20, 0x20);
+        QTest::addRow("its tray before its bar")
+            << QByteArray("window#waybar { background: #f2f2f2; color: #202020; }\n"
+                          "#clock, #tray { background-color: #000080; color: #eeeeee; }")
+            << QColor(0xee, 0xee, 0xee);
+        QTest::addRow("everything")
+            << QByteArray("* { color: #eeeeee; }") << QColor(0xee, 0xee, 0xee);
+        QTest::addRow("a ground under text that does not read")
+            << QByteArray("* { color: white; }\nwindow#waybar { background-color: #fafafa; }")
+            << QColor(Qt::black);
+        QTest::addRow("a clear tray on a light bar") << QByteArray(
+            "#tray { background: transparent; }\nwindow#waybar { background: white; }")
+                                                     << QColor(Qt::black);
+        QTest::addRow("half clear, as it comes") << QByteArray(
+            "window#waybar { background-color: rgba(43, 48, 59, 0.4); color: #ffffff; }")
+                                                 << QColor(Qt::white);
+    }
+
+    void waybarsSheetTells()
+    {
+        QFETCH(QByteArray, sheet);
+        QFETCH(QColor, expected);
+        write(u"config/waybar/style.css"_s, sheet);
+        QCOMPARE(waybar({ u"waybar"_s }), expected);
+    }
+
+    void waybarsSheetMayBeGivenAtItsStart()
+    {
+        write(u"config/waybar/style.css"_s, "* { color: white; }");
+        write(u"own.css"_s, "* { color: black; }");
+        const QString own = m_home->filePath(u"own.css"_s);
+        QCOMPARE(waybar({ u"waybar"_s, u"-s"_s, own }), QColor(Qt::black));
+        QCOMPARE(waybar({ u"waybar"_s, u"--style"_s, own }), QColor(Qt::black));
+        QCOMPARE(waybar({ u"waybar"_s, u"-s"_s }), QColor(Qt::white));
+    }
+
+    void knowsNothingOfABarWithoutColors()
+    {
+        QVERIFY(!waybar({ u"waybar"_s }));
+        write(u"config/waybar/style.css"_s, "* { font-size: 13px; }");
+        QVERIFY(!waybar({ u"waybar"_s }));
+    }
+
+    void readsTheArgumentsOfAProcess()
+    {
+        const QStringList own = argumentsFromKernel(uint(QCoreApplication::applicationPid()));
+        QVERIFY(!own.isEmpty());
+        QVERIFY(own.constFirst().endsWith(u"test_platform_panelcolors"_s));
+        QVERIFY(argumentsFromKernel(0).isEmpty());
+    }
+
+private:
+    static std::optional<QColor> lxqt()
+    {
+        LxqtColors colors;
+        colors.start();
+        return colors.text();
+    }
+
+    static std::optional<QColor> waybar(const QStringList &arguments)
+    {
+        WaybarColors colors;
+        colors.setArguments(arguments);
+        colors.start();
+        return colors.text();
+    }
+
+    void write(const QString &name, const QByteArray &text) const { m_home->write(name, text); }
+
+    std::unique_ptr<HomeOfSettings> m_home;
+};
+
+FERRIN_TEST(QCoreApplication, PanelSheetsTest)
+#include "test_panelsheets.moc"
