@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// The floor of starting up: a bare application that puts an empty item into the status area.
+// The baseline for starting up: a minimal application with an empty item in the status area.
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
-    // As the program does: no desktop's platform theme is loaded.
+    // No platform theme is loaded, as in the program.
     QGuiApplication::setDesktopSettingsAware(false);
     const QGuiApplication app(argc, argv);
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// The floor of opening a window: in the place of the dashboard and of the settings bare Qt Quick
-// windows of their sizes, made as the toolkit's own examples make one. As with ours, the dashboard
-// is made anew for each opening and the settings are kept.
+// The baseline for opening a window: empty Qt Quick windows in place of the dashboard and the
+// settings, of the same sizes, created as in Qt's examples. As in the program, the dashboard is
+// created again for each opening, and the settings are kept.
 
 #include "app/windows.h"
 

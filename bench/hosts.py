@@ -25,15 +25,15 @@ from virtuallaptop import VirtualLaptop  # noqa: E402
 SETTLING_SECONDS = 30
 WATCHED_SECONDS = 120
 STEP_SECONDS = 5
-# As the default laptop's battery tells it: microwatthours, and microwatts.
+# The default laptop's battery, in µWh and µW.
 FULL, BEGIN, RATE = 46_000_000, 17_020_000, 6_100_000
-# Of the tray bars no item is on the bus.
+# In the tray bars the item is not on the bus.
 TRAY_BARS = ("i3bar", "tint2", "polybar")
 NOT_THE_HOST = ("ferrin", "Xvfb", "dbus-daemon")
 
 
 def session_processes(session):
-    """The processes whose home is the session's, by number and name."""
+    """The processes whose HOME is the session's, by process ID and name."""
     marker = f"XDG_RUNTIME_DIR={session.folder}".encode()
     for folder in pathlib.Path("/proc").iterdir():
         try:
@@ -44,7 +44,7 @@ def session_processes(session):
 
 
 def milliseconds_spent(session):
-    """By the thread's folder."""
+    """By the path of the thread in /proc."""
     spent = {}
     for process, name in session_processes(session):
         for thread in pathlib.Path(f"/proc/{process}/task").glob("*/schedstat"):
@@ -57,7 +57,7 @@ def milliseconds_spent(session):
 
 
 def discharge(laptop, seconds, each_step):
-    """A battery that is emptied at its usual rate."""
+    """Discharges a battery at its usual rate."""
     begun = time.monotonic()
     while (passed := time.monotonic() - begun) < seconds:
         each_step()
@@ -67,17 +67,17 @@ def discharge(laptop, seconds, each_step):
 
 
 def watched(laptop, session, each_step=lambda: None):
-    """The milliseconds of processor time in a minute."""
+    """Milliseconds of processor time per minute."""
     before = milliseconds_spent(session)
     discharge(laptop, WATCHED_SECONDS, each_step)
     after = milliseconds_spent(session)
-    # A thread that has ended has taken its time with it.
+    # The time of a thread that has ended is no longer counted.
     both = before.keys() & after.keys()
     return sum(after[each] - before[each] for each in both) * 60 / WATCHED_SECONDS
 
 
 def most_in_a_minute(counts):
-    """Of the running counts of all steps."""
+    """From the running counts of all steps."""
     steps = 60 // STEP_SECONDS
     return max(later - counts[max(0, number - steps + 1)] for number, later in enumerate(counts))
 

@@ -7,7 +7,7 @@
 
 namespace ferrin::bench {
 
-/// A sysfs of our own with one laptop in it: a mains adapter and `batteries` packs.
+/// A sysfs tree of one laptop with a mains adapter and `batteries` packs.
 class LaptopTree
 {
 public:

@@ -40,7 +40,7 @@ BARE_WINDOWS = TREE / "bench" / "bench_barewindow.so"
 
 SETTLING_SECONDS = 8
 WATCHED_SECONDS = 60
-# The toolkit's threads that helped to paint end after half a minute.
+# Qt's threads that helped to paint end after half a minute.
 PAINTERS_END_SECONDS = 35
 STARTS = 15
 STARTS_OF_TWINS = 5
@@ -74,7 +74,7 @@ def instructions(mode, count, batteries):
 
 
 def instructions_a_refresh(mode, batteries):
-    # Two runs: what starting and ending cost falls out.
+    # The difference of two runs excludes starting and ending.
     few, many = 200, 200 + REFRESHES
     return (instructions(mode, many, batteries) - instructions(mode, few, batteries)) / REFRESHES
 
@@ -131,7 +131,7 @@ def watched_wake_ups(pid):
     before = wake_ups_by_thread(pid)
     time.sleep(WATCHED_SECONDS)
     after = wake_ups_by_thread(pid)
-    # A thread that has ended has taken its count with it.
+    # The count of a thread that has ended is lost.
     return sum(count - before.get(thread, 0) for thread, count in after.items())
 
 
@@ -142,7 +142,7 @@ def wake_up_row(where, counted):
 
 
 def wake_ups():
-    # Without UPower, whose own messages, one every two minutes at rest, wake whoever listens.
+    # Without UPower, which emits a signal every two minutes at rest.
     with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
         program = Program(session, laptop)
         program.item()
@@ -150,7 +150,7 @@ def wake_ups():
 
 
 class Registrations:
-    """Hears of items that are registered with the session's watcher."""
+    """Receives the registrations of items with the session's watcher."""
 
     def __init__(self, address):
         self._loop = GLib.MainLoop()
@@ -188,7 +188,7 @@ def starting():
 
 
 def instructions_to_item(binary, session, mock, registrations):
-    """Until its item is registered, the end that follows at once included."""
+    """Until its item is registered, including the exit that follows at once."""
     log = pathlib.Path(session.folder, "counted")
     registrations.seconds_to_item(lambda: session.start(
         [*COUNTING, f"--log-file={log}", str(binary)], mock, stderr=subprocess.DEVNULL))

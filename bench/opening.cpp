@@ -45,7 +45,7 @@ namespace {
 constexpr int dashboardWidth = 370;
 constexpr int settingsWidth = 700;
 
-/// The desktop's font, as the item has it.
+/// The desktop's font, as in the item.
 struct DesktopAppearance final : ApplicationAppearance
 {
     DesktopAppearance() { m_fontFamily = u"DejaVu Sans"_s; }
@@ -64,7 +64,7 @@ public:
                                            .processLauncher = m_launcher,
                                            .storedData = &StoredData::shared });
         AppUpdater::setParts(m_updates.parts(sharedDefaults()));
-        // What the item has done long before the first click.
+        // Done by the item long before the first click.
         [[maybe_unused]] auto &provider = BatteryDataProvider::shared();
         [[maybe_unused]] const QSizeF text = TextView { .text = u"37%"_s }.idealSize(
             { .text = {}, .red = {}, .fontFamily = m_appearance.fontFamily() });
@@ -118,7 +118,7 @@ double millisecondsToFirstFrame(int leastWidth, const std::function<void()> &ope
     return double(timer.nsecsElapsed()) / 1e6;
 }
 
-/// Lets the closed window go before the next one comes.
+/// Waits until the closed window is destroyed.
 void settle()
 {
     QEventLoop loop;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// Runs a number of refreshes and nothing else, for instruction counts:
+// Runs a number of refreshes and nothing else, to count instructions:
 //   bench_refresh ours|plain|bare|changing COUNT BATTERIES
-// `ours` is a refresh on which nothing changed. `plain` and `bare` are the floor: they only list
-// the supplies and read the files that a refresh reads, the one with Qt's files as most programs
-// would, the other with system calls alone. `changing` writes other figures before each refresh and
-// prints the memory that the process holds after the first thousand and at the end.
+// `ours` is a refresh in which nothing changed. `plain` and `bare` are baselines: they only list
+// the supplies and read the files that a refresh reads, `plain` with QFile as most programs would,
+// `bare` with system calls. `changing` writes new figures before each refresh and prints the memory
+// of the process after the first thousand and at the end.
 
 #include "bench/laptoptree.h"
 #include "core/batterydataprovider.h"
@@ -34,7 +34,7 @@ using namespace ferrin;
 
 namespace {
 
-/// What a refresh of a discharging laptop reads of each battery, as strace shows it.
+/// The files that a refresh reads of each discharging battery, according to strace.
 constexpr std::array batteryFiles { "type",        "scope",
                                     "present",     "status",
                                     "capacity",    "energy_now",
@@ -42,7 +42,7 @@ constexpr std::array batteryFiles { "type",        "scope",
                                     "voltage_now", "power_now" };
 constexpr std::array mainsFiles { "type", "scope", "online" };
 
-/// UPower pushes: asking it costs no call, only a look at the picture that is kept of it.
+/// UPower sends signals: a refresh reads the local copy and makes no call.
 class KeptPowerSources final : public PowerSourcesService
 {
 public:
@@ -64,7 +64,7 @@ public:
     std::optional<QByteArray> output(const QString &, const QStringList &) override { return {}; }
 };
 
-/// A provider on the laptop's files, and nothing of the desktop.
+/// A provider that reads the laptop's files, without a desktop.
 struct Subject
 {
     explicit Subject(const QString &root)
@@ -126,7 +126,7 @@ void refreshBarely(const std::string &supplies, int batteries)
     }
 }
 
-/// Bytes that the allocator has handed out and not got back.
+/// Bytes that are allocated at the moment.
 std::size_t heldBytes()
 {
     return ::mallinfo2().uordblks;

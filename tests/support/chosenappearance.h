@@ -7,7 +7,7 @@
 
 namespace ferrin::test {
 
-/// An appearance that the test decides; light at first.
+/// An appearance that the test sets; light by default.
 class ChosenAppearance final : public ApplicationAppearance
 {
 public:
@@ -21,7 +21,7 @@ public:
     void setFontFamily(const QString &family) { m_fontFamily = family; }
     void setReducesMotion(bool reduces) { m_reducesMotion = reduces; }
 
-    /// What was set last; absent: the desktop is followed.
+    /// The last value that was set; absent follows the desktop.
     std::optional<Appearance> forced;
 };
 

@@ -13,7 +13,7 @@ namespace ferrin::test {
 class FakePowerSources final : public PowerSourcesService
 {
 public:
-    /// A laptop's battery with the two estimates, in minutes.
+    /// Adds a laptop's battery with both estimates, in minutes.
     [[nodiscard]] static QVariantMap battery(const QVariant &timeToEmpty,
                                              const QVariant &timeToFull)
     {
@@ -49,7 +49,7 @@ public:
     QVariantList descriptions;
 
     int snapshots = 0;
-    /// The positions whose descriptions were asked for, in their order.
+    /// The handles whose descriptions were requested, in order.
     QList<int> described;
 };
 

@@ -7,7 +7,7 @@
 
 namespace ferrin::test {
 
-/// Starts nothing and answers what a test wants every program to print.
+/// Starts nothing and returns the output that the test has set, for every program.
 class FakeProcessLauncher final : public ProcessLauncher
 {
 public:
@@ -26,7 +26,7 @@ public:
         return answer;
     }
 
-    /// Absent when no program can be started.
+    /// Absent: no program can be started.
     std::optional<QByteArray> answer = QByteArray();
     QList<Run> runs;
 };

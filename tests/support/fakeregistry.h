@@ -46,7 +46,7 @@ public:
     QVariantMap properties;
     int releaseResult = 0;
 
-    /// What was asked for, in its order.
+    /// The properties that were requested, in order.
     QStringList searches;
     QStringList lookups;
     QList<Handle> released;

@@ -27,7 +27,7 @@ void require(bool done, const char *what, const QString &path)
         qFatal("The fake sysfs cannot %s %s", what, qPrintable(path));
 }
 
-// Kernel attributes are on no disk; small files that are written anew are slow on one.
+// In memory: rewriting small files on a disk is slow.
 QString folderTemplate()
 {
     const QFileInfo memory(u"/dev/shm"_s);

@@ -14,8 +14,8 @@
 
 namespace ferrin::test {
 
-/// A sysfs tree of plain files in a temporary directory of its own, for readers that take the root
-/// as a parameter. Attributes end with a line feed, as a kernel's do.
+/// A sysfs tree of plain files in a temporary directory, for readers that take the root as a
+/// parameter. Attributes end with a line feed, as in the kernel.
 class FakeSysfs
 {
 public:
@@ -23,31 +23,31 @@ public:
 
     FakeSysfs();
 
-    /// The tree's "/sys".
+    /// The path of the tree, in place of "/sys".
     [[nodiscard]] std::string root() const;
     [[nodiscard]] QString path(const QString &relative) const;
 
-    /// Any file below the root, by its relative path; parents are made.
+    /// Writes any file below the root, by its relative path; parent directories are created.
     void write(const QString &relative, const QByteArray &value);
-    /// Any file, directory or link below the root; nothing when it is not there.
+    /// Removes any file, directory or link below the root; does nothing when it does not exist.
     void remove(const QString &relative);
-    /// A directory in the place of a file.
+    /// Creates a directory in place of a file.
     void writeDirectory(const QString &relative);
-    /// A link to a target, which need not exist.
+    /// Creates a link to a target, which need not exist.
     void writeLink(const QString &relative, const QByteArray &target);
-    /// A pipe that nobody writes to.
+    /// Creates a pipe that nobody writes to.
     void writePipe(const QString &relative);
 
-    /// One supply's attributes; those that were there before stay.
+    /// Sets attributes of one supply; the others are kept.
     void supply(const QString &name, Attributes attributes);
     void set(const QString &supply, const QString &attribute, const QByteArray &value);
     void removeSupply(const QString &name);
 
-    /// The supplies, ports and offers of a machine's record (tests/machines/README.md). A type that
-    /// the record does not tell is guessed; "<read error ...>" becomes a file that cannot be read.
+    /// Adds the supplies, ports and offers of a machine's record (tests/machines/README.md). A
+    /// missing type is guessed; "<read error ...>" becomes a file that cannot be read.
     void load(const QJsonObject &record);
 
-    /// The record of this name among tests/machines, or an empty object.
+    /// The record of this name in tests/machines, or an empty object.
     [[nodiscard]] static QJsonObject record(const QString &name);
     /// The names of all records.
     [[nodiscard]] static QStringList recordNames();

@@ -23,7 +23,7 @@ void speak(QtMsgType type, const QMessageLogContext &, const QString &text)
     const QByteArray words = text.toUtf8();
     const bool said
         = write(mouth, words.constData(), static_cast<std::size_t>(words.size())) == words.size();
-    // Not by abort: nobody wants a core dump of an expected death.
+    // Not abort(): an expected end should not dump core.
     _exit(said ? saidLastWords : 1);
 }
 

@@ -10,8 +10,8 @@
 
 namespace ferrin::test {
 
-/// Does the deed in a child process and answers the one line with which it stopped that process;
-/// absent when the process outlived the deed, or died without a word.
+/// Runs the function in a child process and returns the line with which it stopped that process;
+/// absent when the process did not stop, or stopped without a line.
 [[nodiscard]] std::optional<QString> lastWords(const std::function<void()> &deed);
 
 } // namespace ferrin::test

@@ -8,9 +8,9 @@
 
 namespace ferrin::test {
 
-/// Catches what the program logs while it lives, so that a test can say exactly which lines it
-/// expects: "error: text", "info: text", "debug: text", "warning: text". Lines that nobody took are
-/// printed as the test's own failure when the capture ends.
+/// Captures what the program logs during its lifetime, so that a test can expect exact lines:
+/// "error: text", "info: text", "debug: text", "warning: text". Lines that the test did not take
+/// fail it when the capture is destroyed.
 class LogCapture
 {
 public:
@@ -19,11 +19,11 @@ public:
     LogCapture(const LogCapture &) = delete;
     LogCapture &operator=(const LogCapture &) = delete;
 
-    /// The lines so far, and forgets them.
+    /// Removes and returns the lines so far.
     [[nodiscard]] QStringList take();
-    /// How many lines so far contain the text, and forgets all.
+    /// Removes all lines so far and returns how many of them contain the text.
     [[nodiscard]] qsizetype takeCount(const QString &text);
-    /// Lines that come from now on may be left untaken.
+    /// From now on, lines that are not taken do not fail the test.
     void ignoreRest() { m_ignoreRest = true; }
 
 private:

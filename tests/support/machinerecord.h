@@ -7,9 +7,9 @@
 
 namespace ferrin::test {
 
-/// The supplies of a machine's record (tests/machines/README.md) as a kernel shows them: one object
-/// of attributes a supply, all texts, each with a type. Where a record holds only what UPower said,
-/// its figures are put back into the attributes that they came from.
+/// The supplies of a machine's record (tests/machines/README.md) as the kernel shows them: for each
+/// supply an object of attributes, all strings, with a type. Where a record has only UPower's
+/// values, they are converted back to the attributes that they came from.
 [[nodiscard]] QJsonObject suppliesOf(const QJsonObject &record);
 
 } // namespace ferrin::test

@@ -9,7 +9,7 @@
 
 namespace ferrin::test {
 
-/// A defaults store that lives in memory and counts what is written to it.
+/// A defaults store in memory that records what is written to it.
 class MemoryDefaultsStore final : public DefaultsStore
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ public:
     void setObject(const QString &key, const QVariant &value) override;
     void registerDefaults(const QVariantMap &defaults) override;
 
-    /// Only what is stored, without registered defaults. Tests may put values of any type here.
+    /// Stored values only, without registered defaults. Tests may insert values of any type.
     QVariantMap stored;
-    /// The keys written or removed so far, in their order.
+    /// The keys that were written or removed so far, in order.
     QStringList writes;
 
 private:

@@ -10,9 +10,8 @@
 
 namespace ferrin::test {
 
-/// A message bus of the test's own, on which anybody may own and call anything and nothing is there
-/// that the test did not put there. It is a separate process that ends with this object, or before
-/// it by stop(), and with the test whatever happens.
+/// A message bus for one test, with a policy that allows everything and without any services. It is
+/// a separate process that ends with this object, with stop(), and in any case with the test.
 class PrivateBus
 {
 public:
@@ -23,16 +22,16 @@ public:
 
     [[nodiscard]] const QString &address() const { return m_address; }
 
-    /// A new connection, kept until the bus object goes. Nothing of it is shared with any other.
+    /// A new private connection, which is kept until this object is destroyed.
     [[nodiscard]] QDBusConnection connect();
 
-    /// Has the bus start the program when somebody asks for the name.
+    /// Makes the program activatable under the name.
     void addService(const QString &name, const QString &command);
 
-    /// Ends the bus under everybody who is connected.
+    /// Ends the bus, which disconnects every client.
     void stop();
 
-    /// Makes the kernel end the process when the test has ended; to be called before it starts.
+    /// Makes the kernel end the process when the test ends; to be called before it is started.
     static void endWithTest(QProcess *process);
 
 private:

@@ -26,7 +26,7 @@ TestRegistration::TestRegistration(const char *sourceFile, TestRun run)
 
 } // namespace ferrin::test
 
-// A class of its own process each: what is shared within the program starts anew for it.
+// One process per class, since the objects that a program shares are initialised only once.
 int main(int argc, char *argv[])
 {
     const auto &tests = ferrin::test::tests();

@@ -16,8 +16,8 @@ namespace ferrin::test {
 /// Runs one test class in this process and returns the number of its failures.
 using TestRun = int (*)(int argc, char **argv);
 
-/// Enters the test class of a source file, "test_UNIT.cpp", into the list that the executable's main
-/// function chooses from by the name UNIT.
+/// Registers the test class of a source file, "test_UNIT.cpp", with the main function of the
+/// executable, which selects it by the name UNIT.
 class TestRegistration
 {
 public:
@@ -45,6 +45,6 @@ int runTest(int argc, char **argv)
 
 /// Takes the place of QTEST_MAIN where several test classes share an executable. The application is
 /// QGuiApplication, QCoreApplication, or void for a test that needs none.
-#define FERRIN_TEST(Application, Test) \
-    static const ferrin::test::TestRegistration registration( \
+#define FERRIN_TEST(Application, Test)                                                             \
+    static const ferrin::test::TestRegistration registration(                                      \
         __FILE__, &ferrin::test::runTest<Application, Test>);

@@ -14,7 +14,7 @@ namespace ferrin::test {
 
 namespace {
 
-/// One line, quoted as a shell wants it.
+/// One line, quoted for a shell.
 QByteArray lineOf(const QStringList &command)
 {
     QByteArrayList words;

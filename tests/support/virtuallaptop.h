@@ -7,9 +7,9 @@
 
 namespace ferrin::test {
 
-/// Tells the virtual laptop that the test runs on to do something, as `laptop` does, and waits
-/// until it is done. Whether the program under test has noticed is another matter. Fails the test
-/// with what the laptop said when it cannot.
+/// Sends a command to the virtual laptop that the test runs on, as `laptop` does, and waits until
+/// it is done. That does not mean that the program under test has noticed it. Fails the test with
+/// the laptop's error message when the command fails.
 void tellLaptop(const QStringList &command);
 
 } // namespace ferrin::test

@@ -19,7 +19,7 @@ TOOL = os.path.join(os.path.dirname(os.path.abspath(__file__)), "virtual-laptop"
 
 
 class CommandRefused(Exception):
-    """The laptop's own words for what it could not do."""
+    """The laptop's error message for a command that failed."""
 
 
 class Laptop:
@@ -29,7 +29,7 @@ class Laptop:
         self.control = control or os.environ["VIRTUAL_LAPTOP"]
 
     def send(self, *words):
-        """Sends one command; returns what it answers beyond "ok", if anything."""
+        """Sends one command; returns the text that follows "ok", if any."""
         with socket.socket(socket.AF_UNIX) as connection:
             connection.connect(self.control)
             connection.sendall(shlex.join(str(word) for word in words).encode() + b"\n")
@@ -40,12 +40,12 @@ class Laptop:
         return json.loads(rest) if rest else None
 
     def supply(self, name):
-        """The attributes of one supply as the laptop has them."""
+        """The current attributes of one supply."""
         return self.send("state")[name]
 
 
 class VirtualLaptop(Laptop):
-    """A virtual laptop of the caller's own, there until it is closed."""
+    """A new virtual laptop that exists until it is closed."""
 
     def __init__(self, machine=None, upower=True):
         self._folder = tempfile.mkdtemp(prefix="virtual-laptop-")

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""What can be done to the virtual laptop while it runs: one line a command, one line an answer."""
+"""The commands of a running virtual laptop: one line per command, one line per reply."""
 
 import inspect
 import json
@@ -33,7 +33,7 @@ HELP = """commands, one a line; names are those of the power supplies:
 
 
 class Commands:
-    """Carries out the commands on the parts of the laptop."""
+    """Executes the commands on the parts of the laptop."""
 
     def __init__(self, sysfs, upower, logind, environment):
         self._sysfs = sysfs
@@ -47,7 +47,7 @@ class Commands:
             self._remember(name, attributes)
 
     def run(self, line):
-        """The answer to a command line."""
+        """The reply to a command line."""
         try:
             words = shlex.split(line)
             if not words:
@@ -98,7 +98,7 @@ class Commands:
         for name in self._names(machines.is_adapter):
             values = {"online": "1"}
             if not online:
-                # The details go with the adapter.
+                # The details disappear with the adapter.
                 gone = dict.fromkeys(self._sysfs.supplies[name])
                 values = gone | self._at_rest.get(name, {"online": "0"})
             self._sysfs.change(name, values)
@@ -120,7 +120,7 @@ class Commands:
         self._sysfs.change(name, values)
 
     def _rate(self, name, status):
-        """The status with a rate that goes with it."""
+        """The status and a matching rate."""
         attributes = self._supply(name)
         values = {"status": status}
         for rate in ("power_now", "current_now"):
@@ -208,7 +208,7 @@ def _values(pairs):
 
 
 class ControlSocket:
-    """Listens for command lines in the main loop and answers each in order."""
+    """Reads command lines in the main loop and replies to each in order."""
 
     def __init__(self, path, commands):
         self._path = path

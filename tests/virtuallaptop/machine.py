@@ -22,7 +22,7 @@ STATUS_OF_STATE = {
 }
 TECHNOLOGIES = {"lithium-ion": "Li-ion", "lithium-polymer": "Li-poly"}
 
-# A 50 Wh pack with some wear, an ACPI adapter, and a USB-C port on which nothing is attached yet.
+# A 50 Wh pack with some wear, an ACPI adapter, and a USB-C port without a partner.
 DEFAULT = {
     "machine": "A laptop with a USB-C charging port",
     "kind": "sysfs",
@@ -60,7 +60,7 @@ DEFAULT = {
     },
 }
 
-# What the port says once the partner and the laptop have agreed on a contract.
+# The port after the partner and the laptop have agreed on a power contract.
 DEFAULT_ADAPTER_DETAILS = {
     "usb_type": "C [PD] PD_PPS",
     "voltage_max": "20000000",

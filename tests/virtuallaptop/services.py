@@ -18,8 +18,9 @@ from gi.repository import Gio, GLib  # noqa: E402
 
 UPOWERD = "/usr/libexec/upowerd"
 PR_SET_PDEATHSIG = 1
-# The mock names a listener to the kernel's news after the number of its descriptor, and of two by
-# one name the older goes deaf. UPower's numbers begin here, above those of the programs under test.
+# umockdev names a listener for udev events after the number of its descriptor, and of two with the
+# same name the older one receives nothing. UPower's numbers begin here, above those of the programs
+# under test.
 FIRST_DESCRIPTOR = 256
 START_ABOVE = f"""import os, sys
 nothing = os.open(os.devnull, os.O_RDONLY)
@@ -28,7 +29,7 @@ for number in range(3, {FIRST_DESCRIPTOR}):
 os.execv(sys.argv[1], sys.argv[1:])"""
 LIBC = ctypes.CDLL(None, use_errno=True)
 
-# Anybody may own and call anything, and nothing is started on demand.
+# Every name may be owned and every method called; nothing is activatable.
 BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC
  "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -70,7 +71,7 @@ LOGIND_INTERFACE = """<node><interface name="org.freedesktop.login1.Manager">
 
 
 def end_with_parent():
-    """In a new process, before its program starts: be told to end when the parent has ended."""
+    """In a new process, before its program starts: end when the parent has ended."""
     LIBC.prctl(PR_SET_PDEATHSIG, signal.SIGTERM, 0, 0, 0)
 
 
@@ -88,7 +89,7 @@ def end(process):
 
 
 def start_bus(folder):
-    """Starts the private system bus in a folder of ours; returns the process and its address."""
+    """Starts the private system bus in the folder; returns the process and its address."""
     configuration = os.path.join(folder, "bus.conf")
     with open(configuration, "w", encoding="utf-8") as file:
         file.write(BUS_CONFIGURATION.format(folder=folder))
@@ -115,7 +116,7 @@ class UPower:
             file.write("[UPower]\nPercentageAction=0\nTimeAction=0\n")
 
     def start(self):
-        """Starts the daemon and waits until it has looked at the supplies."""
+        """Starts the daemon and waits until it has read the supplies."""
         if self._process is not None and self._process.poll() is None:
             raise ValueError("upower runs already")
         environment = os.environ | {
@@ -166,7 +167,7 @@ def _finish(bus, result):
 
 
 class Logind:
-    """As much of logind as tells of a sleep. It never puts anything to sleep."""
+    """The part of logind that announces sleep. It never suspends anything."""
 
     PATH = "/org/freedesktop/login1"
     NAME = "org.freedesktop.login1"

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""The power supplies as files: a umockdev testbed that is kept as a kernel keeps sysfs.
+"""The power supplies as files: a umockdev testbed that behaves like sysfs.
 
 Every change goes through the attribute files and the `uevent` file of its supply together, each
 replaced atomically, so that a reader never meets half a value. Needs umockdev's preload library.
@@ -23,16 +23,16 @@ FAULTS = ("eio", "enxio", "gone", "directory", "garbage", "huge", "empty", "hang
 
 
 class Sysfs:
-    """Owns the testbed. Attributes are kept here too, so that a faulty file can be healed."""
+    """Owns the testbed. Attributes are also stored here, so that a faulty file can be restored."""
 
     def __init__(self, machine):
         self._testbed = UMockdev.Testbed.new()
         self._root = self._testbed.get_root_dir()
-        # The testbed has set this for C alone.
+        # The testbed sets this variable for C code only.
         os.environ["UMOCKDEV_DIR"] = self._root
         self._faults = {}
         self.supplies = {}
-        # The class folder is there on a machine without any supply, too.
+        # A machine without any supply has the class folder, too.
         os.makedirs(os.path.join(self._root, "sys/class/power_supply"), exist_ok=True)
         if os.geteuid() == 0:
             # The programs under test may run as another user, and listeners put their sockets here.
@@ -44,7 +44,7 @@ class Sysfs:
         self._write_tree("sys/class/usb_power_delivery", machine.power_delivery)
 
     def close(self):
-        """Ends the laptop's files; the testbed takes its folder away itself."""
+        """Removes the laptop's files; the testbed removes its folder itself."""
         self._testbed = None
 
     def add(self, name, attributes):
@@ -54,7 +54,7 @@ class Sysfs:
         self._testbed.uevent(self._path(name), "add")
 
     def remove(self, name):
-        """Takes a supply away: its attributes vanish, then it is told, then it is gone."""
+        """Removes a supply: first its attributes, then the event is sent, then the device."""
         self._known(name)
         folder = self._folder(name)
         for entry in os.scandir(folder):
@@ -68,7 +68,7 @@ class Sysfs:
         return self.supplies.pop(name)
 
     def change(self, name, values, event=True):
-        """Sets attributes (None takes one away), and says so once unless told otherwise."""
+        """Sets attributes (None removes one) and sends one event unless told otherwise."""
         self._known(name)
         for attribute, value in values.items():
             if value is None:

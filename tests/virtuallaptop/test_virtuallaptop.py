@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""The virtual laptop keeps its word: what programs on it see follows what it is told."""
+"""Programs on the virtual laptop see what its commands have set."""
 
 import contextlib
 import errno
@@ -48,14 +48,14 @@ def running(*command, **options):
 
 
 def lines_of(process):
-    """The lines that a program goes on to write; that it ends is a failure, not silence."""
+    """The next lines of a program; if it ends, that is a failure."""
     while line := process.stdout.readline():
         yield line
     raise AssertionError(f"ended too early: {process.args}")
 
 
 class Finite(unittest.TestCase):
-    """A test that fails instead of waiting for ever."""
+    """A test with a time limit."""
 
     def setUp(self):
         def give_up(*_):
