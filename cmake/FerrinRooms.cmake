@@ -45,9 +45,10 @@ endfunction()
 
 # ferrin_export_rooms(TARGET)
 #
-# Makes the executable offer all of the lower rooms to the module of the windows.
+# Makes the executable offer all of the lower rooms to the module of the windows. It has to link them by
+# way of others, ferrin_app for one: CMake names a library twice that is linked directly and needed by a
+# later one too, and a whole archive may be there only once.
 function(ferrin_export_rooms target)
-    target_link_libraries(${target} PRIVATE ferrin_menubar ferrin_updates)
     set_target_properties(${target} PROPERTIES ENABLE_EXPORTS ON LINK_LIBRARY_OVERRIDE
         "WHOLE_ARCHIVE,ferrin_base,ferrin_sources,ferrin_state,ferrin_updates,ferrin_core,ferrin_popover,ferrin_menubar")
 endfunction()
