@@ -20,11 +20,11 @@ namespace {
 
 // A write takes milliseconds. A process that holds the lock for longer is stuck; do not wait for
 // it.
-constexpr std::chrono::milliseconds patience { 1000 };
+constexpr std::chrono::milliseconds lockTimeout { 1000 };
 
 // The delay before a failed write is repeated; it doubles each time.
-constexpr std::chrono::milliseconds firstRepetition { 1000 };
-constexpr std::chrono::milliseconds rarestRepetition { 16'000 };
+constexpr std::chrono::milliseconds firstRepetitionDelay { 1000 };
+constexpr std::chrono::milliseconds maxRepetitionDelay { 16'000 };
 
 // QVariant considers true and 1 equal.
 bool differ(const QVariant &a, const QVariant &b)
@@ -46,7 +46,7 @@ std::unique_ptr<FileDefaultsStore> FileDefaultsStore::open(const QString &config
 
 FileDefaultsStore::FileDefaultsStore(const QString &path)
     : m_file(path)
-    , m_untilNextAttempt(firstRepetition)
+    , m_repetitionDelay(firstRepetitionDelay)
 {
     m_flushTimer.setSingleShot(true);
     connect(&m_flushTimer, &QTimer::timeout, this, &FileDefaultsStore::flushPending);
@@ -55,7 +55,7 @@ FileDefaultsStore::FileDefaultsStore(const QString &path)
     if (contents.state == DefaultsFile::State::Damaged)
         flush();
     else if (contents.state == DefaultsFile::State::Unreadable)
-        tellOnce(contents.error);
+        logOnce(contents.error);
 }
 
 FileDefaultsStore::~FileDefaultsStore()
@@ -71,14 +71,14 @@ QVariant FileDefaultsStore::object(const QString &key) const
 
 void FileDefaultsStore::setObject(const QString &key, const QVariant &value)
 {
-    m_givingWay.remove(key);
+    m_yielding.remove(key);
     store(key, value);
 }
 
 void FileDefaultsStore::setMissingObject(const QString &key, const QVariant &value)
 {
     if (!m_entries.contains(key))
-        m_givingWay.insert(key);
+        m_yielding.insert(key);
     store(key, value);
 }
 
@@ -116,15 +116,15 @@ void FileDefaultsStore::flushPending()
 void FileDefaultsStore::flush()
 {
     QStringList adopted;
-    const QString trouble = mergeIntoFile(adopted);
-    if (trouble.isNull()) {
+    const QString problem = mergeIntoFile(adopted);
+    if (problem.isNull()) {
         m_pending.clear();
-        m_givingWay.clear();
-        m_isInTrouble = false;
-        m_untilNextAttempt = firstRepetition;
+        m_yielding.clear();
+        m_hasLoggedProblem = false;
+        m_repetitionDelay = firstRepetitionDelay;
     } else {
-        tellOnce(trouble);
-        tryAgainLater();
+        logOnce(problem);
+        scheduleRepetition();
     }
     for (const QString &key : std::as_const(adopted))
         Q_EMIT changed(key);
@@ -136,7 +136,7 @@ QString FileDefaultsStore::mergeIntoFile(QStringList &adopted)
     m_file.makeFolder();
     // A write without the lock may lose another process's key; without the write, ours is lost
     // for certain.
-    const FileLock lock(m_file.path() + u".lock"_s, patience);
+    const FileLock lock(m_file.path() + u".lock"_s, lockTimeout);
     const DefaultsFile::Contents contents = m_file.read();
     if (contents.state == DefaultsFile::State::Unreadable)
         return contents.error;
@@ -158,13 +158,13 @@ QString FileDefaultsStore::replaceFile(DefaultsFile::State found)
     const QString aside = m_file.setAside();
     if (aside.isNull())
         return u"It is damaged and cannot be set aside"_s;
-    QString trouble = m_file.write(m_entries);
-    if (trouble.isNull())
+    QString problem = m_file.write(m_entries);
+    if (problem.isNull())
         qCCritical(logger, "The defaults store %s is damaged and was set aside as %s",
                    qUtf8Printable(m_file.path()), qUtf8Printable(aside));
     else
         m_file.forgetSetAside(aside);
-    return trouble;
+    return problem;
 }
 
 /// Adopts the file's values of the keys without a pending change, and returns the keys that changed
@@ -175,7 +175,7 @@ QStringList FileDefaultsStore::adopt(const DefaultsFile::Contents &contents)
     for (auto it = contents.entries.begin(); it != contents.entries.end(); ++it)
         merged.insert(it.key(), it.value());
     for (const QString &key : std::as_const(m_pending)) {
-        if (!m_givingWay.contains(key) || !contents.entries.contains(key))
+        if (!m_yielding.contains(key) || !contents.entries.contains(key))
             merged.insert(key, m_entries.value(key));
     }
 
@@ -188,19 +188,19 @@ QStringList FileDefaultsStore::adopt(const DefaultsFile::Contents &contents)
     return changedKeys;
 }
 
-void FileDefaultsStore::tryAgainLater()
+void FileDefaultsStore::scheduleRepetition()
 {
     if (m_pending.isEmpty())
         return;
-    m_flushTimer.start(m_untilNextAttempt);
-    m_untilNextAttempt = std::min(2 * m_untilNextAttempt, rarestRepetition);
+    m_flushTimer.start(m_repetitionDelay);
+    m_repetitionDelay = std::min(2 * m_repetitionDelay, maxRepetitionDelay);
 }
 
-void FileDefaultsStore::tellOnce(const QString &trouble)
+void FileDefaultsStore::logOnce(const QString &problem)
 {
-    if (!std::exchange(m_isInTrouble, true))
-        qCCritical(logger, "Unable to keep the defaults store %s: %s",
-                   qUtf8Printable(m_file.path()), qUtf8Printable(trouble));
+    if (!std::exchange(m_hasLoggedProblem, true))
+        qCCritical(logger, "Unable to save the defaults store %s: %s",
+                   qUtf8Printable(m_file.path()), qUtf8Printable(problem));
 }
 
 } // namespace ferrin

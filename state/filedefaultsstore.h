@@ -50,8 +50,8 @@ private:
     [[nodiscard]] QString mergeIntoFile(QStringList &adopted);
     [[nodiscard]] QString replaceFile(DefaultsFile::State found);
     [[nodiscard]] QStringList adopt(const DefaultsFile::Contents &contents);
-    void tryAgainLater();
-    void tellOnce(const QString &trouble);
+    void scheduleRepetition();
+    void logOnce(const QString &problem);
 
     DefaultsFile m_file;
     QJsonObject m_entries;
@@ -59,12 +59,12 @@ private:
     /// Changed here, but not written yet.
     QSet<QString> m_pending;
     /// Those pending changes that yield to a value in the file.
-    QSet<QString> m_givingWay;
+    QSet<QString> m_yielding;
     /// Fires in the next turn of the event loop, or when a failed write is to be repeated.
     QTimer m_flushTimer;
-    std::chrono::milliseconds m_untilNextAttempt;
+    std::chrono::milliseconds m_repetitionDelay;
     /// A problem that is not over has been logged.
-    bool m_isInTrouble = false;
+    bool m_hasLoggedProblem = false;
 };
 
 } // namespace ferrin

@@ -59,19 +59,19 @@ QString replaceFile(const QString &path, const QByteArray &content)
     if (before.exists() && !before.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         return before.errorString();
     QFile file(real + unfinished + QString::number(QRandomGenerator::global()->generate(), 36));
-    QString trouble = writeNew(file, content);
-    if (trouble.isNull()) {
+    QString problem = writeNew(file, content);
+    if (problem.isNull()) {
         if (before.isOpen())
             file.setPermissions(before.permissions());
         std::error_code error;
         std::filesystem::rename(native(file.fileName()), native(real), error);
         if (error)
-            trouble = qt_error_string(error.value());
+            problem = qt_error_string(error.value());
     }
     // A file that existed before belongs to another process. QFile::remove() would flush first.
-    if (!trouble.isNull() && file.isOpen())
+    if (!problem.isNull() && file.isOpen())
         QFile::remove(file.fileName());
-    return trouble;
+    return problem;
 }
 
 void removeUnfinishedReplacements(const QString &path)

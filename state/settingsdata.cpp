@@ -79,7 +79,7 @@ SettingsData::SettingsData(DefaultsStore &defaults, const Bundle &bundle, const 
     replaceUnlessOffered(dischargingKey, m_dischargingDefault, icons.discharging);
     replaceUnlessOffered(chargingKey, m_chargingDefault, icons.charging);
     replaceUnlessOffered(chargedKey, m_chargedDefault, icons.charged);
-    keepBooksOnReleases();
+    updateReleaseVersion();
     m_defaults.registerDefaults({ { widthKey, defaultStatusItemWidth } });
 }
 
@@ -199,7 +199,7 @@ void SettingsData::replaceUnlessOffered(const QString &key, Icon fallback,
         encodeAndWrite(fallback, key);
 }
 
-void SettingsData::keepBooksOnReleases()
+void SettingsData::updateReleaseVersion()
 {
     const QString stored = releaseVersionNumber();
     qCInfo(logger, "Current release: %s", qUtf8Printable(m_shortVersion));

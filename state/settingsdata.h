@@ -113,7 +113,7 @@ private:
 
     [[nodiscard]] Icon readOrReplace(const QString &key, Icon fallback);
     void replaceUnlessOffered(const QString &key, Icon fallback, std::span<const Icon> offered);
-    void keepBooksOnReleases();
+    void updateReleaseVersion();
 
     // What a binding sees through a bindable: the value or its default, with nothing written.
     [[nodiscard]] Icon storedDischargingIcon() const;

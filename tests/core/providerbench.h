@@ -15,8 +15,8 @@
 
 namespace ferrin::test {
 
-/// A laptop on fakes, and the provider that reads it once `start` was called. It begins on battery
-/// power, discharging at 80 percent, with two hours and a quarter left by every account.
+/// Fakes of a laptop, and a provider that reads them after `start`. Initially it is on battery
+/// power, discharging at 80 percent, and every source reports two hours and a quarter.
 struct ProviderBench
 {
     ProviderBench()
@@ -82,7 +82,7 @@ struct ProviderBench
     std::unique_ptr<BatteryDataProvider> provider;
     /// The provider's snapshot; null before the start.
     BatteryData *data = nullptr;
-    /// Lines that a test does not ask about are its own affair: it takes them or ignores them.
+    /// A test takes the lines that it expects, or ignores them.
     LogCapture log;
 };
 

@@ -21,7 +21,7 @@ namespace {
 
 constexpr qint64 greatest = std::numeric_limits<qint64>::max();
 
-/// Writes another value each time, so that every write is a change.
+/// Writes a different value each time, so that every write is a change.
 void writeAll(BatteryData &data, qint64 step)
 {
     data.setChargingStatus(step % 2 == 0 ? BatteryChargingStatus::charging

@@ -210,7 +210,7 @@ void TestStaticData::keepsItsVerdictsWithoutABattery()
     bench.data->setMaxCapacity(87);
     bench.data->setHealth(BatteryHealth::service);
     bench.provider->updateStaticData();
-    // The tool runs all the same, but nobody looks into its report.
+    // The tool is still run, but its report is not used.
     QCOMPARE(bench.log.take(), QStringList(success));
     QCOMPARE(bench.launcher.runs.size(), 1);
     QCOMPARE(bench.data->maxCapacity(), 87);

@@ -27,7 +27,7 @@ const QString voltageKey = u"adapterVoltageStored"_s;
 const QString currentKey = u"adapterCurrentStored"_s;
 const QStringList allKeys { nameKey, manufacturerKey, wattsKey, voltageKey, currentKey };
 
-/// Stored data on a store of its own, with every notification counted by its property.
+/// Stored data on a separate store, with the notifications of each property counted.
 struct Bench
 {
     Bench()

@@ -171,7 +171,7 @@ void TestTimeRemaining::asksForNoEstimateWhereItIsFrozenAnyway()
 
 void TestTimeRemaining::asksForTheTimeToFullFirst()
 {
-    // Between the two questions the battery goes from one state into another.
+    // The battery changes its state between the two calls.
     class Changing final : public PowerSourcesService
     {
     public:
@@ -189,7 +189,7 @@ void TestTimeRemaining::asksForTheTimeToFullFirst()
     BatteryDataProvider provider(
         { bench.registry, changing, bench.launcher, bench.platform().storedData });
     QCOMPARE(changing.reads, 3);
-    // The first read is the start's own: the second answers to full, the third to empty.
+    // The first read is that of the start; the second is for the time to full, the third to empty.
     QCOMPARE(provider.data()->timeRemainingQuality(), TimeQuality::estimated);
     provider.updatePeriodicData();
     QCOMPARE(changing.reads, 5);
@@ -253,7 +253,7 @@ void TestTimeRemaining::takesTheRegistrysTimeWhenItIsReal()
     ProviderBench bench;
     putInto(bench, state);
     bench.set("TimeRemaining", remaining);
-    // Neither estimate is shown: they only say how far the registry is to be trusted.
+    // Neither estimate is shown: they only decide the quality of the registry's time.
     bench.setEstimates(11, 12);
     bench.start();
     bench.log.ignoreRest();

@@ -27,7 +27,7 @@ SECTIONS = {"When discharging": ("Discharging", "Show time to empty"),
             "When charging": ("Charging", "Show time to full"),
             "When fully charged": ("Charged", None)}
 THEMES = ("System", "Light", "Dark")
-TROUBLE = "Unable to keep the defaults store"
+TROUBLE = "Unable to save the defaults store"
 
 
 def switches():

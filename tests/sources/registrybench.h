@@ -11,7 +11,7 @@
 
 namespace ferrin::test {
 
-/// A reader on its registry, past the line it logs when it finds its service.
+/// A reader and its registry; the log line of the constructor is already taken.
 struct RegistryBench
 {
     explicit RegistryBench(const QVariantMap &properties)

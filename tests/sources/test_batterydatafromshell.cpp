@@ -35,7 +35,7 @@ Power:
 
 )";
 
-/// A reader that has just read a report, past the line it logs for it.
+/// A reader that has read a report; the log line about it is already taken.
 struct Bench
 {
     explicit Bench(const QByteArray &text)

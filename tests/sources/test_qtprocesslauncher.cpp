@@ -18,7 +18,7 @@ namespace {
 
 const QString shell = u"/bin/sh"_s;
 
-/// A folder with a report tool of the test's own.
+/// A folder with a fake report tool.
 class ToolFolder
 {
 public:
@@ -130,7 +130,7 @@ void TestQtProcessLauncher::leavesTheEnvironmentOtherwiseAsItIs()
 void TestQtProcessLauncher::doesNotMixErrorsIntoTheOutput()
 {
     QtProcessLauncher launcher(u"/nowhere"_s);
-    // An outer shell has an error channel that can be looked at: the inner one's must be the same.
+    // The outer shell's standard error can be captured; the inner shell must inherit it.
     const auto output
         = launcher.output(shell, { u"-c"_s, u"echo out; readlink /proc/$$/fd/2 >&1; echo >&2"_s });
     const QByteArray ours = QFile::symLinkTarget(u"/proc/self/fd/2"_s).toUtf8();

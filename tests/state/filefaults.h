@@ -20,8 +20,8 @@ namespace ferrin::test {
 
 using namespace Qt::StringLiterals;
 
-/// While it lives the process is an ordinary user that owns the folder: permissions bind root's
-/// tests too.
+/// During its lifetime the process is an ordinary user that owns the folder, so that permissions
+/// also apply to tests that root runs.
 class AsOrdinaryUser
 {
 public:
@@ -46,7 +46,7 @@ private:
     bool m_isRoot = false;
 };
 
-/// While it lives no file can grow beyond some bytes, as on a full disk.
+/// During its lifetime no file can grow beyond a few bytes, as on a full disk.
 class DiskIsFull
 {
 public:
@@ -71,7 +71,7 @@ private:
     void (*m_handler)(int) = nullptr;
 };
 
-/// A store's file in a folder of a test's own, and what the log says of it.
+/// A store's file in a temporary folder, and the log lines about it.
 struct FaultyFile
 {
     QTemporaryDir folder;
@@ -96,7 +96,7 @@ struct FaultyFile
         return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
     }
 
-    /// Puts another file beside the store's, which is named as that with something behind.
+    /// Creates another file beside the store's, with the same name and a suffix.
     void putBeside(const QString &suffix) const
     {
         QFile file(path + suffix);
@@ -106,7 +106,7 @@ struct FaultyFile
 
     [[nodiscard]] QString trouble(const QString &why) const
     {
-        return u"error: Unable to keep the defaults store %1: %2"_s.arg(path, why);
+        return u"error: Unable to save the defaults store %1: %2"_s.arg(path, why);
     }
 
     [[nodiscard]] QString wasSetAside(int number) const
@@ -117,7 +117,7 @@ struct FaultyFile
     }
 };
 
-/// Sets two values with a write each: the trouble is told once, the values are answered.
+/// Sets two values with one write each: the problem is logged once, and the values can be read.
 inline void setTwo(FileDefaultsStore &store)
 {
     store.setObject(u"a"_s, 7);

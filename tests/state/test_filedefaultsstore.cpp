@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A folder of a test's own, the store's file in it, and what the file says.
+/// A temporary folder, the store's file in it, and the file's content.
 struct Fixture
 {
     QTemporaryDir folder;

@@ -123,7 +123,7 @@ private Q_SLOTS:
         store.flush();
         QCOMPARE(f.log.take(), QStringList { f.trouble(u"Permission denied"_s) });
         QCOMPARE(store.string(u"chosen"_s), u"default"_s);
-        // It may be what was put there for want of another, but now it is a choice.
+        // It may equal the default that was stored, but now it is a choice of the user.
         store.setObject(u"both"_s, u"default"_s);
 
         QVERIFY(chmod(f.path.toLocal8Bit().constData(), 0600) == 0);

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int keysOfAProcess = 40;
 
-/// What a second process does: sets keys of its own, one write each.
+/// The second process: sets keys of its own, with one write each.
 void writeKeys(const QString &path, const QString &prefix)
 {
     FileDefaultsStore store(path);
@@ -32,7 +32,7 @@ void writeKeys(const QString &path, const QString &prefix)
     }
 }
 
-/// What a process does that is killed: counts up, and says how far the file is.
+/// The process that is killed: counts, and prints the number that has reached the file.
 void countForEver(const QString &path)
 {
     FileDefaultsStore store(path);

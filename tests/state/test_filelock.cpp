@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"lock"_s);
-        // Waiting for it would be told by the test's own limit.
+        // If it waited, the test would exceed its time limit.
         QVERIFY(!FileLock(path + u"/missing"_s, 1h).isHeld());
         QVERIFY(QDir().mkdir(path));
         QVERIFY(!FileLock(path, 1h).isHeld());

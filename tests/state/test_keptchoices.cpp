@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// Processes that choose without end, as a user who never tires, and are killed; and what is then in
-// the store. All that the user can choose is chosen through the objects that the windows use.
+// Processes that change settings without end and are killed, and what the store contains then.
+// Every setting is changed through the objects that the windows use.
 
 #include "state/appcolorscheme.h"
 #include "state/displayswitches.h"
@@ -35,7 +35,7 @@ constexpr int switchCount = static_cast<int>(DisplaySwitch::showTimeWhenCharged)
 constexpr int iconChoices = 3;
 constexpr int choiceCount = switchCount + iconChoices + 1;
 
-/// The user's choices over the store of a folder, each as a number and its value as a text.
+/// The user's choices in the store of a folder; each is a number and its value as text.
 class Choices
 {
 public:
@@ -102,8 +102,8 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-/// Chooses one thing a turn of the event loop. Says all values when they are certain to be kept,
-/// and again, with what has just been chosen, before that can be.
+/// Changes one setting in each turn of the event loop. Prints all values once they are certain to
+/// be stored, and again, with the new one, before that can be stored.
 int chooseForEver(const QString &folder, quint32 seed, int first, int count)
 {
     Choices choices(folder);
@@ -134,7 +134,7 @@ std::unique_ptr<QProcess> startChoosing(const QTemporaryDir &folder, quint32 see
     return process;
 }
 
-/// The last lines that a process said in full, the latest first.
+/// The last complete lines that a process printed, the latest first.
 QStringList lastSaid(QProcess &process)
 {
     process.waitForFinished();
@@ -188,7 +188,7 @@ private Q_SLOTS:
             const auto process = startChoosing(folder, random.generate());
             killSoon(*process, random);
             QStringList possible = lastSaid(*process);
-            // A process that had no time to choose leaves what it found.
+            // A process that had no time to change anything leaves the store unchanged.
             if (possible.isEmpty())
                 possible = { kept.join(u' ') };
 

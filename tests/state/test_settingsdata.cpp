@@ -23,7 +23,7 @@ Bundle release(const QString &version)
                     { u"CFBundleShortVersionString"_s, version } });
 }
 
-/// A store as a start of release 2.0 leaves it, so that only what a test puts in is news.
+/// A store as release 2.0 leaves it after a start, so that only the changes of a test are logged.
 struct Fixture
 {
     MemoryDefaultsStore store;

@@ -6,8 +6,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-// Loaded before the C library, this makes every access to one attribute last for ever, deaf to all
-// signals that can be ignored.
+// Preloaded into a process, this makes every access to one attribute hang, with all signals ignored
+// that can be.
 namespace {
 int openOrHang(int directory, const char *path, int flags)
 {

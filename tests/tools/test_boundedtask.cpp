@@ -60,7 +60,7 @@ void TestBoundedTask::givesNothingOfATaskThatCrashes()
 
 void TestBoundedTask::leavesOurOutputToUs()
 {
-    // Whoever reads our output to its end must not wait for the child.
+    // A reader of our output must not wait for the child.
     int ends[2];
     QCOMPARE(::pipe(ends), 0);
     const int saved = ::dup(STDOUT_FILENO);

@@ -10,7 +10,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-/// The program itself, on a sysfs that umockdev's library puts in the place of the machine's own.
+/// The program itself, on a sysfs that umockdev's library provides.
 class TestSystemProfiler : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ TestSystemProfiler::Ended TestSystemProfiler::run(const test::FakeSysfs &sysfs,
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"UMOCKDEV_DIR"_s, QFileInfo(QString::fromStdString(sysfs.root())).path());
     environment.insert(u"LD_PRELOAD"_s, driver + u" libumockdev-preload.so.0"_s);
-    // The sanitizers want to be loaded first and need not be.
+    // The sanitizers require to be loaded first; disable that check.
     environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
     QProcess process;
     process.setProcessEnvironment(environment);

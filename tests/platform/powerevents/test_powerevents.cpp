@@ -89,7 +89,7 @@ void PowerEventsTest::prepareForSleep(const QDBusConnection &sender, bool start)
 
 void PowerEventsTest::tellsOnceThatTheAdapterWasPluggedIn()
 {
-    // Two adapters and a battery, each with a message of its own.
+    // Two adapters and a battery, with one message each.
     tellLaptop({ u"plug"_s });
     QTRY_COMPARE(m_changed->count(), 1);
     QTest::qWait(longEnoughMilliseconds);
@@ -180,7 +180,7 @@ void PowerEventsTest::survivesTwoThousandSuppliesThatComeAndGo()
         } else {
             tellLaptop({ u"set"_s, name, u"status"_s, u"State %1"_s.arg(number) });
         }
-        // The virtual kernel gives up on whoever lets its messages pile up.
+        // umockdev fails when the messages of a listener pile up.
         QCoreApplication::processEvents();
     }
     QTest::qWait(longEnoughMilliseconds);

@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-/// The laptop that the tests of a broken sysfs break, and what must hold of it whole and broken.
+/// The laptop for tests of a broken sysfs, and what must hold before and after it breaks.
 namespace ferrin::test {
 
 inline void makeLaptop(FakeSysfs &sysfs)

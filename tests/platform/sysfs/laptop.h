@@ -8,7 +8,7 @@
 
 namespace ferrin::test {
 
-/// A registry on a fake sysfs whose time passes only when a test says so.
+/// A registry on a fake sysfs, with a clock that only the test advances.
 class Laptop
 {
 public:

@@ -11,7 +11,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// Adapters from all places that know something of them; the oddities are among the quirks.
+/// Adapters, from every source of data about them; see test_quirksofadapters.cpp for oddities.
 class TestAdapters : public QObject
 {
     Q_OBJECT

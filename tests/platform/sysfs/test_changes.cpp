@@ -16,8 +16,8 @@ using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 using namespace test;
 
-/// What a sysfs that changes may do, however much and however fast: no figure is out of reason, and
-/// the next quiet reading is right.
+/// A sysfs that changes arbitrarily often and fast: no figure is ever implausible, and the next
+/// reading after the changes is right.
 class TestChanges : public QObject
 {
     Q_OBJECT
@@ -192,7 +192,7 @@ void TestChanges::staysSaneOnAnyTextInAnyAttribute()
     for (int round = 0; round < 10'000 && !QTest::currentTestFailed(); ++round) {
         laptop.sysfs.set(any(QStringList { u"BAT0"_s, u"BAT1"_s, u"AC"_s }), any(attributes),
                          any(texts));
-        // A supply that lost its type would end the game.
+        // A supply without a type would never be read again.
         if (round % 50 == 0)
             makeLaptop(laptop.sysfs);
         laptop.pass(std::chrono::seconds(random() % 40));

@@ -33,7 +33,7 @@ struct Gauges
     ChargeHistory history;
     ChargeHistory::Time moment;
 
-    // One sample of packs named a, b, c...; what is left after settling.
+    // Takes one sample of packs named a, b, c... and returns the charges after settling.
     std::vector<std::optional<int>> sample(const std::vector<std::optional<int>> &percents,
                                            std::chrono::seconds later = 5s, bool drained = false)
     {

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace test;
 
-/// What a broken sysfs may do: figures turn absent one by one, nothing else happens.
+/// A broken sysfs: single figures become absent, and nothing else happens.
 class TestFaults : public QObject
 {
     Q_OBJECT
@@ -66,13 +66,14 @@ constexpr std::array faults {
                 sysfs.remove(file);
                 sysfs.writePipe(file);
             } },
-    // Address 0 of one's own memory cannot be read: the error is EIO.
+    // Reading address 0 of the process's own memory fails with EIO.
     Fault { "an input/output error",
             [](FakeSysfs &sysfs, const QString &file) {
                 sysfs.remove(file);
                 sysfs.writeLink(file, "/proc/self/mem");
             } },
-    // Opening the terminal of a process without one gives ENXIO, with one it gives silence.
+    // Opening the terminal of a process without one fails with ENXIO; with one, reading gives
+    // nothing.
     Fault { "a device that is gone",
             [](FakeSysfs &sysfs, const QString &file) {
                 sysfs.remove(file);

@@ -16,8 +16,8 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-/// Real machines against what a careful person says of them: expected/sysfs.json was written by
-/// hand from the records. A figure that is not in its row must be absent.
+/// Real machines against expected/sysfs.json, which was written by hand from the records. A figure
+/// that is missing there must be absent.
 class TestMachines : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ const QStringList figures {
 
 QVariant plain(const QVariant &value)
 {
-    // JSON has one kind of number and no maps of variants.
+    // JSON has one type of number and no maps of variants.
     return QJsonValue::fromVariant(value).toVariant();
 }
 
@@ -96,7 +96,7 @@ void TestMachines::saysWhatACarefulPersonSays()
     QCOMPARE(registry.createProperty(handle, u"MaxCapacity"_s).toInt(),
              expected.contains("CurrentCapacity"_L1) ? 100 : 0);
     QCOMPARE(registry.createProperty(handle, u"DesignCycleCount9C"_s).toInt(), 300);
-    // The records' serial numbers are masked with zeros, which is what a missing one looks like.
+    // The records' serial numbers are masked with zeros, which mean that there is none.
     QVERIFY(!registry.createProperty(handle, u"Serial"_s).isValid());
 }
 

@@ -10,7 +10,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// What real machines do to those who read the adapter, one test for each oddity.
+/// Oddities of real machines in the data of the adapter, one test for each.
 class TestQuirksOfAdapters : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ void TestQuirksOfAdapters::believesTheBatteryWhereOneOfTwoMainsIsAlwaysOnline()
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
     laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Full");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
-    // A first adapter that is dead for ever is the same case the other way round.
+    // The reverse case: a first adapter that is never online.
     laptop.sysfs.set(u"ADP1"_s, u"online"_s, "0");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
 }
@@ -86,12 +86,12 @@ void TestQuirksOfAdapters::takesTheContractWhereTheMaximumIsOfAnotherProfile()
     QCOMPARE(before.value(u"Watts"_s).toInt(), 65);
     QCOMPARE(before.value(u"AdapterVoltage"_s).toInt(), 20'000);
     QCOMPARE(before.value(u"Current"_s).toInt(), 3'250);
-    // After the kernel's repair the maximum is of two profiles at once; the contract still counts.
+    // After the fix in the kernel the maximum mixes two profiles; the contract is still preferred.
     const QString port = u"ucsi-source-psy-cros_ec_ucsi.4.auto2"_s;
     laptop.sysfs.set(port, u"voltage_max"_s, "20000000");
     laptop.sysfs.set(port, u"current_max"_s, "4000000");
     QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 65);
-    // Without a contract, a maximum of 5.79 A is nothing to show.
+    // Without a contract, a maximum of 5.79 A is not plausible.
     laptop.sysfs.set(port, u"current_max"_s, "5790000");
     laptop.sysfs.set(port, u"current_now"_s, "0");
     QVERIFY(laptop.adapter().isEmpty());

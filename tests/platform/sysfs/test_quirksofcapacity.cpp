@@ -10,8 +10,8 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// What real machines do to those who read how much a battery can hold and how old it is, one test
-/// for each oddity; tests/machines/README.md tells of the machines.
+/// Oddities of real machines in capacities and cycle counts, one test for each;
+/// tests/machines/README.md describes the machines.
 class TestQuirksOfCapacity : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// What real machines do to those who read how full a battery is, one test for each oddity.
+/// Oddities of real machines in the charge, one test for each.
 class TestQuirksOfCharge : public QObject
 {
     Q_OBJECT
@@ -115,7 +115,7 @@ void TestQuirksOfCharge::survivesADesignOfZero()
 void TestQuirksOfCharge::saysNothingForAGaugeOfZeros()
 {
     Laptop laptop("gta04-bq27000-allzero");
-    // It stays like this; time does not make it truer.
+    // It stays like this, however long it lasts.
     for (int refresh = 0; refresh < 20; ++refresh) {
         laptop.pass(5s);
         QVERIFY(laptop.absent(u"CurrentCapacity"));
@@ -151,7 +151,7 @@ void TestQuirksOfCharge::doesNotBelieveAFullSizePackThatReadsZero()
 {
     Laptop laptop("acer-chromebook-tab10-flapping");
     QVERIFY(laptop.absent(u"CurrentCapacity"));
-    // Half a minute later it still says so: then the pack is empty.
+    // After half a minute the zero is accepted.
     laptop.pass(31s);
     QCOMPARE(laptop.fresh(u"CurrentCapacity"), QVariant(0LL));
 }
@@ -181,7 +181,7 @@ void TestQuirksOfCharge::holdsTheChargeWhileTheGaugeFlaps()
         QVERIFY(!laptop.said(u"AppleRawCurrentCapacity").isValid());
         QCOMPARE(laptop.said(u"AppleRawMaxCapacity").toInt(), 9518);
     }
-    // Only one of the two fails: the other one tells.
+    // Only one of the two fails; the other confirms the charge.
     QCOMPARE(read("0", "22654800").toInt(), 61);
     QCOMPARE(read("62", "0").toInt(), 62);
 }
@@ -210,7 +210,7 @@ void TestQuirksOfCharge::takesFilesOfDifferentMoments()
 {
     Laptop laptop("thinkpad-lnv45n1-procfs");
     laptop.sysfs.set(u"BAT0"_s, u"energy_full"_s, "47390000");
-    // The capacity is of now; energy_now is of a time when full was more.
+    // The capacity is current; energy_now was computed with an earlier, greater energy_full.
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 98);
     QCOMPARE(laptop.said(u"AppleRawCurrentCapacity"), laptop.said(u"AppleRawMaxCapacity"));
 }

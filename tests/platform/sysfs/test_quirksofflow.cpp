@@ -10,8 +10,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// What real machines do to those who read where the power flows and for how long, one test for
-/// each oddity.
+/// Oddities of real machines in the status, rates and times, one test for each.
 class TestQuirksOfFlow : public QObject
 {
     Q_OBJECT
@@ -69,7 +68,7 @@ void TestQuirksOfFlow::isNotChargingWhenIdleAndUnknown()
     held.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
     QCOMPARE(held.fresh(u"IsCharging"), QVariant(false));
     QCOMPARE(held.fresh(u"FullyCharged"), QVariant(false));
-    // With power flowing either way, it does not say that it charges.
+    // Whichever way the power flows, it does not report Charging.
     held.sysfs.set(u"BAT0"_s, u"current_now"_s, "1500000");
     QCOMPARE(held.fresh(u"IsCharging"), QVariant(false));
     QVERIFY(held.absent(u"TimeRemaining"));
@@ -131,7 +130,7 @@ void TestQuirksOfFlow::hasNoTimeAtTheSentinelOf65535Minutes()
     laptop.sysfs.set(u"sbs-12-000b"_s, u"status"_s, "Discharging");
     QVERIFY(laptop.absent(u"TimeRemaining"));
     QVERIFY(laptop.absent(u"AvgTimeToEmpty"));
-    // The rate may still know.
+    // The time may still be computed from the rate.
     laptop.sysfs.set(u"sbs-12-000b"_s, u"current_now"_s, "-426200");
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 599);
 }

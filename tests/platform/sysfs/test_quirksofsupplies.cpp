@@ -10,7 +10,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// What real machines do to those who look for the batteries that count, one test for each oddity.
+/// Oddities of real machines in what is a system battery, one test for each.
 class TestQuirksOfSupplies : public QObject
 {
     Q_OBJECT

@@ -10,8 +10,8 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-/// Batteries that say too little, or say it in other words and units than the kernel's: what else
-/// they tell must not be lost, and no figure may come out of a wrong unit.
+/// Batteries that lack attributes, or whose words and units are not the kernel's: their other
+/// figures must not be lost, and none may be computed in a wrong unit.
 class TestQuirksOfWords : public QObject
 {
     Q_OBJECT

@@ -167,7 +167,7 @@ void TestSysfsRegistry::readsEachFileOnceForAllLookUpsOfATurn()
         QVERIFY(counts.size() >= 10);
         for (auto count = counts.begin(); count != counts.end(); ++count)
             QVERIFY2(count.value() == 1, qPrintable(count.key()));
-        // What changes in months is none of a refresh's business.
+        // A refresh does not read attributes that change slowly.
         for (const QString &file : counts.keys())
             QVERIFY(!file.endsWith("cycle_count"_L1) && !file.endsWith("full_design"_L1));
     }

@@ -7,7 +7,7 @@
 
 namespace ferrin::test {
 
-/// A battery of the machine itself, half full.
+/// A system battery at 50 %.
 inline UPowerDevice pack(UPowerState state, std::chrono::seconds toEmpty = {},
                          std::chrono::seconds toFull = {})
 {
@@ -22,7 +22,7 @@ inline UPowerDevice pack(UPowerState state, std::chrono::seconds toEmpty = {},
     return device;
 }
 
-/// The same by the name of its model.
+/// The same device with this model name.
 inline UPowerDevice named(UPowerDevice device, const QString &name)
 {
     device.model = name;

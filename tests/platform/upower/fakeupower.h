@@ -10,7 +10,7 @@
 
 namespace ferrin::test {
 
-/// The test's hand on a UPower of its own that runs as another process.
+/// Starts and controls a fake UPower daemon, which runs in another process.
 class FakeUPower
 {
 public:
@@ -20,30 +20,30 @@ public:
     FakeUPower(const FakeUPower &) = delete;
     FakeUPower &operator=(const FakeUPower &) = delete;
 
-    /// Where the executable is.
+    /// The path of the executable.
     [[nodiscard]] static QString program();
 
-    /// The full path of a device by its short name.
+    /// The object path of a device by its short name.
     [[nodiscard]] static QString path(const QString &name);
 
     /// Adds the device, or changes the properties given.
     void setDevice(const QString &name, const QVariantMap &properties);
-    /// Changes the device, and says only that it has changed.
+    /// Changes the device, and only announces that the properties are invalidated.
     void setDeviceQuietly(const QString &name, const QVariantMap &properties);
     void removeDevice(const QString &name);
-    /// Adds devices whose names are the prefix and a number, without a word.
+    /// Adds devices named by the prefix and a number, without signals.
     void addMany(const QString &prefix, uint count, const QVariantMap &properties);
-    /// The device will vanish while it is asked about.
+    /// The device will disappear as soon as its properties are requested.
     void makeShy(const QString &name);
     void talkNonsense();
-    /// Refuses all questions with the text.
+    /// Replies to all calls with an error of this text.
     void refuse(const QString &text);
-    /// How often it was asked for anything so far.
+    /// The number of calls so far.
     [[nodiscard]] uint questions();
 
     void hang();
     void resume();
-    /// Ends it at once, hung or not.
+    /// Kills it, even if it hangs.
     void kill();
 
 private:

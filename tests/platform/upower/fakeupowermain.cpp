@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// A UPower that does what a test tells it to, over the interface org.ferrin.FakeUPower at /control.
-// It runs as a process of its own, so that it can be stopped and killed. The argument is the
-// address of the bus; "--battery" before it gives the daemon a battery from the beginning.
+// A UPower that a test controls through the interface org.ferrin.FakeUPower at /control. It runs in
+// a separate process, so that it can be stopped and killed. The argument is the address of the bus;
+// with "--battery" before it, the daemon starts with a battery.
 
 #include <QCoreApplication>
 #include <QDBusArgument>
@@ -62,11 +62,11 @@ private:
 
     QDBusConnection m_bus;
     std::map<QString, QVariantMap> m_devices;
-    /// Answers with text where something else belongs.
+    /// Replies with a string where another type is expected.
     bool m_talksNonsense = false;
-    /// Refuses everything with this text; empty means that it does not.
+    /// Replies with an error of this text to everything; not if empty.
     QString m_refusal;
-    /// Devices that vanish as soon as they are asked about.
+    /// Devices that disappear as soon as their properties are requested.
     QSet<QString> m_shy;
     uint m_questions = 0;
 };
@@ -173,7 +173,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
     QDBusConnection bus = QDBusConnection::connectToBus(arguments.takeLast(), u"fake"_s);
-    // The bus may have started it, and nobody else would end it then.
+    // Ends with the bus, which may have started it.
     bus.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
                 u"Disconnected"_s, QCoreApplication::instance(), SLOT(quit()));
     FakeUPower daemon(bus);

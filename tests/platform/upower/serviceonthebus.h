@@ -22,28 +22,28 @@ namespace ferrin::test {
 /// The names of the sources in their order; "none" when there is no snapshot.
 [[nodiscard]] QStringList namesOf(UPowerService *service);
 
-/// A fact of the first source.
+/// A value of the first source.
 [[nodiscard]] QVariant factOf(UPowerService *service, const QString &key);
 
-/// The line that tells of a daemon that answers.
+/// The log line about a daemon that replies.
 [[nodiscard]] QString connected();
-/// What namesOf() says of the fake daemon's battery, and without a snapshot.
+/// The results of namesOf() for the fake daemon's battery, and without a snapshot.
 [[nodiscard]] QStringList dell();
 [[nodiscard]] QStringList none();
 
-/// What every test of the service starts from: a log and a bus of its own, on which a daemon may
-/// start, and a clock that stands until the test moves it.
+/// The fixture for tests of the service: a log capture, a private bus on which a daemon may be
+/// started, and a clock that only the test advances.
 class ServiceOnTheBus : public QObject
 {
     Q_OBJECT
 
 protected:
     void startDaemon();
-    /// The lines since the test began; for waiting until they come.
+    /// The lines since the test began, to wait for them.
     [[nodiscard]] const QStringList &allLines();
     [[nodiscard]] std::unique_ptr<UPowerService> makeService();
 
-    /// What the service gets for the kernel's answer.
+    /// The kernel's answer for the service.
     std::optional<bool> m_externalPower;
     std::chrono::steady_clock::time_point m_time;
     std::optional<LogCapture> m_log;

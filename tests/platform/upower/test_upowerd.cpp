@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// Runs on the virtual laptop, against the real UPower that it has.
+// Runs on the virtual laptop with the real UPower.
 
 #include "platform/linux/power/events/powerevents.h"
 #include "platform/linux/power/sysfs/externalpower.h"
@@ -53,7 +53,7 @@ void UPowerDaemonTest::init()
     tellLaptop({ u"unplug"_s });
     m_log.emplace();
     m_log->ignoreRest();
-    // Not the shared one: as in the program, but new for each test.
+    // A new connection for each test, not the shared one.
     const QDBusConnection bus = QDBusConnection::connectToBus(
         QDBusConnection::SystemBus, QString::fromUtf8(QTest::currentTestFunction()));
     m_service = std::make_unique<UPowerService>(
@@ -113,7 +113,7 @@ void UPowerDaemonTest::tellsOneBatteryBesideAMouseAndAKeyboard()
         = uR"({"type": "Battery", "scope": "Device", "status": "Discharging", "capacity": "90"})"_s;
     for (const QString &name : { u"hidpp_battery_0"_s, u"hidpp_battery_1"_s })
         tellLaptop({ u"add"_s, name, peripheral });
-    // Told by the daemon after the others.
+    // Last in the order of the daemon.
     tellLaptop({ u"add"_s, u"BAT9"_s, uR"({"type": "Battery", "present": "1", "status": "Full",
                       "energy_full": "20000000", "energy_full_design": "20000000",
                       "energy_now": "20000000", "voltage_now": "12000000"})"_s });

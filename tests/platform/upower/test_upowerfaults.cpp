@@ -12,7 +12,7 @@ using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// The service with a daemon, or somebody else, that tells it nonsense or far too much.
+/// The service with a daemon, or another client, that sends invalid or excessive data.
 class UPowerFaultsTest : public ServiceOnTheBus
 {
     Q_OBJECT
@@ -163,7 +163,7 @@ void UPowerFaultsTest::believesNobodyButTheDaemon()
                        QVariantMap { { u"TimeToEmpty"_s, qlonglong(600) } }, QStringList() });
     QDBusConnection liar = m_bus->connect();
     QVERIFY(liar.send(lie));
-    // Whoever's message comes later in the bus' order is told later.
+    // The bus keeps the order of messages.
     QVERIFY(liar.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
                                                      u"org.freedesktop.DBus"_s, u"GetId"_s))
                 .type()

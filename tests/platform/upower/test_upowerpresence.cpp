@@ -12,7 +12,7 @@ using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// The service while the daemon is not there, comes, goes and hangs.
+/// The service while the daemon is missing, starts, exits and hangs.
 class UPowerPresenceTest : public ServiceOnTheBus
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ void UPowerPresenceTest::isNotStoppedByADaemonThatHangsFromTheStart()
     startDaemon();
     m_daemon->setDevice(u"battery_BAT0"_s, battery());
     m_daemon->hang();
-    // Would never return if it waited for the answer, which comes only after resume().
+    // Would never return if it waited for the reply, which is sent after resume().
     const auto service = makeService();
     QCOMPARE(namesOf(service.get()), none());
     QCOMPARE(m_log->take(), QStringList());

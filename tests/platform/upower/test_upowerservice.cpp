@@ -12,7 +12,7 @@ using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// What the service makes of a daemon that does all it should.
+/// The service with a daemon that works correctly.
 class UPowerServiceTest : public ServiceOnTheBus
 {
     Q_OBJECT
