@@ -16,7 +16,7 @@ namespace ferrin {
 /// each other: a whole number of any numeric type can be read as an integer, and every number as a
 /// float.
 ///
-/// Specialized for bool, qint64, float, double, QString, QByteArray and QVariantMap.
+/// Specialised for bool, qint64, float, double, QString, QByteArray and QVariantMap.
 template <typename T>
 [[nodiscard]] std::optional<T> variantCast(const QVariant &value);
 

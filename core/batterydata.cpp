@@ -4,6 +4,7 @@
 #include "core/batterydata.h"
 
 #include "base/checkedarithmetic.h"
+#include "core/assumedload.h"
 
 #include <cmath>
 
@@ -16,7 +17,6 @@ namespace {
 constexpr qint64 healthyMaxCapacityPercent = 80;
 constexpr float currentBesidesChargingInAmperes = 0.5F;
 constexpr float assumedChargingCurrentInAmperes = 1.5F;
-constexpr float assumedLoadInMilliamperes = 300.0F;
 
 } // namespace
 

@@ -5,6 +5,7 @@
 
 #include "base/checkedarithmetic.h"
 #include "base/variantcast.h"
+#include "core/assumedload.h"
 #include "core/storeddata.h"
 
 #include <chrono>
@@ -15,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr float assumedLoadInMilliamperes = 300.0F;
 constexpr qint64 stillEstimating = -1;
 
 std::optional<BatteryDataProvider::Platform> &handedOver()
