@@ -50,11 +50,14 @@ public:
 
     /// What the battery is doing now.
     [[nodiscard]] BatteryChargingStatus chargingStatus() const { return m_chargingStatus; }
+    /// From the registry; `unknown` when it has no answer.
     [[nodiscard]] PowerSource powerSource() const { return m_powerSource; }
+    /// From the condition in the hardware report; `unknown` before the first slow refresh.
     [[nodiscard]] BatteryHealth health() const { return m_health; }
-    /// To empty while discharging, to full while charging.
+    /// To empty while discharging, to full while charging; of a full battery how long it would last
+    /// at the assumed load.
     [[nodiscard]] BatteryTime timeRemaining() const { return m_timeRemaining; }
-    /// How trustworthy `timeRemaining` is.
+    /// How reliable `timeRemaining` is.
     [[nodiscard]] TimeQuality timeRemainingQuality() const { return m_timeRemainingQuality; }
     /// Percent, 0 to 100.
     [[nodiscard]] std::optional<qint64> charge() const { return m_charge; }
@@ -62,25 +65,27 @@ public:
     [[nodiscard]] std::optional<qint64> chargeCycles() const { return m_chargeCycles; }
     /// What the battery is designed for.
     [[nodiscard]] std::optional<qint64> designCycles() const { return m_designCycles; }
-    /// The present full charge, mAh.
+    /// The present full-charge capacity in mAh, from the registry.
     [[nodiscard]] std::optional<qint64> rawMaxCapacity() const { return m_rawMaxCapacity; }
-    /// Percent of the design capacity.
+    /// Percent of the design capacity, from the hardware report.
     [[nodiscard]] std::optional<qint64> maxCapacity() const { return m_maxCapacity; }
+    // The connected adapter, from the registry; absent where it reports nothing.
+
     [[nodiscard]] std::optional<QString> adapterName() const { return m_adapterName; }
     [[nodiscard]] std::optional<QString> adapterManufacturer() const
     {
         return m_adapterManufacturer;
     }
-    /// Rated power, W.
+    /// The offered power, W.
     [[nodiscard]] std::optional<qint64> adapterWatts() const { return m_adapterWatts; }
     /// V.
     [[nodiscard]] std::optional<float> adapterVoltage() const { return m_adapterVoltage; }
     /// A.
     [[nodiscard]] std::optional<float> adapterCurrent() const { return m_adapterCurrent; }
 
-    /// The verdict over the battery's age.
+    /// From `maxCapacity`, `chargeCycles` and `designCycles`; `unknown` when one of them is absent.
     [[nodiscard]] BatteryLifespan lifespan() const;
-    /// The minutes of the remaining time as two digits, or "??".
+    /// The minutes of `timeRemaining` as two digits, or "??".
     [[nodiscard]] QString timeRemainingMinutesText() const;
     /// Our own estimate, from the adapter's current or from a fixed one. While it cannot be made it
     /// is the time that stands.

@@ -21,12 +21,12 @@ class ProcessLauncher;
 class RegistryService;
 class StoredData;
 
-/// Keeps the one snapshot of the battery current: the fast values on a timer, the slow ones when it
-/// is told to. It merges what the three readers report, and copies the adapter's details into the
-/// stored data for as long as they may still be arriving. It never fails: what a source does not
-/// answer is absent in the snapshot.
+/// Keeps the one snapshot of the battery up to date: the fast values by a timer, the slow ones on
+/// request. It combines the three readers, and copies the adapter's details to the stored data in
+/// the first refreshes after it was connected, since they may arrive late. It never fails: a value
+/// that no source has is absent in the snapshot.
 ///
-/// Everything happens on the main thread.
+/// Main thread only.
 class BatteryDataProvider : public QObject
 {
     Q_OBJECT
@@ -43,18 +43,18 @@ public:
         RegistryService &registry;
         PowerSourcesService &powerSources;
         ProcessLauncher &processLauncher;
-        /// Asked for only when there is adapter data to store or to delete.
+        /// Called only when there is adapter data to store or to delete.
         std::function<StoredData &()> storedData;
     };
 
     /// Fills the snapshot once before it returns, and starts the timer.
     explicit BatteryDataProvider(const Platform &platform, QObject *parent = nullptr);
 
-    /// Hands over the parts of the process-wide provider; the application does so once, before
-    /// anything asks for it.
+    /// Sets the parts of the process-wide provider; the application calls it once, before the first
+    /// call of shared().
     static void setPlatform(const Platform &platform);
-    /// The one of the process, made on first use and never destroyed. Asking before its parts were
-    /// handed over is a programming error and stops the process.
+    /// The provider of the process, which is created on first use and never destroyed. A call
+    /// before setPlatform() is a programming error and stops the process.
     [[nodiscard]] static BatteryDataProvider &shared();
 
     [[nodiscard]] BatteryData *data() noexcept { return &m_data; }

@@ -5,14 +5,14 @@
 
 namespace ferrin {
 
-/// Where the power comes from now.
+/// The current source of power.
 enum class PowerSource { battery, external, unknown };
 
 /// What the battery is doing now. `finishingCharge`: the system reports charging while the charge
 /// already reads 100. `charged`: fully charged on external power.
 enum class BatteryChargingStatus { charging, discharging, charged, finishingCharge, unknown };
 
-/// The condition verdict.
+/// The battery's condition.
 enum class BatteryHealth { normal, service, unknown };
 
 /// How far the remaining time can be trusted. `real`: the system's own figure; `estimated`:
@@ -20,7 +20,7 @@ enum class BatteryHealth { normal, service, unknown };
 /// stays.
 enum class TimeQuality { real, estimated, frozen };
 
-/// The verdict over the battery's age.
+/// The assessment of the battery's age.
 enum class BatteryLifespan { good, reducedMaxCap, reducedCycles, reducedMaxCapAndCycles, unknown };
 
 } // namespace ferrin

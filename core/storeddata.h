@@ -14,8 +14,8 @@ namespace ferrin {
 
 class DefaultsStore;
 
-/// The last power adapter that was seen, kept across launches: a thin view onto five keys of the
-/// defaults store. It caches nothing, so every read asks the store. The provider alone writes it.
+/// The details of the last power adapter, which persist across launches: five keys of the defaults
+/// store. Nothing is cached; every call reads the store. Only the provider writes it.
 ///
 /// Reading a value inside a binding records the read; writing a different value evaluates that
 /// binding again. Deleting everything notifies nobody. To QML an absent value is `undefined`.
@@ -33,7 +33,8 @@ public:
     /// The store must outlive this view.
     explicit StoredData(DefaultsStore &defaults, QObject *parent = nullptr);
 
-    /// The one of the process, on the shared defaults store. Made on first use, never destroyed.
+    /// The stored data of the process, in the shared defaults store. Created on first use and never
+    /// destroyed.
     [[nodiscard]] static StoredData &shared();
 
     [[nodiscard]] std::optional<QString> adapterName() const;
@@ -71,7 +72,7 @@ private:
 
     DefaultsStore &m_defaults;
 
-    // How often each value was written: what a read registers with and a write notifies.
+    // The number of writes of each value: a read registers a dependency on it, a write changes it.
     Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_nameWrites, &StoredData::adapterNameChanged)
     Q_OBJECT_BINDABLE_PROPERTY(StoredData, quint64, m_manufacturerWrites,
                                &StoredData::adapterManufacturerChanged)
