@@ -35,7 +35,7 @@ public:
     {
         /// Loads the module of the windows when the first of them opens; may answer null.
         std::function<std::unique_ptr<Windows>()> loadWindows;
-        /// Hears presses that are meant for others; null where nobody does. Outlives the
+        /// Watches presses that are meant for others; null where there is no way to. Outlives the
         /// application.
         PressWatcher *presses = nullptr;
         /// Puts the item into the process-wide provider of its content and has that built.

@@ -9,9 +9,9 @@
 #include "menubar/menubaritemprovider.h"
 #include "platform/linux/session/applicationsetup.h"
 #include "platform/linux/session/loghandler.h"
+#include "platform/linux/session/memorytrimmer.h"
 #include "platform/linux/session/programfile.h"
 #include "platform/linux/session/singleinstance.h"
-#include "platform/linux/session/spentmemory.h"
 #include "platform/linux/session/termination.h"
 #include "state/bundle.h"
 #include "state/displayswitches.h"
@@ -84,7 +84,7 @@ int runApplication(const Bundle &bundle, const QString &path)
     AppUpdater::setParts(updates.parts());
 
     const ProgramFile program(path);
-    SpentMemory memory;
+    MemoryTrimmer memory;
     FerrinApp ferrin({ .loadWindows = [&]() -> std::unique_ptr<Windows> {
                           // The module is that of the other program by now.
                           if (program.isReplaced()) {
@@ -102,7 +102,7 @@ int runApplication(const Bundle &bundle, const QString &path)
                                fillStatusItem(item);
                            } });
     QObject::connect(&ferrin, &FerrinApp::isDashboardShownChanged, &memory,
-                     [&] { ferrin.isDashboardShown() ? memory.keep() : memory.giveBackSoon(); });
+                     [&] { ferrin.isDashboardShown() ? memory.cancel() : memory.trimSoon(); });
     QObject::connect(&program, &ProgramFile::replaced, &ferrin, [&] {
         if (!ferrin.isInUse())
             QCoreApplication::exit(ProgramFile::startsAnew);
@@ -127,6 +127,7 @@ int main(int argc, char **argv)
     {
         const QGuiApplication application(argc, argv);
         describe(bundle);
+        logMissingWaylandPlugin();
         path = QCoreApplication::applicationFilePath();
         ended = runApplication(bundle, path);
     }

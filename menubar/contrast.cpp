@@ -27,6 +27,16 @@ double contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+bool isLight(const QColor &color)
+{
+    return contrast(Qt::black, color) > contrast(Qt::white, color);
+}
+
+QColor blackOrWhiteOn(const QColor &ground)
+{
+    return isLight(ground) ? Qt::black : Qt::white;
+}
+
 std::optional<QColor> readableText(const std::optional<QColor> &text,
                                    const std::optional<QColor> &ground)
 {
@@ -34,7 +44,7 @@ std::optional<QColor> readableText(const std::optional<QColor> &text,
         return text;
     if (text && contrast(*text, *ground) >= leastContrast)
         return text;
-    return contrast(Qt::white, *ground) >= contrast(Qt::black, *ground) ? Qt::white : Qt::black;
+    return blackOrWhiteOn(*ground);
 }
 
 } // namespace ferrin

@@ -4,6 +4,7 @@
 #include "menubar/itemform.h"
 
 #include "menubar/fillview.h"
+#include "menubar/glyphdrawing.h"
 #include "menubar/squarebatteryview.h"
 #include "menubar/squareitemview.h"
 #include "menubar/stackviews.h"
@@ -30,11 +31,20 @@ struct Form
 // Hosts that take wide pictures set them side by side with nothing in between.
 constexpr qreal sideAir = 2;
 
+/// How much larger the view is on taller panels; the smaller text is a whole number of pixels high.
+qreal zoomAt(int height)
+{
+    constexpr int usualHeight = 24;
+    constexpr int smallText = 9;
+    return std::max(1.0, std::floor(double(smallText) * height / usualHeight) / smallText);
+}
+
 Form wide(const ItemContent &content, int height, const ViewContext &context)
 {
     const AnyView view = viewFor(content);
     const QSizeF ideal = view.idealSize(context);
-    const qreal zoom = std::min(1.0, ideal.isEmpty() ? 1.0 : height / ideal.height());
+    const qreal fitting = ideal.isEmpty() ? 1.0 : height / ideal.height();
+    const qreal zoom = std::min(fitting, zoomAt(height));
     return { view, ideal.width() * zoom, zoom };
 }
 
@@ -70,8 +80,10 @@ Form square(const ItemContent &content, int height)
 
 bool isOutlinedLyingBattery(Icon icon)
 {
-    return icon == Icon::battery2H || icon == Icon::battery2HInverted
-        || icon == Icon::battery2HBlack || (hasBolt(icon) && icon != Icon::battery1HWithBolt);
+    if (!isGlyph(icon))
+        return false;
+    const GlyphShape shape = drawingOf(icon).shape;
+    return shape == GlyphShape::Lying2 || shape == GlyphShape::Lying2WithBolt;
 }
 
 Form glyph(const ItemContent &content, int height)

@@ -13,8 +13,9 @@
 namespace ferrin {
 
 /// Holds the item's content view inside a status item's button, and is what the platform looks at:
-/// `content` is one expression over the snapshot, the settings and the switches, and tells when
-/// what is shown changed. Made anew at every MenuBarItemProvider::update(); owned by the button.
+/// `content` is one expression over the snapshot, the settings and the switches, which emits a
+/// signal when what is shown has changed. Made anew at every MenuBarItemProvider::update(); owned
+/// by the button.
 class ItemHostingView : public QObject
 {
     Q_OBJECT

@@ -7,12 +7,10 @@
 
 namespace ferrin {
 
-/// The glyph is drawn with a bolt over it.
-[[nodiscard]] bool hasBolt(Icon icon);
-
-/// A lying battery with the charge written in it, for square cells: the figures stand on a pale
-/// fill, so that they read on the empty part as on the full one, and so does a bolt; where there is
-/// neither, the fill is strong. Drawn for the pixels of its place.
+/// A battery glyph for square cells, drawn on whole device pixels. A lying one has room for the
+/// charge and a bolt: they stand on a pale fill, so that they read on the empty part as on the full
+/// one, or are cut out of the strong fill of the black style. With neither in it the fill is
+/// strong.
 struct SquareBatteryView
 {
     IconElement icon;

@@ -5,6 +5,7 @@
 
 #include "menubar/devicegrid.h"
 #include "menubar/fittedtextview.h"
+#include "menubar/glyphdrawing.h"
 #include "menubar/squarebatteryview.h"
 #include "menubar/stackviews.h"
 
@@ -18,9 +19,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isBattery(const std::optional<IconElement> &icon)
+bool isLyingBattery(const IconElement &icon)
 {
-    return icon && !icon->fault && isGlyph(icon->icon);
+    return !icon.fault && isGlyph(icon.icon) && !isUpright(icon.icon);
+}
+
+bool isUprightBattery(const IconElement &icon)
+{
+    return !icon.fault && isGlyph(icon.icon) && isUpright(icon.icon);
 }
 
 /// Places the elements in one cell. All lengths are device pixels.
@@ -58,9 +64,11 @@ private:
     void paintThree(const ItemContent &content)
     {
         const QRect upper(0, 0, m_side, part(12));
-        if (isBattery(content.icon)) {
+        if (isLyingBattery(*content.icon)) {
             place(SquareBatteryView { *content.icon, *content.charge, hasBolt(content.icon->icon) },
                   upper);
+        } else if (isUprightBattery(*content.icon)) {
+            placeUpright(*content.icon, *content.charge, QRect(0, 0, part(7), upper.height()));
         } else {
             const int icon = part(10);
             place(viewFor(*content.icon), QRect(0, 0, icon, upper.height()));
@@ -72,19 +80,33 @@ private:
 
     void paintIconAndText(const ItemContent &content)
     {
-        const bool roomInside = isBattery(content.icon) && !hasBolt(content.icon->icon);
-        if (content.charge && roomInside) {
+        if (content.charge && isUprightBattery(*content.icon)) {
+            placeUpright(*content.icon, *content.charge, QRect(0, part(3), part(8), part(16)));
+            return;
+        }
+        const bool hasRoomInside = isLyingBattery(*content.icon) && !hasBolt(content.icon->icon);
+        if (content.charge && hasRoomInside) {
             place(SquareBatteryView { *content.icon, *content.charge, false },
                   QRect(0, part(4), m_side, m_side - 2 * part(4)));
             return;
         }
         const QRect upper(0, 0, m_side, part(12));
         // Its bolt reaches beyond the battery: fitted in here, both would be half as large.
-        if (isBattery(content.icon) && hasBolt(content.icon->icon))
+        if (isLyingBattery(*content.icon) && hasBolt(content.icon->icon))
             place(SquareBatteryView { *content.icon, {}, true }, upper);
         else
             place(viewFor(*content.icon), upper);
         place(FittedTextView { content.charge ? *content.charge + u'%' : *content.time }, m_lower);
+    }
+
+    /// The battery at that place and its charge at its right.
+    void placeUpright(const IconElement &icon, const QString &charge, const QRect &battery)
+    {
+        place(SquareBatteryView { icon, {}, false }, battery);
+        const int left = battery.right() + 1 + part(1);
+        const int height = part(9);
+        place(FittedTextView { charge },
+              QRect(left, battery.center().y() + 1 - height / 2, m_side - left, height));
     }
 
     void paintTwoTexts(const QString &upper, const QString &lower)

@@ -8,9 +8,9 @@
 namespace ferrin {
 
 /// The whole item in a square cell, for hosts that would shrink anything wider out of legibility.
-/// One element fills the cell and two share it; with a battery glyph the charge stands inside the
-/// battery and the time below. It is laid out in device pixels, whatever the cell's size: at 22 of
-/// them there is none to waste.
+/// One element fills the cell and two share it. The charge stands inside a lying battery, and
+/// beside an upright one or a symbol; the time stands below. It is laid out in device pixels,
+/// whatever the cell's size: at 22 of them there is none to waste.
 struct SquareItemView
 {
     ItemContent content;

@@ -19,9 +19,10 @@ QFont fontOf(const TextView &view, int pixelSize, const ViewContext &context)
 {
     QFont font(context.fontFamily);
     font.setPixelSize(pixelSize);
-    font.setWeight(view.weight);
+    font.setWeight(context.isCoarse ? std::max(view.weight, QFont::Medium) : view.weight);
     // Advances must not depend on the scale, so only heights may follow the pixel grid.
-    font.setHintingPreference(QFont::PreferVerticalHinting);
+    font.setHintingPreference(context.isCoarse ? QFont::PreferFullHinting
+                                               : QFont::PreferVerticalHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     return font;
 }
@@ -53,7 +54,7 @@ void TextView::paint(QPainter &painter, const QRectF &bounds, const ViewContext 
     painter.scale(stretch, stretch);
     painter.setFont(font);
     QColor color = context.text;
-    color.setAlphaF(float(context.text.alphaF() * opacity));
+    color.setAlphaF(float(context.text.alphaF() * (context.isCoarse ? 1 : opacity)));
     painter.setPen(color);
     painter.drawText(QPointF(0, 0), text);
 }

@@ -29,6 +29,9 @@ struct ViewContext
     /// The ground that the whole item brings along, where the bar's colour cannot be known; views
     /// themselves take no notice.
     std::optional<QColor> chip = {};
+    /// The screen has so few pixels that small text needs all of its tone, and whole pixels for its
+    /// stems, to look as dark as the panel's own.
+    bool isCoarse = false;
 
     bool operator==(const ViewContext &) const = default;
 };

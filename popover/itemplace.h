@@ -10,9 +10,9 @@ namespace ferrin {
 /// Where a status item stands, for what opens beside it. Logical pixels of the desktop.
 struct ItemPlace
 {
-    /// The item, or the spot of it that was clicked. Null where nobody tells.
+    /// The item, or the spot of it that was clicked. Null where it is not known.
     QRect item {};
-    /// The panel that holds the item and that nothing may cover. Null where nobody tells.
+    /// The panel that holds the item and that nothing may cover. Null where it is not known.
     QRect panel {};
 
     bool operator==(const ItemPlace &) const = default;

@@ -11,9 +11,9 @@ class QWindow;
 
 namespace ferrin {
 
-/// What a popover asks of the desktop beyond what a window can say of itself. This base does what
-/// is right wherever windows are always blended and listed by their kind, as on Wayland; a platform
-/// that knows better derives from it. Outlives the windows that it has dressed.
+/// What a popover needs of the desktop beyond what QWindow offers. This base suits platforms that
+/// always blend windows and list them by their type; other platforms derive from it. Outlives the
+/// windows that it has prepared.
 class PopoverDesktop
 {
 public:
@@ -27,15 +27,15 @@ public:
     /// Call for every place that the window gets; in the desktop's logical pixels.
     virtual void place(QWindow &window, const QRect &frame);
 
-    /// Call once, after the window was created and before it is shown: no list of windows will have
-    /// it, and it stays above the others.
+    /// Call once, after the window was created and before it is shown: keeps it off task bars and
+    /// above other windows.
     virtual void prepare(QWindow &window);
 
-    /// Call when the window has been shown: the keyboard is its own.
+    /// Call when the window has been shown: gives it the keyboard focus.
     virtual void focus(QWindow &window);
 
-    /// Presses around `outline` are not the window's; where nothing is blended, it ends there too.
-    /// In the window's logical pixels. Call again when either has changed.
+    /// Presses outside of `outline` go to the window below; where nothing is blended, the window is
+    /// cut along it too. In the window's logical pixels. Call again when either has changed.
     virtual void setOutline(QWindow &window, const QPainterPath &outline);
 };
 

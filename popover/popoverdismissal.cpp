@@ -16,19 +16,19 @@ PopoverDismissal::PopoverDismissal(PressWatcher *presses,
     : m_presses(presses)
     , m_isOfPopover(std::move(isOfPopover))
 {
-    m_patienceTimer.setSingleShot(true);
-    connect(&m_patienceTimer, &QTimer::timeout, this, &PopoverDismissal::settle);
+    m_clickTimer.setSingleShot(true);
+    connect(&m_clickTimer, &QTimer::timeout, this, &PopoverDismissal::settle);
     if (m_presses)
-        connect(m_presses, &PressWatcher::pressed, this, &PopoverDismissal::heed);
+        connect(m_presses, &PressWatcher::pressed, this, &PopoverDismissal::handlePress);
 }
 
 PopoverDismissal::~PopoverDismissal() = default;
 
 void PopoverDismissal::popoverShown()
 {
-    m_patienceTimer.stop();
+    m_clickTimer.stop();
     m_state = State::Shown;
-    m_hearsPresses = m_presses && m_presses->start();
+    m_watchesPresses = m_presses && m_presses->start();
 }
 
 void PopoverDismissal::popoverHidden()
@@ -37,17 +37,17 @@ void PopoverDismissal::popoverHidden()
         settle();
 }
 
-void PopoverDismissal::heed(const QWindow *pressed)
+void PopoverDismissal::handlePress(const QWindow *pressed)
 {
     switch (m_state) {
     case State::Hidden:
         break;
     case State::Shown:
         if (!pressed || !m_isOfPopover(*pressed))
-            dismiss(m_presses->takesPresses() ? 0ms : m_patience.afterPress);
+            dismiss(m_presses->takesPresses() ? 0ms : m_timeouts.afterPress);
         break;
     case State::Dismissed:
-        // Whatever click comes now is this press's.
+        // The click that comes now belongs to this press.
         settle();
         break;
     }
@@ -55,16 +55,16 @@ void PopoverDismissal::heed(const QWindow *pressed)
 
 void PopoverDismissal::focusLost()
 {
-    // The focus may have gone to where a press was made.
-    if (m_hearsPresses)
+    // It may be a press that has taken the focus away.
+    if (m_watchesPresses)
         m_presses->catchUp();
     if (m_state == State::Shown)
-        dismiss(m_hearsPresses ? 0ms : m_patience.afterFocus);
+        dismiss(m_watchesPresses ? 0ms : m_timeouts.afterFocus);
 }
 
 bool PopoverDismissal::isNewClick()
 {
-    if (m_hearsPresses)
+    if (m_watchesPresses)
         m_presses->catchUp();
     if (m_state != State::Dismissed)
         return true;
@@ -72,11 +72,11 @@ bool PopoverDismissal::isNewClick()
     return false;
 }
 
-void PopoverDismissal::dismiss(std::chrono::milliseconds patience)
+void PopoverDismissal::dismiss(std::chrono::milliseconds timeout)
 {
     m_state = State::Dismissed;
-    if (patience > 0ms)
-        m_patienceTimer.start(patience);
+    if (timeout > 0ms)
+        m_clickTimer.start(timeout);
     else
         settle();
     Q_EMIT dismissed();
@@ -85,10 +85,10 @@ void PopoverDismissal::dismiss(std::chrono::milliseconds patience)
 void PopoverDismissal::settle()
 {
     m_state = State::Hidden;
-    m_patienceTimer.stop();
-    if (m_hearsPresses)
+    m_clickTimer.stop();
+    if (m_watchesPresses)
         m_presses->stop();
-    m_hearsPresses = false;
+    m_watchesPresses = false;
 }
 
 } // namespace ferrin

@@ -14,19 +14,19 @@ namespace ferrin {
 
 class PressWatcher;
 
-/// Says when the popover goes away because of what happens elsewhere, and which click on the item
-/// belongs to that: a press on the item sends the popover away before the host tells of the click,
-/// and that click must not bring it back. Owned by the application; closes nothing itself.
+/// Decides when the popover closes because of what happens elsewhere, and which click on the item
+/// belongs to that: a press on the item closes the popover before the host reports the click, and
+/// that click must not open it again. Owned by the application; closes nothing itself.
 class PopoverDismissal final : public QObject
 {
     Q_OBJECT
 
 public:
-    struct Patience
+    struct Timeouts
     {
-        /// How long after a press the host may still tell of its click.
+        /// How long after a press the host may still report its click.
         std::chrono::milliseconds afterPress { 2000 };
-        /// The same where presses are not heard: from the loss of the focus on.
+        /// The same where presses are not watched: after the loss of the focus.
         std::chrono::milliseconds afterFocus { 500 };
     };
 
@@ -34,13 +34,13 @@ public:
     PopoverDismissal(PressWatcher *presses, std::function<bool(const QWindow &)> isOfPopover);
     ~PopoverDismissal() override;
 
-    void setPatience(Patience patience) { m_patience = patience; }
+    void setTimeouts(Timeouts timeouts) { m_timeouts = timeouts; }
 
     void popoverShown();
     void popoverHidden();
     void focusLost();
 
-    /// Asked once for each click on the item: whether it is to be heeded.
+    /// Call once for each click on the item: whether it opens or closes the popover.
     [[nodiscard]] bool isNewClick();
 
 Q_SIGNALS:
@@ -50,20 +50,20 @@ private:
     enum class State {
         Hidden,
         Shown,
-        /// A click may follow that belongs to what sent the popover away.
+        /// A click may follow that belongs to what closed the popover.
         Dismissed,
     };
 
-    void heed(const QWindow *pressed);
-    void dismiss(std::chrono::milliseconds patience);
+    void handlePress(const QWindow *pressed);
+    void dismiss(std::chrono::milliseconds timeout);
     void settle();
 
     PressWatcher *m_presses;
     std::function<bool(const QWindow &)> m_isOfPopover;
-    Patience m_patience;
-    QTimer m_patienceTimer;
+    Timeouts m_timeouts;
+    QTimer m_clickTimer;
     State m_state = State::Hidden;
-    bool m_hearsPresses = false;
+    bool m_watchesPresses = false;
 };
 
 } // namespace ferrin

@@ -33,7 +33,7 @@ struct PopoverSpot
 struct ScreenArea
 {
     QRect whole {};
-    /// The part that is free of panels, as far as the desktop tells.
+    /// The part that is free of panels, as far as the desktop reports.
     QRect available {};
 };
 

@@ -8,10 +8,10 @@
 
 namespace ferrin {
 
-/// Hears the presses of the pointer anywhere on the desktop, without a grab and, where that can be,
-/// without taking them from whom they are meant for, so that a click that sends a popover away does
-/// what it would do anyway. The wheel is no press. Implemented by the platform, where there is a
-/// way; silent until started.
+/// Reports presses of the pointer anywhere on the desktop, without a grab and, where possible,
+/// without taking them from the window that they are meant for, so that a click that closes a
+/// popover does what it does anyway. The wheel is no press. Implemented by the platform; silent
+/// until started.
 class PressWatcher : public QObject
 {
     Q_OBJECT
@@ -19,15 +19,15 @@ class PressWatcher : public QObject
 public:
     using QObject::QObject;
 
-    /// From now on presses are heard; those before are not. Does nothing while it listens. False
-    /// where there is no way to hear them.
+    /// Reports presses from now on. Does nothing while it is started. False where presses cannot be
+    /// watched.
     virtual bool start() = 0;
     virtual void stop() = 0;
 
-    /// Whether a press that it hears reaches nobody else.
+    /// Whether a press that is reported reaches no other window.
     [[nodiscard]] virtual bool takesPresses() const { return false; }
 
-    /// Tells of all that has been pressed until now before it returns.
+    /// Reports all presses until now before it returns.
     virtual void catchUp() = 0;
 
 Q_SIGNALS:

@@ -116,17 +116,18 @@ int main(int argc, char **argv)
     const QStringList words = QGuiApplication::arguments();
     if (words.size() < 7)
         qFatal("item_picture PROCESS SCALE GROUND TEXT HEIGHT CONTENT...");
-    const HostProfile &profile = profileForProcess(words[1]);
+    const HostProfile &profile = profileFor({ .name = words[1] }, { u"X-Cinnamon"_s });
     PanelColors colors;
     colors.setPanelText(profile.name, QColor(words[4]));
     const ViewContext context = colors.contextFor(profile.panel());
     QTextStream out(stdout);
     for (const QString &word : words.sliced(6)) {
         ItemPictures pictures;
-        const QImage image = onGround(
-            offered(pictures.pictures(profile, contentIn(word), context, words[2].toDouble()),
-                    words[5], profile.premultiplied),
-            QColor(words[3]));
+        const QImage image
+            = onGround(offered(pictures.pictures(profile, contentIn(word), context,
+                                                 { .desktopScale = words[2].toDouble() }),
+                               words[5], profile.premultiplied),
+                       QColor(words[3]));
         out << image.width() << ' ' << image.height();
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x)

@@ -84,6 +84,13 @@ private Q_SLOTS:
         QFETCH(ItemContent, content);
         if (size.form != ItemForm::Wide || size.height < 22)
             return;
+        if (size.height > 24) {
+            // The view is enlarged: here its ink may not reach the sides.
+            const QImage image = paint(size, content);
+            const QRect ink = inkedRect(image);
+            QVERIFY(ink.left() > 0 && ink.right() < image.width() - 1);
+            return;
+        }
         const int slack = std::floor(size.scale) == size.scale ? 0 : 1;
         const QSizeF exact = QSizeF(paint(size, content).size() - QSize(slack, 0)) / size.scale;
         // The picture has air at its sides.

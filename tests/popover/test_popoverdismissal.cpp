@@ -146,7 +146,7 @@ void PopoverDismissalTest::heedsTheClickOfAPressThatWasNotReadYet()
 void PopoverDismissalTest::heedsAClickWhenTheOtherHasNotComeInTime()
 {
     Stage stage;
-    stage.dismissal.setPatience({ .afterPress = 1ms });
+    stage.dismissal.setTimeouts({ .afterPress = 1ms });
     stage.dismissal.popoverShown();
     stage.presses.press(nullptr);
     QTRY_VERIFY(!stage.presses.listens);
@@ -187,7 +187,7 @@ void PopoverDismissalTest::swallowsTheClickAfterALossOfFocusWherePressesAreNotHe
 {
     Stage stage;
     stage.presses.isDeaf = true;
-    stage.dismissal.setPatience({ .afterFocus = 1h });
+    stage.dismissal.setTimeouts({ .afterFocus = 1h });
     stage.dismissal.popoverShown();
     stage.dismissal.focusLost();
     QCOMPARE(stage.dismissals.size(), 1);
@@ -199,7 +199,7 @@ void PopoverDismissalTest::heedsALateClickWherePressesAreNotHeard()
 {
     Stage stage;
     stage.presses.isDeaf = true;
-    stage.dismissal.setPatience({ .afterFocus = 0ms });
+    stage.dismissal.setTimeouts({ .afterFocus = 0ms });
     stage.dismissal.popoverShown();
     stage.dismissal.focusLost();
     QVERIFY(stage.dismissal.isNewClick());

@@ -21,7 +21,7 @@ LayerPlace placeOf(const QWindow &window)
 void LayeredWindows::prepare(QWindow &window, LayerShell::Kind kind)
 {
     m_shown.erase(&window);
-    std::unique_ptr<LayerSurface> surface = m_shell.dress(window, placeOf(window), kind);
+    std::unique_ptr<LayerSurface> surface = m_shell->createSurface(window, placeOf(window), kind);
     if (!surface)
         return;
     auto context = std::make_unique<QObject>();
@@ -31,7 +31,7 @@ void LayeredWindows::prepare(QWindow &window, LayerShell::Kind kind)
     connect(&window, &QWindow::yChanged, context.get(), follow);
     connect(&window, &QWindow::widthChanged, context.get(), follow);
     connect(&window, &QWindow::heightChanged, context.get(), follow);
-    // Told before Qt lets go of what the layer surface is made of.
+    // Emitted before Qt destroys the surface that the layer surface is made of.
     connect(&window, &QWindow::visibleChanged, context.get(), [this, &window](bool isVisible) {
         if (!isVisible)
             m_shown.erase(&window);

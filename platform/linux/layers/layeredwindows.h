@@ -22,7 +22,7 @@ public:
     using QObject::QObject;
 
     /// The session has layers.
-    [[nodiscard]] bool isPossible() const noexcept { return bool(m_shell); }
+    [[nodiscard]] bool isPossible() const noexcept { return bool(*m_shell); }
     /// The window is in a layer.
     [[nodiscard]] bool contains(const QWindow *window) const { return m_shown.contains(window); }
 
@@ -37,7 +37,7 @@ private:
         std::unique_ptr<QObject> context;
     };
 
-    LayerShell m_shell;
+    std::shared_ptr<LayerShell> m_shell = LayerShell::shared();
     std::map<const QWindow *, Shown> m_shown;
 };
 

@@ -3,21 +3,28 @@
 
 #include "platform/linux/layers/layershell.h"
 
+#include "base/logging.h"
+
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
 #include <qpa/qplatformnativeinterface.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
+#include <poll.h>
 #include <wayland-client.h>
 #include <wlr-layer-shell-unstable-v1.h>
+
+using namespace std::chrono_literals;
 
 namespace ferrin {
 
 namespace {
 
-// The last version that this was tried with.
+// The latest version that this is tested with.
 constexpr quint32 knownVersion = 4;
 constexpr Qt::Edges everyEdge = Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge;
 
@@ -34,6 +41,31 @@ void bindShell(void *data, wl_registry *registry, quint32 name, const char *inte
 void forgetGlobal(void *, wl_registry *, quint32) { }
 
 constexpr wl_registry_listener registryListener { bindShell, forgetGlobal };
+
+// A compositor that takes longer hangs; the program must not hang with it.
+constexpr auto answerLimit = 500ms;
+
+void setDone(void *isDone, wl_callback *, quint32)
+{
+    *static_cast<bool *>(isDone) = true;
+}
+
+constexpr wl_callback_listener callbackListener { setDone };
+
+/// Reads and dispatches what comes within the time. False when nothing comes, or an error.
+bool readEvents(wl_display *display, wl_event_queue *queue, std::chrono::milliseconds time)
+{
+    while (wl_display_prepare_read_queue(display, queue) != 0)
+        wl_display_dispatch_queue_pending(display, queue);
+    wl_display_flush(display);
+    pollfd socket { .fd = wl_display_get_fd(display), .events = POLLIN, .revents = 0 };
+    if (::poll(&socket, 1, int(time.count())) <= 0) {
+        wl_display_cancel_read(display);
+        return false;
+    }
+    return wl_display_read_events(display) == 0
+        && wl_display_dispatch_queue_pending(display, queue) >= 0;
+}
 
 wl_surface *surfaceOf(QWindow &window)
 {
@@ -139,6 +171,17 @@ void LayerSurface::move(const LayerPlace &place)
         wl_surface_commit(surface);
 }
 
+std::shared_ptr<LayerShell> LayerShell::shared()
+{
+    static std::weak_ptr<LayerShell> instance;
+    std::shared_ptr<LayerShell> shell = instance.lock();
+    if (!shell) {
+        shell.reset(new LayerShell);
+        instance = shell;
+    }
+    return shell;
+}
+
 LayerShell::LayerShell()
 {
     if (!QGuiApplication::platformName().startsWith(u"wayland"))
@@ -157,6 +200,24 @@ LayerShell::~LayerShell()
         wl_event_queue_destroy(m_queue);
 }
 
+bool LayerShell::roundTrip()
+{
+    auto *const wrapper = static_cast<wl_display *>(wl_proxy_create_wrapper(m_display));
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy *>(wrapper), m_queue);
+    wl_callback *const callback = wl_display_sync(wrapper);
+    wl_proxy_wrapper_destroy(wrapper);
+    bool isDone = false;
+    wl_callback_add_listener(callback, &callbackListener, &isDone);
+    const QDeadlineTimer deadline(answerLimit);
+    while (!isDone && !deadline.hasExpired()) {
+        if (!readEvents(m_display, m_queue,
+                        std::chrono::milliseconds(std::max<qint64>(deadline.remainingTime(), 0))))
+            break;
+    }
+    wl_callback_destroy(callback);
+    return isDone;
+}
+
 void LayerShell::bind()
 {
     m_queue = wl_display_create_queue(m_display);
@@ -165,17 +226,19 @@ void LayerShell::bind()
     wl_registry *const registry = wl_display_get_registry(wrapper);
     wl_proxy_wrapper_destroy(wrapper);
     wl_registry_add_listener(registry, &registryListener, &m_shell);
-    wl_display_roundtrip_queue(m_display, m_queue);
+    if (!roundTrip())
+        qCWarning(logger, "The Wayland compositor does not answer");
     wl_registry_destroy(registry);
 }
 
-std::unique_ptr<LayerSurface> LayerShell::dress(QWindow &window, const LayerPlace &place, Kind kind)
+std::unique_ptr<LayerSurface> LayerShell::createSurface(QWindow &window, const LayerPlace &place,
+                                                        Kind kind)
 {
     if (!m_shell)
         return {};
-    // As the application is set up, Qt gives such a window no role of its own.
+    // With the shell integration that the application sets, Qt gives such a window no role.
     window.setFlag(Qt::BypassWindowManagerHint);
-    // Qt makes the surface of a window that was hidden anew when it is shown, which is too late.
+    // Qt recreates the surface of a hidden window only when that is shown, which is too late.
     if (window.handle() && !surfaceOf(window))
         window.destroy();
     window.create();
@@ -195,8 +258,9 @@ std::unique_ptr<LayerSurface> LayerShell::dress(QWindow &window, const LayerPlac
         kind == Kind::Popover ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE
                               : ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
     wl_surface_commit(surface);
-    // Nothing may be shown before the compositor has said how; from then on Qt hears of changes.
-    wl_display_roundtrip_queue(m_display, m_queue);
+    // A buffer may follow only the first configure event; later events are for Qt's own queue.
+    if (!roundTrip())
+        return {};
     wl_proxy_set_queue(reinterpret_cast<wl_proxy *>(layer->m_surface), nullptr);
     return layer;
 }

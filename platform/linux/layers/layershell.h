@@ -34,8 +34,8 @@ struct LayerPlace
 /// The place of a window that stands at `frame` of a screen: at the edges that it is nearest to.
 [[nodiscard]] LayerPlace layerPlaceFor(const QRect &frame, const QRect &screen);
 
-/// A window as a surface in the topmost layers of a Wayland desktop. It belongs to the window and
-/// is gone with its platform's part.
+/// A window as a surface in the topmost layers of a Wayland desktop. It belongs to the window, and
+/// has to go before the window's platform surface does.
 class LayerSurface
 {
 public:
@@ -52,7 +52,7 @@ private:
 
     struct Listener;
     QWindow &m_window;
-    /// For what is done later, and not at all once this surface is gone.
+    /// Drops queued calls once this surface is gone.
     QObject m_context;
     zwlr_layer_surface_v1 *m_surface;
 };
@@ -71,20 +71,25 @@ public:
         Cover,
     };
 
-    LayerShell();
+    /// The one of the process, made when it is first asked for and kept while anybody has it.
+    [[nodiscard]] static std::shared_ptr<LayerShell> shared();
+
     ~LayerShell();
     LayerShell(const LayerShell &) = delete;
     LayerShell &operator=(const LayerShell &) = delete;
 
     explicit operator bool() const noexcept { return m_shell != nullptr; }
 
-    /// Makes the hidden window one that shows as a layer surface, as large as it is now. Call
-    /// before each showing; the surface ends before the window is hidden.
-    [[nodiscard]] std::unique_ptr<LayerSurface> dress(QWindow &window, const LayerPlace &place,
-                                                      Kind kind);
+    /// Makes the hidden window show as a layer surface, as large as it is now. Call before each
+    /// showing; destroy the surface before the window is hidden. Null where there are no layers,
+    /// and when the compositor does not answer in time.
+    [[nodiscard]] std::unique_ptr<LayerSurface> createSurface(QWindow &window,
+                                                              const LayerPlace &place, Kind kind);
 
 private:
+    LayerShell();
     void bind();
+    [[nodiscard]] bool roundTrip();
 
     wl_display *m_display = nullptr;
     wl_event_queue *m_queue = nullptr;

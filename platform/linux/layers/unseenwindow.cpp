@@ -24,7 +24,7 @@ UnseenWindow::~UnseenWindow()
 
 void UnseenWindow::showIn(LayerShell &shell, const LayerPlace &place, LayerShell::Kind kind)
 {
-    m_surface = shell.dress(*this, place, kind);
+    m_surface = shell.createSurface(*this, place, kind);
     show();
 }
 

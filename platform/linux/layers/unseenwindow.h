@@ -11,15 +11,14 @@
 
 namespace ferrin {
 
-/// A window in a layer of a Wayland desktop that is all transparent: it is there to be told of the
-/// pointer.
+/// A wholly transparent window in a layer of a Wayland desktop, there for the pointer's events.
 class UnseenWindow : public QRasterWindow
 {
 public:
     UnseenWindow(QScreen &screen, const QRect &bounds);
     ~UnseenWindow() override;
 
-    /// Takes it off the screen, also from within what it tells.
+    /// Takes it off the screen; may be called from one of its own events.
     static void end(std::unique_ptr<UnseenWindow> window);
 
 protected:

@@ -20,8 +20,8 @@ namespace ferrin {
 
 namespace {
 
-// A panel that tells of a click while the button is still down keeps the pointer until it is up.
-constexpr auto patience = 250ms;
+// A panel that reports a click while the button is still down keeps the pointer until it is up.
+constexpr auto timeout = 250ms;
 
 std::array<QRect, 4> stripsOf(const QRect &screen)
 {
@@ -62,9 +62,9 @@ private:
 WaylandPointer::WaylandPointer(QObject *parent)
     : QObject(parent)
 {
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
-    connect(&m_patience, &QTimer::timeout, this, [this] { answer({}); });
+    m_timeout.setSingleShot(true);
+    m_timeout.setInterval(timeout);
+    connect(&m_timeout, &QTimer::timeout, this, [this] { answer({}); });
 }
 
 WaylandPointer::~WaylandPointer() = default;
@@ -76,19 +76,19 @@ void WaylandPointer::find(Answer answerTo)
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (QScreen *const screen : screens) {
         for (const QRect &bounds : stripsOf(screen->geometry()))
-            m_strips.push_back(std::make_unique<Strip>(m_shell, *screen, bounds, *this));
+            m_strips.push_back(std::make_unique<Strip>(*m_shell, *screen, bounds, *this));
     }
-    m_patience.start();
+    m_timeout.start();
 }
 
 void WaylandPointer::answer(std::optional<QPoint> place)
 {
-    m_patience.stop();
-    // It may be one of them that has found it.
+    m_timeout.stop();
+    // This may be called from an event of one of them.
     for (auto &strip : std::exchange(m_strips, {}))
         UnseenWindow::end(std::move(strip));
-    if (const Answer told = std::exchange(m_answer, {}))
-        told(place);
+    if (const Answer answerTo = std::exchange(m_answer, {}))
+        answerTo(place);
 }
 
 } // namespace ferrin

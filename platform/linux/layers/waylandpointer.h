@@ -16,9 +16,9 @@
 
 namespace ferrin {
 
-/// Finds the pointer on a panel of a Wayland desktop, where few panels tell where they were
-/// clicked, and nobody else knows: for a moment it lays strips that nobody sees over the edges of
-/// the screens, and the one that the pointer is on hears of it. Works where there are layers.
+/// Finds the pointer on a panel of a Wayland desktop, where few panels report where they were
+/// clicked and programs cannot ask: it covers the edges of the screens with transparent strips for
+/// a moment, and the strip under the pointer gets an enter event. Needs layers.
 class WaylandPointer final : public QObject
 {
     Q_OBJECT
@@ -30,9 +30,9 @@ public:
     explicit WaylandPointer(QObject *parent = nullptr);
     ~WaylandPointer() override;
 
-    [[nodiscard]] bool isPossible() const noexcept { return bool(m_shell); }
+    [[nodiscard]] bool isPossible() const noexcept { return bool(*m_shell); }
 
-    /// Answers later. Who asks again meanwhile has the first question answered with nothing.
+    /// Answers later. A search that is still going on is answered with nothing.
     void find(Answer answer);
 
 private:
@@ -40,10 +40,10 @@ private:
 
     void answer(std::optional<QPoint> place);
 
-    LayerShell m_shell;
+    std::shared_ptr<LayerShell> m_shell = LayerShell::shared();
     std::vector<std::unique_ptr<Strip>> m_strips;
     Answer m_answer;
-    QTimer m_patience;
+    QTimer m_timeout;
 };
 
 } // namespace ferrin

@@ -17,8 +17,8 @@ void WaylandPopoverDesktop::place(QWindow &window, const QRect &frame)
         PopoverDesktop::place(window, frame);
         return;
     }
-    // Of two surfaces of a layer nobody says which is above, and only the compositor knows where
-    // this one's whole is.
+    // The order of two surfaces in a layer is not defined, and only the compositor knows where the
+    // parent is.
     if (window.parent() != whole)
         window.setParent(whole);
     PopoverDesktop::place(window, frame.translated(-whole->position()));

@@ -46,19 +46,19 @@ WaylandPressWatcher::~WaylandPressWatcher() = default;
 
 bool WaylandPressWatcher::start()
 {
-    if (!m_shell)
+    if (!*m_shell)
         return false;
     if (!m_panes.empty())
         return true;
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (QScreen *const screen : screens)
-        m_panes.push_back(std::make_unique<Pane>(m_shell, *screen, *this));
+        m_panes.push_back(std::make_unique<Pane>(*m_shell, *screen, *this));
     return true;
 }
 
 void WaylandPressWatcher::stop()
 {
-    // It may be one of them that has told of a press.
+    // This may be called from an event of one of them.
     for (auto &pane : std::exchange(m_panes, {}))
         UnseenWindow::end(std::move(pane));
 }

@@ -11,9 +11,9 @@
 
 namespace ferrin {
 
-/// Hears presses on Wayland, where no program hears what is meant for others: while it listens, a
-/// window that nobody sees lies over what the panels leave of each screen. Such a press reaches
-/// nobody else; one on a panel goes there and is not heard.
+/// Watches presses on Wayland, where no program gets the events of others: while it listens, a
+/// transparent window covers what the panels leave of each screen. A press on it reaches nothing
+/// else; one on a panel goes there and is not noticed.
 class WaylandPressWatcher final : public PressWatcher
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
 private:
     class Pane;
 
-    LayerShell m_shell;
+    std::shared_ptr<LayerShell> m_shell = LayerShell::shared();
     std::vector<std::unique_ptr<Pane>> m_panes;
 };
 

@@ -94,7 +94,7 @@ void OwnBarItem::setHighlighted(bool highlighted)
 
 ItemPlace OwnBarItem::place() const
 {
-    return { .item = m_window.geometry(), .panel = m_window.geometry() };
+    return { .item = m_window.itemBounds(), .panel = m_window.geometry() };
 }
 
 void OwnBarItem::showContent()
@@ -109,12 +109,12 @@ void OwnBarItem::showColors()
 
 void OwnBarItem::popUpMenu()
 {
-    m_popup.popUpAt(m_entries, m_window.geometry(), ownWindowLook(m_colors));
+    m_popup.popUp(m_entries, place(), ownWindowLook(m_colors));
 }
 
 bool OwnBar::isPossible()
 {
-    return !QGuiApplication::platformName().startsWith(u"wayland") || LayerShell();
+    return !QGuiApplication::platformName().startsWith(u"wayland") || bool(*LayerShell::shared());
 }
 
 OwnBar::OwnBar(const PanelColors &colors, DefaultsStore *store, QObject *parent)

@@ -28,10 +28,10 @@ constexpr int sideMargin = 9;
 
 OwnBarWindow::OwnBarWindow()
     : m_accessible(*this, QAccessible::ToolBar, [this] {
-        return std::vector { AccessiblePart { .role = QAccessible::Button,
-                                              .name = m_words,
-                                              .bounds = QRect(QPoint(), size()),
-                                              .press = [this] { Q_EMIT clicked(); } } };
+        return std::vector { AccessiblePart {
+            .role = QAccessible::Button, .name = m_words, .bounds = cell(), .press = [this] {
+                Q_EMIT clicked();
+            } } };
     })
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
@@ -127,6 +127,14 @@ QSize OwnBarWindow::idealSize() const
     return { int(std::ceil(width)) + 2 * sideMargin, windowHeight };
 }
 
+QRect OwnBarWindow::cell() const
+{
+    // i3 makes a dock as wide as the screen.
+    QRect cell(QPoint(), size());
+    cell.setLeft(std::max(0, cell.width() - idealSize().width()));
+    return cell;
+}
+
 void OwnBarWindow::place()
 {
     if (!m_followed)
@@ -155,8 +163,7 @@ void OwnBarWindow::paintEvent(QPaintEvent *)
     painter.fillRect(all.adjusted(1, 1, -1, -1), groundColor());
 
     const QSizeF content = m_view.idealSize(m_context);
-    const QPointF corner((all.width() - content.width()) / 2,
-                         (all.height() - content.height()) / 2);
+    const QPointF corner = QRectF(cell()).center() - QPointF(content.width(), content.height()) / 2;
     painter.setRenderHint(QPainter::Antialiasing);
     m_view.paint(painter, QRectF(QPointF(std::round(corner.x()), std::round(corner.y())), content),
                  m_context);

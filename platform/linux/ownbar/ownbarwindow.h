@@ -40,12 +40,15 @@ public:
     /// Wayland's compositors do not agree on where the pointer is in a surface that moves below it.
     void setFollowing(bool isFollowing) { m_isFollowing = isFollowing; }
 
-    /// Goes to the screen where it belongs; for who has hidden it to show it there.
+    /// Goes to the screen where it belongs. Call while it is hidden.
     void goToScreen();
 
     /// Where the user keeps it.
     void setPlace(const BarPlace &place);
     [[nodiscard]] const BarPlace &barPlace() const noexcept { return m_place; }
+
+    /// The item's place on the desktop.
+    [[nodiscard]] QRect itemBounds() const { return cell().translated(position()); }
 
     [[nodiscard]] QAccessibleInterface *accessibleRoot() const override
     {
@@ -69,6 +72,9 @@ protected:
 
 private:
     [[nodiscard]] QSize idealSize() const;
+    /// Where the item is in the window: all of it, or its right-hand end where the window manager
+    /// has made it a strip.
+    [[nodiscard]] QRect cell() const;
     [[nodiscard]] QColor groundColor() const;
     [[nodiscard]] QScreen *chosenScreen() const;
     void place();

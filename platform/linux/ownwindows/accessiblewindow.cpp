@@ -161,15 +161,15 @@ QAccessibleInterface *AccessibleWindow::root() const
 
 void AccessibleWindow::nameChanged(int part) const
 {
-    tell(part, QAccessible::NameChanged);
+    notify(part, QAccessible::NameChanged);
 }
 
 void AccessibleWindow::focused(int part) const
 {
-    tell(part, QAccessible::Focus);
+    notify(part, QAccessible::Focus);
 }
 
-void AccessibleWindow::tell(int part, QAccessible::Event event) const
+void AccessibleWindow::notify(int part, QAccessible::Event event) const
 {
     QAccessibleInterface *const child
         = QAccessible::isActive() && root() ? root()->child(part) : nullptr;

@@ -27,7 +27,7 @@ struct AccessiblePart
 };
 
 /// What a painted window is to assistive technology: a role, a name and a few parts, asked for
-/// afresh whenever somebody wants to know. Owned by the window, as a member.
+/// afresh at every request. Owned by the window, as a member.
 class AccessibleWindow
 {
 public:
@@ -47,7 +47,7 @@ public:
     void focused(int part) const;
 
 private:
-    void tell(int part, QAccessible::Event event) const;
+    void notify(int part, QAccessible::Event event) const;
 
     QAccessible::Id m_root;
 };

@@ -5,6 +5,9 @@
 
 #include "platform/linux/panelcolors/panelcolors.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 namespace ferrin {
 
 OwnWindowColors colorsFor(bool isDark)
@@ -12,6 +15,16 @@ OwnWindowColors colorsFor(bool isDark)
     if (isDark)
         return { 0xff2d2d2f, 0xff4a4a4d, 0xfff2f2f2, 0xff47474b };
     return { 0xfffafafa, 0xffc4c4c8, 0xff1d1d1f, 0xffe2e2e6 };
+}
+
+std::optional<ScreenArea> screenOf(const ItemPlace &place)
+{
+    const QScreen *screen = QGuiApplication::screenAt(place.item.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return {};
+    return ScreenArea { .whole = screen->geometry(), .available = screen->availableGeometry() };
 }
 
 OwnWindowLook ownWindowLook(const PanelColors &colors)

@@ -3,8 +3,12 @@
 
 #pragma once
 
+#include "popover/popoverplacement.h"
+
 #include <QColor>
 #include <QString>
+
+#include <optional>
 
 namespace ferrin {
 
@@ -27,6 +31,10 @@ struct OwnWindowColors
 };
 
 [[nodiscard]] OwnWindowColors colorsFor(bool isDark);
+/// The screen of an item, or the primary one for an item whose place is not known. Absent where
+/// there is no screen.
+[[nodiscard]] std::optional<ScreenArea> screenOf(const ItemPlace &place);
+
 [[nodiscard]] OwnWindowLook ownWindowLook(const PanelColors &colors);
 
 } // namespace ferrin

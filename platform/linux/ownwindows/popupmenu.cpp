@@ -3,12 +3,13 @@
 
 #include "platform/linux/ownwindows/popupmenu.h"
 
+#include "popover/popoverplacement.h"
+
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
@@ -30,23 +31,6 @@ constexpr qreal rowRadius = 4;
 
 } // namespace
 
-QPoint placeNear(QPoint point, QSize size, const QRect &available)
-{
-    const bool fitsBelow = point.y() + size.height() <= available.bottom() + 1;
-    const int y = fitsBelow ? point.y() : point.y() - size.height();
-    const int x = std::min(point.x(), available.right() + 1 - size.width());
-    return { std::max(x, available.left()), std::max(y, available.top()) };
-}
-
-QPoint placeBeside(const QRect &item, QSize size, const QRect &available)
-{
-    const bool isLow = item.center().y() > available.center().y();
-    const int y = isLow ? item.top() - size.height() : item.bottom() + 1;
-    const QRect room = available.adjusted(0, 0, -size.width(), -size.height());
-    return { std::clamp(item.left(), room.left(), std::max(room.left(), room.right() + 1)),
-             std::clamp(y, room.top(), std::max(room.top(), room.bottom() + 1)) };
-}
-
 PopupMenu::PopupMenu()
     : m_accessible(*this, QAccessible::PopupMenu, [this] { return parts(); })
 {
@@ -55,37 +39,20 @@ PopupMenu::PopupMenu()
     connect(&m_presses, &PressWatcher::pressed, this, &QWindow::hide);
 }
 
-void PopupMenu::popUp(const std::vector<MenuEntry> &entries, QPoint at, const OwnWindowLook &look)
+void PopupMenu::popUp(const std::vector<MenuEntry> &entries, const ItemPlace &place,
+                      const OwnWindowLook &look)
 {
-    open(entries, look, at,
-         [at](QSize size, const QRect &screen) { return placeNear(at, size, screen); });
-}
-
-void PopupMenu::popUpAt(const std::vector<MenuEntry> &entries, const QRect &item,
-                        const OwnWindowLook &look)
-{
-    open(entries, look, item.center(),
-         [item](QSize size, const QRect &screen) { return placeBeside(item, size, screen); });
-}
-
-void PopupMenu::open(const std::vector<MenuEntry> &entries, const OwnWindowLook &look,
-                     QPoint screenAt, const std::function<QPoint(QSize, const QRect &)> &place)
-{
-    if (entries.empty())
+    const std::optional<ScreenArea> screen = screenOf(place);
+    if (entries.empty() || !screen)
         return;
     m_entries = entries;
     m_look = look;
     m_current = -1;
-    const QScreen *under = QGuiApplication::screenAt(screenAt);
-    if (!under)
-        under = QGuiApplication::primaryScreen();
-    if (!under)
-        return;
     const QSize size = idealSize();
     // Tiling Wayland compositors leave a window of one size alone.
     setMinimumSize(size);
     setMaximumSize(size);
-    setGeometry(QRect(place(size, under->geometry()), size));
+    setGeometry(spotAtItem(place, size, *screen).frame);
     m_layers.prepare(*this, LayerShell::Kind::Popover);
     show();
     requestActivate();

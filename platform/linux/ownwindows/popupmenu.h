@@ -8,10 +8,10 @@
 #include "platform/linux/layers/waylandpresswatcher.h"
 #include "platform/linux/ownwindows/accessiblewindow.h"
 #include "platform/linux/ownwindows/ownwindowlook.h"
+#include "popover/itemplace.h"
 
 #include <QRasterWindow>
 
-#include <functional>
 #include <vector>
 
 namespace ferrin {
@@ -25,12 +25,9 @@ class PopupMenu final : public QRasterWindow
 public:
     PopupMenu();
 
-    /// Opens at the pointer, wholly on its screen; below the place, or above it near the bottom.
-    void popUp(const std::vector<MenuEntry> &entries, QPoint at, const OwnWindowLook &look);
-
-    /// Opens beside the item, off it.
-    void popUpAt(const std::vector<MenuEntry> &entries, const QRect &item,
-                 const OwnWindowLook &look);
+    /// Opens at the item, off its panel and wholly on its screen.
+    void popUp(const std::vector<MenuEntry> &entries, const ItemPlace &place,
+               const OwnWindowLook &look);
 
     [[nodiscard]] QAccessibleInterface *accessibleRoot() const override
     {
@@ -50,8 +47,6 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    void open(const std::vector<MenuEntry> &entries, const OwnWindowLook &look, QPoint screenAt,
-              const std::function<QPoint(QSize, const QRect &)> &place);
     [[nodiscard]] QFont entryFont() const;
     [[nodiscard]] QSize idealSize() const;
     [[nodiscard]] QRect entryBounds(int entry) const;
@@ -70,13 +65,5 @@ private:
     WaylandPressWatcher m_presses;
     AccessibleWindow m_accessible;
 };
-
-/// The place for a window of this size near a point: below and to the right, unless that leaves
-/// `available`.
-[[nodiscard]] QPoint placeNear(QPoint point, QSize size, const QRect &available);
-
-/// The place for a window of this size beside an item: below it, or above one in the lower half of
-/// `available`, and wholly inside of that.
-[[nodiscard]] QPoint placeBeside(const QRect &item, QSize size, const QRect &available);
 
 } // namespace ferrin

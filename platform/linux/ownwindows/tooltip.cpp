@@ -3,10 +3,12 @@
 
 #include "platform/linux/ownwindows/tooltip.h"
 
+#include "popover/popoverplacement.h"
+
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
+#include <QRasterWindow>
 
 #include <chrono>
 
@@ -19,7 +21,6 @@ namespace {
 constexpr auto restBeforeShown = 700ms;
 constexpr int fontPixelSize = 12;
 constexpr QMargins padding { 8, 5, 8, 5 };
-constexpr int gap = 4;
 
 } // namespace
 
@@ -76,11 +77,11 @@ ToolTip::ToolTip(QObject *parent)
 
 ToolTip::~ToolTip() = default;
 
-void ToolTip::showSoon(const QString &text, const QRect &item, const OwnWindowLook &look)
+void ToolTip::showSoon(const QString &text, const ItemPlace &place, const OwnWindowLook &look)
 {
     hide();
     m_text = text;
-    m_item = item;
+    m_place = place;
     m_look = look;
     m_rest.start();
 }
@@ -98,13 +99,11 @@ const QWindow *ToolTip::window() const
 
 void ToolTip::show()
 {
-    const QScreen *screen = QGuiApplication::screenAt(m_item.center());
-    if (m_text.isEmpty() || m_item.isEmpty() || !screen)
+    const std::optional<ScreenArea> screen = screenOf(m_place);
+    if (m_text.isEmpty() || m_place.item.isEmpty() || !screen)
         return;
     m_window = std::make_unique<Window>(m_text, m_look);
-    const QSize size = m_window->idealSize();
-    const QRect around = m_item.adjusted(0, -gap, 0, gap);
-    m_window->setGeometry(QRect(placeBeside(around, size, screen->geometry()), size));
+    m_window->setGeometry(spotAtItem(m_place, m_window->idealSize(), *screen).frame);
     m_window->show();
 }
 

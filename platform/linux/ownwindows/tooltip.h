@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include "platform/linux/ownwindows/popupmenu.h"
+#include "platform/linux/ownwindows/ownwindowlook.h"
+#include "popover/itemplace.h"
 
 #include <QObject>
 #include <QRasterWindow>
@@ -13,8 +14,8 @@
 
 namespace ferrin {
 
-/// A line of text beside the item while the pointer rests on it, for the places where no desktop
-/// shows one for us. Takes neither the focus nor presses.
+/// A line of text beside the item while the pointer rests on it, where the desktop shows none.
+/// Takes neither the focus nor presses.
 class ToolTip final : public QObject
 {
     Q_OBJECT
@@ -23,8 +24,8 @@ public:
     explicit ToolTip(QObject *parent = nullptr);
     ~ToolTip() override;
 
-    /// Shows it once the pointer has rested; `item` is what it explains, on the desktop.
-    void showSoon(const QString &text, const QRect &item, const OwnWindowLook &look);
+    /// Shows it at the item once the pointer has rested.
+    void showSoon(const QString &text, const ItemPlace &place, const OwnWindowLook &look);
     void hide();
 
     /// Null while nothing is shown.
@@ -37,7 +38,7 @@ private:
 
     QTimer m_rest;
     QString m_text;
-    QRect m_item;
+    ItemPlace m_place;
     OwnWindowLook m_look;
     std::unique_ptr<Window> m_window;
 };

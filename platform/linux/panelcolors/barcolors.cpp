@@ -4,6 +4,7 @@
 #include "platform/linux/panelcolors/barcolors.h"
 
 #include "menubar/contrast.h"
+#include "platform/linux/panelcolors/colortext.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -32,13 +33,6 @@ constexpr qsizetype headerSize = 6 + 2 * sizeof(quint32);
 // A configuration is a few kilobytes; more is no window manager.
 constexpr quint32 largestPayload = 1 << 20;
 
-// "#rrggbb" or, unlike Qt, "#rrggbbaa".
-std::optional<QColor> colorIn(const QJsonValue &value)
-{
-    const QColor color(value.toString().left(7));
-    return color.isValid() ? std::optional(color) : std::nullopt;
-}
-
 int connectedSocket(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -61,8 +55,10 @@ int connectedSocket(const QString &path)
 std::optional<QColor> textOfBar(const QJsonObject &bar)
 {
     const QJsonObject colors = bar.value("colors"_L1).toObject();
-    return readableText(colorIn(colors.value("statusline"_L1)),
-                        colorIn(colors.value("background"_L1)));
+    std::optional<QColor> text = colorIn(colors.value("statusline"_L1).toString());
+    if (text)
+        text->setAlpha(255);
+    return readableText(text, colorIn(colors.value("background"_L1).toString()));
 }
 
 BarColors::~BarColors()
@@ -75,7 +71,7 @@ void BarColors::start(const QString &socketPath)
     close();
     m_socket = connectedSocket(socketPath);
     if (m_socket < 0) {
-        tellText({});
+        setText({});
         return;
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
@@ -125,13 +121,13 @@ void BarColors::receive()
 
 void BarColors::take(quint32 type, const QByteArray &payload)
 {
-    const QJsonDocument told = QJsonDocument::fromJson(payload);
-    if (type == getBarConfig && told.isArray() && m_bar.isEmpty()) {
-        m_bar = told.array().at(0).toString();
+    const QJsonDocument document = QJsonDocument::fromJson(payload);
+    if (type == getBarConfig && document.isArray() && m_bar.isEmpty()) {
+        m_bar = document.array().at(0).toString();
         if (!m_bar.isEmpty())
             send(getBarConfig, m_bar.toUtf8());
-    } else if (told.isObject() && (type == getBarConfig || type == barConfigUpdate)) {
-        takeBar(told.object());
+    } else if (document.isObject() && (type == getBarConfig || type == barConfigUpdate)) {
+        takeBar(document.object());
     }
 }
 
@@ -139,10 +135,10 @@ void BarColors::takeBar(const QJsonObject &bar)
 {
     if (m_bar.isEmpty() || bar.value("id"_L1).toString() != m_bar)
         return;
-    tellText(textOfBar(bar));
+    setText(textOfBar(bar));
 }
 
-void BarColors::tellText(const std::optional<QColor> &text)
+void BarColors::setText(const std::optional<QColor> &text)
 {
     if (std::exchange(m_text, text) != text)
         Q_EMIT changed();

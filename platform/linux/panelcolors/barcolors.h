@@ -16,9 +16,9 @@ class QJsonObject;
 
 namespace ferrin {
 
-/// The colour of text on the bar that sway or i3 draws, as the window manager tells over its
-/// socket. Follows it while the bar's configuration changes. Never waits for an answer; silent
-/// where there is no such window manager.
+/// The colour of text on the bar that sway or i3 draws, by the window manager's own
+/// answer over its socket. Follows the bar's configuration. Never blocks; absent where there is no
+/// such window manager.
 class BarColors : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     void receive();
     void take(quint32 type, const QByteArray &payload);
     void takeBar(const QJsonObject &bar);
-    void tellText(const std::optional<QColor> &text);
+    void setText(const std::optional<QColor> &text);
     void close();
 
     /// -1 for none.
@@ -53,7 +53,7 @@ private:
     std::optional<QColor> m_text;
 };
 
-/// What reads on a bar of such a configuration; absent when it tells no colours.
+/// What reads on a bar of such a configuration; absent when it names no colours.
 [[nodiscard]] std::optional<QColor> textOfBar(const QJsonObject &bar);
 
 } // namespace ferrin

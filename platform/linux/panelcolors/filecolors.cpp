@@ -12,8 +12,8 @@ namespace ferrin {
 
 namespace {
 
-// A file that is replaced is told of more than once, of the old one as of the new. Watched again
-// before that is over, it would be lost.
+// A file that is replaced is reported several times, for the old file and for the new one; watched
+// anew before that is over, the new one would be missed.
 constexpr std::chrono::milliseconds settlingTime { 100 };
 
 } // namespace

@@ -13,7 +13,7 @@
 
 namespace ferrin {
 
-/// The colour of text on a host's panel as the host's own files tell it. Follows the files while
+/// The colour of text on a host's panel by the host's own files. Follows the files while
 /// they change. Reads nothing before `start`, writes nothing ever.
 class FileColors : public QObject
 {
@@ -26,8 +26,11 @@ public:
     /// Reads the files again. Files that are written anew are noticed without.
     void refresh();
 
-    /// Absent until the start, and where the files do not tell.
+    /// Absent until the start, and where the files do not say.
     [[nodiscard]] const std::optional<QColor> &text() const noexcept { return m_text; }
+
+    /// Whether the files leave open what the panel looks like, so that nothing else may be assumed.
+    [[nodiscard]] virtual bool isUncertain() const { return false; }
 
 Q_SIGNALS:
     void changed();

@@ -3,6 +3,8 @@
 
 #include "platform/linux/panelcolors/panelcolors.h"
 
+#include "menubar/contrast.h"
+
 #include <QFont>
 #include <QGuiApplication>
 
@@ -17,18 +19,15 @@ namespace {
 constexpr QRgb redOnDark = 0xffff776c;
 constexpr QRgb redOnLight = 0xffc8001a;
 
-// In the middle between black and white bars: it stands out a little on both, and white reads on it
-// even where a glyph is filled with no more than a shade of white.
-constexpr QRgb chipColor = 0xff3e4247;
+// Between black and white panels, so that it stands out a little from both; white reads on it even
+// where a glyph is filled with no more than a shade of it.
+constexpr QRgb darkChip = 0xff3e4247;
+// For the light theme; black reads on it as white does on the other.
+constexpr QRgb lightChip = 0xffe4e6e9;
 
 QColor textOn(bool darkGround)
 {
     return darkGround ? QColor(Qt::white) : QColor(Qt::black);
-}
-
-bool isLight(const QColor &color)
-{
-    return qGray(color.rgb()) >= 128;
 }
 
 } // namespace
@@ -68,12 +67,23 @@ void PanelColors::setI3BarText(const std::optional<QColor> &color)
         Q_EMIT changed();
 }
 
+void PanelColors::setPanelUncertain(QLatin1StringView panel, bool isUncertain)
+{
+    if (m_uncertainPanels.contains(panel) == isUncertain)
+        return;
+    if (isUncertain)
+        m_uncertainPanels.insert(panel);
+    else
+        m_uncertainPanels.remove(panel);
+    Q_EMIT changed();
+}
+
 std::optional<QColor> PanelColors::textFor(const PanelKind &panel) const
 {
-    if (m_appearance.forcedDark)
-        return textOn(*m_appearance.forcedDark);
-    if (const auto told = m_panelTexts.constFind(panel.name); told != m_panelTexts.cend())
-        return *told;
+    if (const auto known = m_panelTexts.constFind(panel.name); known != m_panelTexts.cend())
+        return *known;
+    if (m_uncertainPanels.contains(panel.name))
+        return {};
     if (m_trayText)
         return *m_trayText;
     switch (panel.usualText) {
@@ -84,9 +94,15 @@ std::optional<QColor> PanelColors::textFor(const PanelKind &panel) const
     case PanelText::Unknown:
         break;
     }
-    if (m_appearance.desktopPrefersDark)
-        return textOn(*m_appearance.desktopPrefersDark);
-    return {};
+    return textByScheme();
+}
+
+std::optional<QColor> PanelColors::textByScheme() const
+{
+    const std::optional<bool> prefersDark = m_appearance.desktopPrefersDark;
+    if (!prefersDark || m_appearance.forcedDark.value_or(*prefersDark) != *prefersDark)
+        return {};
+    return textOn(*prefersDark);
 }
 
 ViewContext PanelColors::contextWith(const QColor &text) const
@@ -105,21 +121,20 @@ ViewContext PanelColors::contextFor(const PanelKind &panel) const
 
 ViewContext PanelColors::contextOnChip() const
 {
-    ViewContext context = contextWith(textOn(true));
-    context.chip = QColor::fromRgb(chipColor);
+    const bool isDark = m_appearance.forcedDark.value_or(true);
+    ViewContext context = contextWith(textOn(isDark));
+    context.chip = QColor::fromRgb(isDark ? darkChip : lightChip);
     return context;
 }
 
 ViewContext PanelColors::contextForTray(const TraySurroundings &tray) const
 {
-    if (m_appearance.forcedDark)
-        return contextWith(textOn(*m_appearance.forcedDark));
     if (tray.isI3Bar && m_i3BarText)
         return contextWith(*m_i3BarText);
     if (m_trayText)
         return contextWith(*m_trayText);
     if (tray.ground)
-        return contextWith(textOn(!isLight(*tray.ground)));
+        return contextWith(blackOrWhiteOn(*tray.ground));
     return contextOnChip();
 }
 

@@ -9,6 +9,7 @@
 #include <QColor>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -18,11 +19,11 @@ namespace ferrin {
 /// What the status area needs to know of the desktop's look; the application keeps it current.
 struct StatusAreaAppearance
 {
-    /// The user's own choice of light or dark; absent while it follows the system.
+    /// The user's theme for Ferrin's windows; absent while it follows the system.
     std::optional<bool> forcedDark {};
-    /// The desktop is dark, as far as can be told: by its own words or the toolkit's colours.
+    /// The desktop is dark by its colour scheme or, where it has none, the toolkit's palette.
     bool desktopDark = false;
-    /// The same by the desktop's own words; absent where it says nothing.
+    /// The desktop's colour scheme is a dark one; absent where it has none.
     std::optional<bool> desktopPrefersDark {};
     /// The desktop's interface font; empty for the toolkit's default.
     QString fontFamily {};
@@ -39,10 +40,11 @@ struct TraySurroundings
     bool isI3Bar = false;
 };
 
-/// Which colours read on a host's panel. No host tells, so the best informed voice decides: the
-/// user's choice, then what the host's own settings say, then the colours that the panel's tray
-/// announces on X11, then what such hosts look like by default, then the desktop's own scheme.
-/// Where all are silent the item brings along a ground of its own.
+/// Which colours read on a host's panel. No host says, so the best source decides: the panel's own
+/// settings, then the colours that its tray announces on X11, then how such panels usually look,
+/// then the desktop's colour scheme. Where none of them knows, and where the user's theme
+/// contradicts the scheme, the item brings its own ground, the chip. The theme is that of the
+/// windows: it never overrules what is known of a panel.
 class PanelColors : public QObject
 {
     Q_OBJECT
@@ -55,11 +57,13 @@ public:
 
     /// The text colour that the tray announced; absent where there is none.
     void setTrayText(const std::optional<QColor> &color);
-    /// The text colour that the settings of the panel with this name tell; absent where they do
-    /// not.
+    /// The text colour by the settings of the panel with this name; absent where they say nothing.
     void setPanelText(QLatin1StringView panel, const std::optional<QColor> &color);
+    /// The panel's settings are there, but leave open what it looks like: the item is to bring its
+    /// own ground.
+    void setPanelUncertain(QLatin1StringView panel, bool isUncertain);
 
-    /// The text colour that i3 tells of its own bar; absent where it does not.
+    /// The text colour of i3's own bar by its configuration; absent where that says nothing.
     void setI3BarText(const std::optional<QColor> &color);
 
     [[nodiscard]] ViewContext contextFor(const PanelKind &panel) const;
@@ -77,10 +81,13 @@ private:
     [[nodiscard]] std::optional<QColor> textFor(const PanelKind &panel) const;
     [[nodiscard]] ViewContext contextWith(const QColor &text) const;
     [[nodiscard]] ViewContext contextOnChip() const;
+    /// The desktop's colour scheme, unless the user's theme contradicts it.
+    [[nodiscard]] std::optional<QColor> textByScheme() const;
 
     StatusAreaAppearance m_appearance;
     std::optional<QColor> m_trayText;
     QHash<QLatin1StringView, QColor> m_panelTexts;
+    QSet<QLatin1StringView> m_uncertainPanels;
     std::optional<QColor> m_i3BarText;
 };
 

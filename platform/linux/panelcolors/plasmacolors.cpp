@@ -3,11 +3,12 @@
 
 #include "platform/linux/panelcolors/plasmacolors.h"
 
+#include "platform/linux/panelcolors/colortext.h"
+
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringList>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -16,7 +17,7 @@ namespace ferrin {
 
 namespace {
 
-// Of Breeze, which is what Plasma looks like where nobody chose anything.
+// Of Breeze, Plasma's default theme.
 constexpr QRgb breezeText = 0xff232629;
 
 const QString textKey = u"Colors:Window/ForegroundNormal"_s;
@@ -51,26 +52,17 @@ QVariant configured(const QString &name, const QString &key)
     return {};
 }
 
-/// "35,38,41", which the reader of such files takes for a list.
-std::optional<QColor> colorIn(const QVariant &value)
+/// "35,38,41", which QSettings takes for a list.
+std::optional<QColor> colorOf(const QVariant &value)
 {
     const QStringList parts = value.toStringList();
-    if (parts.size() < 3)
-        return {};
-    std::array<int, 3> rgb {};
-    for (size_t i = 0; i < rgb.size(); ++i) {
-        bool isNumber = false;
-        rgb[i] = parts[qsizetype(i)].toInt(&isNumber);
-        if (!isNumber || rgb[i] < 0 || rgb[i] > 255)
-            return {};
-    }
-    return QColor(rgb[0], rgb[1], rgb[2]);
+    return parts.isEmpty() ? std::nullopt : colorIn(parts.join(u','));
 }
 
 std::optional<QColor> colorInDataFile(const QString &name)
 {
     const QString file = QStandardPaths::locate(QStandardPaths::GenericDataLocation, name);
-    return file.isEmpty() ? std::nullopt : colorIn(valueIn(file, textKey));
+    return file.isEmpty() ? std::nullopt : colorOf(valueIn(file, textKey));
 }
 
 } // namespace
@@ -85,7 +77,7 @@ std::optional<QColor> PlasmaColors::readText() const
     const QString theme = configured(u"plasmarc"_s, u"Theme/name"_s).toString();
     if (const auto own = colorInDataFile(u"plasma/desktoptheme/%1/colors"_s.arg(theme)))
         return *own;
-    if (const auto chosen = colorIn(configured(u"kdeglobals"_s, textKey)))
+    if (const auto chosen = colorOf(configured(u"kdeglobals"_s, textKey)))
         return *chosen;
     const QString scheme = configured(u"kdeglobals"_s, schemeKey).toString();
     return colorInDataFile(u"color-schemes/%1.colors"_s.arg(scheme))

@@ -7,7 +7,7 @@
 
 namespace ferrin {
 
-/// The colour of text on Plasma's panel, as Plasma's own settings tell: that of the panel's theme,
+/// The colour of text on Plasma's panel, by Plasma's own settings: that of the panel's theme,
 /// or, where the theme leaves the colours to the user, that of the user's colour scheme.
 class PlasmaColors final : public FileColors
 {

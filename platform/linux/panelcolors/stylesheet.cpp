@@ -3,12 +3,13 @@
 
 #include "platform/linux/panelcolors/stylesheet.h"
 
+#include "platform/linux/panelcolors/colortext.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-
-#include <array>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +17,7 @@ namespace ferrin {
 
 namespace {
 
-// No panel's is larger; nobody imports deeper.
+// Bytes, and the depth of imports. More is no panel's style sheet.
 constexpr qint64 largestFile = 1 << 18;
 constexpr int deepest = 8;
 
@@ -27,44 +28,12 @@ const QRegularExpression &comments()
     return pattern;
 }
 
-/// "#rgb" as Qt reads it, "#rrggbbaa" as style sheets mean it.
-std::optional<QColor> hexColor(const QString &word)
+/// What a sheet imports, by a path or a "file:" URL.
+QString importedFile(const QString &sheet, const QString &name)
 {
-    QColor color(word.size() == 9 ? word.left(7) : word);
-    if (!color.isValid())
-        return {};
-    if (word.size() == 9)
-        color.setAlpha(word.right(2).toInt(nullptr, 16));
-    return color;
-}
-
-/// "100%", a part of one, or, as Qt takes it too, of 255.
-float alphaIn(const QString &text)
-{
-    if (text.endsWith(u'%'))
-        return text.chopped(1).toFloat() / 100;
-    const float alpha = text.toFloat();
-    return alpha > 1 ? alpha / 255 : alpha;
-}
-
-/// "rgba(1, 2, 3, 50%)"
-std::optional<QColor> functionColor(const QString &word)
-{
-    const qsizetype open = word.indexOf(u'(');
-    const QStringList parts = word.mid(open + 1, word.size() - open - 2).split(u',');
-    if (parts.size() < 3)
-        return {};
-    std::array<int, 3> rgb {};
-    for (size_t i = 0; i < rgb.size(); ++i) {
-        bool isNumber = false;
-        rgb[i] = parts[qsizetype(i)].trimmed().toInt(&isNumber);
-        if (!isNumber || rgb[i] < 0 || rgb[i] > 255)
-            return {};
-    }
-    QColor color(rgb[0], rgb[1], rgb[2]);
-    if (parts.size() > 3)
-        color.setAlphaF(std::clamp(alphaIn(parts[3].trimmed()), 0.0f, 1.0f));
-    return color;
+    const QUrl url(name);
+    const QString path = url.isLocalFile() ? url.toLocalFile() : name;
+    return QDir::cleanPath(QFileInfo(sheet).dir().absoluteFilePath(path));
 }
 
 } // namespace
@@ -87,8 +56,7 @@ void StyleSheet::add(const QString &file, int depth)
     static const QRegularExpression imports(
         uR"(@import\s+(?:url\(\s*)?["']?([^"')\s;]+)["']?\s*\)?\s*;)"_s);
     for (auto each = imports.globalMatch(text); each.hasNext();)
-        add(QDir::cleanPath(QFileInfo(file).dir().absoluteFilePath(each.next().captured(1))),
-            depth + 1);
+        add(importedFile(file, each.next().captured(1)), depth + 1);
     static const QRegularExpression definitions(uR"(@define-color\s+([\w-]+)\s+([^;]+);)"_s);
     for (auto each = definitions.globalMatch(text); each.hasNext();) {
         const auto found = each.next();
@@ -119,6 +87,15 @@ std::optional<QColor> StyleSheet::color(const QString &selector, const QString &
     return colorIn(m_rules.value(selector).value(property));
 }
 
+std::optional<QColor> StyleSheet::firstColor(const QStringList &selectors) const
+{
+    for (const QString &selector : selectors) {
+        if (const auto found = color(selector, u"color"_s))
+            return found;
+    }
+    return {};
+}
+
 std::optional<QColor> StyleSheet::ground(const QString &selector) const
 {
     const auto exact = color(selector, u"background-color"_s);
@@ -129,12 +106,7 @@ std::optional<QColor> StyleSheet::colorOf(const QString &word, int depth) const
 {
     if (word.startsWith(u'@'))
         return colorIn(m_definitions.value(word.sliced(1)), depth + 1);
-    if (word.startsWith(u'#'))
-        return hexColor(word);
-    if (word.contains(u'('))
-        return functionColor(word);
-    const QColor named(word);
-    return named.isValid() ? std::optional(named) : std::nullopt;
+    return ferrin::colorIn(word);
 }
 
 std::optional<QColor> StyleSheet::colorIn(const QString &value, int depth) const
@@ -159,7 +131,7 @@ std::optional<QColor> StyleSheet::colorIn(const QString &value, int depth) const
     const auto share = float(count);
     static const QRegularExpression dimmed(uR"(^alpha\(.*,\s*([\d.]+%?)\s*\)$)"_s);
     if (const auto found = dimmed.match(value); found.hasMatch())
-        alpha *= std::clamp(alphaIn(found.captured(1)), 0.0f, 1.0f);
+        alpha *= opacityIn(found.captured(1));
     return QColor::fromRgbF(red / share, green / share, blue / share, alpha / share);
 }
 

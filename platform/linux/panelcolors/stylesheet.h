@@ -24,6 +24,8 @@ public:
     /// absent for nothing, for a picture, and for colours of the toolkit's.
     [[nodiscard]] std::optional<QColor> color(const QString &selector,
                                               const QString &property) const;
+    /// The text colour that the first of these selectors gives.
+    [[nodiscard]] std::optional<QColor> firstColor(const QStringList &selectors) const;
     /// The ground that the last rule for exactly this selector gives.
     [[nodiscard]] std::optional<QColor> ground(const QString &selector) const;
 

@@ -3,8 +3,14 @@
 
 #include "platform/linux/session/applicationsetup.h"
 
+#include "base/logging.h"
+
+#include <QDir>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QProcessEnvironment>
+
+using namespace Qt::StringLiterals;
 
 namespace ferrin {
 
@@ -26,6 +32,18 @@ void setUpApplication()
     // it keeps the place that such a window was given.
     qputenv(bypassVariable, "1");
     qputenv(positionsVariable, "1");
+}
+
+void logMissingWaylandPlugin()
+{
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + u"/platforms"_s);
+    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || !plugins.entryList({ u"libqwayland*"_s }).isEmpty())
+        return;
+    qCWarning(
+        logger,
+        "Qt's plugin for Wayland is missing (package qt6-wayland): windows cannot open at the "
+        "item");
 }
 
 void withoutSetUp(QProcessEnvironment &environment)

@@ -20,7 +20,7 @@ struct AutostartSession
     /// The user's own configuration folder and those of the system, the most important first; never
     /// empty.
     QStringList configFolders;
-    /// The running desktop's names, as `currentDesktopNames()` tells them.
+    /// The running desktop's names, as `currentDesktopNames()` returns them.
     QStringList desktops;
 };
 

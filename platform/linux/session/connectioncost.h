@@ -11,9 +11,9 @@
 
 namespace ferrin {
 
-/// How the machine is connected: by a default route or not at all, as the kernel tells; metered or
-/// not, as NetworkManager tells or guesses. Where there is no NetworkManager, nobody knows of
-/// limits. It asks when it is asked, waits for nobody and starts nothing. Owned by the application.
+/// How the machine is connected: whether it has a default route, by the kernel's tables, and
+/// whether that is metered, by NetworkManager; without NetworkManager no connection counts as
+/// metered. Never blocks and activates no service. Owned by the application.
 class ConnectionCost final : public QObject, public NetworkCost
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ namespace ferrin {
 class DesktopLinkOpener final : public LinkOpener
 {
 public:
-    /// The names as `currentDesktopNames()` tells them. The starter outlives this.
+    /// The names as `currentDesktopNames()` returns them. The starter outlives this.
     DesktopLinkOpener(ProgramStarter &starter, QStringList desktops);
 
     void open(const QUrl &link) override;

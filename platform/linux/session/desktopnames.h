@@ -8,7 +8,7 @@
 namespace ferrin {
 
 /// What the running desktop calls itself, the most particular name first: "ubuntu", "GNOME". Empty
-/// where nothing tells.
+/// where none is set.
 [[nodiscard]] QStringList currentDesktopNames();
 
 } // namespace ferrin

@@ -16,7 +16,7 @@ namespace ferrin {
 class DesktopPackageInstaller final : public PackageInstaller
 {
 public:
-    /// The names as `currentDesktopNames()` tells them. The starter outlives this.
+    /// The names as `currentDesktopNames()` returns them. The starter outlives this.
     DesktopPackageInstaller(ProgramStarter &starter, QStringList desktops);
 
     [[nodiscard]] bool install(const QString &path) override;

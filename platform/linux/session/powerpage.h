@@ -11,7 +11,7 @@
 namespace ferrin {
 
 /// The programs that show the power page of the desktop with these names, as
-/// `currentDesktopNames()` tells them, the best one first. Empty where no page is known.
+/// `currentDesktopNames()` returns them, the best one first. Empty where no page is known.
 [[nodiscard]] QList<CommandLine> powerPagesOf(const QStringList &desktops);
 
 } // namespace ferrin

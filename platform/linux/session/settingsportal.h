@@ -13,9 +13,9 @@ class QDBusVariant;
 
 namespace ferrin {
 
-/// The desktop's settings, as its portal tells them. Each setting that is watched is asked for
-/// once, without waiting, again whenever the portal comes to the bus, and followed by the portal's
-/// own signal. Where there is no portal, or none of that setting, nothing is ever told.
+/// The desktop's settings, from its portal. Each watched setting is read once without blocking,
+/// again whenever the portal appears on the bus, and followed by the portal's own signal. Where
+/// there is no portal, or it lacks the setting, no signal comes.
 class SettingsPortal : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ class SettingsPortal : public QObject
 public:
     explicit SettingsPortal(const QDBusConnection &session, QObject *parent = nullptr);
 
-    /// Tells the setting by `valueChanged` now and at each change.
+    /// Emits `valueChanged` for the setting soon, and at each change.
     void watch(const QString &group, const QString &key);
 
 Q_SIGNALS:

@@ -22,8 +22,8 @@ public:
     SingleInstance(QDBusConnection session, QString name);
     ~SingleInstance() override;
 
-    /// False when another run has the name, which then stays the other's. Without a bus nobody can
-    /// tell: that costs one log line and counts as being the only one.
+    /// False when another run has the name, which then stays the other's. Without a bus it
+    /// counts as the only one, with one log line.
     [[nodiscard]] bool acquire();
 
     /// Asks the run that has the name to show itself, and waits until it has heard of it.

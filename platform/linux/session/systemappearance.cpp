@@ -19,7 +19,7 @@ const QString schemeGroup = u"org.freedesktop.appearance"_s;
 const QString schemeKey = u"color-scheme"_s;
 const QString gnomeGroup = u"org.gnome.desktop.interface"_s;
 const QString gnomeFontKey = u"font-name"_s;
-// Only KDE's portal tells this one, so where it is told it is the right one of the two.
+// Only KDE's portal has this one, so where it is there it is the right one of the two.
 const QString kdeFontGroup = u"org.kde.kdeglobals.General"_s;
 const QString kdeFontKey = u"font"_s;
 const QString gnomeAnimationsKey = u"enable-animations"_s;

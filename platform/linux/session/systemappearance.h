@@ -48,7 +48,7 @@ private:
 
     SettingsPortal m_portal;
     std::optional<Appearance> m_forced;
-    /// The desktop's preference; absent when it has none or does not tell.
+    /// The desktop's preference; absent when it has none.
     std::optional<bool> m_desktopPrefersDark;
     QString m_gnomeFont;
     QString m_kdeFont;

@@ -10,7 +10,7 @@ class QSocketNotifier;
 
 namespace ferrin {
 
-/// Ends the event loop, with 0, when the process is told to end (SIGTERM, SIGINT, SIGHUP) or the
+/// Ends the event loop, with 0, when the process is asked to end (SIGTERM, SIGINT, SIGHUP) or the
 /// session's bus goes away. A second signal of the same kind ends the process at once, in case the
 /// first finds nobody listening. There is one, owned by the application; it closes nothing itself.
 class Termination : public QObject

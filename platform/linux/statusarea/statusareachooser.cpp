@@ -21,7 +21,7 @@ namespace ferrin {
 namespace {
 
 // A panel that has both kinds of status area takes the tray a moment before or after the other.
-constexpr std::chrono::milliseconds patienceWithTray = 500ms;
+constexpr std::chrono::milliseconds timeoutWithTray = 500ms;
 
 } // namespace
 
@@ -38,8 +38,8 @@ StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *pa
         connect(&m_notifierBar->resolver(), &HostResolver::found, this,
                 &StatusAreaChooser::hostFound);
     }
-    m_patienceTimer.setSingleShot(true);
-    connect(&m_patienceTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);
+    m_hostTimer.setSingleShot(true);
+    connect(&m_hostTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);
 }
 
 StatusAreaChooser::~StatusAreaChooser() = default;
@@ -47,6 +47,7 @@ StatusAreaChooser::~StatusAreaChooser() = default;
 void StatusAreaChooser::setAppearance(const StatusAreaAppearance &appearance)
 {
     m_plasmaColors.refresh();
+    m_waybarColors.setDesktopDark(appearance.desktopPrefersDark);
     m_colors.setAppearance(appearance);
 }
 
@@ -69,16 +70,23 @@ void StatusAreaChooser::followHosts()
 void StatusAreaChooser::follow(FileColors &colors, QLatin1StringView panel)
 {
     connect(&colors, &FileColors::changed, this,
-            [this, &colors, panel] { m_colors.setPanelText(panel, colors.text()); });
+            [this, &colors, panel] { useColors(colors, panel); });
 }
 
-void StatusAreaChooser::hostFound(const HostProfile &profile, uint processId)
+void StatusAreaChooser::useColors(const FileColors &colors, QLatin1StringView panel)
+{
+    m_colors.setPanelText(panel, colors.text());
+    m_colors.setPanelUncertain(panel, colors.isUncertain());
+}
+
+void StatusAreaChooser::hostFound(const HostProfile &profile, const HostProcess &process)
 {
     if (profile.name == "lxqt-panel"_L1)
         m_lxqtColors.start();
     if (profile.name == "waybar"_L1) {
-        m_waybarColors.setArguments(argumentsFromKernel(processId));
+        m_waybarColors.addBar(process.id, process.arguments);
         m_waybarColors.start();
+        useColors(m_waybarColors, profile.name);
     }
 }
 
@@ -123,8 +131,8 @@ bool StatusAreaChooser::isHostPresent() const
 
 void StatusAreaChooser::waitForHost()
 {
-    m_patienceTimer.start(m_trayOwner->window() ? std::min(m_patience, patienceWithTray)
-                                                : m_patience);
+    m_hostTimer.start(m_trayOwner->window() ? std::min(m_hostTimeout, timeoutWithTray)
+                                            : m_hostTimeout);
 }
 
 void StatusAreaChooser::hostPresentChanged(bool present)
@@ -133,7 +141,7 @@ void StatusAreaChooser::hostPresentChanged(bool present)
         waitForHost();
         return;
     }
-    m_patienceTimer.stop();
+    m_hostTimer.stop();
     if (m_ownBar || m_trayBar)
         useStatusNotifier();
 }
@@ -159,7 +167,7 @@ void StatusAreaChooser::standIn()
 
 void StatusAreaChooser::goWithout()
 {
-    if (!std::exchange(m_isWantTold, true))
+    if (!std::exchange(m_isLackLogged, true))
         qCInfo(logger, "This session has no place for an item; start Ferrin again to open it");
 }
 
@@ -176,7 +184,7 @@ void StatusAreaChooser::useTray()
     emptyItem();
     OwnBar *const former = m_ownBar.release();
     m_trayBar = std::make_unique<TrayBar>(m_colors);
-    tellOfItem(former);
+    announceItem(former);
     m_trayBar->item()->dockInto(m_trayOwner->window());
 }
 
@@ -187,7 +195,7 @@ void StatusAreaChooser::useOwnBar()
     emptyItem();
     TrayBar *const former = m_trayBar.release();
     m_ownBar = std::make_unique<OwnBar>(m_colors, m_store);
-    tellOfItem(former);
+    announceItem(former);
     m_ownBar->show();
 }
 
@@ -199,13 +207,13 @@ void StatusAreaChooser::useStatusNotifier()
         ownBar->hide();
         former = ownBar;
     }
-    tellOfItem(former);
+    announceItem(former);
 }
 
-void StatusAreaChooser::tellOfItem(StatusBar *former)
+void StatusAreaChooser::announceItem(StatusBar *former)
 {
     Q_EMIT itemAvailable(item());
-    // Whoever used the former bar's item might do so until now.
+    // Its users have let go of the former bar's item only now.
     if (former)
         former->deleteLater();
 }

@@ -4,9 +4,10 @@
 #pragma once
 
 #include "platform/linux/panelcolors/barcolors.h"
+#include "platform/linux/panelcolors/lxqtcolors.h"
 #include "platform/linux/panelcolors/panelcolors.h"
-#include "platform/linux/panelcolors/panelsheets.h"
 #include "platform/linux/panelcolors/plasmacolors.h"
+#include "platform/linux/panelcolors/waybarcolors.h"
 #include "platform/linux/panelcolors/windowmanagersocket.h"
 
 #include <QDBusConnection>
@@ -19,6 +20,7 @@
 namespace ferrin {
 
 class DefaultsStore;
+struct HostProcess;
 struct HostProfile;
 class OwnBar;
 class StatusBar;
@@ -29,9 +31,9 @@ class TrayColors;
 class TrayOwner;
 
 /// Decides where the application's item stands: in the desktop's status area when there is one,
-/// else in the X11 tray of somebody's bar, else in a small bar of our own. The item is offered to
-/// the desktop from the first moment and for ever; another place is taken when no host has been
-/// seen for the patience, and given up as soon as one comes. Where there is none, it says so once.
+/// else in the X11 tray of another program's bar, else in a small bar of our own. The item stays
+/// offered to the desktop all the time; another place is taken when no host has appeared within the
+/// timeout, and given up as soon as one does. Where there is no place at all, the log says so once.
 /// Owned by the application; never touches what the item shows.
 class StatusAreaChooser : public QObject
 {
@@ -44,7 +46,7 @@ public:
 
     /// How long a status area may take to come, or to come back after a crash, before another place
     /// stands in for it. Where there is a tray, it takes no longer than panels that bring both.
-    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+    void setHostTimeout(std::chrono::milliseconds timeout) { m_hostTimeout = timeout; }
 
     /// What remembers where the user keeps the own bar; it outlives this. Call before `start`.
     void setStore(DefaultsStore &store) { m_store = &store; }
@@ -52,7 +54,7 @@ public:
     /// How the desktop looks and what the user forced. Call before `start` and at every change.
     void setAppearance(const StatusAreaAppearance &appearance);
 
-    /// Offers the item to the desktop and tells of it at once by `itemAvailable`.
+    /// Offers the item to the desktop and announces it at once by `itemAvailable`.
     void start();
 
     /// The bar in use, from `start` on.
@@ -61,14 +63,15 @@ public:
     [[nodiscard]] StatusItem *item() const;
 
 Q_SIGNALS:
-    /// The item to use from now on: fill it and listen to it. The one told before lost its content
-    /// and says nothing any more; it may be deleted on return to the event loop.
+    /// The item to use from now on: fill it and listen to it. The previous one has lost its
+    /// content, emits nothing any more and may be deleted on return to the event loop.
     void itemAvailable(ferrin::StatusItem *item);
 
 private:
     void followHosts();
     void follow(FileColors &colors, QLatin1StringView panel);
-    void hostFound(const HostProfile &profile, uint processId);
+    void useColors(const FileColors &colors, QLatin1StringView panel);
+    void hostFound(const HostProfile &profile, const HostProcess &process);
     void readTrayColors();
     void hostPresentChanged(bool present);
     void trayOwnerChanged();
@@ -80,8 +83,8 @@ private:
     void useOwnBar();
     void goWithout();
     void useStatusNotifier();
-    /// Tells of the item that is in use now, and lets go of the former bar after that.
-    void tellOfItem(StatusBar *former);
+    /// Announces the item that is in use now, then deletes the former bar.
+    void announceItem(StatusBar *former);
 
     PanelColors m_colors;
     DefaultsStore *m_store = nullptr;
@@ -97,9 +100,9 @@ private:
     /// The bars that stand in: both null while the desktop's status area is in use, else one.
     std::unique_ptr<TrayBar> m_trayBar;
     std::unique_ptr<OwnBar> m_ownBar;
-    bool m_isWantTold = false;
-    QTimer m_patienceTimer;
-    std::chrono::milliseconds m_patience { 3000 };
+    bool m_isLackLogged = false;
+    QTimer m_hostTimer;
+    std::chrono::milliseconds m_hostTimeout { 3000 };
 };
 
 } // namespace ferrin

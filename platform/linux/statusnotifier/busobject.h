@@ -35,7 +35,7 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) final;
 
 protected:
-    /// Who asks for properties: what the derived object knows of the caller.
+    /// Looks up a property for one caller.
     using Properties = std::function<QVariant(const QString &name)>;
 
     /// Hands over a look-up of properties for this caller, now or later; the look-up answers

@@ -4,6 +4,7 @@
 #include "platform/linux/statusnotifier/dbusmenu.h"
 
 #include "platform/linux/statusnotifier/dbusmenutypes.h"
+#include "platform/linux/statusnotifier/hostresolver.h"
 #include "platform/linux/statusnotifier/hosttable.h"
 
 #include <algorithm>
@@ -100,10 +101,23 @@ QStringList DBusMenu::propertyNames() const
     return { u"Version"_s, u"TextDirection"_s, u"Status"_s, u"IconThemePath"_s };
 }
 
+bool DBusMenu::leadsToWindows(const HostProfile &profile) const
+{
+    switch (profile.menu) {
+    case MenuUse::Secondary:
+        return false;
+    case MenuUse::EveryClick:
+        return true;
+    case MenuUse::IndicatorsOnEveryClick:
+        return resolver().hasIndicatorService();
+    }
+    Q_UNREACHABLE();
+}
+
 QList<int> DBusMenu::numbersFor(const HostProfile &profile) const
 {
     QList<int> numbers;
-    if (profile.clickOpensMenu)
+    if (leadsToWindows(profile))
         numbers = { stateNumber, openNumber, settingsNumber, separatorNumber };
     for (int number = 1; std::cmp_less_equal(number, m_entries.size()); ++number)
         numbers.append(number);
@@ -203,9 +217,9 @@ QVariantList DBusMenu::takeEvents(const QList<int> &all, const QVariant &events)
     return { QVariant::fromValue(unknown) };
 }
 
-void DBusMenu::tellState(const QString &caller, const HostProfile &profile)
+void DBusMenu::announceState(const QString &caller, const HostProfile &profile)
 {
-    if (!profile.clickOpensMenu || !std::exchange(m_isStateNew, false))
+    if (!leadsToWindows(profile) || !std::exchange(m_isStateNew, false))
         return;
     const QList<DBusMenuProperties> changed { { stateNumber,
                                                 entryProperties(stateNumber, { u"label"_s }) } };
@@ -234,11 +248,11 @@ std::optional<QVariantList> DBusMenu::call(const QDBusMessage &message, const Ho
     if (method == u"EventGroup(a(isvu))")
         return takeEvents(all, arguments.at(0));
     if (method == u"AboutToShow(i)") {
-        tellState(message.service(), profile);
+        announceState(message.service(), profile);
         return optionally(has(all, arguments.at(0).toInt()), { false });
     }
     if (method == u"AboutToShowGroup(ai)") {
-        tellState(message.service(), profile);
+        announceState(message.service(), profile);
         const QList<int> unknown = unknownAmong(all, qdbus_cast<QList<int>>(arguments.at(0)));
         return QVariantList { QVariant::fromValue(QList<int>()), QVariant::fromValue(unknown) };
     }

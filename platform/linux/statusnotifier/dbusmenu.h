@@ -11,9 +11,8 @@
 namespace ferrin {
 
 /// The item's context menu on the bus, com.canonical.dbusmenu at /MenuBar: a flat list of entries
-/// under the root. Entry n of the list has the number n + 1; the root is 0. Where a click on the
-/// item opens this menu, it answers in the place of the dashboard: above the entries stand the
-/// state in words and the ways to the windows.
+/// under the root. Entry n of the list has the number n + 1; the root is 0. For hosts that open
+/// it on every click it also shows the state in words and the entries that open the windows.
 class DBusMenu final : public BusObject
 {
     Q_OBJECT
@@ -27,7 +26,7 @@ public:
     [[nodiscard]] const std::vector<MenuEntry> &entries() const noexcept { return m_entries; }
     void setEntries(const std::vector<MenuEntry> &entries);
 
-    /// What the item shows, in words. A host hears of it when it is about to show the menu.
+    /// What the item shows, in words. Announced to a host when it is about to show the menu.
     void setState(const QString &words);
 
 Q_SIGNALS:
@@ -43,6 +42,8 @@ protected:
                                                    const HostProfile &profile) override;
 
 private:
+    /// Such a host opens the menu where others activate the item.
+    [[nodiscard]] bool leadsToWindows(const HostProfile &profile) const;
     /// The numbers of what such a host is given, from top to bottom.
     [[nodiscard]] QList<int> numbersFor(const HostProfile &profile) const;
     [[nodiscard]] QVariantMap entryProperties(int number, const QStringList &names) const;
@@ -55,12 +56,12 @@ private:
     [[nodiscard]] bool takeEvent(const QList<int> &all, int number, const QString &event);
     [[nodiscard]] QVariantList takeEvents(const QList<int> &all, const QVariant &events);
     void trigger(int number);
-    /// Tells a host that shows the state of new words, for which alone it would not ask again.
-    void tellState(const QString &caller, const HostProfile &profile);
+    /// Announces new words to a host that shows them; it does not ask again by itself.
+    void announceState(const QString &caller, const HostProfile &profile);
 
     std::vector<MenuEntry> m_entries;
     QString m_state;
-    /// The words have changed since a host that shows them was last told.
+    /// The words have changed since they were last announced.
     bool m_isStateNew = false;
     uint m_revision = 1;
 };

@@ -7,7 +7,9 @@
 
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QFile>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,24 +17,17 @@ namespace ferrin {
 
 namespace {
 
-// More callers than this at a time are no hosts; they need not be remembered.
+// No session has this many hosts; further callers are not remembered.
 constexpr qsizetype mostCallers = 64;
 
 } // namespace
 
-QString processNameFromKernel(uint processId)
-{
-    QFile comm(u"/proc/%1/comm"_s.arg(processId));
-    if (!comm.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(comm.read(64)).trimmed();
-}
-
-HostResolver::HostResolver(const QDBusConnection &connection, ProcessName processName,
+HostResolver::HostResolver(const QDBusConnection &connection, LookUp lookUp, QStringList desktops,
                            QObject *parent)
     : QObject(parent)
     , m_connection(connection)
-    , m_processName(std::move(processName))
+    , m_lookUp(std::move(lookUp))
+    , m_desktops(std::move(desktops))
 {
     m_departures.setConnection(connection);
     m_departures.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
@@ -52,7 +47,7 @@ void HostResolver::resolve(const QString &uniqueName, Answer answer)
         return;
     }
     if (m_callers.size() >= mostCallers) {
-        answer(mixedProfile());
+        answer(unknownProfile());
         return;
     }
     m_callers[uniqueName].waiting.push_back(std::move(answer));
@@ -62,23 +57,30 @@ void HostResolver::resolve(const QString &uniqueName, Answer answer)
 void HostResolver::ask(const QString &uniqueName)
 {
     m_departures.addWatchedService(uniqueName);
-    QDBusMessage question = QDBusMessage::createMethodCall(
+    QDBusMessage call = QDBusMessage::createMethodCall(
         u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s,
         u"GetConnectionUnixProcessID"_s);
-    question.setArguments({ uniqueName });
-    callAsync(m_connection, question, this, [this, uniqueName](const QDBusMessage &message) {
+    call.setArguments({ uniqueName });
+    callAsync(m_connection, call, this, [this, uniqueName](const QDBusMessage &message) {
         const QDBusReply<uint> reply = message;
-        if (!reply.isValid()) {
-            settle(uniqueName, mixedProfile());
+        if (reply.isValid()) {
+            processFound(uniqueName, m_lookUp(reply.value()));
             return;
         }
-        const HostProfile &profile = profileForProcess(m_processName(reply.value()));
-        Q_EMIT found(profile, reply.value());
-        settle(uniqueName, profile);
+        // It has left before it was known, so its departure will not be announced.
+        answerWaiting(uniqueName, unknownProfile());
+        callerLeft(uniqueName);
     });
 }
 
-void HostResolver::settle(const QString &uniqueName, const HostProfile &profile)
+void HostResolver::processFound(const QString &uniqueName, const HostProcess &process)
+{
+    const HostProfile &profile = profileFor(process, m_desktops);
+    Q_EMIT found(profile, process);
+    answerWaiting(uniqueName, profile);
+}
+
+void HostResolver::answerWaiting(const QString &uniqueName, const HostProfile &profile)
 {
     const auto caller = m_callers.find(uniqueName);
     if (caller == m_callers.end())
@@ -87,6 +89,13 @@ void HostResolver::settle(const QString &uniqueName, const HostProfile &profile)
     const std::vector<Answer> waiting = std::exchange(caller->waiting, {});
     for (const Answer &answer : waiting)
         answer(profile);
+}
+
+bool HostResolver::hasIndicatorService() const
+{
+    return std::any_of(m_callers.cbegin(), m_callers.cend(), [](const Caller &caller) {
+        return caller.profile && caller.profile->iconName;
+    });
 }
 
 void HostResolver::callerLeft(const QString &uniqueName)

@@ -16,26 +16,30 @@
 namespace ferrin {
 
 /// Knows what kind of host stands behind a caller's unique bus name: the bus tells the process, the
-/// kernel its name. Asks once a caller and never waits; a caller of whom nothing can be learnt gets
-/// the mixed profile.
+/// kernel its name and arguments. Asks once for each caller, without blocking; a caller of which
+/// nothing can be learnt gets the profile of unknown hosts.
 class HostResolver : public QObject
 {
     Q_OBJECT
 
 public:
-    using ProcessName = std::function<QString(uint processId)>;
+    using LookUp = std::function<HostProcess(uint processId)>;
     using Answer = std::function<void(const HostProfile &)>;
 
-    explicit HostResolver(const QDBusConnection &connection, ProcessName processName,
-                          QObject *parent = nullptr);
+    /// `desktops` are the names of the running desktop.
+    HostResolver(const QDBusConnection &connection, LookUp lookUp, QStringList desktops = {},
+                 QObject *parent = nullptr);
 
     /// Calls `answer` at once if the caller is known, else when it is. Answers come in the order of
-    /// the questions; none comes after the resolver is gone.
+    /// the calls; none comes after the resolver is gone.
     void resolve(const QString &uniqueName, Answer answer);
+
+    /// Whether a caller that draws icons by their names, an indicator service, is on the bus.
+    [[nodiscard]] bool hasIndicatorService() const;
 
 Q_SIGNALS:
     /// A caller has turned out to be such a host; it has not been answered yet.
-    void found(const ferrin::HostProfile &profile, uint processId);
+    void found(const ferrin::HostProfile &profile, const ferrin::HostProcess &process);
     /// The caller has left the bus.
     void left(const QString &uniqueName);
 
@@ -48,16 +52,15 @@ private:
     };
 
     void ask(const QString &uniqueName);
-    void settle(const QString &uniqueName, const HostProfile &profile);
+    void processFound(const QString &uniqueName, const HostProcess &process);
+    void answerWaiting(const QString &uniqueName, const HostProfile &profile);
     void callerLeft(const QString &uniqueName);
 
     QDBusConnection m_connection;
-    ProcessName m_processName;
+    LookUp m_lookUp;
+    QStringList m_desktops;
     QDBusServiceWatcher m_departures;
     QHash<QString, Caller> m_callers;
 };
-
-/// The name that the kernel has for the process; empty when there is none such.
-[[nodiscard]] QString processNameFromKernel(uint processId);
 
 } // namespace ferrin

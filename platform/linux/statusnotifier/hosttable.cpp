@@ -14,6 +14,10 @@ namespace {
 
 using enum ItemForm;
 
+// A host that does not choose takes the first, others the smallest that fits or the largest.
+constexpr std::array unknownPictures { OfferedPicture { Square, 22 }, OfferedPicture { Square, 16 },
+                                       OfferedPicture { Square, 24 }, OfferedPicture { Square, 32 },
+                                       OfferedPicture { Square, 48 } };
 // Xfce draws 22 px whatever the height of its panel and takes the largest picture, which it then
 // shrinks softly: so this one alone.
 constexpr std::array xfcePictures { OfferedPicture { Square, 22 } };
@@ -34,23 +38,22 @@ constexpr std::array matePictures { OfferedPicture { Wide, 24 }, OfferedPicture 
                                     OfferedPicture { Wide, 26 }, OfferedPicture { Wide, 22 },
                                     OfferedPicture { Wide, 28 }, OfferedPicture { Wide, 30 },
                                     OfferedPicture { Wide, 23 }, OfferedPicture { Wide, 27 },
-                                    OfferedPicture { Wide, 20 }, OfferedPicture { Wide, 24, 2 },
-                                    OfferedPicture { Wide, 29 }, OfferedPicture { Wide, 21 } };
+                                    OfferedPicture { Wide, 20 }, OfferedPicture { Wide, 29 },
+                                    OfferedPicture { Wide, 21 }, OfferedPicture { Wide, 36 } };
 constexpr std::array cinnamonPictures { OfferedPicture { Wide, 24, 1 },
                                         OfferedPicture { Wide, 24, 2 } };
 constexpr std::array gnomePictures { OfferedPicture { Glyph, 16, 1 },
                                      OfferedPicture { Glyph, 16, 2 } };
-// Wide ones first, for hosts that take the first; the widest has the largest area, for hosts that
-// take the largest; squares for hosts that refuse anything else.
-constexpr std::array mixedPictures {
-    OfferedPicture { Wide, 22, 1 }, OfferedPicture { Wide, 24, 1 }, OfferedPicture { Wide, 24, 2 },
-    OfferedPicture { Square, 16 },  OfferedPicture { Square, 22 },  OfferedPicture { Square, 24 },
-    OfferedPicture { Square, 32 },  OfferedPicture { Square, 48 }
-};
+
+// Named, because the rows below and the rules further down share them.
+constexpr auto xfce = "xfce4-panel"_L1;
+constexpr auto cinnamon = "xapp-sn-watcher"_L1;
+constexpr auto xappElsewhere = "xapp-sn-watcher outside Cinnamon"_L1;
+constexpr auto indicatorPanel = "indicator panel"_L1;
 
 const std::array profiles {
-    HostProfile { .name = "mixed"_L1, .pictures = mixedPictures },
-    HostProfile { .name = "xfce4-panel"_L1,
+    HostProfile { .name = "unknown"_L1, .pictures = unknownPictures, .menu = MenuUse::EveryClick },
+    HostProfile { .name = xfce,
                   .pictures = xfcePictures,
                   .scale = ScalePolicy::DesktopOnly,
                   .trustedClicks = true },
@@ -69,15 +72,36 @@ const std::array profiles {
                   .trustedClicks = true },
     HostProfile {
         .name = "waybar"_L1, .pictures = waybarPictures, .scale = ScalePolicy::DesktopOnly },
-    HostProfile { .name = "notification-area-applet"_L1, .pictures = matePictures },
-    HostProfile { .name = "xapp-sn-watcher"_L1, .pictures = cinnamonPictures },
+    HostProfile {
+        .name = "notification-area-applet"_L1, .pictures = matePictures, .panelHeights = true },
+    HostProfile { .name = cinnamon, .pictures = cinnamonPictures },
+    // The watcher of the XApp applets, which fit everything into a square everywhere but on
+    // Cinnamon.
+    HostProfile { .name = xappElsewhere, .pictures = panelSquares },
     HostProfile { .name = "gnome-shell"_L1,
                   .pictures = gnomePictures,
                   .scale = ScalePolicy::DesktopOnly,
                   .text = PanelText::Light,
                   .label = true,
-                  .clickOpensMenu = true },
+                  .menu = MenuUse::EveryClick },
+    HostProfile { .name = "budgie-panel"_L1,
+                  .pictures = panelSquares,
+                  .menu = MenuUse::IndicatorsOnEveryClick },
+    HostProfile {
+        .name = "enlightenment"_L1, .pictures = panelSquares, .menu = MenuUse::EveryClick },
+    // The indicator service reads the item, and passes its name and label on to an applet in a
+    // panel's process, which reads nothing but the menu.
+    HostProfile { .name = "ayatana-indicator-application"_L1,
+                  .label = true,
+                  .iconName = true,
+                  .menu = MenuUse::EveryClick },
+    HostProfile { .name = indicatorPanel, .pictures = panelSquares, .menu = MenuUse::EveryClick },
 };
+
+const HostProfile &rowNamed(QLatin1StringView name)
+{
+    return *std::ranges::find(profiles, name, &HostProfile::name);
+}
 
 // The kernel cuts the name of a process.
 constexpr qsizetype longestName = 15;
@@ -91,11 +115,11 @@ bool isProcess(QStringView processName, QLatin1StringView program)
         || processName == QStringView(wrapped).left(longestName);
 }
 
-// Xfce runs each panel plugin as a process of its own, "panel-7-systray".
-bool isXfceSystrayPlugin(QStringView processName)
+// Up to 4.18 Xfce names the process of a panel plugin "panel-7-systray".
+bool isXfcePlugin(QStringView processName, const QString &plugin)
 {
     constexpr auto prefix = "panel-"_L1;
-    const QString suffix = u"-systray"_s;
+    const QString suffix = u'-' + plugin;
     if (!processName.startsWith(prefix))
         return false;
     const auto *numberEnd = std::find_if_not(processName.begin() + prefix.size(), processName.end(),
@@ -106,19 +130,44 @@ bool isXfceSystrayPlugin(QStringView processName)
     return hasNumber && (isCut ? !rest.isEmpty() && suffix.startsWith(rest) : rest == suffix);
 }
 
-} // namespace
-
-const HostProfile &profileForProcess(QStringView processName)
+// From 4.20 on the process keeps the wrapper's name, and its second word is the plugin's library.
+bool isXfceWrapperOf(const HostProcess &process, QLatin1StringView library)
 {
-    if (isXfceSystrayPlugin(processName))
-        return profileForProcess(u"xfce4-panel");
-    const auto row = std::find_if(
-        profiles.begin() + 1, profiles.end(),
-        [processName](const HostProfile &profile) { return isProcess(processName, profile.name); });
-    return row == profiles.end() ? mixedProfile() : *row;
+    return process.name.startsWith("wrapper-"_L1)
+        && process.arguments.value(1).endsWith(u'/' + library);
 }
 
-const HostProfile &mixedProfile()
+bool isIndicatorPanel(const HostProcess &process)
+{
+    return isProcess(process.name, "mate-indicator-applet"_L1)
+        || isProcess(process.name, "mate-indicator-applet-complete"_L1)
+        || isXfcePlugin(process.name, u"indicator-plugin"_s)
+        || isXfceWrapperOf(process, "libindicator-plugin.so"_L1);
+}
+
+bool isCinnamon(const QStringList &desktops)
+{
+    return desktops.contains("X-Cinnamon"_L1) || desktops.contains("Cinnamon"_L1);
+}
+
+} // namespace
+
+const HostProfile &profileFor(const HostProcess &process, const QStringList &desktops)
+{
+    if (isXfcePlugin(process.name, u"systray"_s) || isXfceWrapperOf(process, "libsystray.so"_L1))
+        return rowNamed(xfce);
+    if (isIndicatorPanel(process))
+        return rowNamed(indicatorPanel);
+    if (isProcess(process.name, cinnamon) && !isCinnamon(desktops))
+        return rowNamed(xappElsewhere);
+    const auto row
+        = std::find_if(profiles.begin() + 1, profiles.end(), [&](const HostProfile &profile) {
+              return isProcess(process.name, profile.name);
+          });
+    return row == profiles.end() ? unknownProfile() : *row;
+}
+
+const HostProfile &unknownProfile()
 {
     return profiles.front();
 }

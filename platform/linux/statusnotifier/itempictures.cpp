@@ -5,15 +5,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace ferrin {
 
 namespace {
 
-// Several hosts read every property at every signal; a message beyond this is a burden to them.
+// Bytes. Several hosts read every property at every signal, so a message has to stay small.
 constexpr qsizetype byteBudget = 60'000;
 
-// Nobody has more device pixels to a logical one.
+// Device pixels to a logical one.
 constexpr qreal greatestDensity = 3;
 // A desktop at 1.25 is better served by one pixel too few than by nearly twice as many.
 constexpr qreal fractionIgnored = 0.25;
@@ -30,14 +31,37 @@ qreal densityFor(const HostProfile &profile, const OfferedPicture &offer, qreal 
     Q_UNREACHABLE();
 }
 
-IconPixmapList paintAll(const HostProfile &profile, const ItemContent &content,
-                        const ViewContext &context, qreal desktopScale)
+// Taller panels have more room than the item needs.
+constexpr int tallestPanel = 64;
+constexpr int lowestPanel = 20;
+
+std::vector<OfferedPicture> offersFor(const HostProfile &profile, const QList<int> &panelHeights)
 {
+    std::vector<OfferedPicture> offers;
+    const auto add = [&offers](const OfferedPicture &offer) {
+        if (std::ranges::find(offers, offer) == offers.end())
+            offers.push_back(offer);
+    };
+    for (const int height : panelHeights) {
+        if (height >= lowestPanel && height <= tallestPanel)
+            add({ .form = profile.pictures.front().form, .height = height });
+    }
+    std::ranges::for_each(profile.pictures, add);
+    return offers;
+}
+
+IconPixmapList paintAll(const HostProfile &profile, const ItemContent &content,
+                        const ViewContext &context, const ItemPictures::Surroundings &surroundings)
+{
+    constexpr qreal finestCoarseScale = 1.5;
+    ViewContext onScreen = context;
+    onScreen.isCoarse = surroundings.desktopScale < finestCoarseScale;
     IconPixmapList pictures;
     qsizetype bytes = 0;
-    for (const OfferedPicture &offer : profile.pictures) {
-        const QImage image = paintForm(offer.form, content, offer.height,
-                                       densityFor(profile, offer, desktopScale), context);
+    for (const OfferedPicture &offer : offersFor(profile, surroundings.panelHeights)) {
+        const QImage image
+            = paintForm(offer.form, content, offer.height,
+                        densityFor(profile, offer, surroundings.desktopScale), onScreen);
         if (bytes + image.sizeInBytes() > byteBudget && !pictures.isEmpty())
             continue;
         bytes += image.sizeInBytes();
@@ -49,17 +73,18 @@ IconPixmapList paintAll(const HostProfile &profile, const ItemContent &content,
 } // namespace
 
 const IconPixmapList &ItemPictures::pictures(const HostProfile &profile, const ItemContent &content,
-                                             const ViewContext &context, qreal desktopScale)
+                                             const ViewContext &context,
+                                             const Surroundings &surroundings)
 {
     Painted &painted = m_painted[&profile];
-    const bool isCurrent
-        = painted.scale == desktopScale && painted.content == content && painted.context == context;
+    const bool isCurrent = painted.surroundings == surroundings && painted.content == content
+        && painted.context == context;
     if (isCurrent)
         return painted.pictures;
     painted.content = content;
     painted.context = context;
-    painted.scale = desktopScale;
-    painted.pictures = paintAll(profile, content, context, desktopScale);
+    painted.surroundings = surroundings;
+    painted.pictures = paintAll(profile, content, context, surroundings);
     return painted.pictures;
 }
 

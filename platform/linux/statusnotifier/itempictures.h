@@ -16,13 +16,23 @@ namespace ferrin {
 class ItemPictures
 {
 public:
+    struct Surroundings
+    {
+        /// Device pixels to a logical one.
+        qreal desktopScale = 1;
+        /// The thickness of the panels on the screen, in device pixels.
+        QList<int> panelHeights {};
+
+        bool operator==(const Surroundings &) const = default;
+    };
+
     /// The pictures of the content for such a host, in the order in which they are offered.
-    /// `desktopScale` is in device pixels a logical one.
     [[nodiscard]] const IconPixmapList &pictures(const HostProfile &profile,
                                                  const ItemContent &content,
-                                                 const ViewContext &context, qreal desktopScale);
+                                                 const ViewContext &context,
+                                                 const Surroundings &surroundings);
 
-    /// Lets go of the pictures for such hosts.
+    /// Drops the pictures for such hosts.
     void forget(const HostProfile &profile) { m_painted.remove(&profile); }
 
 private:
@@ -30,7 +40,8 @@ private:
     {
         ItemContent content;
         ViewContext context;
-        qreal scale = 0;
+        /// Of no desktop before the first painting.
+        Surroundings surroundings { .desktopScale = 0 };
         IconPixmapList pictures;
     };
 

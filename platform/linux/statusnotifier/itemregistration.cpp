@@ -28,12 +28,12 @@ QDBusMessage watcherCall(const QString &interface, const QString &method,
 {
     QDBusMessage call = QDBusMessage::createMethodCall(watcherName, watcherPath, interface, method);
     call.setArguments(arguments);
-    // The desktop starts its own watcher; it is not for us to start a foreign one.
+    // Activation might start the watcher of another desktop.
     call.setAutoStartService(false);
     return call;
 }
 
-bool saysThatNobodyIsThere(const QDBusError &error)
+bool isAbsent(const QDBusError &error)
 {
     return error.type() == QDBusError::ServiceUnknown
         || error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner";
@@ -59,11 +59,11 @@ void ItemRegistration::start(const QString &serviceName)
     m_watcher.setConnection(m_connection);
     m_watcher.addWatchedService(watcherName);
     registerItem();
-    // From whomever: naming the sender would have Qt wait for its owner, and what these do is ask.
+    // Without a sender's name, for which Qt would block until it knows the owner.
     m_connection.connect({}, watcherPath, watcherName, u"StatusNotifierHostRegistered"_s, this,
-                         SLOT(hostRegistered()));
+                         SLOT(hostRegistered(QDBusMessage)));
     m_connection.connect({}, watcherPath, watcherName, u"StatusNotifierHostUnregistered"_s, this,
-                         SLOT(askForHost()));
+                         SLOT(hostUnregistered(QDBusMessage)));
 }
 
 void ItemRegistration::setFirstRetryDelay(std::chrono::milliseconds delay)
@@ -74,9 +74,10 @@ void ItemRegistration::setFirstRetryDelay(std::chrono::milliseconds delay)
 void ItemRegistration::watcherOwnerChanged(const QString &newOwner)
 {
     ++m_life;
+    m_owner = newOwner;
     m_retry.stop();
     m_retries = 0;
-    m_isTroubleTold = false;
+    m_isFailureLogged = false;
     setHostPresent(false);
     if (!newOwner.isEmpty())
         registerItem();
@@ -104,17 +105,18 @@ void ItemRegistration::registrationAnswered(QDBusMessage reply)
         registrationFailed(QDBusError(reply));
         return;
     }
+    m_owner = reply.service();
     m_retries = 0;
-    m_isTroubleTold = false;
+    m_isFailureLogged = false;
     Q_EMIT registered();
     askForHost();
 }
 
 void ItemRegistration::registrationFailed(const QDBusError &error)
 {
-    if (saysThatNobodyIsThere(error))
+    if (isAbsent(error))
         return;
-    if (!std::exchange(m_isTroubleTold, true))
+    if (!std::exchange(m_isFailureLogged, true))
         qCCritical(logger, "The status area did not take the item: %s",
                    qUtf8Printable(error.message()));
     if (m_retries == mostRetries)
@@ -132,20 +134,27 @@ void ItemRegistration::askForHost()
 
 void ItemRegistration::hostAnswered(QDBusMessage reply)
 {
-    // A watcher that does not say is believed to have one: it took the item.
-    if (reply.type() == QDBusMessage::ErrorMessage) {
-        setHostPresent(true);
-        return;
-    }
     const QVariant value = reply.arguments().value(0).value<QDBusVariant>().variant();
-    setHostPresent(value.metaType() != QMetaType::fromType<bool>() || value.toBool());
+    setHostPresent(reply.type() == QDBusMessage::ReplyMessage
+                   && value.metaType() == QMetaType::fromType<bool>() && value.toBool());
 }
 
-void ItemRegistration::hostRegistered()
+bool ItemRegistration::isFromWatcher(const QDBusMessage &signal) const
 {
-    // Some watchers tell a host only of the items that come after it.
-    if (!m_isHostPresent)
+    return !m_owner.isEmpty() && signal.service() == m_owner;
+}
+
+void ItemRegistration::hostRegistered(const QDBusMessage &signal)
+{
+    // Some watchers announce to a host only the items that come after it.
+    if (isFromWatcher(signal) && !m_isHostPresent)
         registerItem();
+}
+
+void ItemRegistration::hostUnregistered(const QDBusMessage &signal)
+{
+    if (isFromWatcher(signal))
+        askForHost();
 }
 
 void ItemRegistration::setHostPresent(bool present)

@@ -15,9 +15,9 @@ class QDBusMessage;
 
 namespace ferrin {
 
-/// Tells the desktop's watcher of our item: whenever a watcher appears, and again whenever it
-/// reappears, for ever. Knows from it whether a host shows items. Never waits for an answer, so a
-/// watcher that hangs or dies in the middle of a call costs nothing; each trouble is logged once.
+/// Registers our item with the desktop's watcher whenever one appears, as often as that happens,
+/// and learns from it whether a host shows items. Never blocks, so a watcher that hangs or dies in
+/// the middle of a call costs nothing; each failure is logged once.
 class ItemRegistration : public QObject
 {
     Q_OBJECT
@@ -28,22 +28,25 @@ public:
     /// `serviceName` is the bus name that the item is reached at.
     void start(const QString &serviceName);
 
-    /// How long a watcher that refused is left alone; each time twice as long, six times over.
+    /// After how long a registration that failed is tried again; each time twice as long, six
+    /// times.
     void setFirstRetryDelay(std::chrono::milliseconds delay);
 
     /// There is a watcher, and behind it a host that shows items.
     [[nodiscard]] bool isHostPresent() const noexcept { return m_isHostPresent; }
 
 Q_SIGNALS:
-    /// The watcher took the item.
+    /// The watcher has accepted the item.
     void registered();
     void hostPresentChanged(bool present);
 
 private Q_SLOTS:
-    void hostRegistered();
-    void askForHost();
+    void hostRegistered(const QDBusMessage &signal);
+    void hostUnregistered(const QDBusMessage &signal);
 
 private:
+    void askForHost();
+    [[nodiscard]] bool isFromWatcher(const QDBusMessage &signal) const;
     void watcherOwnerChanged(const QString &newOwner);
     void registerItem();
     void registrationFailed(const QDBusError &error);
@@ -55,10 +58,12 @@ private:
     QDBusConnection m_connection;
     QString m_serviceName;
     QDBusServiceWatcher m_watcher;
-    /// Counts the lives of the watcher, so that an answer of a former one is known as such.
+    /// The watcher's unique name; empty until it has answered.
+    QString m_owner;
+    /// Counts the owners of the watcher's name, to tell the replies of a former one.
     quint64 m_life = 0;
     bool m_isHostPresent = false;
-    bool m_isTroubleTold = false;
+    bool m_isFailureLogged = false;
     QTimer m_retry;
     std::chrono::milliseconds m_firstRetryDelay { 2000 };
     int m_retries = 0;

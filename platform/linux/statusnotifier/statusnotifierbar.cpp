@@ -21,11 +21,12 @@ QString itemServiceName()
 } // namespace
 
 StatusNotifierBar::StatusNotifierBar(const QDBusConnection &connection, const PanelColors &colors,
-                                     HostResolver::ProcessName processName, QObject *parent)
+                                     HostResolver::LookUp lookUp, QObject *parent)
     : StatusBar(parent)
     , m_connection(connection)
     , m_serviceName(itemServiceName())
-    , m_resolver(connection, std::move(processName))
+    , m_resolver(connection, std::move(lookUp),
+                 qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':'))
     , m_item(connection, m_resolver, colors)
     , m_registration(connection)
 {

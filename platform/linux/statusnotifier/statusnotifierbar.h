@@ -16,9 +16,9 @@ class StatusNotifierBar final : public StatusBar
     Q_OBJECT
 
 public:
-    /// `processName` says what the callers' processes are called.
+    /// `lookUp` describes the callers' processes.
     StatusNotifierBar(const QDBusConnection &connection, const PanelColors &colors,
-                      HostResolver::ProcessName processName = processNameFromKernel,
+                      HostResolver::LookUp lookUp = hostProcessFromKernel,
                       QObject *parent = nullptr);
     ~StatusNotifierBar() override;
 

@@ -3,12 +3,13 @@
 
 #include "platform/linux/statusnotifier/statusnotifieritem.h"
 
-#include "menubar/itemdrift.h"
 #include "platform/linux/panelcolors/panelcolors.h"
 #include "platform/linux/statusnotifier/hostresolver.h"
+#include "platform/linux/x11/x11dock.h"
 
 #include <QDBusObjectPath>
 #include <QGuiApplication>
+#include <QScreen>
 
 #include <algorithm>
 #include <utility>
@@ -34,12 +35,22 @@ QString withoutMarkup(QString text)
     return text.remove(u'<').remove(u'>').remove(u'&');
 }
 
+constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
+// The click that the token belongs to follows it at once.
+constexpr auto tokenLifetime = 5s;
+
 // Qt hands the token to the next window that asks for activation.
-void keepActivationToken(const QString &token)
+bool keepActivationToken(const QString &token)
 {
     constexpr qsizetype longestToken = 1024;
-    if (token.size() <= longestToken && !token.contains(QChar::Null))
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    if (token.size() > longestToken || token.contains(QChar::Null))
+        return false;
+    return qputenv(tokenVariable, token.toUtf8());
+}
+
+void forgetActivationToken()
+{
+    qunsetenv(tokenVariable);
 }
 
 } // namespace
@@ -51,11 +62,31 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection &connection, HostRe
     , m_colors(colors)
 {
     registerStatusNotifierTypes();
-    // A refresh changes several values, one after the other: they are one piece of news.
-    m_news.setSingleShot(true);
-    connect(&m_news, &QTimer::timeout, this, &StatusNotifierItem::sendNews);
+    m_update.setSingleShot(true);
+    m_update.setInterval(0ms);
+    connect(&m_update, &QTimer::timeout, this, &StatusNotifierItem::sendUpdate);
+    m_tokenExpiry.setSingleShot(true);
+    m_tokenExpiry.setInterval(tokenLifetime);
+    connect(&m_tokenExpiry, &QTimer::timeout, this, &forgetActivationToken);
     connect(&resolver, &HostResolver::left, this, &StatusNotifierItem::forget);
-    connect(&m_colors, &PanelColors::changed, this, [this] { scheduleNews(0ms); });
+    connect(&m_colors, &PanelColors::changed, this, &StatusNotifierItem::scheduleUpdate);
+    followScreens();
+}
+
+void StatusNotifierItem::followScreens()
+{
+    if (!qGuiApp)
+        return;
+    const auto follow = [this](const QScreen *screen) {
+        connect(screen, &QScreen::geometryChanged, this, &StatusNotifierItem::scheduleUpdate);
+        connect(screen, &QScreen::physicalDotsPerInchChanged, this,
+                &StatusNotifierItem::scheduleUpdate);
+    };
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, follow);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &StatusNotifierItem::scheduleUpdate);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &StatusNotifierItem::scheduleUpdate);
+    for (const QScreen *const screen : QGuiApplication::screens())
+        follow(screen);
 }
 
 void StatusNotifierItem::setContent(const ItemContent &content)
@@ -63,34 +94,29 @@ void StatusNotifierItem::setContent(const ItemContent &content)
     if (m_content == content)
         return;
     m_content = content;
-    const bool canWait = isDrift(m_told, m_content) && !m_peaceEnds.hasExpired();
-    scheduleNews(canWait ? std::chrono::milliseconds(m_peaceEnds.remainingTime()) : 0ms);
+    scheduleUpdate();
 }
 
-void StatusNotifierItem::setSilenced(bool isSilenced)
+void StatusNotifierItem::setToolTipEnabled(bool isEnabled)
 {
-    if (std::exchange(m_isSilenced, isSilenced) != isSilenced)
-        scheduleNews(0ms);
+    if (std::exchange(m_isToolTipEnabled, isEnabled) != isEnabled)
+        scheduleUpdate();
 }
 
-void StatusNotifierItem::scheduleNews(std::chrono::milliseconds delay)
+void StatusNotifierItem::scheduleUpdate()
 {
-    // What is urgent stays so.
-    const bool isSooner = !m_news.isActive() || delay < m_news.remainingTimeAsDuration();
-    if (!m_readers.isEmpty() && isSooner)
-        m_news.start(delay);
+    if (!m_readers.isEmpty())
+        m_update.start();
 }
 
-void StatusNotifierItem::sendNews()
+void StatusNotifierItem::sendUpdate()
 {
-    m_news.stop();
-    m_told = m_content;
-    m_peaceEnds.setRemainingTime(m_peace);
+    m_update.stop();
     bool isIconNew = false;
     QList<const HostProfile *> newLabels;
     for (auto [profile, seen] : m_seen.asKeyValueRange()) {
         const Seen now = seenBy(*profile);
-        isIconNew = isIconNew || now.pictures != seen.pictures;
+        isIconNew = isIconNew || now.pictures != seen.pictures || now.iconName != seen.iconName;
         if (now.label != seen.label)
             newLabels.append(profile);
         seen = now;
@@ -99,22 +125,50 @@ void StatusNotifierItem::sendNews()
 
     if (isIconNew)
         sendSignal(u"NewIcon"_s);
-    // Who draws a label shows no tool tip.
+    // A host that draws a label shows no tool tip.
     const bool hasTip = std::any_of(m_readers.cbegin(), m_readers.cend(),
                                     [](const HostProfile *profile) { return !profile->label; });
     if (hasTip && m_seenToolTip != seenToolTip)
         sendSignal(u"NewToolTip"_s);
     for (auto [reader, profile] : m_readers.asKeyValueRange()) {
         if (newLabels.contains(profile))
-            sendSignalTo(reader, u"XAyatanaNewLabel"_s, { m_seen[profile].label, labelGuide });
+            sendLabelTo(reader);
     }
+}
+
+void StatusNotifierItem::sendLabelTo(const QString &reader)
+{
+    const HostProfile *const profile = m_readers.value(reader);
+    if (profile)
+        sendSignalTo(reader, u"XAyatanaNewLabel"_s, { m_seen[profile].label, labelGuide });
+}
+
+void StatusNotifierItem::repeatLabel(const QString &reader, int repeatsLeft,
+                                     std::chrono::milliseconds delay)
+{
+    if (repeatsLeft == 0)
+        return;
+    QTimer::singleShot(delay, this, [this, reader, repeatsLeft, delay] {
+        if (!m_readers.contains(reader))
+            return;
+        sendLabelTo(reader);
+        repeatLabel(reader, repeatsLeft - 1, 2 * delay);
+    });
 }
 
 StatusNotifierItem::Seen StatusNotifierItem::seenBy(const HostProfile &profile)
 {
-    return { .pictures = m_pictures.pictures(profile, m_content,
-                                             m_colors.contextFor(profile.panel()), desktopScale()),
-             .label = profile.label ? labelFor(m_content) : QString() };
+    Seen seen;
+    if (profile.label)
+        seen.label = labelFor(m_content);
+    if (profile.iconName)
+        seen.iconName = m_iconFiles.nameFor(m_content);
+    else
+        seen.pictures = m_pictures.pictures(
+            profile, m_content, m_colors.contextFor(profile.panel()),
+            { .desktopScale = desktopScale(),
+              .panelHeights = profile.panelHeights ? dockThicknesses() : QList<int>() });
+    return seen;
 }
 
 QString StatusNotifierItem::words() const
@@ -124,7 +178,7 @@ QString StatusNotifierItem::words() const
 
 QString StatusNotifierItem::toolTip() const
 {
-    return m_isSilenced ? QString() : words();
+    return m_isToolTipEnabled ? words() : QString();
 }
 
 QString StatusNotifierItem::moreWords() const
@@ -138,13 +192,18 @@ QString StatusNotifierItem::moreWords() const
 
 void StatusNotifierItem::remember(const QString &caller, const HostProfile &profile)
 {
-    if (m_readers.isEmpty()) {
+    if (m_readers.isEmpty())
         m_seenToolTip = toolTip();
-        m_told = m_content;
-    }
-    m_readers.insert(caller, &profile);
     if (!m_seen.contains(&profile))
         m_seen.insert(&profile, seenBy(profile));
+    if (m_readers.contains(caller))
+        return;
+    m_readers.insert(caller, &profile);
+    // GNOME's extension takes the label from its signal alone since version 58, and misses signals
+    // until it has drawn the item.
+    constexpr int repeats = 6;
+    if (profile.label)
+        repeatLabel(caller, repeats, m_labelRepeatDelay);
 }
 
 void StatusNotifierItem::forget(const QString &caller)
@@ -162,9 +221,9 @@ void StatusNotifierItem::readProperties(const QString &caller,
                                         std::function<void(const Properties &)> read)
 {
     resolver().resolve(caller, [this, caller, read](const HostProfile &profile) {
-        // The others must hear of what this one is about to see.
-        if (m_news.isActive())
-            sendNews();
+        // What this reader is about to see is new to the others too.
+        if (m_update.isActive())
+            sendUpdate();
         read([this, &caller, &profile](const QString &name) {
             return property(name, caller, profile);
         });
@@ -173,10 +232,13 @@ void StatusNotifierItem::readProperties(const QString &caller,
 
 QStringList StatusNotifierItem::propertyNames() const
 {
-    return { u"Category"_s,           u"Id"_s,         u"Title"_s,      u"Status"_s,
-             u"WindowId"_s,           u"IconName"_s,   u"IconPixmap"_s, u"ToolTip"_s,
-             u"IconAccessibleDesc"_s, u"ItemIsMenu"_s, u"Menu"_s,       u"XAyatanaLabel"_s,
-             u"XAyatanaLabelGuide"_s };
+    return { u"Category"_s,      u"Id"_s,
+             u"Title"_s,         u"Status"_s,
+             u"WindowId"_s,      u"IconName"_s,
+             u"IconThemePath"_s, u"IconPixmap"_s,
+             u"ToolTip"_s,       u"IconAccessibleDesc"_s,
+             u"ItemIsMenu"_s,    u"Menu"_s,
+             u"XAyatanaLabel"_s, u"XAyatanaLabelGuide"_s };
 }
 
 QVariant StatusNotifierItem::property(const QString &name, const QString &caller,
@@ -188,7 +250,6 @@ QVariant StatusNotifierItem::property(const QString &name, const QString &caller
         { u"Title"_s, u"Ferrin"_s },
         { u"Status"_s, u"Active"_s },
         { u"WindowId"_s, 0 },
-        { u"IconName"_s, u""_s },
         { u"ItemIsMenu"_s, false },
         { u"Menu"_s, QVariant::fromValue(QDBusObjectPath(u"/MenuBar"_s)) },
     };
@@ -197,11 +258,15 @@ QVariant StatusNotifierItem::property(const QString &name, const QString &caller
     if (!propertyNames().contains(name))
         return {};
     remember(caller, profile);
+    if (name == u"IconName")
+        return m_seen[&profile].iconName;
+    if (name == u"IconThemePath")
+        return profile.iconName ? m_iconFiles.folder() : QString();
     if (name == u"IconPixmap")
         return QVariant::fromValue(m_seen[&profile].pictures);
     if (name == u"ToolTip")
         return QVariant::fromValue(StatusNotifierToolTip {
-            .title = toolTip(), .text = m_isSilenced ? QString() : moreWords() });
+            .title = toolTip(), .text = m_isToolTipEnabled ? moreWords() : QString() });
     if (name == u"IconAccessibleDesc")
         return words();
     if (!profile.label)
@@ -212,22 +277,23 @@ QVariant StatusNotifierItem::property(const QString &name, const QString &caller
 std::optional<QVariantList> StatusNotifierItem::call(const QDBusMessage &message,
                                                      const HostProfile &profile)
 {
-    const auto placeTold = [&] {
+    const auto place = [&] {
         const QVariantList arguments = message.arguments();
         return profile.trustedClicks ? QPoint(arguments.at(0).toInt(), arguments.at(1).toInt())
                                      : QPoint();
     };
     const QString method = message.member() + u'(' + message.signature() + u')';
     if (method == u"Activate(ii)") {
-        Q_EMIT activateRequested(placeTold());
+        Q_EMIT activateRequested(place());
         return QVariantList {};
     }
     if (method == u"ContextMenu(ii)") {
-        Q_EMIT contextMenuRequested(placeTold());
+        Q_EMIT contextMenuRequested(place());
         return QVariantList {};
     }
     if (method == u"ProvideXdgActivationToken(s)") {
-        keepActivationToken(message.arguments().constFirst().toString());
+        if (keepActivationToken(message.arguments().constFirst().toString()))
+            m_tokenExpiry.start();
         return QVariantList {};
     }
     // Nothing is tied to the middle button and the wheel; an error would make a host open the menu.

@@ -5,19 +5,21 @@
 
 #include "menubar/itemcontent.h"
 #include "platform/linux/statusnotifier/busobject.h"
+#include "platform/linux/statusnotifier/iconfiles.h"
 #include "platform/linux/statusnotifier/itempictures.h"
 
-#include <QDeadlineTimer>
 #include <QHash>
 #include <QPoint>
 #include <QTimer>
+
+#include <chrono>
 
 namespace ferrin {
 
 class PanelColors;
 
 /// The item on the bus, org.kde.StatusNotifierItem at /StatusNotifierItem. Answers each caller in
-/// its host's own form, and says that something is new only when what those who read it saw has
+/// its host's own form, and signals a change only when something that a reader has seen has
 /// changed. It never reads the battery: it shows the content that it is given.
 class StatusNotifierItem final : public BusObject
 {
@@ -31,18 +33,18 @@ public:
                        const PanelColors &colors, QObject *parent = nullptr);
 
     [[nodiscard]] const ItemContent &content() const noexcept { return m_content; }
-    /// Tells the hosts at once of all that a user would wait to see. Figures that merely move on
-    /// are told of together and no oftener than the hosts' peace allows: at most two signals each
-    /// time.
+    /// Signals what has changed on the next turn of the event loop, once for all the values that a
+    /// refresh has changed.
     void setContent(const ItemContent &content);
-    /// A silenced item has no tool tip.
-    void setSilenced(bool isSilenced);
+    /// Whether the item has a tool tip. Has one by default.
+    void setToolTipEnabled(bool isEnabled);
 
-    /// From one such news to the next.
-    void setPeace(std::chrono::milliseconds peace) { m_peace = peace; }
+    /// How long after its first reading a host that draws labels is sent the label again; each
+    /// further time twice as long, six times in all.
+    void setLabelRepeatDelay(std::chrono::milliseconds delay) { m_labelRepeatDelay = delay; }
 
 Q_SIGNALS:
-    /// The host's own coordinates, null from a host that is known to tell others than the screen's.
+    /// The host's own coordinates; null from a host whose coordinates are not the screen's.
     void activateRequested(QPoint position);
     void contextMenuRequested(QPoint position);
 
@@ -59,6 +61,7 @@ private:
     {
         IconPixmapList pictures;
         QString label;
+        QString iconName;
 
         bool operator==(const Seen &) const = default;
     };
@@ -69,10 +72,13 @@ private:
     [[nodiscard]] QString words() const;
     [[nodiscard]] QString toolTip() const;
     [[nodiscard]] QString moreWords() const;
+    void followScreens();
     void remember(const QString &caller, const HostProfile &profile);
     void forget(const QString &caller);
-    void scheduleNews(std::chrono::milliseconds delay);
-    void sendNews();
+    void scheduleUpdate();
+    void sendUpdate();
+    void sendLabelTo(const QString &reader);
+    void repeatLabel(const QString &reader, int repeatsLeft, std::chrono::milliseconds delay);
 
     const PanelColors &m_colors;
     ItemContent m_content;
@@ -81,13 +87,11 @@ private:
     QHash<QString, const HostProfile *> m_readers;
     QHash<const HostProfile *, Seen> m_seen;
     QString m_seenToolTip;
-    bool m_isSilenced = false;
-    /// The content that the hosts were last told of.
-    ItemContent m_told;
-    QTimer m_news;
-    QDeadlineTimer m_peaceEnds;
-    /// A minute, and by how much a timer of the toolkit may be early.
-    std::chrono::milliseconds m_peace { 64'000 };
+    bool m_isToolTipEnabled = true;
+    IconFiles m_iconFiles;
+    QTimer m_update;
+    QTimer m_tokenExpiry;
+    std::chrono::milliseconds m_labelRepeatDelay { 100 };
 };
 
 } // namespace ferrin

@@ -16,12 +16,12 @@ namespace ferrin {
 
 namespace {
 
-// X11 tells where the pointer is to everybody, which no host can get wrong.
-std::optional<QPoint> trueClick(QPoint told)
+// On X11 the pointer's own place is known, whatever the host reports.
+std::optional<QPoint> screenPoint(QPoint reported)
 {
     if (QGuiApplication::platformName() == u"xcb")
         return QCursor::pos();
-    return told.isNull() ? std::nullopt : std::optional(told);
+    return reported.isNull() ? std::nullopt : std::optional(reported);
 }
 
 ItemPlace placeAt(std::optional<QPoint> click, bool hasLayers)
@@ -78,13 +78,16 @@ void StatusNotifierStatusItem::showContent()
     m_menu.setState(sentenceFor(content));
 }
 
-void StatusNotifierStatusItem::activateAt(QPoint told)
+void StatusNotifierStatusItem::activateAt(QPoint reported)
 {
-    // Where it stands matters only to what opens.
-    if (told.isNull() && m_pointer.isPossible() && !m_isHighlighted)
-        m_pointer.find([this](std::optional<QPoint> found) { activateAtClick(found); });
+    // Only what opens needs the place. GTK's panels report places on their own surface on Wayland,
+    // so what is found there comes before what is reported.
+    if (m_pointer.isPossible() && !m_isHighlighted)
+        m_pointer.find([this, reported](std::optional<QPoint> found) {
+            activateAtClick(found ? found : screenPoint(reported));
+        });
     else
-        activateAtClick(trueClick(told));
+        activateAtClick(screenPoint(reported));
 }
 
 void StatusNotifierStatusItem::activateAtClick(std::optional<QPoint> click)
@@ -101,19 +104,20 @@ void StatusNotifierStatusItem::setContextMenu(const std::vector<MenuEntry> &entr
 void StatusNotifierStatusItem::setHighlighted(bool highlighted)
 {
     m_isHighlighted = highlighted;
-    // To the host the pointer has left the item while it was looked for, and come back: a reason to
-    // bring out the tool tip, for which the dashboard has no room.
+    // While its place was looked for, the pointer left the item and came back, upon which the host
+    // would show the tool tip over the dashboard.
     if (m_pointer.isPossible())
-        m_item.setSilenced(highlighted);
+        m_item.setToolTipEnabled(!highlighted);
 }
 
-void StatusNotifierStatusItem::popUpMenu(QPoint told)
+void StatusNotifierStatusItem::popUpMenu(QPoint reported)
 {
     if (!m_popup) {
         m_popup = std::make_unique<PopupMenu>();
         connect(m_popup.get(), &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
     }
-    m_popup->popUp(m_menu.entries(), trueClick(told).value_or(QPoint()), ownWindowLook(m_colors));
+    m_popup->popUp(m_menu.entries(), placeAt(screenPoint(reported), m_pointer.isPossible()),
+                   ownWindowLook(m_colors));
 }
 
 } // namespace ferrin

@@ -17,8 +17,8 @@ namespace ferrin {
 class HostResolver;
 class PanelColors;
 
-/// The application's item in the desktop's own status area. Its length is kept but binds nobody: a
-/// host draws each picture as wide as it is.
+/// The application's item in the desktop's own status area. Hosts ignore its length: they draw each
+/// picture as wide as it is.
 class StatusNotifierStatusItem final : public StatusItem
 {
     Q_OBJECT
@@ -40,9 +40,9 @@ public:
 
 private:
     void showContent();
-    void activateAt(QPoint told);
+    void activateAt(QPoint reported);
     void activateAtClick(std::optional<QPoint> click);
-    void popUpMenu(QPoint told);
+    void popUpMenu(QPoint reported);
 
     const PanelColors &m_colors;
     StatusNotifierItem m_item;

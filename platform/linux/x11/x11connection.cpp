@@ -37,6 +37,19 @@ quint32 X11Connection::rootWindow() const
     return screens.data->root;
 }
 
+QList<quint32> X11Connection::windowsIn(quint32 window, const char *property) const
+{
+    constexpr quint32 mostWindows = 1024;
+    const auto request = xcb_get_property(m_connection, 0, window, atom(property), XCB_ATOM_WINDOW,
+                                          0, mostWindows);
+    const XcbReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, request, nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto *const first = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return { first, first + reply->value_len };
+}
+
 quint32 X11Connection::atom(const char *name) const
 {
     const auto request = xcb_intern_atom(m_connection, 0, quint16(qstrlen(name)), name);

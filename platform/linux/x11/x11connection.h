@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QList>
 
 #include <cstdlib>
 #include <memory>
@@ -33,6 +33,9 @@ public:
     /// The number of the screen, as the names of its selections count it.
     [[nodiscard]] int screenNumber() const;
     [[nodiscard]] quint32 rootWindow() const;
+
+    /// The windows that a property of the window lists.
+    [[nodiscard]] QList<quint32> windowsIn(quint32 window, const char *property) const;
 
     /// The number of a name; 0 when the server does not answer.
     [[nodiscard]] quint32 atom(const char *name) const;

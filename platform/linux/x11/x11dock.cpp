@@ -5,8 +5,7 @@
 
 #include "platform/linux/x11/x11connection.h"
 
-#include <QList>
-
+#include <algorithm>
 #include <xcb/xcb.h>
 
 namespace ferrin {
@@ -20,7 +19,8 @@ class Docks
 {
 public:
     explicit Docks(const X11Connection &x11)
-        : m_connection(x11.get())
+        : m_x11(x11)
+        , m_connection(x11.get())
         , m_root(x11.rootWindow())
         , m_type(x11.atom("_NET_WM_WINDOW_TYPE"))
         , m_dock(x11.atom("_NET_WM_WINDOW_TYPE_DOCK"))
@@ -48,6 +48,18 @@ public:
             window = parentOf(window);
         }
         return XCB_WINDOW_NONE;
+    }
+
+    [[nodiscard]] QList<int> thicknesses() const
+    {
+        QList<int> result;
+        for (const quint32 window : m_x11.windowsIn(m_root, "_NET_CLIENT_LIST")) {
+            const QRect place = isDock(window) ? bounds(window) : QRect();
+            const int thickness = std::min(place.width(), place.height());
+            if (thickness > 0 && !result.contains(thickness))
+                result.append(thickness);
+        }
+        return result;
     }
 
     [[nodiscard]] QByteArray classOf(quint32 window) const
@@ -102,22 +114,23 @@ private:
             && *static_cast<const quint32 *>(xcb_get_property_value(reply.get())) == m_dock;
     }
 
+    const X11Connection &m_x11;
     xcb_connection_t *m_connection;
     quint32 m_root;
     quint32 m_type;
     quint32 m_dock;
 };
 
-/// What is told of the dock around a window; nothing where there is none.
-template <typename Told>
-Told ofDockAround(quint32 window, Told (Docks::*told)(quint32) const)
+/// A property of the dock around a window; empty where there is none.
+template <typename Property>
+Property ofDockAround(quint32 window, Property (Docks::*property)(quint32) const)
 {
     const X11Connection x11;
     if (!x11)
         return {};
     const Docks docks(x11);
     const quint32 dock = docks.around(window);
-    return dock == XCB_WINDOW_NONE ? Told() : (docks.*told)(dock);
+    return dock == XCB_WINDOW_NONE ? Property() : (docks.*property)(dock);
 }
 
 } // namespace
@@ -131,6 +144,12 @@ QRect dockUnderPointer()
 QRect dockAround(quint32 window)
 {
     return ofDockAround(window, &Docks::bounds);
+}
+
+QList<int> dockThicknesses()
+{
+    const X11Connection x11;
+    return x11 ? Docks(x11).thicknesses() : QList<int>();
 }
 
 QByteArray classOfDockAround(quint32 window)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QRect>
 
 namespace ferrin {
@@ -14,6 +15,9 @@ namespace ferrin {
 
 /// The same of the dock that this window is in.
 [[nodiscard]] QRect dockAround(quint32 window);
+
+/// How thick the dock windows of the session are, in the X server's own pixels.
+[[nodiscard]] QList<int> dockThicknesses();
 
 /// The class of that dock, empty where there is none.
 [[nodiscard]] QByteArray classOfDockAround(quint32 window);

@@ -76,8 +76,8 @@ bool X11PressWatcher::select()
     const auto *extension = xcb_get_extension_data(x11, &xcb_input_id);
     if (xcb_connection_has_error(x11) || !extension || !extension->present)
         return false;
-    // From 2.1 on raw events come while another client holds the pointer, too. To who asks for no
-    // more than that the server tells a touch as a press.
+    // From 2.1 on raw events are sent while another client grabs the pointer too. To a client that
+    // asks for no higher version the server reports touches as presses.
     const XcbReply<xcb_input_xi_query_version_reply_t> version(
         xcb_input_xi_query_version_reply(x11, xcb_input_xi_query_version(x11, 2, 1), nullptr));
     if (!version || (version->major_version == 2 && version->minor_version < 1))
@@ -99,7 +99,7 @@ void X11PressWatcher::catchUp()
 {
     if (!m_connection)
         return;
-    // Whatever the server had to tell before it answers is here with the answer.
+    // All earlier events have arrived when the reply has.
     const XcbReply<xcb_get_input_focus_reply_t> answer(xcb_get_input_focus_reply(
         m_connection.get(), xcb_get_input_focus(m_connection.get()), nullptr));
     readEvents();

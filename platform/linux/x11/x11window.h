@@ -7,8 +7,8 @@ class QWindow;
 
 namespace ferrin {
 
-/// Tells an X11 window manager that the created window is a dock: above others, on every desktop,
-/// in no list and never focused. Does nothing elsewhere.
+/// Makes the created window a dock to an X11 window manager: above others, on every desktop, in no
+/// list and never focused. Does nothing elsewhere.
 void makeDock(QWindow &window);
 
 } // namespace ferrin

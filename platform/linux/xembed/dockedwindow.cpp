@@ -29,6 +29,25 @@ const xcb_screen_t *screenOf(const X11Connection &x11)
     return screens.data;
 }
 
+/// How the server keeps pixels of that depth, in rows of whole words as images have them too.
+QImage::Format formatOf(quint8 depth)
+{
+    switch (depth) {
+    case 15:
+        return QImage::Format_RGB555;
+    case 16:
+        return QImage::Format_RGB16;
+    case 24:
+        return QImage::Format_RGB32;
+    case 30:
+        return QImage::Format_RGB30;
+    case depthWithAlpha:
+        return QImage::Format_ARGB32_Premultiplied;
+    default:
+        return QImage::Format_Invalid;
+    }
+}
+
 template <typename Event>
 const Event &as(const xcb_generic_event_t &event)
 {
@@ -59,7 +78,7 @@ void DockedWindow::end()
     if (!m_window)
         return;
     xcb_free_gc(m_x11.get(), m_gc);
-    // The tray may have taken it along when it ended: no more than an error that nobody reads.
+    // Fails where the tray has destroyed it with its own windows, which does not matter.
     const auto request = xcb_destroy_window_checked(m_x11.get(), m_window);
     const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_x11.get(), request));
     if (m_colorMap)
@@ -122,6 +141,12 @@ void DockedWindow::describe()
     const quint32 info = m_x11.atom("_XEMBED_INFO");
     xcb_change_property(m_x11.get(), XCB_PROP_MODE_REPLACE, m_window, info, info, 32,
                         quint32(embedding.size()), embedding.data());
+    // Trays that are made of GTK's sockets give a window without a minimum a single pixel.
+    constexpr std::array<quint32, 18> sizeHints {
+        /* PMinSize */ 1U << 4, 0, 0, 0, 0, usualSide, usualSide
+    };
+    xcb_change_property(m_x11.get(), XCB_PROP_MODE_REPLACE, m_window, XCB_ATOM_WM_NORMAL_HINTS,
+                        XCB_ATOM_WM_SIZE_HINTS, 32, quint32(sizeHints.size()), sizeHints.data());
     static constexpr char instanceAndClass[] = "item\0ferrin";
     xcb_change_property(m_x11.get(), XCB_PROP_MODE_REPLACE, m_window, XCB_ATOM_WM_CLASS,
                         XCB_ATOM_STRING, 8, sizeof instanceAndClass, instanceAndClass);
@@ -143,7 +168,7 @@ void DockedWindow::askForDocking(quint32 tray)
     request.data.data32[2] = m_window;
     const auto sent = xcb_send_event_checked(m_x11.get(), 0, tray, XCB_EVENT_MASK_NO_EVENT,
                                              reinterpret_cast<const char *>(&request));
-    // A tray that has gone in the meantime will be missed by who follows its owner.
+    // TrayOwner notices a tray that has gone in the meantime.
     const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_x11.get(), sent));
 }
 
@@ -179,12 +204,13 @@ std::optional<QImage> DockedWindow::groundPicture() const
     const auto request = xcb_get_image(m_x11.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, 0, 0,
                                        quint16(m_size.width()), quint16(m_size.height()), ~0U);
     const XcbReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_x11.get(), request, nullptr));
-    const qsizetype expected = qsizetype(4) * m_size.width() * m_size.height();
-    if (!reply || xcb_get_image_data_length(reply.get()) != expected)
+    const QImage::Format format = formatOf(m_visual.depth);
+    const qsizetype expected = QImage(m_size, format).sizeInBytes();
+    if (!reply || format == QImage::Format_Invalid
+        || xcb_get_image_data_length(reply.get()) != expected)
         return {};
-    return QImage(xcb_get_image_data(reply.get()), m_size.width(), m_size.height(),
-                  QImage::Format_RGB32)
-        .copy();
+    return QImage(xcb_get_image_data(reply.get()), m_size.width(), m_size.height(), format)
+        .convertToFormat(QImage::Format_RGB32);
 }
 
 std::optional<QColor> DockedWindow::ground() const
@@ -200,7 +226,7 @@ void DockedWindow::show(const QImage &picture)
     if (!m_isDocked || m_size.isEmpty())
         return;
     if (m_isBlended) {
-        put(picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        put(picture);
         return;
     }
     std::optional<QImage> pixels = groundPicture();
@@ -212,8 +238,12 @@ void DockedWindow::show(const QImage &picture)
     put(*pixels);
 }
 
-void DockedWindow::put(const QImage &pixels)
+void DockedWindow::put(const QImage &picture)
 {
+    const QImage::Format format = formatOf(m_visual.depth);
+    if (format == QImage::Format_Invalid)
+        return;
+    const QImage pixels = picture.convertToFormat(format);
     xcb_put_image(m_x11.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, m_gc, quint16(pixels.width()),
                   quint16(pixels.height()), 0, 0, 0, m_visual.depth, quint32(pixels.sizeInBytes()),
                   pixels.constBits());
@@ -238,7 +268,7 @@ void DockedWindow::reparented(quint32 parent)
 
 void DockedWindow::resized(QSize size)
 {
-    // What has been exposed by it is told before this by some trays, and after it by others.
+    // Some trays expose the window before they configure it, others after.
     if (std::exchange(m_size, size) != size && m_isDocked)
         Q_EMIT pictureWanted();
 }
@@ -255,35 +285,35 @@ bool DockedWindow::nativeEventFilter(const QByteArray &eventType, void *message,
     if (eventType != "xcb_generic_event_t" || !m_window)
         return false;
     const auto &event = *static_cast<const xcb_generic_event_t *>(message);
-    heedTheTray(event);
-    heedThePointer(event);
+    handleTrayEvent(event);
+    handlePointerEvent(event);
     return false;
 }
 
-void DockedWindow::heedTheTray(const xcb_generic_event_t &event)
+void DockedWindow::handleTrayEvent(const xcb_generic_event_t &event)
 {
     switch (event.response_type & 0x7f) {
     case XCB_REPARENT_NOTIFY:
-        if (const auto &told = as<xcb_reparent_notify_event_t>(event); told.window == m_window)
-            reparented(told.parent);
+        if (const auto &change = as<xcb_reparent_notify_event_t>(event); change.window == m_window)
+            reparented(change.parent);
         break;
     case XCB_CONFIGURE_NOTIFY:
-        if (const auto &told = as<xcb_configure_notify_event_t>(event); told.window == m_window)
-            resized({ told.width, told.height });
+        if (const auto &change = as<xcb_configure_notify_event_t>(event); change.window == m_window)
+            resized({ change.width, change.height });
         break;
     case XCB_EXPOSE:
-        if (const auto &told = as<xcb_expose_event_t>(event);
-            told.window == m_window && told.count == 0 && m_isDocked)
+        if (const auto &expose = as<xcb_expose_event_t>(event);
+            expose.window == m_window && expose.count == 0 && m_isDocked)
             Q_EMIT pictureWanted();
         break;
     case XCB_DESTROY_NOTIFY:
-        if (const auto &told = as<xcb_destroy_notify_event_t>(event); told.window == m_window)
+        if (const auto &end = as<xcb_destroy_notify_event_t>(event); end.window == m_window)
             letGo();
         break;
     }
 }
 
-void DockedWindow::heedThePointer(const xcb_generic_event_t &event)
+void DockedWindow::handlePointerEvent(const xcb_generic_event_t &event)
 {
     switch (event.response_type & 0x7f) {
     case XCB_BUTTON_PRESS:
@@ -297,8 +327,10 @@ void DockedWindow::heedThePointer(const xcb_generic_event_t &event)
             && QRect(QPoint(), m_size).contains(release.event_x, release.event_y))
             Q_EMIT clicked();
         break;
+    // A grab that begins or ends is reported as the pointer leaving or entering too.
     case XCB_ENTER_NOTIFY:
-        if (as<xcb_enter_notify_event_t>(event).event == m_window)
+        if (const auto &enter = as<xcb_enter_notify_event_t>(event);
+            enter.event == m_window && enter.mode == XCB_NOTIFY_MODE_NORMAL)
             Q_EMIT entered();
         break;
     case XCB_LEAVE_NOTIFY:

@@ -16,7 +16,7 @@
 namespace ferrin {
 
 /// A window of ours in another program's tray, by the System Tray protocol and XEmbed. The tray
-/// decides where it stands and how large it is; it tells of that and of the pointer, and shows the
+/// decides where it stands and how large it is; it reports that and the pointer, and shows the
 /// picture that it is given. All sizes are the X server's own pixels. Owned by the item; it docks
 /// once, and when the tray lets go of it, it is gone.
 class DockedWindow final : public QObject, QAbstractNativeEventFilter
@@ -32,16 +32,16 @@ public:
     [[nodiscard]] QSize size() const noexcept { return m_size; }
     /// On the screen; null once it is gone.
     [[nodiscard]] QRect bounds() const;
-    /// The panel that it stands in; null where nobody tells.
+    /// The panel that it stands in; null where it is not known.
     [[nodiscard]] QRect panel() const;
-    /// Of which class the panel is; empty where nobody tells.
+    /// Of which class the panel is; empty where it is not known.
     [[nodiscard]] QByteArray panelClass() const;
 
     /// What the tray's own ground looks like behind it; absent where the tray blends the picture
     /// over a ground that it keeps to itself, and while nothing can be seen.
     [[nodiscard]] std::optional<QColor> ground() const;
 
-    /// For those who list windows by their names.
+    /// For programs that list windows by their titles.
     void setTitle(const QString &title);
     /// Shows the picture, which is as large as the window.
     void show(const QImage &picture);
@@ -54,7 +54,7 @@ Q_SIGNALS:
     void menuRequested();
     void entered();
     void left();
-    /// The tray has let go of it. It says nothing any more.
+    /// The tray has released it. No other signal follows.
     void undocked();
 
 private:
@@ -71,9 +71,9 @@ private:
     [[nodiscard]] std::optional<Visual> visualOf(quint32 tray) const;
     [[nodiscard]] Visual rootVisual() const;
     [[nodiscard]] std::optional<QImage> groundPicture() const;
-    void put(const QImage &pixels);
-    void heedTheTray(const xcb_generic_event_t &event);
-    void heedThePointer(const xcb_generic_event_t &event);
+    void put(const QImage &picture);
+    void handleTrayEvent(const xcb_generic_event_t &event);
+    void handlePointerEvent(const xcb_generic_event_t &event);
     void reparented(quint32 parent);
     void resized(QSize size);
     void letGo();

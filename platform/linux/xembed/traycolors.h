@@ -16,7 +16,7 @@ namespace ferrin {
 class TrayOwner;
 
 /// The colour of text on the panel, as the owner of the X11 tray announces it. Most panels own the
-/// tray too and announce their own theme's colours. Silent where nobody owns it.
+/// tray too and announce their own theme's colours. Absent where there is no owner.
 class TrayColors : public QObject
 {
     Q_OBJECT

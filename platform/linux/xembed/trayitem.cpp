@@ -87,7 +87,9 @@ void TrayItem::dockInto(quint32 tray)
         m_return.start();
     });
     connect(window, &DockedWindow::entered, this, [this] {
-        m_toolTip.showSoon(sentenceFor(m_content), place().item, ownWindowLook(m_colors));
+        // It would cover the dashboard.
+        if (!m_isHighlighted)
+            m_toolTip.showSoon(sentenceFor(m_content), place(), ownWindowLook(m_colors));
     });
     connect(window, &DockedWindow::left, &m_toolTip, &ToolTip::hide);
 }
@@ -97,7 +99,7 @@ void TrayItem::leave()
     m_toolTip.hide();
     if (!m_window)
         return;
-    // It may be the one who says so.
+    // This may be called from one of its signals.
     m_window->disconnect(this);
     m_window.release()->deleteLater();
 }
@@ -126,8 +128,10 @@ void TrayItem::showContent()
 
 void TrayItem::setHighlighted(bool highlighted)
 {
-    if (std::exchange(m_isHighlighted, highlighted) != highlighted)
-        paint();
+    if (std::exchange(m_isHighlighted, highlighted) == highlighted)
+        return;
+    m_toolTip.hide();
+    paint();
 }
 
 void TrayItem::paint()
@@ -169,7 +173,7 @@ ItemPlace TrayItem::place() const
 void TrayItem::popUpMenu()
 {
     m_toolTip.hide();
-    m_popup.popUpAt(m_entries, place().item, ownWindowLook(m_colors));
+    m_popup.popUp(m_entries, place(), ownWindowLook(m_colors));
 }
 
 TrayBar::TrayBar(const PanelColors &colors, QObject *parent)

@@ -64,9 +64,9 @@ bool TrayOwner::nativeEventFilter(const QByteArray &eventType, void *message, qi
         if (m_window != XCB_WINDOW_NONE && destroyed->window == m_window)
             refresh();
     } else if (type == XCB_CLIENT_MESSAGE) {
-        // Who takes the tray tells everybody, by way of the root window.
-        const auto *told = reinterpret_cast<const xcb_client_message_event_t *>(event);
-        if (told->type == m_manager && told->data.data32[1] == m_selection)
+        // A new owner announces itself with a message to the root window.
+        const auto *announced = reinterpret_cast<const xcb_client_message_event_t *>(event);
+        if (announced->type == m_manager && announced->data.data32[1] == m_selection)
             refresh();
     }
     return false;

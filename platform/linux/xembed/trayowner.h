@@ -10,9 +10,9 @@
 
 namespace ferrin {
 
-/// Who owns the tray of the X11 screen: the program whose windows take in the icons of others by
-/// the System Tray protocol. Follows the owner as it comes, goes and is replaced, and tells when it
-/// announces something new of itself. Silent where the program does not run on X11.
+/// The owner of the X11 screen's system tray: the program that embeds the icons of others. Follows
+/// the owner as it comes, goes and is replaced, and its properties. There is none where the program
+/// does not run on X11. https://specifications.freedesktop.org/systemtray-spec/
 class TrayOwner final : public QObject, QAbstractNativeEventFilter
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     /// The owner's window, which takes requests; 0 for none.
     [[nodiscard]] quint32 window() const noexcept { return m_window; }
 
-    /// Looks who owns the tray now.
+    /// Asks for the present owner.
     void refresh();
 
 Q_SIGNALS:

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -17,6 +18,8 @@ namespace {
 
 const std::vector<MenuEntry> twoEntries { { u"one"_s, u"One"_s }, { u"two"_s, u"Two"_s } };
 
+const ItemPlace place { .item = QRect(10, 10, 20, 20) };
+
 } // namespace
 
 class PopupMenuTest : public QObject
@@ -24,8 +27,7 @@ class PopupMenuTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fitsOnItsScreen_data();
-    void fitsOnItsScreen();
+    void opensOffThePanelOfItsItem();
     void triggersWhatIsClicked();
     void closesAtAClickElsewhere();
     void closesAtEscape();
@@ -34,29 +36,24 @@ private Q_SLOTS:
     void withoutEntriesDoesNotOpen();
 };
 
-void PopupMenuTest::fitsOnItsScreen_data()
+void PopupMenuTest::opensOffThePanelOfItsItem()
 {
-    QTest::addColumn<QPoint>("at");
-    QTest::addColumn<QPoint>("expected");
-    QTest::newRow("in the middle") << QPoint(300, 200) << QPoint(300, 200);
-    QTest::newRow("top left") << QPoint(0, 0) << QPoint(0, 0);
-    QTest::newRow("bottom") << QPoint(300, 590) << QPoint(300, 490);
-    QTest::newRow("bottom right") << QPoint(799, 599) << QPoint(600, 499);
-    QTest::newRow("right") << QPoint(790, 10) << QPoint(600, 10);
-}
-
-void PopupMenuTest::fitsOnItsScreen()
-{
-    QFETCH(QPoint, at);
-    QFETCH(QPoint, expected);
-    QCOMPARE(placeNear(at, { 200, 100 }, { 0, 0, 800, 600 }), expected);
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    for (const int top : { screen.top(), screen.bottom() - 29 }) {
+        const QRect panel(screen.left(), top, screen.width(), 30);
+        PopupMenu menu;
+        menu.popUp(twoEntries, { .item = QRect(screen.right() - 30, top, 30, 30), .panel = panel },
+                   {});
+        QVERIFY(screen.contains(menu.geometry()));
+        QVERIFY(!panel.intersects(menu.geometry()));
+    }
 }
 
 void PopupMenuTest::triggersWhatIsClicked()
 {
     PopupMenu menu;
     QSignalSpy triggered(&menu, &PopupMenu::triggered);
-    menu.popUp(twoEntries, { 10, 10 }, {});
+    menu.popUp(twoEntries, place, {});
     QTest::mouseClick(&menu, Qt::LeftButton, {}, { 30, 45 });
     QCOMPARE(triggered.takeFirst(), QVariantList { u"two"_s });
     QVERIFY(!menu.isVisible());
@@ -66,7 +63,7 @@ void PopupMenuTest::closesAtAClickElsewhere()
 {
     PopupMenu menu;
     const QSignalSpy triggered(&menu, &PopupMenu::triggered);
-    menu.popUp(twoEntries, { 10, 10 }, {});
+    menu.popUp(twoEntries, place, {});
     QMouseEvent press(QEvent::MouseButtonPress, QPointF(-30, 45),
                       QPointF(menu.position()) + QPointF(-30, 45), Qt::LeftButton, Qt::LeftButton,
                       {});
@@ -79,7 +76,7 @@ void PopupMenuTest::closesAtEscape()
 {
     PopupMenu menu;
     const QSignalSpy triggered(&menu, &PopupMenu::triggered);
-    menu.popUp(twoEntries, { 10, 10 }, {});
+    menu.popUp(twoEntries, place, {});
     QVERIFY(menu.isVisible());
     QTest::keyClick(&menu, Qt::Key_Escape);
     QVERIFY(!menu.isVisible());
@@ -90,7 +87,7 @@ void PopupMenuTest::isUsableByKeyboard()
 {
     PopupMenu menu;
     QSignalSpy triggered(&menu, &PopupMenu::triggered);
-    menu.popUp(twoEntries, { 10, 10 }, { .isDark = true });
+    menu.popUp(twoEntries, place, { .isDark = true });
     QTest::keyClick(&menu, Qt::Key_Return);
     QCOMPARE(triggered.size(), 0);
     QTest::keyClick(&menu, Qt::Key_Up);
@@ -101,7 +98,7 @@ void PopupMenuTest::isUsableByKeyboard()
 void PopupMenuTest::isReadByAScreenReader()
 {
     PopupMenu menu;
-    menu.popUp(twoEntries, { 10, 10 }, {});
+    menu.popUp(twoEntries, place, {});
     QAccessibleInterface *const root = menu.accessibleRoot();
     QCOMPARE(root->role(), QAccessible::PopupMenu);
     QCOMPARE(root->childCount(), 2);
@@ -115,7 +112,7 @@ void PopupMenuTest::isReadByAScreenReader()
 void PopupMenuTest::withoutEntriesDoesNotOpen()
 {
     PopupMenu menu;
-    menu.popUp({}, { 10, 10 }, {});
+    menu.popUp({}, place, {});
     QVERIFY(!menu.isVisible());
 }
 

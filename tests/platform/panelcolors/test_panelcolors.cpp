@@ -31,7 +31,9 @@ private Q_SLOTS:
     void takesWhatI3TellsOfItsBarBeforeTheTrayInThatBarOnly();
     void takesWhatSuchHostsLookLikeBeforeTheDesktop();
     void takesTheColorsOfTheTrayBeforeTheHostsDefault();
-    void takesTheUsersChoiceBeforeEverything();
+    void keepsToThePanelWhateverTheThemeIs();
+    void bringsAGroundOfTheThemeWhereItContradictsTheDesktop();
+    void bringsItsOwnGroundWhereThePanelsSettingsAreUncertain();
     void tellsOfChangesOnly();
     void choosesARedThatReadsOnTheSameGround();
 };
@@ -61,7 +63,7 @@ void PanelColorsTest::bringsItsOwnGroundWhereNothingIsKnown()
     QVERIFY(!colors.contextFor({}).chip);
     colors.setTrayText({});
     colors.setAppearance({ .forcedDark = false });
-    QVERIFY(!colors.contextFor({}).chip);
+    QVERIFY(colors.contextFor({}).chip);
 }
 
 void PanelColorsTest::takesWhatTheHostsSettingsSayBeforeTheTray()
@@ -91,9 +93,6 @@ void PanelColorsTest::takesWhatI3TellsOfItsBarBeforeTheTrayInThatBarOnly()
     QCOMPARE(colors.contextForTray({}).text, trayText);
     colors.setI3BarText({});
     QCOMPARE(colors.contextForTray({ .isI3Bar = true }).text, trayText);
-    colors.setI3BarText(QColor(0x20, 0x20, 0x20));
-    colors.setAppearance({ .forcedDark = true });
-    QCOMPARE(colors.contextForTray({ .isI3Bar = true }).text, QColor(Qt::white));
 }
 
 void PanelColorsTest::takesWhatSuchHostsLookLikeBeforeTheDesktop()
@@ -111,16 +110,49 @@ void PanelColorsTest::takesTheColorsOfTheTrayBeforeTheHostsDefault()
     QCOMPARE(colors.contextForOwnBar().text, QColor(Qt::black));
 }
 
-void PanelColorsTest::takesTheUsersChoiceBeforeEverything()
+void PanelColorsTest::keepsToThePanelWhateverTheThemeIs()
+{
+    for (const bool isDark : { false, true }) {
+        PanelColors colors;
+        colors.setAppearance({ .forcedDark = isDark, .desktopPrefersDark = isDark });
+        QCOMPARE(colors.contextFor(gnomeShell).text, QColor(Qt::white));
+        QCOMPARE(colors.isOwnBarDark(), isDark);
+        colors.setTrayText(trayText);
+        QCOMPARE(colors.contextFor(waybar).text, trayText);
+        QCOMPARE(colors.contextForTray({}).text, trayText);
+        colors.setPanelText(waybar.name, QColor(Qt::black));
+        QCOMPARE(colors.contextFor(waybar).text, QColor(Qt::black));
+        QVERIFY(!colors.contextFor(waybar).chip);
+    }
+}
+
+void PanelColorsTest::bringsAGroundOfTheThemeWhereItContradictsTheDesktop()
 {
     PanelColors colors;
-    colors.setTrayText(trayText);
-    colors.setAppearance({ .forcedDark = false, .desktopDark = true });
-    QCOMPARE(colors.contextFor(waybar).text, QColor(Qt::black));
-    QVERIFY(!colors.isOwnBarDark());
-    colors.setAppearance({ .forcedDark = true });
-    QCOMPARE(colors.contextFor({}).text, QColor(Qt::white));
-    QVERIFY(colors.isOwnBarDark());
+    for (const bool isDark : { false, true }) {
+        colors.setAppearance({ .forcedDark = isDark, .desktopPrefersDark = isDark });
+        QVERIFY(!colors.contextFor(waybar).chip);
+        colors.setAppearance({ .forcedDark = isDark, .desktopPrefersDark = !isDark });
+        const ViewContext context = colors.contextFor(waybar);
+        QVERIFY(context.chip);
+        QCOMPARE(context.text, QColor(isDark ? Qt::white : Qt::black));
+        QVERIFY(contrast(context.text, *context.chip) >= leastContrast);
+        QVERIFY(contrast(context.red, *context.chip) >= leastContrast);
+    }
+}
+
+void PanelColorsTest::bringsItsOwnGroundWhereThePanelsSettingsAreUncertain()
+{
+    PanelColors colors;
+    const QSignalSpy changes(&colors, &PanelColors::changed);
+    colors.setAppearance({ .desktopPrefersDark = true });
+    colors.setPanelUncertain(waybar.name, true);
+    colors.setPanelUncertain(waybar.name, true);
+    QCOMPARE(changes.size(), 2);
+    QVERIFY(colors.contextFor(waybar).chip);
+    QVERIFY(!colors.contextFor({}).chip);
+    colors.setPanelUncertain(waybar.name, false);
+    QVERIFY(!colors.contextFor(waybar).chip);
 }
 
 void PanelColorsTest::tellsOfChangesOnly()
@@ -142,11 +174,11 @@ void PanelColorsTest::choosesARedThatReadsOnTheSameGround()
     PanelColors colors;
     constexpr double readable = 4.5;
     for (const QColor &ground : { QColor(0xff, 0xff, 0xff), QColor(0xf0, 0xf0, 0xf0) }) {
-        colors.setAppearance({ .forcedDark = false });
+        colors.setAppearance({ .desktopPrefersDark = false });
         QVERIFY(contrast(colors.contextFor({}).red, ground) >= readable);
     }
     for (const QColor &ground : { QColor(0, 0, 0), QColor(0x2e, 0x34, 0x36) }) {
-        colors.setAppearance({ .forcedDark = true });
+        colors.setAppearance({ .desktopPrefersDark = true });
         QVERIFY(contrast(colors.contextFor({}).red, ground) >= readable);
     }
 }

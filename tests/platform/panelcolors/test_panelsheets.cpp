@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "platform/linux/panelcolors/panelsheets.h"
+#include "platform/linux/panelcolors/lxqtcolors.h"
+#include "platform/linux/panelcolors/waybarcolors.h"
 #include "tests/platform/panelcolors/homeofsettings.h"
 #include "tests/support/testmain.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -22,7 +24,7 @@ const QByteArray darkSheet = "LXQtPanel #BackgroundWidget { background: #041b27;
 
 } // namespace
 
-/// A home in which panels are dressed as their users dress them.
+/// The colours of panels that their users have configured.
 class PanelSheetsTest : public QObject
 {
     Q_OBJECT
@@ -124,7 +126,46 @@ private Q_SLOTS:
         const QString own = m_home->filePath(u"own.css"_s);
         QCOMPARE(waybar({ u"waybar"_s, u"-s"_s, own }), QColor(Qt::black));
         QCOMPARE(waybar({ u"waybar"_s, u"--style"_s, own }), QColor(Qt::black));
+        QCOMPARE(waybar({ u"waybar"_s, u"--style="_s + own }), QColor(Qt::black));
         QCOMPARE(waybar({ u"waybar"_s, u"-s"_s }), QColor(Qt::white));
+    }
+
+    void waybarMayHaveASheetForEachColorScheme()
+    {
+        write(u"config/waybar/style.css"_s, "* { color: red; }");
+        write(u"config/waybar/style-dark.css"_s, "* { color: white; }");
+        write(u"config/waybar/style-light.css"_s, "* { color: black; }");
+        WaybarColors colors;
+        colors.start();
+        QCOMPARE(colors.text(), QColor(Qt::red));
+        colors.setDesktopDark(true);
+        QCOMPARE(colors.text(), QColor(Qt::white));
+        colors.setDesktopDark(false);
+        QCOMPARE(colors.text(), QColor(Qt::black));
+    }
+
+    void waybarsSheetMayImportAnotherByItsUrl()
+    {
+        write(u"colors.css"_s, "@define-color text #204060;");
+        write(u"config/waybar/style.css"_s,
+              "@import url(\"file://" + QFile::encodeName(m_home->filePath(u"colors.css"_s))
+                  + "\");\n* { color: @text; }");
+        QCOMPARE(waybar({ u"waybar"_s }), QColor(0x20, 0x40, 0x60));
+    }
+
+    void isUncertainOfBarsWhoseSheetsDisagree()
+    {
+        write(u"config/waybar/style.css"_s, "* { color: white; }");
+        write(u"own.css"_s, "* { color: black; }");
+        WaybarColors colors;
+        colors.addBar(uint(QCoreApplication::applicationPid()), { u"waybar"_s });
+        colors.start();
+        QVERIFY(!colors.isUncertain());
+        constexpr uint init = 1;
+        colors.addBar(init, { u"waybar"_s, u"-s"_s, m_home->filePath(u"own.css"_s) });
+        colors.refresh();
+        QVERIFY(!colors.text());
+        QVERIFY(colors.isUncertain());
     }
 
     void knowsNothingOfABarWithoutColors()
@@ -132,14 +173,6 @@ private Q_SLOTS:
         QVERIFY(!waybar({ u"waybar"_s }));
         write(u"config/waybar/style.css"_s, "* { font-size: 13px; }");
         QVERIFY(!waybar({ u"waybar"_s }));
-    }
-
-    void readsTheArgumentsOfAProcess()
-    {
-        const QStringList own = argumentsFromKernel(uint(QCoreApplication::applicationPid()));
-        QVERIFY(!own.isEmpty());
-        QVERIFY(own.constFirst().endsWith(u"test_platform_panelcolors"_s));
-        QVERIFY(argumentsFromKernel(0).isEmpty());
     }
 
 private:
@@ -153,7 +186,7 @@ private:
     static std::optional<QColor> waybar(const QStringList &arguments)
     {
         WaybarColors colors;
-        colors.setArguments(arguments);
+        colors.addBar(uint(QCoreApplication::applicationPid()), arguments);
         colors.start();
         return colors.text();
     }

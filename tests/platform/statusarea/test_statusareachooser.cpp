@@ -40,7 +40,7 @@ std::unique_ptr<ItemHostingView> viewOf(const ItemContent &content)
 
 } // namespace
 
-class StatusAreaTest : public QObject
+class StatusAreaChooserTest : public QObject
 {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ private:
     std::unique_ptr<StatusAreaChooser> m_chooser;
 };
 
-void StatusAreaTest::init()
+void StatusAreaChooserTest::init()
 {
     m_bus = std::make_unique<PrivateBus>();
     m_watcher = std::make_unique<FakeWatcher>(m_bus->connect());
@@ -82,7 +82,7 @@ void StatusAreaTest::init()
     });
 }
 
-void StatusAreaTest::cleanup()
+void StatusAreaChooserTest::cleanup()
 {
     m_chooser.reset();
     m_items.clear();
@@ -91,7 +91,7 @@ void StatusAreaTest::cleanup()
     m_bus.reset();
 }
 
-void StatusAreaTest::offersItsItemFromTheFirstMoment()
+void StatusAreaChooserTest::offersItsItemFromTheFirstMoment()
 {
     m_chooser->start();
     QCOMPARE(m_items.size(), 1);
@@ -101,19 +101,19 @@ void StatusAreaTest::offersItsItemFromTheFirstMoment()
     QCOMPARE(m_chooser->bar()->thickness(), 22.0);
 }
 
-void StatusAreaTest::staysInTheDesktopsAreaWhenAHostComesInTime()
+void StatusAreaChooserTest::staysInTheDesktopsAreaWhenAHostComesInTime()
 {
     m_watcher->appear();
-    m_chooser->setPatience(400ms);
+    m_chooser->setHostTimeout(400ms);
     m_chooser->start();
     QTRY_COMPARE(m_watcher->registeredCount(), 1);
     QTest::qWait(600);
     QCOMPARE(m_items.size(), 1);
 }
 
-void StatusAreaTest::standsInABarOfItsOwnWhereNoHostComes()
+void StatusAreaChooserTest::standsInABarOfItsOwnWhereNoHostComes()
 {
-    m_chooser->setPatience(10ms);
+    m_chooser->setHostTimeout(10ms);
     m_chooser->start();
     QTRY_COMPARE(m_items.size(), 2);
     QVERIFY(isInOwnBar(m_items.constLast()));
@@ -122,7 +122,7 @@ void StatusAreaTest::standsInABarOfItsOwnWhereNoHostComes()
     QVERIFY(qobject_cast<OwnBarItem *>(m_chooser->item())->window().isVisible());
 }
 
-void StatusAreaTest::standsInABarOfItsOwnWithoutABus()
+void StatusAreaChooserTest::standsInABarOfItsOwnWithoutABus()
 {
     StatusAreaChooser chooser(QDBusConnection(u"nowhere"_s));
     const QSignalSpy items(&chooser, &StatusAreaChooser::itemAvailable);
@@ -132,9 +132,9 @@ void StatusAreaTest::standsInABarOfItsOwnWithoutABus()
     QVERIFY(isInOwnBar(chooser.item()));
 }
 
-void StatusAreaTest::givesItsBarUpWhenAHostAppears()
+void StatusAreaChooserTest::givesItsBarUpWhenAHostAppears()
 {
-    m_chooser->setPatience(10ms);
+    m_chooser->setHostTimeout(10ms);
     m_chooser->start();
     QTRY_COMPARE(m_items.size(), 2);
     m_watcher->appear();
@@ -143,10 +143,10 @@ void StatusAreaTest::givesItsBarUpWhenAHostAppears()
     QTRY_VERIFY(!m_items.at(1));
 }
 
-void StatusAreaTest::standsInAgainWhenTheHostStaysAway()
+void StatusAreaChooserTest::standsInAgainWhenTheHostStaysAway()
 {
     m_watcher->appear();
-    m_chooser->setPatience(50ms);
+    m_chooser->setHostTimeout(50ms);
     m_chooser->start();
     QTRY_COMPARE(m_watcher->registeredCount(), 1);
     settle(*m_peer);
@@ -156,10 +156,10 @@ void StatusAreaTest::standsInAgainWhenTheHostStaysAway()
     QTRY_VERIFY(!isInOwnBar(m_chooser->item()));
 }
 
-void StatusAreaTest::waitsOutAPanelThatIsRestarted()
+void StatusAreaChooserTest::waitsOutAPanelThatIsRestarted()
 {
     m_watcher->appear();
-    m_chooser->setPatience(60s);
+    m_chooser->setHostTimeout(60s);
     m_chooser->start();
     QTRY_COMPARE(m_watcher->registeredCount(), 1);
     m_watcher->disappear();
@@ -170,11 +170,11 @@ void StatusAreaTest::waitsOutAPanelThatIsRestarted()
     QCOMPARE(m_items.size(), 1);
 }
 
-void StatusAreaTest::aWatcherWithoutAHostIsNoStatusArea()
+void StatusAreaChooserTest::aWatcherWithoutAHostIsNoStatusArea()
 {
     m_watcher->haveHost(false);
     m_watcher->appear();
-    m_chooser->setPatience(50ms);
+    m_chooser->setHostTimeout(50ms);
     m_chooser->start();
     QTRY_VERIFY(isInOwnBar(m_chooser->item()));
     m_watcher->setHost(true);
@@ -183,7 +183,7 @@ void StatusAreaTest::aWatcherWithoutAHostIsNoStatusArea()
     QTRY_VERIFY(isInOwnBar(m_chooser->item()));
 }
 
-void StatusAreaTest::followsTheContentOfItsView()
+void StatusAreaChooserTest::followsTheContentOfItsView()
 {
     m_watcher->appear();
     m_chooser->start();
@@ -207,7 +207,7 @@ void StatusAreaTest::followsTheContentOfItsView()
     QCOMPARE(words(), u"35%, 4:10 to empty"_s);
 }
 
-void StatusAreaTest::passesMenuEntriesOn()
+void StatusAreaChooserTest::passesMenuEntriesOn()
 {
     m_watcher->appear();
     m_chooser->start();
@@ -220,7 +220,7 @@ void StatusAreaTest::passesMenuEntriesOn()
     QCOMPARE(triggered.takeFirst(), QVariantList { u"quit"_s });
 }
 
-void StatusAreaTest::takesItsNameOffTheBusAtTheEnd()
+void StatusAreaChooserTest::takesItsNameOffTheBusAtTheEnd()
 {
     m_watcher->appear();
     m_chooser->start();
@@ -235,5 +235,5 @@ void StatusAreaTest::takesItsNameOffTheBusAtTheEnd()
     QCOMPARE(reply.arguments(), QVariantList { false });
 }
 
-FERRIN_TEST(QGuiApplication, StatusAreaTest)
+FERRIN_TEST(QGuiApplication, StatusAreaChooserTest)
 #include "test_statusareachooser.moc"

@@ -24,10 +24,12 @@ void ItemOnTheBus::init()
     m_lookUps = 0;
     m_resolver = std::make_unique<HostResolver>(m_connection, [this](uint) {
         ++m_lookUps;
-        return m_process;
+        return HostProcess { .name = m_process };
     });
     m_colors = std::make_unique<PanelColors>();
     m_item = std::make_unique<StatusNotifierItem>(m_connection, *m_resolver, *m_colors);
+    // No test sees a repetition that it does not ask for.
+    m_item->setLabelRepeatDelay(std::chrono::hours(1));
     m_item->setContent(dischargingAt(37, u"4:29"_s));
 }
 

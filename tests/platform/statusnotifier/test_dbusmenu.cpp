@@ -75,7 +75,8 @@ void DBusMenuTest::init()
     const QDBusConnection connection = m_bus->connect();
     m_service = connection.baseService();
     m_process = u"plasmashell"_s;
-    m_resolver = std::make_unique<HostResolver>(connection, [this](uint) { return m_process; });
+    m_resolver = std::make_unique<HostResolver>(
+        connection, [this](uint) { return HostProcess { .name = m_process }; });
     m_menu = std::make_unique<DBusMenu>(connection, *m_resolver);
     m_menu->setEntries(quitOnly);
     m_host = std::make_unique<BusPeer>(m_bus->connect());

@@ -21,7 +21,8 @@ IconPixmapList paintedFor(const QString &process, qreal scale = 1,
                           const ItemContent &content = usual)
 {
     ItemPictures pictures;
-    return pictures.pictures(profileForProcess(process), content, context, scale);
+    return pictures.pictures(profileFor({ .name = process }), content, context,
+                             { .desktopScale = scale });
 }
 
 QList<int> heightsOf(const IconPixmapList &pictures)
@@ -47,7 +48,8 @@ private Q_SLOTS:
     void neverPaintsDenserThanThree();
     void staysSmallForEveryHostAtEveryScale();
     void offersAtLeastOnePictureWhateverTheContent();
-    void theWidestOfTheMixedListHasTheLargestArea();
+    void offersMateTheHeightsOfThePanelsThatAreThere();
+    void paintsLargerTextOnTallerPanels();
     void paintsAgainOnlyWhenSomethingChanged();
 };
 
@@ -117,7 +119,8 @@ void ItemPicturesTest::staysSmallForEveryHostAtEveryScale()
         for (const qreal scale : { 1.0, 2.0, 3.0 }) {
             ItemPictures pictures;
             qsizetype bytes = 0;
-            for (const IconPixmap &picture : pictures.pictures(profile, widest, context, scale))
+            for (const IconPixmap &picture :
+                 pictures.pictures(profile, widest, context, { .desktopScale = scale }))
                 bytes += picture.pixels.size();
             QVERIFY2(bytes < 62 * 1024, profile.name.data());
         }
@@ -134,23 +137,38 @@ void ItemPicturesTest::offersAtLeastOnePictureWhateverTheContent()
     }
 }
 
-void ItemPicturesTest::theWidestOfTheMixedListHasTheLargestArea()
+void ItemPicturesTest::offersMateTheHeightsOfThePanelsThatAreThere()
 {
-    const IconPixmapList pictures = paintedFor(u"somebody"_s);
-    const auto widest = std::max_element(
-        pictures.begin(), pictures.end(),
-        [](const IconPixmap &a, const IconPixmap &b) { return a.width < b.width; });
-    for (const IconPixmap &picture : pictures)
-        QVERIFY(picture.pixels.size() <= widest->pixels.size());
-    QVERIFY(widest->width > widest->height);
+    const HostProfile &mate = profileFor({ .name = u"notification-ar"_s });
+    for (const int height : { 24, 31, 34, 36, 44, 48 }) {
+        ItemPictures pictures;
+        const auto heights = heightsOf(
+            pictures.pictures(mate, usual, context, { .panelHeights = { height, 200 } }));
+        QCOMPARE(heights.constFirst(), height);
+        QCOMPARE(heights.count(height), 1);
+        QVERIFY(!heights.contains(200));
+    }
+}
+
+void ItemPicturesTest::paintsLargerTextOnTallerPanels()
+{
+    const HostProfile &mate = profileFor({ .name = u"notification-ar"_s });
+    int widthBefore = 0;
+    for (const int height : { 24, 30, 36, 44, 48 }) {
+        ItemPictures pictures;
+        const IconPixmap picture
+            = pictures.pictures(mate, usual, context, { .panelHeights = { height } }).constFirst();
+        QVERIFY(picture.width > widthBefore);
+        widthBefore = picture.width;
+    }
 }
 
 void ItemPicturesTest::paintsAgainOnlyWhenSomethingChanged()
 {
     ItemPictures pictures;
-    const HostProfile &profile = profileForProcess(u"xfce4-panel");
+    const HostProfile &profile = profileFor({ .name = u"xfce4-panel"_s });
     const auto paint = [&](const ItemContent &content, const ViewContext &colors, qreal scale) {
-        return pictures.pictures(profile, content, colors, scale);
+        return pictures.pictures(profile, content, colors, { .desktopScale = scale });
     };
     const IconPixmapList first = paint(usual, context, 1);
     QVERIFY(paint(usual, context, 1).constFirst().pixels.isSharedWith(first.constFirst().pixels));

@@ -258,7 +258,7 @@ void TrayDockingTest::readsTheGroundWhereTheTrayTellsNoColor()
     colors.setTrayText(Qt::green);
     QCOMPARE(colors.contextForTray({ .ground = Qt::white }).text, QColor(Qt::green));
     colors.setAppearance({ .forcedDark = true });
-    QCOMPARE(colors.contextForTray({ .ground = Qt::white }).text, QColor(Qt::white));
+    QCOMPARE(colors.contextForTray({ .ground = Qt::white }).text, QColor(Qt::green));
 }
 
 void TrayDockingTest::itemComesBackToATrayThatLetsGoOfIt()
@@ -324,7 +324,7 @@ void TrayDockingTest::itemReturnsToATrayThatIsRestarted()
 {
     m_tray->own();
     StatusAreaChooser chooser(QDBusConnection(u"nowhere"_s));
-    chooser.setPatience(60s);
+    chooser.setHostTimeout(60s);
     const QSignalSpy items(&chooser, &StatusAreaChooser::itemAvailable);
     chooser.start();
     QTRY_VERIFY(qobject_cast<TrayItem *>(chooser.item()));
@@ -346,7 +346,7 @@ void TrayDockingTest::aHostThatAppearsTakesTheItemOver()
     FakeWatcher watcher(bus.connect());
     m_tray->own();
     StatusAreaChooser chooser(bus.connect());
-    chooser.setPatience(10ms);
+    chooser.setHostTimeout(10ms);
     chooser.start();
     QTRY_VERIFY(qobject_cast<TrayItem *>(chooser.item()));
     const xcb_window_t icon = requested();
@@ -362,7 +362,7 @@ void TrayDockingTest::aHostThatAppearsTakesTheItemOver()
 void TrayDockingTest::aTrayThatAppearsTakesTheItemFromTheOwnBar()
 {
     StatusAreaChooser chooser(QDBusConnection(u"nowhere"_s));
-    chooser.setPatience(10ms);
+    chooser.setHostTimeout(10ms);
     chooser.start();
     QTRY_VERIFY(chooser.item());
     QVERIFY(!qobject_cast<TrayItem *>(chooser.item()));

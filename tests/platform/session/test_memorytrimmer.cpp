@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "platform/linux/session/spentmemory.h"
+#include "platform/linux/session/memorytrimmer.h"
 
 #include <QFile>
 #include <QLibrary>
@@ -36,14 +36,14 @@ int residentOf(const QByteArray &name)
 
 } // namespace
 
-class TestSpentMemory : public QObject
+class MemoryTrimmerTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void dropsTheCodeThatCameLaterAndLeavesItUsable()
     {
-        SpentMemory memory;
+        MemoryTrimmer memory;
         memory.rememberLibraries();
         QLibrary library(QString::fromLatin1(FERRIN_SPARE_LIBRARY));
         QVERIFY2(library.load(), qPrintable(library.errorString()));
@@ -53,7 +53,7 @@ private Q_SLOTS:
         const int before = residentOf("spare_library");
         QVERIFY(before > 0);
 
-        memory.giveBack();
+        memory.trim();
         const int after = residentOf("spare_library");
         QVERIFY2(after < before, qPrintable(u"%1 of %2 KiB"_s.arg(after).arg(before)));
         QCOMPARE(answer(), 42);
@@ -61,14 +61,14 @@ private Q_SLOTS:
 
     void leavesTheLibrariesOfTheDayAlone()
     {
-        SpentMemory memory;
+        MemoryTrimmer memory;
         memory.rememberLibraries();
         const int before = residentOf("libQt6Core");
         QVERIFY(before > 0);
-        memory.giveBack();
+        memory.trim();
         QVERIFY(residentOf("libQt6Core") >= before);
     }
 };
 
-QTEST_GUILESS_MAIN(TestSpentMemory)
-#include "test_spentmemory.moc"
+QTEST_GUILESS_MAIN(MemoryTrimmerTest)
+#include "test_memorytrimmer.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "platform/linux/session/spentmemory.h"
+#include "platform/linux/session/memorytrimmer.h"
 
 #include <functional>
 #include <link.h>
@@ -35,38 +35,38 @@ void dropUnchangedPages(const dl_phdr_info &library)
             continue;
         const quintptr begin = (library.dlpi_addr + segment.p_vaddr) & ~(page - 1);
         const quintptr end = library.dlpi_addr + segment.p_vaddr + segment.p_memsz;
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader tells addresses as numbers
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader reports addresses as numbers
         madvise(reinterpret_cast<void *>(begin), end - begin, MADV_DONTNEED);
     }
 }
 
 } // namespace
 
-SpentMemory::SpentMemory(QObject *parent)
+MemoryTrimmer::MemoryTrimmer(QObject *parent)
     : QObject(parent)
 {
     using namespace std::chrono_literals;
-    m_moment.setSingleShot(true);
-    m_moment.setInterval(2s);
-    connect(&m_moment, &QTimer::timeout, this, &SpentMemory::giveBack);
+    m_delay.setSingleShot(true);
+    m_delay.setInterval(2s);
+    connect(&m_delay, &QTimer::timeout, this, &MemoryTrimmer::trim);
 }
 
-void SpentMemory::rememberLibraries()
+void MemoryTrimmer::rememberLibraries()
 {
     visitLibraries([this](const dl_phdr_info &library) { m_libraries.insert(library.dlpi_addr); });
 }
 
-void SpentMemory::giveBackSoon()
+void MemoryTrimmer::trimSoon()
 {
-    m_moment.start();
+    m_delay.start();
 }
 
-void SpentMemory::keep()
+void MemoryTrimmer::cancel()
 {
-    m_moment.stop();
+    m_delay.stop();
 }
 
-void SpentMemory::giveBack()
+void MemoryTrimmer::trim()
 {
     visitLibraries([this](const dl_phdr_info &library) {
         if (!m_libraries.contains(library.dlpi_addr))

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "platform/linux/panelcolors/panelsheets.h"
+#include "platform/linux/panelcolors/lxqtcolors.h"
 
 #include "menubar/contrast.h"
 #include "platform/linux/panelcolors/stylesheet.h"
 
-#include <QDir>
-#include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -49,15 +47,6 @@ std::optional<QColor> ofLxqtPanel(const QSettings &settings, const QString &entr
     return {};
 }
 
-std::optional<QColor> firstOf(const StyleSheet &sheet, const QStringList &selectors)
-{
-    for (const QString &selector : selectors) {
-        if (const auto color = sheet.color(selector, u"color"_s))
-            return color;
-    }
-    return {};
-}
-
 } // namespace
 
 QStringList LxqtColors::files() const
@@ -74,49 +63,9 @@ std::optional<QColor> LxqtColors::readText() const
         ground = sheet.ground(u"LXQtPanel #BackgroundWidget"_s);
     auto text = ofLxqtPanel(panel, u"font-color"_s);
     if (!text)
-        text = firstOf(sheet, { u"Plugin > QToolButton"_s, u"Plugin > QWidget"_s, u"LXQtPanel"_s });
+        text = sheet.firstColor(
+            { u"Plugin > QToolButton"_s, u"Plugin > QWidget"_s, u"LXQtPanel"_s });
     return readableText(text, ground);
-}
-
-void WaybarColors::setArguments(const QStringList &arguments)
-{
-    m_given.clear();
-    for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
-        if (arguments[i] == u"-s" || arguments[i] == u"--style")
-            m_given = arguments[i + 1];
-    }
-}
-
-QString WaybarColors::file() const
-{
-    return QDir::isAbsolutePath(m_given) ? m_given : configFile(u"waybar/style.css"_s);
-}
-
-QStringList WaybarColors::files() const
-{
-    return StyleSheet::read(file()).files();
-}
-
-std::optional<QColor> WaybarColors::readText() const
-{
-    const StyleSheet sheet = StyleSheet::read(file());
-    std::optional<QColor> ground;
-    for (const QString &selector : { u"#tray"_s, u".modules-right"_s, u"window#waybar > box"_s,
-                                     u"window#waybar"_s, u"#waybar"_s, u"*"_s }) {
-        ground = sheet.ground(selector);
-        if (ground && ground->alpha() > 0)
-            break;
-    }
-    return readableText(firstOf(sheet, { u"#tray"_s, u"window#waybar"_s, u"#waybar"_s, u"*"_s }),
-                        ground);
-}
-
-QStringList argumentsFromKernel(uint processId)
-{
-    QFile words(u"/proc/%1/cmdline"_s.arg(processId));
-    if (!words.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromLocal8Bit(words.read(4096)).split(QChar::Null, Qt::SkipEmptyParts);
 }
 
 } // namespace ferrin
