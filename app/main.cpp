@@ -80,7 +80,7 @@ int runApplication(const Bundle &bundle, const QString &path)
     PowerPlatform power(QDBusConnection::systemBus());
     BatteryDataProvider::setPlatform(power.parts());
     DesktopPlatform desktop(session, bundle.identifier());
-    UpdatePlatform updates(QDBusConnection::systemBus());
+    UpdatePlatform updates(QDBusConnection::systemBus(), session, path);
     AppUpdater::setParts(updates.parts());
 
     const ProgramFile program(path);

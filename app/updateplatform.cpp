@@ -3,12 +3,10 @@
 
 #include "app/updateplatform.h"
 
-#include "app/installation.h"
 #include "core/batterydataprovider.h"
-#include "platform/linux/session/desktopnames.h"
-#include "state/bundle.h"
 #include "state/shareddefaults.h"
-#include "updates/packagefile.h"
+
+#include <QFileInfo>
 
 namespace ferrin {
 
@@ -22,21 +20,19 @@ BatteryReserve batteryReserve()
 
 } // namespace
 
-UpdatePlatform::UpdatePlatform(const QDBusConnection &systemBus)
-    : m_engine(privateFolder() + QStringLiteral("/ferrin-update-helper"))
+UpdatePlatform::UpdatePlatform(const QDBusConnection &systemBus, const QDBusConnection &sessionBus,
+                               const QString &program)
+    : m_engine({ .bus = systemBus, .program = QFileInfo(program).canonicalFilePath() })
     , m_network(systemBus)
-    , m_installer(m_starter, currentDesktopNames())
+    , m_notice(sessionBus)
 {
 }
 
 Updater::Parts UpdatePlatform::parts()
 {
-    return { .feed = UpdateFeed::ofThisBuild(),
-             .installedVersion = Bundle::main().shortVersion(),
-             .folder = downloadFolder(),
-             .store = sharedDefaults(),
+    return { .store = sharedDefaults(),
              .engine = m_engine,
-             .installer = m_installer,
+             .notice = m_notice,
              .network = m_network,
              .battery = &batteryReserve };
 }

@@ -3,10 +3,9 @@
 
 #pragma once
 
+#include "platform/linux/packagekit/packagekitengine.h"
 #include "platform/linux/session/connectioncost.h"
-#include "platform/linux/session/desktoppackageinstaller.h"
-#include "platform/linux/session/programstarter.h"
-#include "updates/processupdateengine.h"
+#include "platform/linux/session/desktopnotice.h"
 #include "updates/updater.h"
 
 namespace ferrin {
@@ -16,15 +15,16 @@ namespace ferrin {
 class UpdatePlatform final
 {
 public:
-    explicit UpdatePlatform(const QDBusConnection &systemBus);
+    /// `program` is the file that this process runs.
+    UpdatePlatform(const QDBusConnection &systemBus, const QDBusConnection &sessionBus,
+                   const QString &program);
 
     [[nodiscard]] Updater::Parts parts();
 
 private:
-    ProcessUpdateEngine m_engine;
+    PackageKitEngine m_engine;
     ConnectionCost m_network;
-    DetachedProgramStarter m_starter;
-    DesktopPackageInstaller m_installer;
+    DesktopNotice m_notice;
 };
 
 } // namespace ferrin

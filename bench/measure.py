@@ -32,8 +32,8 @@ TREE = pathlib.Path(sys.argv[1]).resolve()
 FERRIN = TREE / "bin" / "ferrin"
 REFRESH = TREE / "bench" / "bench_refresh"
 BARE_ITEM = TREE / "bench" / "bench_bareitem"
-WITH_UPDATER = TREE / "bench" / "bench_ferrin_with_updater"
-WITHOUT_UPDATER = TREE / "bench" / "bench_ferrin_without_updater"
+# A folder of the package manager's, in whose place the tree is seen.
+PACKAGE_FOLDER = "/usr/games"
 OPENING = TREE / "bench" / "bench_opening"
 OUR_WINDOWS = TREE / "libexec" / "ferrin" / "ferrin-windows.so"
 BARE_WINDOWS = TREE / "bench" / "bench_barewindow.so"
@@ -187,30 +187,42 @@ def starting():
         f"{bare:.0f} ms a bare `QGuiApplication`", verdict(ours / bare, 1.5))
 
 
-def instructions_to_item(binary, session, mock, registrations):
-    """Until its item is registered, including the exit that follows at once."""
+def instructions_to_item(command, session, mock, registrations):
+    """Until its item is registered, the end that follows at once included."""
     log = pathlib.Path(session.folder, "counted")
     registrations.seconds_to_item(lambda: session.start(
-        [*COUNTING, f"--log-file={log}", str(binary)], mock, stderr=subprocess.DEVNULL))
+        command(*COUNTING, f"--log-file={log}"), mock, stderr=subprocess.DEVNULL))
     return counted(log.read_text())
 
 
+def as_built(*before):
+    return [*before, str(FERRIN)]
+
+
+def as_installed(*before):
+    """The same program where packages put theirs, in a mount namespace of its own."""
+    mine = [] if os.geteuid() == 0 else ["--user", "--map-current-user", "--keep-caps"]
+    return ["unshare", *mine, "--mount", "--", "sh", "-c",
+            f'mount --bind {TREE} {PACKAGE_FOLDER} && exec "$@"', "sh", *before,
+            f"{PACKAGE_FOLDER}/bin/ferrin"]
+
+
 def updater():
-    """What the updater costs: the same program with a feed and without one."""
-    twins = (WITH_UPDATER, WITHOUT_UPDATER)
-    taken = {binary: [] for binary in twins}
-    held = {binary: [] for binary in twins}
+    """What the updater costs: the same program where a package may own it, and where none can."""
+    twins = (as_installed, as_built)
+    taken = {command: [] for command in twins}
+    held = {command: [] for command in twins}
     with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
         mock = {key: laptop.environment[key] for key in MOCK}
         registrations = Registrations(session.environment["DBUS_SESSION_BUS_ADDRESS"])
         for _ in range(STARTS_OF_TWINS):
-            for binary in twins:
-                taken[binary].append(instructions_to_item(binary, session, mock, registrations))
+            for command in twins:
+                taken[command].append(instructions_to_item(command, session, mock, registrations))
         for _ in range(MEMORIES_OF_TWINS):
-            for binary in twins:
-                program = session.start([str(binary)], mock, stderr=subprocess.DEVNULL)
+            for command in twins:
+                program = session.start(command(), mock, stderr=subprocess.DEVNULL)
                 time.sleep(SETTLING_SECONDS)
-                held[binary].append(memory_of(program.pid)["Pss"])
+                held[command].append(memory_of(program.pid)["Pss"])
                 end(program)
     ours, bare = map(statistics.median, taken.values())
     row(f"Instructions from process start to registered item with an updater, median of "

@@ -19,6 +19,7 @@ Pressable {
     spokenName: label
     implicitWidth: text.implicitWidth + 8 + track.width
     implicitHeight: Math.max(20, text.implicitHeight)
+    opacity: enabled ? 1 : 0.5
 
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true

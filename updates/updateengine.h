@@ -6,55 +6,49 @@
 #include "updates/release.h"
 #include "updates/updatefailure.h"
 
-#include <QByteArray>
-#include <QDateTime>
 #include <QObject>
-#include <QString>
-#include <QUrl>
 
 #include <optional>
 
 namespace ferrin {
 
-/// What a check compares the feed with.
-struct UpdateCheck
-{
-    QUrl feed;
-    /// Ed25519, 32 bytes.
-    QByteArray publicKey;
-    QString installedVersion;
-    /// Debian's name of the machine's architecture.
-    QString architecture;
-    /// The newest time of issue that was ever seen; absent before the first check.
-    std::optional<QDateTime> newestIssued;
-
-    friend bool operator==(const UpdateCheck &, const UpdateCheck &) = default;
+/// Whether the system's package service can keep this copy of the program current.
+enum class UpdateSupport {
+    full,
+    /// No package installed it, so no package can replace it.
+    notPackaged,
+    /// The system has no package service that programs can ask.
+    noService,
 };
 
-/// What a feed that can be believed means for this machine.
-struct UpdateOffer
-{
-    QDateTime issued;
-    /// Absent when the installed version is as new.
-    std::optional<Release> release;
-
-    friend bool operator==(const UpdateOffer &, const UpdateOffer &) = default;
+enum class UpdateActivity {
+    working,
+    /// Another installation has to finish first.
+    waiting,
+    /// The desktop asks the user for a password.
+    authorizing,
+    downloading,
+    installing,
 };
 
-struct PackageRequest
+struct UpdateProgress
 {
-    /// The package lies beside the feed.
-    QUrl feed;
-    Package package;
-    /// Absolute; made when it is missing.
-    QString folder;
+    UpdateActivity activity = UpdateActivity::working;
+    /// 0 to 1; absent while it is unknown.
+    std::optional<double> done;
+    bool canCancel = true;
 
-    friend bool operator==(const PackageRequest &, const PackageRequest &) = default;
+    friend bool operator==(const UpdateProgress &, const UpdateProgress &) = default;
 };
 
-/// Speaks to the update server, one task at a time, and answers each task by one of its signals,
-/// later. What it tells was verified: an offer by the feed's signature, a file by what a verified
-/// feed says of it.
+/// Whether the user waits for the answer, and may be asked questions.
+enum class UpdateManner {
+    interactive,
+    background,
+};
+
+/// The system's package service: one task at a time, each answered later by one of the signals.
+/// The service verifies what it downloads and installs. The platform implements this.
 class UpdateEngine : public QObject
 {
     Q_OBJECT
@@ -62,16 +56,25 @@ class UpdateEngine : public QObject
 public:
     using QObject::QObject;
 
-    virtual void check(const UpdateCheck &check) = 0;
-    virtual void download(const PackageRequest &request) = 0;
-    /// Nothing more is told of the present task. What was fetched may be continued later.
+    [[nodiscard]] virtual UpdateSupport support() const = 0;
+    /// Finds out again whether there is a service, without starting it.
+    virtual void refreshSupport() = 0;
+
+    virtual void check(UpdateManner manner) = 0;
+    virtual void download(const Release &release, UpdateManner manner) = 0;
+    /// Downloads first what is still missing.
+    virtual void install(const Release &release) = 0;
+    /// Ends the task as soon as that is safe. Nothing more is told of it.
     virtual void cancel() = 0;
 
 Q_SIGNALS:
-    void checked(const ferrin::UpdateOffer &offer);
-    /// Bytes.
-    void progressed(qint64 received, qint64 total);
-    void downloaded(const QString &path);
+    void supportChanged();
+    /// Absent when nothing newer can be installed.
+    void checked(const std::optional<ferrin::Release> &release);
+    void progressed(const ferrin::UpdateProgress &progress);
+    void downloaded();
+    /// The package database says that the version is installed.
+    void installed();
     void failed(const ferrin::UpdateTrouble &trouble);
 };
 

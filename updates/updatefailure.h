@@ -6,55 +6,53 @@
 #include <QMetaType>
 #include <QString>
 
-#include <optional>
-
 namespace ferrin {
 
-/// Why a check, a download or an installation did not come to its end.
+/// Why a check, a download or an installation did not succeed.
 enum class UpdateFailure {
-    /// The server could not be reached, or broke off.
-    noConnection,
-    /// The server answered with an error, or not in the form that was asked for.
-    serverTrouble,
-    /// The server could not prove that it is the one that was meant.
-    notTheServer,
-    /// The way led to an address without encryption.
-    notEncrypted,
-    tooSlow,
-    tooLarge,
-    /// The feed is not signed with our key.
-    badSignature,
-    /// The feed is signed and says nothing that makes sense.
-    badFeed,
-    /// The feed has expired, or comes from the future.
+    notPackaged,
+    noService,
+    /// The package service cannot be started, or ended in the middle.
+    serviceBroken,
+    /// An error of the package service that has no words of its own here.
+    serviceError,
+    offline,
+    unreachable,
+    /// The package source answered with an error.
+    sourceError,
+    /// A signature is missing, wrong, or by an unknown key.
+    notTrusted,
+    /// A list or a package is not what the signed list says.
+    tampered,
+    /// A signed list has expired, or its date is in the future.
     notCurrent,
-    /// An older feed than one that was seen before.
-    replayed,
-    /// A newer release, without a package for this machine.
-    noPackage,
-    /// The package is not the one that the feed describes.
-    badPackage,
+    /// A package that is announced and not there.
+    packageMissing,
+    tooSlow,
+    notAuthorized,
+    /// Another program holds the package database.
+    busy,
+    /// An earlier installation was broken off, and the package manager refuses to go on.
+    interrupted,
+    /// The package's own set-up failed, or is unfinished.
+    setupFailed,
+    conflict,
     diskFull,
-    cannotWrite,
-    /// Another session of the user's is at the same download.
-    alreadyAtWork,
-    /// The part of the program that speaks to the network could not run to its end.
-    brokenOff,
-    noInstaller,
+    /// The service reported success, and the old version is still installed.
+    nothingDone,
 };
 
 /// One or two sentences for the user.
 [[nodiscard]] QString plainWords(UpdateFailure failure);
 
-/// The name by which one process tells another.
-[[nodiscard]] QString rawValue(UpdateFailure failure);
-[[nodiscard]] std::optional<UpdateFailure> updateFailureFromRawValue(QStringView rawValue);
+/// The name in the log.
+[[nodiscard]] QString logName(UpdateFailure failure);
 
 /// A failure with what the log says about it.
 struct UpdateTrouble
 {
-    UpdateFailure failure = UpdateFailure::brokenOff;
-    /// For those who look after the machine: one line.
+    UpdateFailure failure = UpdateFailure::serviceError;
+    /// One line for whoever looks after the machine.
     QString detail;
 
     friend bool operator==(const UpdateTrouble &, const UpdateTrouble &) = default;

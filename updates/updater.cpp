@@ -10,25 +10,32 @@
 
 namespace ferrin {
 
+using namespace Qt::StringLiterals;
+
 Updater::Updater(const Parts &parts)
     : m_parts(parts)
     , m_records(parts.store)
-    , m_session({ .feed = parts.feed,
-                  .installedVersion = parts.installedVersion,
-                  .folder = parts.folder,
-                  .engine = parts.engine,
-                  .records = m_records,
-                  .installer = parts.installer })
+    , m_session(parts.engine, m_records)
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::VeryCoarseTimer);
     m_timer.callOnTimeout(this, &Updater::look);
-    if (!hasFeed())
+    m_support = m_parts.engine.support();
+    connect(&m_parts.engine, &UpdateEngine::supportChanged, this, [this] {
+        m_support = m_parts.engine.support();
+        if (!isPackaged())
+            m_timer.stop();
+    });
+    connect(&m_session, &UpdateSession::offered, this, &Updater::tellOfOffer);
+    m_follower = m_session.bindableIsBackground().addNotifier([this] { withdrawSeenNotice(); });
+    m_canCheck.setBinding([this] {
+        return m_support == UpdateSupport::full
+            && m_session.bindableStage().value() != UpdateSession::Stage::checking;
+    });
+    if (!isPackaged())
         return;
     m_automaticallyChecks = m_records.automaticallyChecksForUpdates();
     m_automaticallyDownloads = m_records.automaticallyDownloadsUpdates();
-    m_canCheck.setBinding(
-        [this] { return m_session.bindableStage().value() != UpdateSession::Stage::checking; });
 }
 
 void Updater::start()
@@ -46,7 +53,7 @@ void Updater::checkForUpdates()
 
 void Updater::setAutomaticallyChecksForUpdates(bool checks)
 {
-    if (!hasFeed() || checks == automaticallyChecksForUpdates())
+    if (support() != UpdateSupport::full || checks == automaticallyChecksForUpdates())
         return;
     m_automaticallyChecks = checks;
     m_records.setAutomaticallyChecksForUpdates(checks);
@@ -55,7 +62,7 @@ void Updater::setAutomaticallyChecksForUpdates(bool checks)
 
 void Updater::setAutomaticallyDownloadsUpdates(bool downloads)
 {
-    if (!hasFeed() || downloads == automaticallyDownloadsUpdates())
+    if (support() != UpdateSupport::full || downloads == automaticallyDownloadsUpdates())
         return;
     m_automaticallyDownloads = downloads;
     m_records.setAutomaticallyDownloadsUpdates(downloads);
@@ -78,8 +85,7 @@ void Updater::look()
 
 bool Updater::mayLook() const
 {
-    return hasFeed() && automaticallyChecksForUpdates()
-        && m_session.stage() == UpdateSession::Stage::idle
+    return isPackaged() && automaticallyChecksForUpdates() && m_session.canBeginInBackground()
         && updateschedule::isDue(m_records.lastCheck(), m_parts.now())
         && !m_parts.battery().isLow();
 }
@@ -87,15 +93,37 @@ bool Updater::mayLook() const
 void Updater::beginQuietCheck()
 {
     m_records.setLastCheck(m_parts.now());
-    m_session.beginQuietly(automaticallyDownloadsUpdates());
+    m_session.beginInBackground(automaticallyDownloadsUpdates());
 }
 
 void Updater::waitForNextLook()
 {
-    if (hasFeed() && automaticallyChecksForUpdates())
+    if (isPackaged() && automaticallyChecksForUpdates())
         m_timer.start(updateschedule::untilNextLook(m_records.lastCheck(), m_parts.now()));
     else
         m_timer.stop();
+}
+
+void Updater::tellOfOffer()
+{
+    const QString version = m_session.release()->version;
+    const bool isReady = m_session.stage() == UpdateSession::Stage::readyToInstall;
+    // Once: an offer that was not looked at is found again every day.
+    if (version == m_told)
+        return;
+    m_told = version;
+    m_parts.notice.show(u"Ferrin %1 is available"_s.arg(version),
+                        isReady ? u"It is downloaded and ready to install."_s
+                                : u"See what is new, and install it when it suits you."_s,
+                        [this] { m_session.present(); });
+}
+
+void Updater::withdrawSeenNotice()
+{
+    if (m_session.isBackground())
+        return;
+    m_told.clear();
+    m_parts.notice.withdraw();
 }
 
 } // namespace ferrin

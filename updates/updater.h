@@ -4,6 +4,7 @@
 #pragma once
 
 #include "updates/updateconditions.h"
+#include "updates/updatenotice.h"
 #include "updates/updaterecords.h"
 #include "updates/updatesession.h"
 
@@ -21,12 +22,11 @@ class DefaultsStore;
 
 /// Keeps the program current: looks by itself once a day where the user lets it, and whenever the
 /// user asks. It shows nothing; `session()` is what a window shows, and `presentationRequested`
-/// there is when. A build without a feed has no timer and reads and writes nothing. Owned by its
-/// controller, for the life of the process.
+/// there is when. A copy that no package installed has no timer and reads and writes nothing. Owned
+/// by its controller, for the life of the process.
 class Updater : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(bool hasFeed READ hasFeed CONSTANT)
     Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates BINDABLE bindableCanCheckForUpdates)
     Q_PROPERTY(bool automaticallyChecksForUpdates READ automaticallyChecksForUpdates WRITE
                    setAutomaticallyChecksForUpdates BINDABLE bindableAutomaticallyChecksForUpdates)
@@ -36,13 +36,9 @@ class Updater : public QObject
 public:
     struct Parts
     {
-        UpdateFeed feed;
-        QString installedVersion;
-        /// Where downloads go, absolute.
-        QString folder;
         DefaultsStore &store;
         UpdateEngine &engine;
-        PackageInstaller &installer;
+        UpdateNotice &notice;
         NetworkCost &network;
         std::function<BatteryReserve()> battery;
         std::function<QDateTime()> now = &QDateTime::currentDateTimeUtc;
@@ -54,10 +50,13 @@ public:
     /// From now on it looks by itself.
     void start();
 
-    /// False in a build that the system's package manager keeps current.
-    [[nodiscard]] bool hasFeed() const { return m_parts.feed.exists(); }
+    /// Where it is not full, the user can neither check nor set anything.
+    [[nodiscard]] UpdateSupport support() const { return m_support; }
+    [[nodiscard]] QBindable<UpdateSupport> bindableSupport() const { return &m_support; }
+    /// Looks anew, since the user may have changed the system.
+    void refreshSupport() { m_parts.engine.refreshSupport(); }
 
-    /// False while a check is running, and without a feed.
+    /// False while a check is running, and without full support.
     [[nodiscard]] bool canCheckForUpdates() const { return m_canCheck; }
     [[nodiscard]] QBindable<bool> bindableCanCheckForUpdates() const { return &m_canCheck; }
     /// The user wants to know: a check begins now, on any network and battery, and the session asks
@@ -86,14 +85,20 @@ public:
     [[nodiscard]] const QTimer &timer() const noexcept { return m_timer; }
 
 private:
+    [[nodiscard]] bool isPackaged() const { return support() != UpdateSupport::notPackaged; }
     [[nodiscard]] bool mayLook() const;
     void beginQuietCheck();
     void waitForNextLook();
+    void tellOfOffer();
+    void withdrawSeenNotice();
 
     Parts m_parts;
     UpdateRecords m_records;
     UpdateSession m_session;
     QTimer m_timer;
+    QString m_told;
+    QPropertyNotifier m_follower;
+    Q_OBJECT_BINDABLE_PROPERTY(Updater, UpdateSupport, m_support)
     Q_OBJECT_BINDABLE_PROPERTY(Updater, bool, m_canCheck)
     Q_OBJECT_BINDABLE_PROPERTY(Updater, bool, m_automaticallyChecks)
     Q_OBJECT_BINDABLE_PROPERTY(Updater, bool, m_automaticallyDownloads)

@@ -14,7 +14,6 @@ const QString checksKey = u"automaticallyChecksForUpdates"_s;
 const QString downloadsKey = u"automaticallyDownloadsUpdates"_s;
 const QString lastCheckKey = u"lastUpdateCheck"_s;
 const QString skippedKey = u"skippedUpdateVersion"_s;
-const QString newestIssuedKey = u"newestUpdateFeed"_s;
 } // namespace
 
 UpdateRecords::UpdateRecords(DefaultsStore &store)
@@ -60,16 +59,6 @@ QString UpdateRecords::skippedVersion() const
 void UpdateRecords::setSkippedVersion(const QString &version)
 {
     m_store.setObject(skippedKey, version);
-}
-
-std::optional<QDateTime> UpdateRecords::newestIssued() const
-{
-    return moment(newestIssuedKey);
-}
-
-void UpdateRecords::setNewestIssued(const QDateTime &issued)
-{
-    setMoment(newestIssuedKey, issued);
 }
 
 std::optional<QDateTime> UpdateRecords::moment(const QString &key) const

@@ -35,10 +35,6 @@ public:
     [[nodiscard]] QString skippedVersion() const;
     void setSkippedVersion(const QString &version);
 
-    /// The time of issue of the newest feed that was believed.
-    [[nodiscard]] std::optional<QDateTime> newestIssued() const;
-    void setNewestIssued(const QDateTime &issued);
-
 private:
     [[nodiscard]] std::optional<QDateTime> moment(const QString &key) const;
     void setMoment(const QString &key, const QDateTime &moment);

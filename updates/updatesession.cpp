@@ -4,53 +4,69 @@
 #include "updates/updatesession.h"
 
 #include "base/logging.h"
-#include "updates/packagefile.h"
-#include "updates/packageinstaller.h"
 #include "updates/updaterecords.h"
 
 #include <algorithm>
 
 namespace ferrin {
 
-using namespace Qt::StringLiterals;
-
-UpdateSession::UpdateSession(const Parts &parts)
-    : m_parts(parts)
+UpdateSession::UpdateSession(UpdateEngine &engine, UpdateRecords &records)
+    : m_engine(engine)
+    , m_records(records)
 {
-    connect(&m_parts.engine, &UpdateEngine::checked, this, &UpdateSession::takeOffer);
-    connect(&m_parts.engine, &UpdateEngine::progressed, this,
-            [this](qint64 received, qint64 total) {
-                m_received = received;
-                m_total = total;
-            });
-    connect(&m_parts.engine, &UpdateEngine::downloaded, this, &UpdateSession::takePackage);
-    connect(&m_parts.engine, &UpdateEngine::failed, this, &UpdateSession::fail);
+    connect(&m_engine, &UpdateEngine::checked, this, &UpdateSession::takeAnswer);
+    connect(&m_engine, &UpdateEngine::progressed, this,
+            [this](const UpdateProgress &progress) { m_progress = progress; });
+    connect(&m_engine, &UpdateEngine::downloaded, this, &UpdateSession::takeDownload);
+    connect(&m_engine, &UpdateEngine::installed, this, &UpdateSession::takeInstallation);
+    connect(&m_engine, &UpdateEngine::failed, this, &UpdateSession::fail);
 }
 
 void UpdateSession::begin()
 {
     m_downloadsByItself = false;
-    if (!isAnyOf({ Stage::checking, Stage::downloading }))
+    m_isBackground = false;
+    if (!isAnyOf({ Stage::checking, Stage::downloading, Stage::installing }))
         check();
     present();
 }
 
-void UpdateSession::beginQuietly(bool downloads)
+void UpdateSession::beginInBackground(bool downloads)
 {
-    if (stage() != Stage::idle)
+    if (!canBeginInBackground())
         return;
-    m_isQuiet = true;
+    m_isBackground = true;
     m_downloadsByItself = downloads;
     check();
 }
 
+bool UpdateSession::canBeginInBackground() const
+{
+    return stage() == Stage::idle
+        || (isBackground() && isAnyOf({ Stage::available, Stage::readyToInstall }));
+}
+
+void UpdateSession::present()
+{
+    if (stage() == Stage::idle) {
+        begin();
+        return;
+    }
+    m_isBackground = false;
+    Q_EMIT presentationRequested();
+}
+
 void UpdateSession::cancel()
 {
-    if (!isAnyOf({ Stage::checking, Stage::downloading }))
+    if (stage() == Stage::installing && !progress().canCancel)
         return;
-    m_parts.engine.cancel();
+    if (!isAnyOf({ Stage::checking, Stage::downloading, Stage::installing }))
+        return;
+    m_engine.cancel();
     if (stage() == Stage::downloading)
         m_stage = Stage::available;
+    else if (stage() == Stage::installing)
+        m_stage = Stage::readyToInstall;
     else
         end();
 }
@@ -78,127 +94,138 @@ void UpdateSession::download()
 {
     if (stage() != Stage::available)
         return;
-    m_step = Step::download;
-    m_received = 0;
-    m_total = m_release->package.length;
-    m_failure = QString();
-    m_stage = Stage::downloading;
-    m_parts.engine.download({ m_parts.feed.address, m_release->package, m_parts.folder });
+    startStep(Step::download, Stage::downloading);
+    m_engine.download(*release(), manner());
 }
 
 void UpdateSession::install()
 {
     if (stage() != Stage::readyToInstall)
         return;
-    // Hours may have passed since it was fetched.
-    if (!isWholePackage(m_packagePath, m_release->package)) {
-        m_step = Step::download;
-        fail({ UpdateFailure::badPackage, u"%1 has changed on the disk"_s.arg(m_packagePath) });
-        return;
-    }
-    m_step = Step::install;
-    if (m_parts.installer.install(m_packagePath))
-        end();
-    else
-        fail({ UpdateFailure::noInstaller, u"nothing installs %1"_s.arg(m_packagePath) });
+    startStep(Step::install, Stage::installing);
+    m_engine.install(*release());
 }
 
 void UpdateSession::skipThisVersion()
 {
     if (!isAnyOf({ Stage::available, Stage::readyToInstall }))
         return;
-    m_parts.records.setSkippedVersion(version());
+    m_records.setSkippedVersion(release()->version);
     end();
 }
 
 void UpdateSession::later()
 {
-    if (!isAnyOf({ Stage::checking, Stage::downloading }))
+    if (!isAnyOf({ Stage::checking, Stage::downloading, Stage::installing }))
         end();
+}
+
+void UpdateSession::dismiss()
+{
+    if (stage() == Stage::installing) {
+        m_isBackground = true;
+        return;
+    }
+    if (isAnyOf({ Stage::checking, Stage::downloading }))
+        m_engine.cancel();
+    end();
 }
 
 void UpdateSession::check()
 {
-    m_step = Step::check;
-    setRelease(std::nullopt);
-    m_failure = QString();
-    m_stage = Stage::checking;
-    m_parts.engine.check({ .feed = m_parts.feed.address,
-                           .publicKey = m_parts.feed.publicKey,
-                           .installedVersion = m_parts.installedVersion,
-                           .architecture = m_parts.feed.architecture,
-                           .newestIssued = m_parts.records.newestIssued() });
+    m_release = std::nullopt;
+    startStep(Step::check, Stage::checking);
+    m_engine.check(manner());
 }
 
-void UpdateSession::takeOffer(const UpdateOffer &offer)
+void UpdateSession::startStep(Step step, Stage stage)
 {
-    m_parts.records.setNewestIssued(offer.issued);
-    if (!offer.release) {
-        qCInfo(logger, "Ferrin is up to date");
-        // What was downloaded before is installed by now.
-        removeDownloads(m_parts.folder);
-        if (m_isQuiet)
-            end();
-        else
-            m_stage = Stage::upToDate;
+    m_step = step;
+    m_progress = UpdateProgress();
+    m_failure = QString();
+    m_stage = stage;
+}
+
+void UpdateSession::takeAnswer(const std::optional<Release> &release)
+{
+    m_trouble = QString();
+    if (release) {
+        takeOffer(*release);
         return;
     }
-    qCInfo(logger, "Version %s is available", qUtf8Printable(offer.release->version));
-    if (m_isQuiet && offer.release->version == m_parts.records.skippedVersion()) {
+    qCInfo(logger, "Ferrin is up to date");
+    if (isBackground())
+        end();
+    else
+        m_stage = Stage::upToDate;
+}
+
+void UpdateSession::takeOffer(const Release &release)
+{
+    qCInfo(logger, "Version %s is available", qUtf8Printable(release.version));
+    if (isBackground() && release.version == m_records.skippedVersion()) {
         end();
         return;
     }
-    setRelease(offer.release);
+    m_release = release;
     m_stage = Stage::available;
     if (m_downloadsByItself)
         download();
     else
-        present();
+        offer();
 }
 
-void UpdateSession::takePackage(const QString &path)
+void UpdateSession::takeDownload()
 {
-    qCInfo(logger, "Version %s is downloaded and verified", qUtf8Printable(version()));
-    m_packagePath = path;
-    m_received = m_total.value();
+    qCInfo(logger, "Version %s is downloaded", qUtf8Printable(release()->version));
     m_stage = Stage::readyToInstall;
-    present();
+    offer();
+}
+
+void UpdateSession::takeInstallation()
+{
+    qCInfo(logger, "Version %s is installed", qUtf8Printable(release()->version));
+    m_trouble = QString();
+    if (isBackground())
+        end();
+    else
+        m_stage = Stage::installed;
 }
 
 void UpdateSession::fail(const UpdateTrouble &trouble)
 {
-    qCCritical(logger, "The update failed (%s): %s", qUtf8Printable(rawValue(trouble.failure)),
-               qUtf8Printable(trouble.detail));
-    if (m_isQuiet) {
+    qCWarning(logger, "The update failed (%s): %s", qUtf8Printable(logName(trouble.failure)),
+              qUtf8Printable(trouble.detail));
+    if (isBackground()) {
         end();
+        m_trouble = plainWords(trouble.failure);
         return;
     }
+    // The service may know another version by now.
+    if (trouble.failure == UpdateFailure::nothingDone
+        || trouble.failure == UpdateFailure::packageMissing)
+        m_step = Step::check;
     m_failure = plainWords(trouble.failure);
     m_stage = Stage::failed;
 }
 
-void UpdateSession::setRelease(const std::optional<Release> &release)
+void UpdateSession::offer()
 {
-    m_release = release;
-    m_packagePath.clear();
-    m_version = release ? release->version : QString();
-    m_notes = release ? release->notes : QString();
-    m_received = 0;
-    m_total = release ? release->package.length : 0;
-}
-
-void UpdateSession::present()
-{
-    m_isQuiet = false;
-    Q_EMIT presentationRequested();
+    if (isBackground())
+        Q_EMIT offered();
 }
 
 void UpdateSession::end()
 {
-    m_isQuiet = false;
+    m_isBackground = false;
     m_downloadsByItself = false;
     m_failure = QString();
     m_stage = Stage::idle;
+}
+
+UpdateManner UpdateSession::manner() const
+{
+    return isBackground() ? UpdateManner::background : UpdateManner::interactive;
 }
 
 bool UpdateSession::isAnyOf(std::initializer_list<Stage> stages) const

@@ -6,7 +6,6 @@
 #include "updates/release.h"
 #include "updates/updateengine.h"
 #include "updates/updatefailure.h"
-#include "updates/updatefeed.h"
 
 #include <QBindable>
 #include <QObject>
@@ -17,26 +16,20 @@
 
 namespace ferrin {
 
-class PackageInstaller;
 class UpdateRecords;
 
-/// Where the updater stands between asking the server and handing a package over. One session after
-/// the other, in one object that lives as long as the updater, whose it is; a window shows what the
-/// properties say and calls the slots. A slot that makes no sense at the present stage does
-/// nothing.
+/// Where the updater stands between asking the package service and the installed version. One
+/// session after the other, in one object that lives as long as the updater, whose it is; a window
+/// shows what the properties say and calls the slots. A slot that makes no sense at the present
+/// stage does nothing.
 ///
-/// A quiet session, one that nobody asked for, keeps its troubles to the log and ends where it
-/// would have nothing to offer; it speaks up by `presentationRequested`. Its public functions are
-/// many because each property has two and each button has one.
+/// A background session, one that nobody asked for, never asks for a window: it tells of an offer
+/// by `offered` and of a failure by `trouble`. Its public functions are many because each property
+/// has two and each button has one.
 class UpdateSession : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(Stage stage READ stage BINDABLE bindableStage NOTIFY stageChanged)
-    Q_PROPERTY(QString version READ version BINDABLE bindableVersion NOTIFY versionChanged)
-    Q_PROPERTY(QString notes READ notes BINDABLE bindableNotes NOTIFY notesChanged)
-    Q_PROPERTY(qint64 received READ received BINDABLE bindableReceived NOTIFY receivedChanged)
-    Q_PROPERTY(qint64 total READ total BINDABLE bindableTotal NOTIFY totalChanged)
-    Q_PROPERTY(QString failure READ failure BINDABLE bindableFailure NOTIFY failureChanged)
 
 public:
     enum class Stage {
@@ -45,101 +38,101 @@ public:
         upToDate,
         available,
         downloading,
-        /// The package lies verified on the disk.
+        /// The service has the verified package.
         readyToInstall,
+        installing,
+        installed,
         failed,
     };
     Q_ENUM(Stage)
 
-    struct Parts
-    {
-        UpdateFeed feed;
-        QString installedVersion;
-        /// Where downloads go, absolute.
-        QString folder;
-        UpdateEngine &engine;
-        UpdateRecords &records;
-        PackageInstaller &installer;
-    };
-
-    /// All of the parts outlive the session.
-    explicit UpdateSession(const Parts &parts);
+    /// The engine and the records outlive the session.
+    UpdateSession(UpdateEngine &engine, UpdateRecords &records);
 
     [[nodiscard]] Stage stage() const { return m_stage; }
-    /// What is offered; empty before an offer.
-    [[nodiscard]] QString version() const { return m_version; }
-    /// Markdown, to be shown without anything that it may link to.
-    [[nodiscard]] QString notes() const { return m_notes; }
-    /// Bytes of the package on the disk, and of all of it.
-    [[nodiscard]] qint64 received() const { return m_received; }
-    [[nodiscard]] qint64 total() const { return m_total; }
+    /// What is offered; absent before an offer.
+    [[nodiscard]] std::optional<Release> release() const { return m_release; }
+    [[nodiscard]] UpdateProgress progress() const { return m_progress; }
     /// In plain words; empty unless `failed`.
     [[nodiscard]] QString failure() const { return m_failure; }
-    /// All there is to know of what is offered, its date included.
-    [[nodiscard]] const std::optional<Release> &release() const noexcept { return m_release; }
+    /// Why the last background session failed, in plain words; empty when it did not.
+    [[nodiscard]] QString trouble() const { return m_trouble; }
+    /// Nobody has asked to see the session yet.
+    [[nodiscard]] bool isBackground() const { return m_isBackground; }
 
     /// Read-only.
     [[nodiscard]] QBindable<Stage> bindableStage() const { return &m_stage; }
-    [[nodiscard]] QBindable<QString> bindableVersion() const { return &m_version; }
-    [[nodiscard]] QBindable<QString> bindableNotes() const { return &m_notes; }
-    [[nodiscard]] QBindable<qint64> bindableReceived() const { return &m_received; }
-    [[nodiscard]] QBindable<qint64> bindableTotal() const { return &m_total; }
+    [[nodiscard]] QBindable<std::optional<Release>> bindableRelease() const { return &m_release; }
+    [[nodiscard]] QBindable<UpdateProgress> bindableProgress() const { return &m_progress; }
     [[nodiscard]] QBindable<QString> bindableFailure() const { return &m_failure; }
+    [[nodiscard]] QBindable<QString> bindableTrouble() const { return &m_trouble; }
+    [[nodiscard]] QBindable<bool> bindableIsBackground() const { return &m_isBackground; }
 
-    /// Begins anew, in place of a session that only waits for the user. One that is at work goes
-    /// on, and is quiet no longer.
+    /// Begins anew in place of a session that only waits for the user, and asks to be shown. One
+    /// that is at work continues.
     void begin();
     /// Begins where nothing else goes on; a version that the user skipped is not offered.
-    void beginQuietly(bool downloads);
+    void beginInBackground(bool downloads);
+    /// True when nothing goes on, or only an offer that nobody has looked at.
+    [[nodiscard]] bool canBeginInBackground() const;
+    /// Shows what goes on; begins when that is over.
+    void present();
 
 public Q_SLOTS:
-    /// Stops a check, which ends the session, or a download, which goes back to the offer.
+    /// Stops a check, which ends the session, a download, or an installation where that is safe.
     void cancel();
     /// After a failure: takes the step again that failed.
     void tryAgain();
     void download();
-    /// Hands the package over once more verified, and ends the session.
     void install();
-    /// Ends the session, and no quiet one offers this version again.
+    /// Ends the session, and no background one offers this version again.
     void skipThisVersion();
     /// Ends the session; the next one offers the same again.
     void later();
+    /// The user looks away. An installation continues in the background; all else ends.
+    void dismiss();
 
 Q_SIGNALS:
     void stageChanged();
-    void versionChanged();
-    void notesChanged();
-    void receivedChanged();
-    void totalChanged();
+    void releaseChanged();
+    void progressChanged();
     void failureChanged();
-    /// The user should see how it goes.
+    void troubleChanged();
+    void isBackgroundChanged();
+    /// The user wants to see how it goes.
     void presentationRequested();
+    /// A background session has something to offer, or has downloaded it.
+    void offered();
 
 private:
     enum class Step { check, download, install };
 
     void check();
-    void takeOffer(const UpdateOffer &offer);
-    void takePackage(const QString &path);
+    void takeAnswer(const std::optional<Release> &release);
+    void takeOffer(const Release &release);
+    void takeDownload();
+    void takeInstallation();
     void fail(const UpdateTrouble &trouble);
-    void setRelease(const std::optional<Release> &release);
-    void present();
+    void startStep(Step step, Stage stage);
+    void offer();
     void end();
+    [[nodiscard]] UpdateManner manner() const;
     [[nodiscard]] bool isAnyOf(std::initializer_list<Stage> stages) const;
 
-    Parts m_parts;
-    std::optional<Release> m_release;
-    QString m_packagePath;
+    UpdateEngine &m_engine;
+    UpdateRecords &m_records;
     Step m_step = Step::check;
-    bool m_isQuiet = false;
     bool m_downloadsByItself = false;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(UpdateSession, Stage, m_stage, Stage::idle,
                                          &UpdateSession::stageChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, QString, m_version, &UpdateSession::versionChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, QString, m_notes, &UpdateSession::notesChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, qint64, m_received, &UpdateSession::receivedChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, qint64, m_total, &UpdateSession::totalChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, std::optional<Release>, m_release,
+                               &UpdateSession::releaseChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, UpdateProgress, m_progress,
+                               &UpdateSession::progressChanged)
     Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, QString, m_failure, &UpdateSession::failureChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, QString, m_trouble, &UpdateSession::troubleChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(UpdateSession, bool, m_isBackground,
+                               &UpdateSession::isBackgroundChanged)
 };
 
 } // namespace ferrin

@@ -102,7 +102,8 @@ public:
         } else if (identifier == UpdateWindow::identifier()) {
             if (!m_updateWindow)
                 m_updateWindow = std::make_unique<UpdateWindow>(m_engine, m_updates);
-            m_updateWindow->open();
+            m_updateWindow->open(m_settings && m_settings->isVisible() ? m_settings.get()
+                                                                       : nullptr);
         }
     }
 

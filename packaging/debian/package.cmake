@@ -25,11 +25,26 @@ battery is, how it ages and what the power adapter delivers.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "default-dbus-session-bus | dbus-session-bus, \
 qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window")
-if(FERRIN_FEED_URL)
-    # Whom the update server's certificate may come from.
-    string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS ", ca-certificates")
-endif()
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "upower, qt6-wayland, xdg-utils")
+# Without them the system's package manager keeps Ferrin current all the same.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "packagekit, appstream")
+
+# A package from outside of the distribution may bring the repository of its next versions along.
+set(FERRIN_REPOSITORY_URL "" CACHE STRING
+    "Address of a repository made by scripts/release, which the package enters into apt; empty for none")
+set(FERRIN_REPOSITORY_KEY "" CACHE FILEPATH "The repository's ferrin-archive-keyring.gpg")
+if(FERRIN_REPOSITORY_URL)
+    if(NOT FERRIN_REPOSITORY_URL MATCHES "^https?://[^ ]+$" OR NOT EXISTS "${FERRIN_REPOSITORY_KEY}")
+        message(FATAL_ERROR "A repository needs an address and a key: FERRIN_REPOSITORY_URL, _KEY")
+    endif()
+    configure_file(debian/ferrin.sources.in "${CMAKE_CURRENT_BINARY_DIR}/ferrin.sources" @ONLY)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/ferrin.sources" DESTINATION /etc/apt/sources.list.d)
+    install(FILES "${FERRIN_REPOSITORY_KEY}" DESTINATION "${CMAKE_INSTALL_DATADIR}/keyrings"
+        RENAME ferrin-archive-keyring.gpg)
+    # The user's changes to the source survive the next version.
+    file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/conffiles" "/etc/apt/sources.list.d/ferrin.sources\n")
+    set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_BINARY_DIR}/conffiles")
+endif()
 
 # What every package of Debian has in its documentation.
 set(documentation "${CMAKE_INSTALL_DATADIR}/doc/ferrin")

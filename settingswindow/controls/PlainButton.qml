@@ -13,6 +13,7 @@ Pressable {
     spokenName: text
     implicitWidth: Math.max(56, label.implicitWidth + 20)
     implicitHeight: label.implicitHeight + 10
+    opacity: enabled ? 1 : 0.5
 
     Rectangle {
         id: ground

@@ -5,35 +5,27 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// How the program is kept current: by its updater, or, in a build that has no feed, by the system.
+// How the program is kept current: by its updater, and where that cannot be, why.
 MakeBackgroundRectangle {
     id: root
 
     title: "Updates"
 
+    Component.onCompleted: SoftwareUpdates.refreshSupport()
+
     Column {
         width: parent.width
         topPadding: 5
+        spacing: 8
 
-        // qmllint disable unqualified
-        Loader {
+        CheckForUpdatesView {
             width: parent.width
-            sourceComponent: SoftwareUpdates.hasFeed ? check : note
         }
-        // qmllint enable unqualified
-    }
-
-    Component {
-        id: check
-
-        CheckForUpdatesView {}
-    }
-
-    Component {
-        id: note
 
         Text {
-            text: "The system's package manager keeps Ferrin current."
+            width: parent.width
+            visible: text !== ""
+            text: SoftwareUpdates.note
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             font: Fonts.regular12

@@ -19,7 +19,8 @@ Column {
         text: "Check for Updates…"
         enabled: SoftwareUpdates.canCheckForUpdates
         // Those who do not see that it rests are not told by its state.
-        Accessible.description: enabled ? "" : "A check is running"
+        Accessible.description: enabled ? "" : SoftwareUpdates.isSupported ? "A check is running"
+                                                                           : SoftwareUpdates.note
         onPressed: SoftwareUpdates.checkForUpdates()
     }
 
@@ -32,22 +33,24 @@ Column {
     SwitchView {
         width: parent.width
         height: 20
+        enabled: SoftwareUpdates.isSupported
         label: "Automatically check for updates"
         isOn: root.automaticallyChecksForUpdates
         onFlipped: on => {
-            root.automaticallyChecksForUpdates = on;
             SoftwareUpdates.setAutomaticallyChecksForUpdates(on);
+            root.automaticallyChecksForUpdates = SoftwareUpdates.automaticallyChecksForUpdates();
         }
     }
 
     SwitchView {
         width: parent.width
         height: 20
+        enabled: SoftwareUpdates.isSupported
         label: "Automatically download updates"
         isOn: root.automaticallyDownloadsUpdates
         onFlipped: on => {
-            root.automaticallyDownloadsUpdates = on;
             SoftwareUpdates.setAutomaticallyDownloadsUpdates(on);
+            root.automaticallyDownloadsUpdates = SoftwareUpdates.automaticallyDownloadsUpdates();
         }
     }
 }

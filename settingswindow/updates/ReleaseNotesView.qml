@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 
 // What is new in a release, as high as it needs to be up to a limit, and scrolled by wheel and keys
-// beyond it. Nothing in it can be followed.
+// beyond it. It comes from outside, and is shown as it is written.
 Rectangle {
     id: root
 
@@ -61,11 +61,10 @@ Rectangle {
 
             width: parent.width
             text: root.notes
-            textFormat: Text.MarkdownText
+            textFormat: Text.PlainText
             wrapMode: Text.Wrap
             font: Fonts.regular12
             color: Colours.primaryText
-            linkColor: Colours.primaryText
             Accessible.ignored: true
         }
     }

@@ -5,14 +5,15 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// What the updater's session is at, and what can be done about it. While it is at work nothing has
-// the keyboard by itself, so that the key that began it does not also stop it.
+// What the updater's session is at, and what can be done about it. No answer has the keyboard by
+// itself, so that a key that was meant for something else neither stops nor installs anything.
 FocusScope {
     id: root
 
     readonly property int stage: SoftwareUpdates.stage
     readonly property bool isAtWork: stage === SoftwareUpdates.Stage.Checking
                                      || stage === SoftwareUpdates.Stage.Downloading
+                                     || stage === SoftwareUpdates.Stage.Installing
     readonly property bool isOffer: stage === SoftwareUpdates.Stage.Available
                                     || stage === SoftwareUpdates.Stage.ReadyToInstall
 
@@ -25,23 +26,8 @@ FocusScope {
     Accessible.description: message.text
 
     Keys.onEscapePressed: root.decline()
-    Component.onCompleted: root.placeFocus()
-    onStageChanged: settled.restart()
-
-    // The answers come after the stage.
-    Timer {
-        id: settled
-
-        interval: 0
-        onTriggered: root.placeFocus()
-    }
-
-    function placeFocus() {
-        if (isAtWork)
-            rest.forceActiveFocus(Qt.OtherFocusReason);
-        else
-            main.forceActiveFocus(Qt.OtherFocusReason);
-    }
+    Component.onCompleted: rest.forceActiveFocus(Qt.OtherFocusReason)
+    onStageChanged: rest.forceActiveFocus(Qt.OtherFocusReason)
 
     function headingOf(stage: int): string {
         switch (stage) {
@@ -55,6 +41,10 @@ FocusScope {
             return `Downloading Ferrin ${SoftwareUpdates.version}`;
         case SoftwareUpdates.Stage.ReadyToInstall:
             return `Ferrin ${SoftwareUpdates.version} is ready to install`;
+        case SoftwareUpdates.Stage.Installing:
+            return `Installing Ferrin ${SoftwareUpdates.version}`;
+        case SoftwareUpdates.Stage.Installed:
+            return `Ferrin ${SoftwareUpdates.version} is installed`;
         case SoftwareUpdates.Stage.Failed:
             return "The update did not succeed";
         default:
@@ -65,16 +55,20 @@ FocusScope {
     function messageOf(stage: int): string {
         switch (stage) {
         case SoftwareUpdates.Stage.Checking:
-            return "Asking the update server.";
+            return SoftwareUpdates.progressText;
         case SoftwareUpdates.Stage.UpToDate:
-            return `Version ${SoftwareUpdates.installedVersion} is the newest one.`;
+            return `You have version ${SoftwareUpdates.installedVersion}. `
+                + "The package sources offer no newer one.";
         case SoftwareUpdates.Stage.Available:
             return SoftwareUpdates.offer;
         case SoftwareUpdates.Stage.Downloading:
+        case SoftwareUpdates.Stage.Installing:
             return SoftwareUpdates.progressText;
         case SoftwareUpdates.Stage.ReadyToInstall:
-            return "The package is downloaded and verified. The system's installer does the rest, "
-                + "and Ferrin restarts by itself once its windows are closed.";
+            return "The package is downloaded. The system asks for your password before it "
+                + "installs it.";
+        case SoftwareUpdates.Stage.Installed:
+            return "Ferrin restarts by itself once its windows are closed.";
         case SoftwareUpdates.Stage.Failed:
             return SoftwareUpdates.failure;
         default:
@@ -85,6 +79,7 @@ FocusScope {
     function mainAnswerOf(stage: int): string {
         switch (stage) {
         case SoftwareUpdates.Stage.UpToDate:
+        case SoftwareUpdates.Stage.Installed:
             return "Close";
         case SoftwareUpdates.Stage.Available:
             return "Download";
@@ -101,6 +96,7 @@ FocusScope {
         switch (stage) {
         case SoftwareUpdates.Stage.Checking:
         case SoftwareUpdates.Stage.Downloading:
+        case SoftwareUpdates.Stage.Installing:
             return "Cancel";
         case SoftwareUpdates.Stage.Available:
         case SoftwareUpdates.Stage.ReadyToInstall:
@@ -115,6 +111,7 @@ FocusScope {
     function accept() {
         switch (stage) {
         case SoftwareUpdates.Stage.UpToDate:
+        case SoftwareUpdates.Stage.Installed:
             SoftwareUpdates.later();
             break;
         case SoftwareUpdates.Stage.Available:
@@ -141,7 +138,7 @@ FocusScope {
         color: Colours.settingsBackground
     }
 
-    // Has the focus while no button has.
+    // Has the focus until the user moves it.
     Item {
         id: rest
     }
@@ -178,9 +175,9 @@ FocusScope {
 
         ProgressBar {
             width: parent.width
-            visible: root.stage === SoftwareUpdates.Stage.Downloading
+            visible: root.isAtWork && SoftwareUpdates.progress >= 0
             value: SoftwareUpdates.progress
-            spokenName: "Downloaded"
+            spokenName: "Progress"
         }
 
         Row {
@@ -191,7 +188,7 @@ FocusScope {
                 id: spinner
 
                 anchors.verticalCenter: parent.verticalCenter
-                visible: root.stage === SoftwareUpdates.Stage.Checking
+                visible: root.isAtWork && SoftwareUpdates.progress < 0
             }
 
             Text {
@@ -234,12 +231,11 @@ FocusScope {
                 PlainButton {
                     text: root.otherAnswerOf(root.stage)
                     visible: text !== ""
+                    enabled: !root.isAtWork || SoftwareUpdates.canCancel
                     onPressed: root.decline()
                 }
 
                 ProminentButton {
-                    id: main
-
                     text: root.mainAnswerOf(root.stage)
                     visible: text !== ""
                     onPressed: root.accept()

@@ -26,15 +26,17 @@ class SoftwareUpdates final : public QObject
     QML_ELEMENT
     QML_SINGLETON
     Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
-    Q_PROPERTY(bool hasFeed READ hasFeed CONSTANT)
+    Q_PROPERTY(bool isSupported READ isSupported NOTIFY isSupportedChanged)
+    Q_PROPERTY(QString note READ note NOTIFY noteChanged)
     Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates NOTIFY canCheckForUpdatesChanged)
     Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
     Q_PROPERTY(QString installedVersion READ installedVersion CONSTANT)
-    Q_PROPERTY(QString version READ version NOTIFY versionChanged)
-    Q_PROPERTY(QString offer READ offer NOTIFY versionChanged)
-    Q_PROPERTY(QString notes READ notes NOTIFY notesChanged)
+    Q_PROPERTY(QString version READ version NOTIFY releaseChanged)
+    Q_PROPERTY(QString offer READ offer NOTIFY releaseChanged)
+    Q_PROPERTY(QString notes READ notes NOTIFY releaseChanged)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
     Q_PROPERTY(QString progressText READ progressText NOTIFY progressChanged)
+    Q_PROPERTY(bool canCancel READ canCancel NOTIFY progressChanged)
     Q_PROPERTY(QString failure READ failure NOTIFY failureChanged)
 
 public:
@@ -45,6 +47,8 @@ public:
         Available = int(UpdateSession::Stage::available),
         Downloading = int(UpdateSession::Stage::downloading),
         ReadyToInstall = int(UpdateSession::Stage::readyToInstall),
+        Installing = int(UpdateSession::Stage::installing),
+        Installed = int(UpdateSession::Stage::installed),
         Failed = int(UpdateSession::Stage::failed),
     };
     Q_ENUM(Stage)
@@ -54,7 +58,11 @@ public:
     /// The engine's child.
     static SoftwareUpdates *create(QQmlEngine *engine, QJSEngine *);
 
-    [[nodiscard]] bool hasFeed() const;
+    /// Whether the system can keep this copy current; without it the block is disabled.
+    [[nodiscard]] bool isSupported() const;
+    /// What the block has to say beyond its controls: why it is disabled, what was found in the
+    /// background, why that failed. Mostly empty.
+    [[nodiscard]] QString note() const;
     [[nodiscard]] bool canCheckForUpdates() const;
     /// No properties: a view shows what these were when it was made.
     [[nodiscard]] Q_INVOKABLE bool automaticallyChecksForUpdates() const;
@@ -66,16 +74,18 @@ public:
     [[nodiscard]] QString installedVersion() const;
     /// What is offered; empty before an offer, as is all that describes it.
     [[nodiscard]] QString version() const;
-    /// When it was released and how large it is, in a sentence.
+    /// When it was released and how large it is, as far as that is known, in sentences.
     [[nodiscard]] QString offer() const;
-    /// Markdown that loads and links to nothing.
+    /// Plain text.
     [[nodiscard]] QString notes() const;
-    /// 0 to 1.
+    /// 0 to 1; less than 0 while it is unknown.
     [[nodiscard]] double progress() const;
     [[nodiscard]] QString progressText() const;
+    [[nodiscard]] bool canCancel() const;
     [[nodiscard]] QString failure() const;
 
 public Q_SLOTS:
+    void refreshSupport();
     void checkForUpdates();
     void cancel();
     void tryAgain();
@@ -83,21 +93,27 @@ public Q_SLOTS:
     void install();
     void skipThisVersion();
     void later();
-    /// Ends the session whatever it is at; what was fetched of a package is kept.
+    /// The user closed the window. Only an installation goes on.
     void dismiss();
 
 Q_SIGNALS:
+    void isSupportedChanged();
+    void noteChanged();
     void canCheckForUpdatesChanged();
     void stageChanged();
-    void versionChanged();
-    void notesChanged();
+    void releaseChanged();
     void progressChanged();
     void failureChanged();
 
 private:
+    void follow();
+    [[nodiscard]] QString backgroundNote() const;
+    [[nodiscard]] QString downloadedText() const;
+
     Updater &m_updater;
     UpdateSession &m_session;
-    QPropertyNotifier m_follower;
+    QPropertyNotifier m_canCheckFollower;
+    QPropertyNotifier m_supportFollower;
 };
 
 } // namespace ferrin

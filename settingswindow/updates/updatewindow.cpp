@@ -41,19 +41,25 @@ UpdateWindow::UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates)
     });
 }
 
-void UpdateWindow::open()
+void UpdateWindow::open(const QWindow *beside)
 {
     if (m_updates.stage() == SoftwareUpdates::Stage::Idle)
         return;
     fit();
-    if (!isVisible()) {
-        QRect frame(QPoint(), size());
-        frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
-        setPosition(frame.topLeft());
-    }
+    if (!isVisible())
+        place(beside);
     show();
     raise();
     requestActivate();
+}
+
+void UpdateWindow::place(const QWindow *beside)
+{
+    QScreen *const wanted = beside ? beside->screen() : QGuiApplication::primaryScreen();
+    setScreen(wanted);
+    QRect frame(QPoint(), size());
+    frame.moveCenter(beside ? beside->geometry().center() : wanted->availableGeometry().center());
+    setPosition(frame.topLeft());
 }
 
 void UpdateWindow::closeEvent(QCloseEvent *event)

@@ -10,8 +10,8 @@ namespace ferrin {
 class SoftwareUpdates;
 
 /// The window "Software Update", which shows the updater's session and closes when that ends. A
-/// single instance, as large as what the stage has to say; it is first placed at the centre of the
-/// screen. To close it ends the session.
+/// single instance, as large as what the stage has to say. To close it ends the session, unless a
+/// package is being installed.
 class UpdateWindow final : public QQuickView
 {
     Q_OBJECT
@@ -23,14 +23,16 @@ public:
     /// The name by which the window is asked for.
     [[nodiscard]] static QString identifier();
 
-    /// Shows the window, or brings the open one to the front. Without a session nothing opens.
-    void open();
+    /// Shows the window, or brings the open one to the front. Without a session nothing opens. A
+    /// new one is centred over `beside`, or on the first screen without that.
+    void open(const QWindow *beside = nullptr);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
     void fit();
+    void place(const QWindow *beside);
 
     SoftwareUpdates &m_updates;
 };

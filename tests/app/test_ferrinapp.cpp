@@ -9,8 +9,8 @@
 #include "tests/menubar/fakestatusbar.h"
 #include "tests/support/memorydefaultsstore.h"
 #include "tests/updates/fakeengine.h"
-#include "tests/updates/fakeinstaller.h"
 #include "tests/updates/fakenetwork.h"
+#include "tests/updates/fakenotice.h"
 #include "updates/appupdater.h"
 
 #include <QTest>
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
 private:
     test::FakeEngine m_engine;
-    test::FakeInstaller m_installer;
+    test::FakeNotice m_notice;
     test::FakeNetwork m_network;
     int m_timesLookedAtClock = 0;
 };
@@ -86,12 +86,9 @@ private:
 void TestFerrinApp::initTestCase()
 {
     setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
-    AppUpdater::setParts({ .feed = { QUrl(u"https://example.org/feed"_s), {}, {} },
-                           .installedVersion = u"1.0.0"_s,
-                           .folder = u"/nowhere"_s,
-                           .store = sharedDefaults(),
+    AppUpdater::setParts({ .store = sharedDefaults(),
                            .engine = m_engine,
-                           .installer = m_installer,
+                           .notice = m_notice,
                            .network = m_network,
                            .battery = [] { return BatteryReserve(); },
                            .now =

@@ -41,10 +41,8 @@ inline std::unique_ptr<SettingsData> newSettings(DefaultsStore &store)
 class SettingsStage : public SceneStage
 {
 public:
-    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop,
-                           const UpdateFeed &feed = someFeed())
+    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop)
         : SceneStage({ "Ferrin.Settings" }, popovers)
-        , updatePlatform(feed)
     {
     }
     ~SettingsStage() { item.reset(); }

@@ -11,9 +11,9 @@ namespace {
 
 struct Block
 {
-    explicit Block(const UpdateFeed &feed = test::someFeed())
-        : stage(test::SettingsStage::plainDesktop, feed)
+    explicit Block(UpdateSupport support = UpdateSupport::full)
     {
+        stage.updatePlatform.engine.setSupport(support);
         open();
     }
 
@@ -151,19 +151,74 @@ private Q_SLOTS:
         QCOMPARE(described(), QString());
     }
 
-    void saysWhoKeepsTheProgramCurrentInABuildWithoutAFeed()
+    void isWholeAndDisabledWhereNothingCanBeUpdated_data()
     {
-        Block f { UpdateFeed() };
+        QTest::addColumn<UpdateSupport>("support");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("a build from the tree")
+            << UpdateSupport::notPackaged
+            << u"This copy of Ferrin was not installed as a package. It stays current when you "
+               "build or install a newer one."_s;
+        QTest::newRow("no service")
+            << UpdateSupport::noService
+            << u"PackageKit is not installed, so Ferrin cannot ask for updates. The system's "
+               "package manager keeps it current."_s;
+    }
+
+    void isWholeAndDisabledWhereNothingCanBeUpdated()
+    {
+        QFETCH(UpdateSupport, support);
+        QFETCH(QString, line);
+        Block f(support);
         QCOMPARE(test::textsOf(f.view),
-                 (QStringList { u"Updates"_s,
-                                u"The system's package manager keeps Ferrin current."_s }));
-        QCOMPARE(f.stage.colour("secondaryText"),
-                 test::itemsOfType(f.view, "QQuickText")
-                     .constLast()
-                     ->property("color")
-                     .value<QColor>()
-                     .name());
-        QVERIFY(f.switches.isEmpty());
+                 (QStringList { u"Updates"_s, u"Check for Updates\u2026"_s,
+                                u"Automatically check for updates"_s,
+                                u"Automatically download updates"_s, line }));
+        QVERIFY(!f.button->isEnabled());
+        QCOMPARE(QAccessible::queryAccessibleInterface(f.button)->text(QAccessible::Description),
+                 line);
+        for (QQuickItem *const each : f.switches) {
+            const bool wasOn = each->property("isOn").toBool();
+            QVERIFY(!each->isEnabled());
+            f.stage.click(each);
+            QMetaObject::invokeMethod(each, "flipped", Q_ARG(bool, !wasOn));
+            QCOMPARE(each->property("isOn").toBool(), wasOn);
+        }
+        f.stage.click(f.button);
+        QVERIFY(f.stage.updatePlatform.engine.checks.isEmpty());
+    }
+
+    void looksForTheServiceWhenItIsOpened()
+    {
+        Block f(UpdateSupport::noService);
+        QCOMPARE(f.stage.updatePlatform.engine.refreshes, 1);
+        f.stage.updatePlatform.engine.setSupport(UpdateSupport::full);
+        QVERIFY(f.button->isEnabled());
+        QVERIFY(f.switches[0]->isEnabled());
+        QCOMPARE(test::textsOf(f.view).size(), 4);
+    }
+
+    void tellsWhatWasFoundInTheBackground()
+    {
+        Block f;
+        f.stage.updater.session().beginInBackground(false);
+        Q_EMIT f.stage.updatePlatform.engine.checked(
+            Release { u"1.3.0"_s, u"ferrin;1.3.0;amd64;main"_s, {}, {}, {} });
+        QCOMPARE(test::textsOf(f.view).constLast(), u"Ferrin 1.3.0 is available."_s);
+        f.stage.updater.session().begin();
+        QCOMPARE(test::textsOf(f.view).size(), 4);
+        f.log.ignoreRest();
+    }
+
+    void tellsWhatFailedInTheBackground()
+    {
+        Block f;
+        f.stage.updater.session().beginInBackground(false);
+        Q_EMIT f.stage.updatePlatform.engine.failed({ UpdateFailure::notTrusted, {} });
+        QCOMPARE(test::textsOf(f.view).constLast(),
+                 u"The last update in the background did not succeed. "_s
+                     + plainWords(UpdateFailure::notTrusted));
+        f.log.ignoreRest();
     }
 };
 

@@ -63,7 +63,7 @@ private Q_SLOTS:
         Window f;
         f.check();
         QCOMPARE(f.heading(), u"Checking for updates\u2026"_s);
-        QCOMPARE(f.message(), u"Asking the update server."_s);
+        QCOMPARE(f.message(), u"Asking the package sources."_s);
         QCOMPARE(test::visibleItemsOfType(f.view, "Spinner").size(), 1);
         QCOMPARE(f.answers(), QStringList(u"Cancel"_s));
         f.press(u"Cancel"_s);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         Window f;
         f.becomeUpToDate();
         QCOMPARE(f.heading(), u"Ferrin is up to date"_s);
-        QCOMPARE(f.message(), u"Version 1.2.9 is the newest one."_s);
+        QCOMPARE(f.message(), u"You have version 1.2.9. The package sources offer no newer one."_s);
         QCOMPARE(f.answers(), QStringList(u"Close"_s));
         f.press(u"Close"_s);
         QCOMPARE(f.stageNow(), Stage::idle);
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(f.heading(), u"Ferrin 1.3.0 is available"_s);
         QCOMPARE(
             f.message(),
-            u"It was released on 30 April 2026 and is 4.2 MB large. You have version 1.2.9."_s);
+            u"It was released on 30 April 2026. The download is 4.2\u00a0MB. You have version 1.2.9."_s);
         QCOMPARE(f.answers(), (QStringList { u"Skip this version"_s, u"Later"_s, u"Download"_s }));
         QCOMPARE(test::visibleItemsOfType(f.view, "ReleaseNotesView").size(), 1);
     }
@@ -128,9 +128,9 @@ private Q_SLOTS:
         Window f;
         f.offer();
         f.press(u"Download"_s);
-        f.receive(1'050'000);
+        f.receive(0.25);
         QCOMPARE(f.heading(), u"Downloading Ferrin 1.3.0"_s);
-        QCOMPARE(f.message(), u"1.1 MB of 4.2 MB"_s);
+        QCOMPARE(f.message(), u"1.1\u00a0MB of 4.2\u00a0MB"_s);
         QQuickItem *const bar = test::visibleItemsOfType(f.view, "ProgressBar").value(0);
         QVERIFY(bar);
         const QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(bar);
@@ -141,19 +141,73 @@ private Q_SLOTS:
         QCOMPARE(f.stageNow(), Stage::available);
     }
 
-    void offersToInstallWhatIsVerified()
+    void saysWhatItKnowsOfTheOffer()
+    {
+        Window f;
+        f.release.date = std::nullopt;
+        f.offer();
+        QCOMPARE(f.message(), u"The download is 4.2\u00a0MB. You have version 1.2.9."_s);
+        f.release.size = std::nullopt;
+        f.release.notes.clear();
+        f.offer();
+        QCOMPARE(f.message(), u"You have version 1.2.9."_s);
+        QVERIFY(test::visibleItemsOfType(f.view, "ReleaseNotesView").isEmpty());
+    }
+
+    void showsNotesAsTheyAreWritten()
+    {
+        Window f;
+        f.offer();
+        QQuickItem *const notes = test::visibleItemsOfType(f.view, "ReleaseNotesView").value(0);
+        QVERIFY(test::textsOf(notes).constFirst().contains(u"<b>words</b>"));
+        QCOMPARE(test::itemsOfType(notes, "QQuickText")[0]->property("textFormat").toInt(),
+                 int(Qt::PlainText));
+    }
+
+    void offersToInstallWhatIsDownloaded()
     {
         Window f;
         f.becomeReady();
         QCOMPARE(f.heading(), u"Ferrin 1.3.0 is ready to install"_s);
-        QCOMPARE(
-            f.message(),
-            u"The package is downloaded and verified. The system's installer does the rest, and "
-            "Ferrin restarts by itself once its windows are closed."_s);
         QCOMPARE(f.answers(), (QStringList { u"Skip this version"_s, u"Later"_s, u"Install"_s }));
         f.press(u"Install"_s);
-        // What lies on the disk is looked at once more, and here nothing does.
-        QCOMPARE(f.stageNow(), Stage::failed);
+        QCOMPARE(f.engine().installations.size(), 1);
+        QCOMPARE(f.stageNow(), Stage::installing);
+    }
+
+    void saysWhatTheInstallationWaitsFor()
+    {
+        Window f;
+        f.install({ UpdateActivity::authorizing, std::nullopt, true });
+        QCOMPARE(f.heading(), u"Installing Ferrin 1.3.0"_s);
+        QCOMPARE(f.message(), u"Waiting for your password."_s);
+        Q_EMIT f.engine().progressed({ UpdateActivity::waiting, std::nullopt, true });
+        QCOMPARE(f.message(), u"Waiting for another installation to finish."_s);
+        QCOMPARE(f.answers(), QStringList(u"Cancel"_s));
+        f.press(u"Cancel"_s);
+        QCOMPARE(f.stageNow(), Stage::readyToInstall);
+    }
+
+    void cannotBeCancelledWhileThePackageManagerWrites()
+    {
+        Window f;
+        f.install({ UpdateActivity::installing, 0.4, false });
+        QVERIFY(!test::visibleItemsOfType(f.view, "Pressable").constFirst()->isEnabled());
+        f.press(u"Cancel"_s);
+        QTest::keyClick(&f.stage.window, Qt::Key_Escape);
+        QCOMPARE(f.stageNow(), Stage::installing);
+        QCOMPARE(f.engine().cancels, 0);
+    }
+
+    void saysThatTheNewVersionIsInstalled()
+    {
+        Window f;
+        f.install({ UpdateActivity::installing, 0.4, false });
+        Q_EMIT f.engine().installed();
+        QCOMPARE(f.heading(), u"Ferrin 1.3.0 is installed"_s);
+        QCOMPARE(f.message(), u"Ferrin restarts by itself once its windows are closed."_s);
+        f.press(u"Close"_s);
+        QCOMPARE(f.stageNow(), Stage::idle);
     }
 
     void saysInPlainWordsWhatFailedAndTriesAgain()
@@ -161,7 +215,7 @@ private Q_SLOTS:
         Window f;
         f.fail();
         QCOMPARE(f.heading(), u"The update did not succeed"_s);
-        QCOMPARE(f.message(), plainWords(UpdateFailure::noConnection));
+        QCOMPARE(f.message(), plainWords(UpdateFailure::unreachable));
         QCOMPARE(f.answers(), (QStringList { u"Close"_s, u"Try again"_s }));
         f.press(u"Try again"_s);
         QCOMPARE(f.stageNow(), Stage::checking);
@@ -173,28 +227,40 @@ private Q_SLOTS:
     void isWorkedByTheKeyboardAlone()
     {
         Window f;
+        f.release.notes = u"Short."_s;
         QVERIFY(f.activate());
         f.offer();
-        // The focus is placed once the answers have come.
         QCoreApplication::processEvents();
-        QCOMPARE(f.focused(), u"Download"_s);
+        for (const QString &name : { u"Skip this version"_s, u"Later"_s, u"Download"_s }) {
+            QTest::keyClick(&f.stage.window, Qt::Key_Tab);
+            QCOMPARE(f.focused(), name);
+        }
         QTest::keyClick(&f.stage.window, Qt::Key_Backtab);
         QCOMPARE(f.focused(), u"Later"_s);
-        QTest::keyClick(&f.stage.window, Qt::Key_Backtab);
-        QCOMPARE(f.focused(), u"Skip this version"_s);
         QTest::keyClick(&f.stage.window, Qt::Key_Tab);
-        QTest::keyClick(&f.stage.window, Qt::Key_Tab);
-        QTest::keyClick(&f.stage.window, Qt::Key_Return);
-        QCOMPARE(f.stageNow(), Stage::downloading);
-        // The same key, pressed too long, stops nothing.
-        QTRY_COMPARE(f.focused(), QString());
         QTest::keyClick(&f.stage.window, Qt::Key_Return);
         QCOMPARE(f.stageNow(), Stage::downloading);
         QTest::keyClick(&f.stage.window, Qt::Key_Escape);
         QCOMPARE(f.stageNow(), Stage::available);
-        QTRY_COMPARE(f.focused(), u"Download"_s);
         QTest::keyClick(&f.stage.window, Qt::Key_Escape);
         QCOMPARE(f.stageNow(), Stage::idle);
+    }
+
+    void heedsNoKeyThatWasMeantForSomethingElse()
+    {
+        Window f;
+        QVERIFY(f.activate());
+        f.offer();
+        for (const Stage stage : { Stage::available, Stage::readyToInstall }) {
+            for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space })
+                QTest::keyClick(&f.stage.window, key);
+            QCOMPARE(f.stageNow(), stage);
+            if (stage == Stage::available) {
+                f.stage.updates.download();
+                Q_EMIT f.engine().downloaded();
+            }
+        }
+        QVERIFY(f.engine().installations.isEmpty());
     }
 
     void tellsAScreenReaderWhatItIsAt()
@@ -223,6 +289,19 @@ private Q_SLOTS:
         QCOMPARE(window.minimumSize(), window.maximumSize());
         f.stage.updates.later();
         QVERIFY(!window.isVisible());
+    }
+
+    void opensOverTheSettings()
+    {
+        test::UpdateScenes f;
+        QWindow settings;
+        settings.setGeometry(300, 200, 400, 300);
+        UpdateWindow window(f.stage.engine, f.stage.updates);
+        f.check();
+        window.open(&settings);
+        QCOMPARE(window.screen(), settings.screen());
+        const QPoint apart = window.geometry().center() - settings.geometry().center();
+        QVERIFY2(apart.manhattanLength() <= 2, qPrintable(QString::number(apart.x())));
     }
 
     void endsTheSessionWhenItIsClosed()

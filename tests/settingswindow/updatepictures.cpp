@@ -19,6 +19,8 @@ struct Scene
 {
     QString name;
     Bring bring;
+    /// Of the settings page with the block, not of the window.
+    bool isOfPage = false;
 };
 
 void take(const QString &folder, Appearance appearance, const QString &font, const Scene &scene)
@@ -26,8 +28,9 @@ void take(const QString &folder, Appearance appearance, const QString &font, con
     test::UpdateScenes f;
     f.stage.appearance.setAppearance(appearance);
     f.stage.appearance.setFontFamily(font);
-    if (scene.bring) {
+    if (scene.bring)
         scene.bring(f);
+    if (!scene.isOfPage) {
         f.show();
         QTest::qWait(50);
         f.view->setHeight(f.view->implicitHeight());
@@ -53,7 +56,18 @@ int main(int argc, char **argv)
     const QString folder = app.arguments().value(1);
     QDir().mkpath(folder);
     const QList<Scene> scenes {
-        { u"page"_s, nullptr },
+        { u"page"_s, nullptr, true },
+        { u"page-unpackaged"_s,
+          [](test::UpdateScenes &f) { f.engine().setSupport(UpdateSupport::notPackaged); }, true },
+        { u"page-noservice"_s,
+          [](test::UpdateScenes &f) { f.engine().setSupport(UpdateSupport::noService); }, true },
+        { u"page-offered"_s, [](test::UpdateScenes &f) { f.offerInBackground(); }, true },
+        { u"page-trouble"_s,
+          [](test::UpdateScenes &f) {
+              f.stage.updater.session().beginInBackground(false);
+              Q_EMIT f.engine().failed({ UpdateFailure::notTrusted, u"a reason"_s });
+          },
+          true },
         { u"checking"_s, [](test::UpdateScenes &f) { f.check(); } },
         { u"uptodate"_s, [](test::UpdateScenes &f) { f.becomeUpToDate(); } },
         { u"available"_s, [](test::UpdateScenes &f) { f.offer(); } },
@@ -61,9 +75,22 @@ int main(int argc, char **argv)
           [](test::UpdateScenes &f) {
               f.offer();
               f.stage.updates.download();
-              f.receive(1'700'000);
+              f.receive(0.4);
           } },
         { u"ready"_s, [](test::UpdateScenes &f) { f.becomeReady(); } },
+        { u"authorizing"_s,
+          [](test::UpdateScenes &f) {
+              f.install({ UpdateActivity::authorizing, std::nullopt, true });
+          } },
+        { u"installing"_s,
+          [](test::UpdateScenes &f) {
+              f.install({ UpdateActivity::installing, 0.4, false });
+          } },
+        { u"installed"_s,
+          [](test::UpdateScenes &f) {
+              f.install({ UpdateActivity::installing, 1.0, false });
+              Q_EMIT f.engine().installed();
+          } },
         { u"failed"_s, [](test::UpdateScenes &f) { f.fail(); } },
     };
     for (const Appearance appearance : { Appearance::light, Appearance::dark }) {

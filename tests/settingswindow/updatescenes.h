@@ -19,29 +19,40 @@ struct UpdateScenes
     void becomeUpToDate()
     {
         check();
-        Q_EMIT engine().checked({ QDateTime::currentDateTimeUtc(), std::nullopt });
+        Q_EMIT engine().checked(std::nullopt);
     }
     void offer()
     {
         check();
         answerWithOffer();
     }
-    void answerWithOffer()
+    void answerWithOffer() { Q_EMIT engine().checked(release); }
+    void offerInBackground()
     {
-        Q_EMIT engine().checked({ QDateTime::currentDateTimeUtc(), release });
+        stage.updater.session().beginInBackground(false);
+        answerWithOffer();
     }
-    void receive(qint64 bytes) { Q_EMIT engine().progressed(bytes, release.package.length); }
+    void receive(double share)
+    {
+        Q_EMIT engine().progressed({ UpdateActivity::downloading, share, true });
+    }
     void becomeReady()
     {
         offer();
         stage.updates.download();
-        Q_EMIT engine().downloaded(QStringLiteral("/nowhere/ferrin_1.3.0_amd64.deb"));
+        Q_EMIT engine().downloaded();
+    }
+    void install(const UpdateProgress &progress)
+    {
+        becomeReady();
+        stage.updates.install();
+        Q_EMIT engine().progressed(progress);
     }
     void fail()
     {
         if (stage.updater.session().stage() != UpdateSession::Stage::checking)
             check();
-        Q_EMIT engine().failed({ UpdateFailure::noConnection, QStringLiteral("for a reason") });
+        Q_EMIT engine().failed({ UpdateFailure::unreachable, QStringLiteral("for a reason") });
     }
     [[nodiscard]] FakeEngine &engine() { return stage.updatePlatform.engine; }
 
@@ -49,17 +60,16 @@ struct UpdateScenes
     // Heard once the stage stands.
     LogCapture log;
     QQuickItem *view = nullptr;
-    Release release {
-        QStringLiteral("1.3.0"),
-        QDate(2026, 4, 30),
-        QStringLiteral("## New\n\n- **Quieter**, and _prettier_: the icon is drawn sharply on "
-                       "screens of any scale.\n- The health of the battery tells the cycles.\n"
-                       "- See [the page](https://example.org) for more.\n\n## Mended\n\n"
-                       "- The time that remains no longer jumps after a pause.\n- A second "
-                       "battery is counted.\n- The window stays on its screen.\n- `ferrin` says "
-                       "its version.\n"),
-        { QStringLiteral("ferrin_1.3.0_amd64.deb"), 4'200'000, QByteArray(32, 'h') }
-    };
+    Release release { QStringLiteral("1.3.0"), QStringLiteral("ferrin;1.3.0-1;amd64;main"),
+                      QDate(2026, 4, 30), 4'200'000,
+                      QStringLiteral(
+                          "A quieter item, and <b>words</b> as they are written.\n\n"
+                          "• The icon is drawn sharply on screens of any scale.\n"
+                          "• The health of the battery tells the cycles.\n"
+                          "• The time that remains no longer jumps after a pause.\n"
+                          "• A second battery is counted.\n"
+                          "• The window stays on its screen.\n\n"
+                          "Mended: a second battery whose figures are in another unit.") };
 };
 
 } // namespace ferrin::test

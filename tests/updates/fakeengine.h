@@ -15,13 +15,26 @@ class FakeEngine final : public UpdateEngine
     Q_OBJECT
 
 public:
-    void check(const UpdateCheck &check) override { checks.append(check); }
-    void download(const PackageRequest &request) override { downloads.append(request); }
+    [[nodiscard]] UpdateSupport support() const override { return m_support; }
+    void setSupport(UpdateSupport support)
+    {
+        m_support = support;
+        Q_EMIT supportChanged();
+    }
+    void refreshSupport() override { ++refreshes; }
+    void check(UpdateManner manner) override { checks.append(manner); }
+    void download(const Release &release, UpdateManner) override { downloads.append(release); }
+    void install(const Release &release) override { installations.append(release); }
     void cancel() override { ++cancels; }
 
-    QList<UpdateCheck> checks;
-    QList<PackageRequest> downloads;
+    int refreshes = 0;
+    QList<UpdateManner> checks;
+    QList<Release> downloads;
+    QList<Release> installations;
     int cancels = 0;
+
+private:
+    UpdateSupport m_support = UpdateSupport::full;
 };
 
 } // namespace ferrin::test

@@ -4,43 +4,26 @@
 #pragma once
 
 #include "tests/updates/fakeengine.h"
-#include "tests/updates/fakeinstaller.h"
 #include "tests/updates/fakenetwork.h"
+#include "tests/updates/fakenotice.h"
 #include "updates/updater.h"
 
-#include <utility>
-
 namespace ferrin::test {
-
-inline UpdateFeed someFeed()
-{
-    return { QUrl(QStringLiteral("https://example.org/feed")), QByteArray(32, 'k'),
-             QStringLiteral("amd64") };
-}
 
 /// What an updater is made of when the test decides everything.
 struct FakeUpdatePlatform
 {
-    explicit FakeUpdatePlatform(UpdateFeed source = someFeed())
-        : feed(std::move(source))
-    {
-    }
-
     [[nodiscard]] Updater::Parts parts(DefaultsStore &store)
     {
-        return { .feed = feed,
-                 .installedVersion = QStringLiteral("1.2.9"),
-                 .folder = QStringLiteral("/nowhere"),
-                 .store = store,
+        return { .store = store,
                  .engine = engine,
-                 .installer = installer,
+                 .notice = notice,
                  .network = network,
                  .battery = [] { return BatteryReserve(); } };
     }
 
-    UpdateFeed feed;
     FakeEngine engine;
-    FakeInstaller installer;
+    FakeNotice notice;
     FakeNetwork network;
 };
 

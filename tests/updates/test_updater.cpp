@@ -3,10 +3,10 @@
 
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
+#include "tests/support/testmain.h"
 #include "tests/updates/fakeengine.h"
-#include "tests/updates/fakeinstaller.h"
 #include "tests/updates/fakenetwork.h"
-#include "tests/updates/testfeed.h"
+#include "tests/updates/fakenotice.h"
 #include "updates/appupdater.h"
 
 #include <QTest>
@@ -19,16 +19,18 @@ using Stage = UpdateSession::Stage;
 
 namespace {
 
+Release someRelease()
+{
+    return { u"1.3.0"_s, u"ferrin;1.3.0-1;amd64;main"_s, {}, {}, {} };
+}
+
 struct Bench
 {
     [[nodiscard]] Updater::Parts parts()
     {
-        return { .feed = feed,
-                 .installedVersion = u"1.2.9"_s,
-                 .folder = u"/nowhere"_s,
-                 .store = store,
+        return { .store = store,
                  .engine = engine,
-                 .installer = installer,
+                 .notice = notice,
                  .network = network,
                  .battery = [this] { return battery; },
                  .now = [this] { return now; } };
@@ -42,13 +44,12 @@ struct Bench
         return *updater;
     }
 
-    UpdateFeed feed { QUrl(u"https://example.org/feed"_s), QByteArray(32, 'k'), u"amd64"_s };
     MemoryDefaultsStore store;
     FakeEngine engine;
-    FakeInstaller installer;
+    FakeNotice notice;
     FakeNetwork network;
     BatteryReserve battery { 80, true };
-    QDateTime now = readingTime;
+    QDateTime now { QDate(2026, 5, 1), QTime(12, 0), Qt::UTC };
     std::optional<Updater> updater;
     LogCapture log;
 };
@@ -83,7 +84,12 @@ private Q_SLOTS:
     void survivesAnAnswerOfTheNetworkThatComesTooLate();
     void cannotCheckWhileACheckIsRunning();
     void canCheckAgainWhateverTheCheckFound();
-    void doesNothingAtAllWithoutAFeed();
+    void doesNothingAtAllForACopyThatNoPackageInstalled();
+    void restsWhileTheSystemHasNoPackageService();
+    void looksNoMoreOnceItIsKnownThatNoPackageOwnsTheProgram();
+    void tellsOfAnOfferByANotification();
+    void tellsOfAnUnseenOfferOnce();
+    void withdrawsTheNotificationOfWhatIsInstalledByNow();
     void isStartedByItsController();
 
 private:
@@ -96,7 +102,7 @@ void TestUpdater::checksByItselfOnceADay()
     for (int hour = 0; hour < 49; ++hour) {
         updater.look();
         if (updater.session().stage() == Stage::checking)
-            Q_EMIT m_bench->engine.checked({ m_bench->now, std::nullopt });
+            Q_EMIT m_bench->engine.checked(std::nullopt);
         m_bench->now = m_bench->now.addSecs(3600);
     }
     QCOMPARE(m_bench->engine.checks.size(), 3);
@@ -251,12 +257,9 @@ void TestUpdater::doesNotBeginWhatTheUserSwitchedOffMeanwhile()
 
 void TestUpdater::downloadsByItselfWhereTheUserLetsIt()
 {
-    const Release release {
-        u"1.3.0"_s, QDate(2026, 4, 30), {}, packageOf("package", u"ferrin_1.3.0_amd64.deb"_s)
-    };
     m_bench->launch().setAutomaticallyDownloadsUpdates(true);
     m_bench->updater->look();
-    Q_EMIT m_bench->engine.checked({ m_bench->now, release });
+    Q_EMIT m_bench->engine.checked(someRelease());
     QCOMPARE(m_bench->engine.downloads.size(), 1);
     m_bench->log.ignoreRest();
 }
@@ -296,11 +299,11 @@ void TestUpdater::canCheckAgainWhateverTheCheckFound()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdater::doesNothingAtAllWithoutAFeed()
+void TestUpdater::doesNothingAtAllForACopyThatNoPackageInstalled()
 {
-    m_bench->feed = {};
+    m_bench->engine.setSupport(UpdateSupport::notPackaged);
     Updater &updater = m_bench->launch();
-    QVERIFY(!updater.hasFeed());
+    QCOMPARE(updater.support(), UpdateSupport::notPackaged);
     QVERIFY(!updater.canCheckForUpdates());
     QVERIFY(!updater.automaticallyChecksForUpdates());
     updater.setAutomaticallyChecksForUpdates(true);
@@ -314,12 +317,76 @@ void TestUpdater::doesNothingAtAllWithoutAFeed()
     QCOMPARE(updater.session().stage(), Stage::idle);
 }
 
+void TestUpdater::restsWhileTheSystemHasNoPackageService()
+{
+    Updater &updater = m_bench->launch();
+    m_bench->engine.setSupport(UpdateSupport::noService);
+    QVERIFY(!updater.canCheckForUpdates());
+    updater.checkForUpdates();
+    QVERIFY(m_bench->engine.checks.isEmpty());
+    updater.refreshSupport();
+    QCOMPARE(m_bench->engine.refreshes, 1);
+    m_bench->engine.setSupport(UpdateSupport::full);
+    QVERIFY(updater.canCheckForUpdates());
+}
+
+void TestUpdater::looksNoMoreOnceItIsKnownThatNoPackageOwnsTheProgram()
+{
+    m_bench->launch().look();
+    m_bench->engine.setSupport(UpdateSupport::notPackaged);
+    QVERIFY(!m_bench->updater->timer().isActive());
+}
+
+void TestUpdater::tellsOfAnOfferByANotification()
+{
+    m_bench->launch().look();
+    Q_EMIT m_bench->engine.checked(someRelease());
+    QCOMPARE(m_bench->notice.titles, QStringList { u"Ferrin 1.3.0 is available"_s });
+    int shown = 0;
+    connect(&m_bench->updater->session(), &UpdateSession::presentationRequested, [&] { ++shown; });
+    QVERIFY(m_bench->notice.press);
+    const auto press = m_bench->notice.press;
+    press();
+    QCOMPARE(shown, 1);
+    QVERIFY(!m_bench->notice.press);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdater::tellsOfAnUnseenOfferOnce()
+{
+    Updater &updater = m_bench->launch();
+    for (int day = 0; day < 3; ++day) {
+        updater.look();
+        Q_EMIT m_bench->engine.checked(someRelease());
+        m_bench->now = m_bench->now.addDays(1);
+    }
+    QCOMPARE(m_bench->engine.checks.size(), 3);
+    QCOMPARE(m_bench->notice.titles.size(), 1);
+    // The user looked, and wants to be told again.
+    m_bench->updater->session().present();
+    m_bench->updater->session().later();
+    m_bench->updater->look();
+    Q_EMIT m_bench->engine.checked(someRelease());
+    QCOMPARE(m_bench->notice.titles.size(), 2);
+    m_bench->log.ignoreRest();
+}
+
+void TestUpdater::withdrawsTheNotificationOfWhatIsInstalledByNow()
+{
+    m_bench->launch().look();
+    Q_EMIT m_bench->engine.checked(someRelease());
+    m_bench->now = m_bench->now.addDays(1);
+    m_bench->updater->look();
+    Q_EMIT m_bench->engine.checked(std::nullopt);
+    QVERIFY(!m_bench->notice.press);
+    m_bench->log.ignoreRest();
+}
+
 void TestUpdater::isStartedByItsController()
 {
     AppUpdater app(m_bench->parts());
     QVERIFY(app.controller()->updater()->timer().isActive());
-    QVERIFY(app.controller()->updater()->hasFeed());
 }
 
-QTEST_GUILESS_MAIN(TestUpdater)
+FERRIN_TEST(QCoreApplication, TestUpdater)
 #include "test_updater.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "tests/support/testmain.h"
 #include "updates/updateschedule.h"
 
 #include <QTest>
@@ -59,5 +60,5 @@ void TestUpdateSchedule::waitsUntilItIsDue()
     QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(600), m_now), 10min);
 }
 
-QTEST_GUILESS_MAIN(TestUpdateSchedule)
+FERRIN_TEST(QCoreApplication, TestUpdateSchedule)
 #include "test_updateschedule.moc"

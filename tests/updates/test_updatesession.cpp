@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "tests/support/testmain.h"
 #include "tests/updates/sessionbench.h"
 
 using namespace ferrin;
@@ -14,23 +15,26 @@ class TestUpdateSession : public QObject
 
 private Q_SLOTS:
     void init() { m_bench.emplace(); }
-    void cleanup() { m_bench.reset(); }
+    void cleanup()
+    {
+        m_bench->log.ignoreRest();
+        m_bench.reset();
+    }
 
-    void asksTheEngineForTheFeed();
+    void checksInTheUsersName();
     void isShownFromItsBeginning();
     void saysThatFerrinIsUpToDate();
-    void throwsAwayWhatIsInstalledByNow();
     void offersANewerRelease();
     void downloadsWhatIsOffered();
-    void isReadyToInstallWhatWasVerified();
-    void handsTheVerifiedPackageOver();
-    void neverHandsOverAPackageThatHasChangedSince();
-    void saysWhenNobodyInstalls();
+    void installsWhatIsDownloaded();
     void tellsAFailureInPlainWords();
     void triesTheStepAgainThatFailed();
+    void checksAgainWhenTheOfferIsGone();
     void cancelsACheck();
     void cancelsADownloadAndKeepsTheOffer();
-    void remembersTheNewestFeed();
+    void cancelsAnInstallationOnlyWhereThatIsSafe();
+    void installsOnWhenTheUserLooksAway();
+    void endsAllElseWhenTheUserLooksAway();
     void ignoresWhatMakesNoSenseNow_data();
     void ignoresWhatMakesNoSenseNow();
     void forgetsTheOldOfferWhenItBeginsAnew();
@@ -40,14 +44,11 @@ private:
     std::optional<SessionBench> m_bench;
 };
 
-void TestUpdateSession::asksTheEngineForTheFeed()
+void TestUpdateSession::checksInTheUsersName()
 {
-    QVERIFY(m_bench->engine.checks.isEmpty());
     m_bench->session.begin();
     QCOMPARE(m_bench->session.stage(), Stage::checking);
-    const UpdateCheck expected { QUrl(u"https://example.org/feed"_s), QByteArray(32, 'k'),
-                                 u"1.2.9"_s, u"amd64"_s, std::nullopt };
-    QCOMPARE(m_bench->engine.checks, QList { expected });
+    QCOMPARE(m_bench->engine.checks, QList { UpdateManner::interactive });
 }
 
 void TestUpdateSession::isShownFromItsBeginning()
@@ -59,29 +60,11 @@ void TestUpdateSession::isShownFromItsBeginning()
 void TestUpdateSession::saysThatFerrinIsUpToDate()
 {
     m_bench->session.begin();
-    m_bench->offer(std::nullopt);
+    m_bench->findNothing();
     QCOMPARE(m_bench->session.stage(), Stage::upToDate);
     QCOMPARE(m_bench->log.take(), QStringList { u"info: Ferrin is up to date"_s });
     m_bench->session.later();
     QCOMPARE(m_bench->session.stage(), Stage::idle);
-}
-
-void TestUpdateSession::throwsAwayWhatIsInstalledByNow()
-{
-    const QDir folder(m_bench->folder.path());
-    for (const QString &name :
-         { u"ferrin_1.3.0_amd64.deb"_s, u"ferrin_1.3.1_amd64.deb.part"_s, u"somebody's.txt"_s }) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    m_bench->session.begin();
-    m_bench->offer();
-    m_bench->session.later();
-    QCOMPARE(folder.entryList(QDir::Files).size(), 3);
-    m_bench->session.begin();
-    m_bench->offer(std::nullopt);
-    QCOMPARE(folder.entryList(QDir::Files), QStringList { u"somebody's.txt"_s });
-    m_bench->log.ignoreRest();
 }
 
 void TestUpdateSession::offersANewerRelease()
@@ -89,11 +72,10 @@ void TestUpdateSession::offersANewerRelease()
     m_bench->session.begin();
     m_bench->offer();
     QCOMPARE(m_bench->session.stage(), Stage::available);
-    QCOMPARE(m_bench->session.version(), u"1.3.0"_s);
-    QCOMPARE(m_bench->session.notes(), u"- **Quieter**\n"_s);
     QCOMPARE(m_bench->session.release(), m_bench->release);
     QCOMPARE(m_bench->log.take(), QStringList { u"info: Version 1.3.0 is available"_s });
     QVERIFY(m_bench->engine.downloads.isEmpty());
+    QCOMPARE(m_bench->offers, 0);
 }
 
 void TestUpdateSession::downloadsWhatIsOffered()
@@ -102,83 +84,41 @@ void TestUpdateSession::downloadsWhatIsOffered()
     m_bench->offer();
     m_bench->session.download();
     QCOMPARE(m_bench->session.stage(), Stage::downloading);
-    const PackageRequest expected { QUrl(u"https://example.org/feed"_s), m_bench->release.package,
-                                    m_bench->folder.path() };
-    QCOMPARE(m_bench->engine.downloads, QList { expected });
-    QCOMPARE(m_bench->session.received(), 0);
-    QCOMPARE(m_bench->session.total(), 5000);
-    Q_EMIT m_bench->engine.progressed(1234, 5000);
-    QCOMPARE(m_bench->session.received(), 1234);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::isReadyToInstallWhatWasVerified()
-{
-    m_bench->becomeReady();
+    QCOMPARE(m_bench->engine.downloads, QList { m_bench->release });
+    const UpdateProgress half { UpdateActivity::downloading, 0.5, true };
+    Q_EMIT m_bench->engine.progressed(half);
+    QCOMPARE(m_bench->session.progress(), half);
+    Q_EMIT m_bench->engine.downloaded();
     QCOMPARE(m_bench->session.stage(), Stage::readyToInstall);
-    QCOMPARE(m_bench->session.received(), 5000);
-    QVERIFY(m_bench->installer.handedOver.isEmpty());
-    QCOMPARE(m_bench->log.take(),
-             QStringList({ u"info: Version 1.3.0 is available"_s,
-                           u"info: Version 1.3.0 is downloaded and verified"_s }));
+    QVERIFY(m_bench->engine.installations.isEmpty());
 }
 
-void TestUpdateSession::handsTheVerifiedPackageOver()
+void TestUpdateSession::installsWhatIsDownloaded()
 {
     m_bench->becomeReady();
     m_bench->session.install();
-    QCOMPARE(m_bench->installer.handedOver, QStringList { m_bench->path });
-    QCOMPARE(m_bench->session.stage(), Stage::idle);
-    m_bench->log.ignoreRest();
-}
-
-void TestUpdateSession::neverHandsOverAPackageThatHasChangedSince()
-{
-    m_bench->becomeReady();
-    static_cast<void>(m_bench->log.take());
-    QFile file(m_bench->path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.seek(2500));
-    QVERIFY(file.putChar(static_cast<char>(m_bench->bytes.at(2500) ^ 1)));
-    file.close();
-
-    m_bench->session.install();
-    QVERIFY(m_bench->installer.handedOver.isEmpty());
-    QCOMPARE(m_bench->session.stage(), Stage::failed);
-    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::badPackage));
+    QCOMPARE(m_bench->session.stage(), Stage::installing);
+    QCOMPARE(m_bench->session.progress(), UpdateProgress());
+    QCOMPARE(m_bench->engine.installations, QList { m_bench->release });
+    Q_EMIT m_bench->engine.installed();
+    QCOMPARE(m_bench->session.stage(), Stage::installed);
     QCOMPARE(
         m_bench->log.take(),
-        QStringList { u"error: The update failed (badPackage): %1 has changed on the disk"_s.arg(
-            m_bench->path) });
-    // There is nothing to install any more, but something to fetch.
-    m_bench->session.tryAgain();
-    QCOMPARE(m_bench->session.stage(), Stage::downloading);
-    QCOMPARE(m_bench->engine.downloads.size(), 2);
-}
-
-void TestUpdateSession::saysWhenNobodyInstalls()
-{
-    m_bench->installer.isThere = false;
-    m_bench->becomeReady();
-    static_cast<void>(m_bench->log.take());
-    m_bench->session.install();
-    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::noInstaller));
-    QCOMPARE(m_bench->log.take().size(), 1);
-
-    m_bench->installer.isThere = true;
-    m_bench->session.tryAgain();
-    QCOMPARE(m_bench->installer.handedOver, QStringList { m_bench->path });
+        QStringList({ u"info: Version 1.3.0 is available"_s, u"info: Version 1.3.0 is downloaded"_s,
+                      u"info: Version 1.3.0 is installed"_s }));
+    m_bench->session.later();
     QCOMPARE(m_bench->session.stage(), Stage::idle);
 }
 
 void TestUpdateSession::tellsAFailureInPlainWords()
 {
     m_bench->session.begin();
-    m_bench->fail(UpdateFailure::badSignature);
+    m_bench->fail(UpdateFailure::notTrusted);
     QCOMPARE(m_bench->session.stage(), Stage::failed);
-    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::badSignature));
+    QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::notTrusted));
+    QCOMPARE(m_bench->session.trouble(), QString());
     QCOMPARE(m_bench->log.take(),
-             QStringList { u"error: The update failed (badSignature): for a reason"_s });
+             QStringList { u"warning: The update failed (notTrusted): for a reason"_s });
     m_bench->session.later();
     QCOMPARE(m_bench->session.failure(), QString());
 }
@@ -186,20 +126,34 @@ void TestUpdateSession::tellsAFailureInPlainWords()
 void TestUpdateSession::triesTheStepAgainThatFailed()
 {
     m_bench->session.begin();
-    m_bench->fail(UpdateFailure::noConnection);
+    m_bench->fail(UpdateFailure::unreachable);
     m_bench->session.tryAgain();
     QCOMPARE(m_bench->session.stage(), Stage::checking);
     QCOMPARE(m_bench->session.failure(), QString());
-    QCOMPARE(m_bench->engine.checks.size(), 2);
 
     m_bench->offer();
     m_bench->session.download();
-    m_bench->fail(UpdateFailure::noConnection);
+    m_bench->fail(UpdateFailure::unreachable);
     m_bench->session.tryAgain();
     QCOMPARE(m_bench->session.stage(), Stage::downloading);
-    QCOMPARE(m_bench->engine.checks.size(), 2);
     QCOMPARE(m_bench->engine.downloads.size(), 2);
-    m_bench->log.ignoreRest();
+
+    Q_EMIT m_bench->engine.downloaded();
+    m_bench->session.install();
+    m_bench->fail(UpdateFailure::notAuthorized);
+    m_bench->session.tryAgain();
+    QCOMPARE(m_bench->session.stage(), Stage::installing);
+    QCOMPARE(m_bench->engine.installations.size(), 2);
+    QCOMPARE(m_bench->engine.checks.size(), 2);
+}
+
+void TestUpdateSession::checksAgainWhenTheOfferIsGone()
+{
+    m_bench->beginInstalling();
+    m_bench->fail(UpdateFailure::nothingDone);
+    m_bench->session.tryAgain();
+    QCOMPARE(m_bench->session.stage(), Stage::checking);
+    QCOMPARE(m_bench->engine.installations.size(), 1);
 }
 
 void TestUpdateSession::cancelsACheck()
@@ -220,17 +174,46 @@ void TestUpdateSession::cancelsADownloadAndKeepsTheOffer()
     QCOMPARE(m_bench->session.stage(), Stage::available);
     m_bench->session.download();
     QCOMPARE(m_bench->engine.downloads.size(), 2);
-    m_bench->log.ignoreRest();
 }
 
-void TestUpdateSession::remembersTheNewestFeed()
+void TestUpdateSession::cancelsAnInstallationOnlyWhereThatIsSafe()
+{
+    m_bench->beginInstalling();
+    Q_EMIT m_bench->engine.progressed({ UpdateActivity::installing, 0.2, false });
+    m_bench->session.cancel();
+    QCOMPARE(m_bench->engine.cancels, 0);
+    QCOMPARE(m_bench->session.stage(), Stage::installing);
+    Q_EMIT m_bench->engine.progressed({ UpdateActivity::waiting, std::nullopt, true });
+    m_bench->session.cancel();
+    QCOMPARE(m_bench->engine.cancels, 1);
+    QCOMPARE(m_bench->session.stage(), Stage::readyToInstall);
+}
+
+void TestUpdateSession::installsOnWhenTheUserLooksAway()
+{
+    m_bench->beginInstalling();
+    m_bench->session.dismiss();
+    QCOMPARE(m_bench->engine.cancels, 0);
+    QCOMPARE(m_bench->session.stage(), Stage::installing);
+    m_bench->session.present();
+    QCOMPARE(m_bench->shown, 2);
+    m_bench->session.dismiss();
+    m_bench->fail(UpdateFailure::setupFailed);
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    QCOMPARE(m_bench->session.trouble(), plainWords(UpdateFailure::setupFailed));
+    QCOMPARE(m_bench->shown, 2);
+}
+
+void TestUpdateSession::endsAllElseWhenTheUserLooksAway()
 {
     m_bench->session.begin();
-    m_bench->offer(std::nullopt);
-    QCOMPARE(m_bench->records.newestIssued(), readingTime);
-    m_bench->session.begin();
-    QCOMPARE(m_bench->engine.checks.last().newestIssued, readingTime);
-    m_bench->log.ignoreRest();
+    m_bench->session.dismiss();
+    QCOMPARE(m_bench->engine.cancels, 1);
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    m_bench->becomeReady();
+    m_bench->session.dismiss();
+    QCOMPARE(m_bench->session.stage(), Stage::idle);
+    QCOMPARE(m_bench->engine.cancels, 1);
 }
 
 void TestUpdateSession::ignoresWhatMakesNoSenseNow_data()
@@ -240,31 +223,35 @@ void TestUpdateSession::ignoresWhatMakesNoSenseNow_data()
     QTest::newRow("checking") << Stage::checking;
     QTest::newRow("up to date") << Stage::upToDate;
     QTest::newRow("failed") << Stage::failed;
+    QTest::newRow("installing") << Stage::installing;
 }
 
 void TestUpdateSession::ignoresWhatMakesNoSenseNow()
 {
     QFETCH(Stage, stage);
-    if (stage != Stage::idle)
+    if (stage == Stage::installing)
+        m_bench->beginInstalling();
+    else if (stage != Stage::idle)
         m_bench->session.begin();
     if (stage == Stage::upToDate)
-        m_bench->offer(std::nullopt);
+        m_bench->findNothing();
     if (stage == Stage::failed)
         m_bench->fail(UpdateFailure::tooSlow);
-    m_bench->log.ignoreRest();
+    const auto downloads = m_bench->engine.downloads.size();
+    const auto installations = m_bench->engine.installations.size();
 
     m_bench->session.download();
     m_bench->session.install();
     m_bench->session.skipThisVersion();
     if (stage != Stage::failed)
         m_bench->session.tryAgain();
-    if (stage == Stage::checking)
+    if (stage == Stage::checking || stage == Stage::installing)
         m_bench->session.later();
     else
         m_bench->session.cancel();
     QCOMPARE(m_bench->session.stage(), stage);
-    QVERIFY(m_bench->engine.downloads.isEmpty());
-    QVERIFY(m_bench->installer.handedOver.isEmpty());
+    QCOMPARE(m_bench->engine.downloads.size(), downloads);
+    QCOMPARE(m_bench->engine.installations.size(), installations);
     QCOMPARE(m_bench->records.skippedVersion(), QString());
 }
 
@@ -273,11 +260,9 @@ void TestUpdateSession::forgetsTheOldOfferWhenItBeginsAnew()
     m_bench->becomeReady();
     m_bench->session.begin();
     QCOMPARE(m_bench->session.stage(), Stage::checking);
-    QCOMPARE(m_bench->session.version(), QString());
     QVERIFY(!m_bench->session.release());
     m_bench->session.install();
-    QVERIFY(m_bench->installer.handedOver.isEmpty());
-    m_bench->log.ignoreRest();
+    QVERIFY(m_bench->engine.installations.isEmpty());
 }
 
 void TestUpdateSession::tellsBindingsOfEachStage()
@@ -285,13 +270,13 @@ void TestUpdateSession::tellsBindingsOfEachStage()
     QList<Stage> stages;
     const auto handler = m_bench->session.bindableStage().addNotifier(
         [&] { stages.append(m_bench->session.stage()); });
-    m_bench->becomeReady();
-    m_bench->session.install();
+    m_bench->beginInstalling();
+    Q_EMIT m_bench->engine.installed();
+    m_bench->session.later();
     QCOMPARE(stages,
              QList({ Stage::checking, Stage::available, Stage::downloading, Stage::readyToInstall,
-                     Stage::idle }));
-    m_bench->log.ignoreRest();
+                     Stage::installing, Stage::installed, Stage::idle }));
 }
 
-QTEST_GUILESS_MAIN(TestUpdateSession)
+FERRIN_TEST(QCoreApplication, TestUpdateSession)
 #include "test_updatesession.moc"

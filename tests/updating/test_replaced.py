@@ -23,7 +23,8 @@ class Replaced(OnADesktop):
         super().setUp()
         built = os.path.dirname(os.path.dirname(binary()))
         installed = os.path.join(self.session.folder, "installed")
-        shutil.copytree(built, installed)
+        for part in ("bin", "libexec"):
+            shutil.copytree(os.path.join(built, part), os.path.join(installed, part))
         self.path = os.path.join(installed, "bin", "ferrin")
         self.program = self.start([self.path])
         self.program.says(AT_START)
