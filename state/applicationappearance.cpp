@@ -6,6 +6,7 @@
 namespace ferrin {
 
 namespace {
+
 ApplicationAppearance *current = nullptr;
 }
 

@@ -14,6 +14,7 @@
 namespace ferrin {
 
 namespace {
+
 using Clock = std::chrono::steady_clock;
 
 // Sent by the child when it is done, so that half a report is not taken for a whole one.
@@ -66,6 +67,7 @@ std::optional<std::string> readAll(int descriptor, Clock::time_point end)
     text.pop_back();
     return text;
 }
+
 } // namespace
 
 std::optional<std::string> resultWithin(std::chrono::milliseconds limit,

@@ -16,6 +16,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr int soundPercent = 80;
 
 // The kernel's other values describe the moment (the temperature, a charger's timer), not the pack:
@@ -78,6 +79,7 @@ std::string sectionOf(const Health &health)
         text += "          Maximum Capacity: " + std::to_string(*health.percent) + "%\n";
     return text;
 }
+
 } // namespace
 
 std::string powerReport(const PowerSupplies &supplies, const std::vector<BatteryRecord> &records)

@@ -11,12 +11,14 @@
 using namespace std::chrono_literals;
 
 namespace {
+
 std::string report()
 {
     const ferrin::SupplyReader reader("/sys");
     const ferrin::PowerSupplies supplies = reader.read();
     return ferrin::powerReport(supplies, reader.readRecords(supplies.batteries));
 }
+
 } // namespace
 
 /// Prints the hardware report of the data type SPPowerDataType, and exits within a second whatever

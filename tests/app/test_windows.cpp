@@ -37,7 +37,7 @@ QList<QWindow *> visibleWindows(const QString &title)
 } // namespace
 
 /// The real module, loaded as the program loads it.
-class TestWindows : public QObject
+class WindowsTest : public QObject
 {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ private:
     std::unique_ptr<Windows> m_windows;
 };
 
-void TestWindows::initTestCase()
+void WindowsTest::initTestCase()
 {
     QGuiApplication::setApplicationName(u"Ferrin"_s);
     setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
@@ -77,7 +77,7 @@ void TestWindows::initTestCase()
     AppUpdater::setParts(m_updates.parts(sharedDefaults()));
 }
 
-void TestWindows::init()
+void WindowsTest::init()
 {
     QPluginLoader loader(QStringLiteral(FERRIN_WINDOWS_MODULE));
     auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
@@ -86,20 +86,20 @@ void TestWindows::init()
     m_windows->dashboardClosed = m_windows->dashboardLostFocus = [] {};
 }
 
-void TestWindows::showsOneWindowWhenTheSettingsAreOpenedTwice()
+void WindowsTest::showsOneWindowWhenTheSettingsAreOpenedTwice()
 {
     m_windows->openWindow(u"FerrinSettings"_s);
     m_windows->openWindow(u"FerrinSettings"_s);
     QCOMPARE(visibleWindows(u"Ferrin Settings"_s).size(), 1);
 }
 
-void TestWindows::opensNothingByAnotherIdentifier()
+void WindowsTest::opensNothingByAnotherIdentifier()
 {
     m_windows->openWindow(u"FerrinSetting"_s);
     QVERIFY(visibleWindows(u"Ferrin Settings"_s).isEmpty());
 }
 
-void TestWindows::showsTheWindowOfUpdatesWhileThereIsSomethingToShow()
+void WindowsTest::showsTheWindowOfUpdatesWhileThereIsSomethingToShow()
 {
     Updater &updater = *AppUpdater::shared().controller()->updater();
     updater.checkForUpdates();
@@ -109,7 +109,7 @@ void TestWindows::showsTheWindowOfUpdatesWhileThereIsSomethingToShow()
     QVERIFY(visibleWindows(u"Software Update"_s).isEmpty());
 }
 
-void TestWindows::letsNobodyResizeTheSettings()
+void WindowsTest::letsNobodyResizeTheSettings()
 {
     m_windows->openWindow(u"FerrinSettings"_s);
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
@@ -118,7 +118,7 @@ void TestWindows::letsNobodyResizeTheSettings()
     QCOMPARE(window->size(), QSize(701, 500));
 }
 
-void TestWindows::placesTheSettingsInTheMiddleOfTheScreen()
+void WindowsTest::placesTheSettingsInTheMiddleOfTheScreen()
 {
     m_windows->openWindow(u"FerrinSettings"_s);
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
@@ -126,14 +126,14 @@ void TestWindows::placesTheSettingsInTheMiddleOfTheScreen()
              QGuiApplication::primaryScreen()->availableGeometry().center());
 }
 
-void TestWindows::showsTheProgramsIconInTheListsOfWindows()
+void WindowsTest::showsTheProgramsIconInTheListsOfWindows()
 {
     m_windows->openWindow(u"FerrinSettings"_s);
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
     QTRY_VERIFY(!window->icon().pixmap(32).isNull());
 }
 
-void TestWindows::makesTheSettingsReadyWhenThePointerComesToTheirEntry()
+void WindowsTest::makesTheSettingsReadyWhenThePointerComesToTheirEntry()
 {
     const auto isReady = [] {
         return std::ranges::any_of(QGuiApplication::allWindows(), [](const QWindow *window) {
@@ -153,7 +153,7 @@ void TestWindows::makesTheSettingsReadyWhenThePointerComesToTheirEntry()
     QVERIFY(visibleWindows(u"Ferrin Settings"_s).isEmpty());
 }
 
-void TestWindows::dropsTheDashboardWhenItCloses()
+void WindowsTest::dropsTheDashboardWhenItCloses()
 {
     m_windows->showDashboard({ .item { 100, 10, 1, 1 } });
     QCOMPARE(visibleWindows(u"Ferrin"_s).size(), 1);
@@ -162,7 +162,7 @@ void TestWindows::dropsTheDashboardWhenItCloses()
     QTRY_VERIFY(window.isNull());
 }
 
-void TestWindows::closesTheDashboardByEscape()
+void WindowsTest::closesTheDashboardByEscape()
 {
     int closed = 0;
     m_windows->dashboardClosed = [&] { ++closed; };
@@ -171,7 +171,7 @@ void TestWindows::closesTheDashboardByEscape()
     QCOMPARE(closed, 1);
 }
 
-void TestWindows::knowsTheWindowsOfTheDashboard()
+void WindowsTest::knowsTheWindowsOfTheDashboard()
 {
     QWindow other;
     QVERIFY(!m_windows->isOfDashboard(other));
@@ -184,7 +184,7 @@ void TestWindows::knowsTheWindowsOfTheDashboard()
     QVERIFY(!m_windows->isOfDashboard(other));
 }
 
-void TestWindows::saysThatTheDashboardLostTheFocusAndLeavesItOpen()
+void WindowsTest::saysThatTheDashboardLostTheFocusAndLeavesItOpen()
 {
     int lost = 0;
     m_windows->dashboardLostFocus = [&] { ++lost; };
@@ -198,5 +198,5 @@ void TestWindows::saysThatTheDashboardLostTheFocusAndLeavesItOpen()
     QVERIFY(dashboard->isVisible());
 }
 
-QTEST_MAIN(TestWindows)
+QTEST_MAIN(WindowsTest)
 #include "test_windows.moc"

@@ -14,11 +14,13 @@ using namespace Qt::StringLiterals;
 using test::lastWords;
 
 namespace {
+
 constexpr qint64 greatest = std::numeric_limits<qint64>::max();
 constexpr qint64 least = std::numeric_limits<qint64>::min();
+
 } // namespace
 
-class TestCheckedArithmetic : public QObject
+class CheckedArithmeticTest : public QObject
 {
     Q_OBJECT
 
@@ -33,32 +35,32 @@ private Q_SLOTS:
     void knowsWhenNothingStopped();
 };
 
-void TestCheckedArithmetic::calculates()
+void CheckedArithmeticTest::calculates()
 {
     QCOMPARE(checkedAdd(greatest - 1, 1), greatest);
     QCOMPARE(checkedSubtract(least + 1, 1), least);
     QCOMPARE(checkedMultiply(-50, 6000), -300000);
 }
 
-void TestCheckedArithmetic::stopsTheProcessWhenASumDoesNotFit()
+void CheckedArithmeticTest::stopsTheProcessWhenASumDoesNotFit()
 {
     QCOMPARE(lastWords([] { std::ignore = checkedAdd(greatest, 1); }),
              u"Integer overflow: 9223372036854775807 + 1"_s);
 }
 
-void TestCheckedArithmetic::stopsTheProcessWhenADifferenceDoesNotFit()
+void CheckedArithmeticTest::stopsTheProcessWhenADifferenceDoesNotFit()
 {
     QCOMPARE(lastWords([] { std::ignore = checkedSubtract(least, 1); }),
              u"Integer overflow: -9223372036854775808 - 1"_s);
 }
 
-void TestCheckedArithmetic::stopsTheProcessWhenAProductDoesNotFit()
+void CheckedArithmeticTest::stopsTheProcessWhenAProductDoesNotFit()
 {
     QCOMPARE(lastWords([] { std::ignore = checkedMultiply(greatest, 2); }),
              u"Integer overflow: 9223372036854775807 * 2"_s);
 }
 
-void TestCheckedArithmetic::truncatesTowardZero()
+void CheckedArithmeticTest::truncatesTowardZero()
 {
     QCOMPARE(checkedInteger(150.6F), 150);
     QCOMPARE(checkedInteger(-150.6F), -150);
@@ -66,7 +68,7 @@ void TestCheckedArithmetic::truncatesTowardZero()
     QCOMPARE(checkedInteger(0x1.fffffep62F), 9223371487098961920);
 }
 
-void TestCheckedArithmetic::stopsTheProcessWhenAFloatIsNoInteger_data()
+void CheckedArithmeticTest::stopsTheProcessWhenAFloatIsNoInteger_data()
 {
     QTest::addColumn<float>("value");
     QTest::addColumn<QString>("words");
@@ -78,16 +80,16 @@ void TestCheckedArithmetic::stopsTheProcessWhenAFloatIsNoInteger_data()
     QTest::newRow("too small") << -0x1.000002p63F << u"Not a 64-bit integer: -9.22337e+18"_s;
 }
 
-void TestCheckedArithmetic::stopsTheProcessWhenAFloatIsNoInteger()
+void CheckedArithmeticTest::stopsTheProcessWhenAFloatIsNoInteger()
 {
     QFETCH(const float, value);
     QTEST(lastWords([value] { std::ignore = checkedInteger(value); }).value_or(QString()), "words");
 }
 
-void TestCheckedArithmetic::knowsWhenNothingStopped()
+void CheckedArithmeticTest::knowsWhenNothingStopped()
 {
     QCOMPARE(lastWords([] { std::ignore = checkedAdd(1, 1); }), std::nullopt);
 }
 
-FERRIN_TEST(QCoreApplication, TestCheckedArithmetic)
+FERRIN_TEST(QCoreApplication, CheckedArithmeticTest)
 #include "test_checkedarithmetic.moc"

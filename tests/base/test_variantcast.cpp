@@ -12,7 +12,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestVariantCast : public QObject
+class VariantCastTest : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void readsADictionaryFromADictionaryAlone();
 };
 
-void TestVariantCast::readsAWholeNumberHoweverItIsHeld_data()
+void VariantCastTest::readsAWholeNumberHoweverItIsHeld_data()
 {
     QTest::addColumn<QVariant>("held");
     QTest::addColumn<qint64>("number");
@@ -51,14 +51,14 @@ void TestVariantCast::readsAWholeNumberHoweverItIsHeld_data()
     QTest::newRow("least double") << QVariant(-0x1p63) << std::numeric_limits<qint64>::min();
 }
 
-void TestVariantCast::readsAWholeNumberHoweverItIsHeld()
+void VariantCastTest::readsAWholeNumberHoweverItIsHeld()
 {
     QFETCH(const QVariant, held);
     QFETCH(const qint64, number);
     QCOMPARE(variantCast<qint64>(held), number);
 }
 
-void TestVariantCast::findsNoIntegerIn_data()
+void VariantCastTest::findsNoIntegerIn_data()
 {
     QTest::addColumn<QVariant>("held");
     QTest::newRow("nothing") << QVariant();
@@ -75,13 +75,13 @@ void TestVariantCast::findsNoIntegerIn_data()
     QTest::newRow("unsigned beyond 63 bits") << QVariant(quint64(9223372036854775808U));
 }
 
-void TestVariantCast::findsNoIntegerIn()
+void VariantCastTest::findsNoIntegerIn()
 {
     QFETCH(const QVariant, held);
     QCOMPARE(variantCast<qint64>(held), std::nullopt);
 }
 
-void TestVariantCast::readsEveryNumberAsAFloat_data()
+void VariantCastTest::readsEveryNumberAsAFloat_data()
 {
     QTest::addColumn<QVariant>("held");
     QTest::addColumn<float>("number");
@@ -94,14 +94,14 @@ void TestVariantCast::readsEveryNumberAsAFloat_data()
                               << std::numeric_limits<float>::max();
 }
 
-void TestVariantCast::readsEveryNumberAsAFloat()
+void VariantCastTest::readsEveryNumberAsAFloat()
 {
     QFETCH(const QVariant, held);
     QFETCH(const float, number);
     QVERIFY(variantCast<float>(held) == number);
 }
 
-void TestVariantCast::findsNoFloatIn_data()
+void VariantCastTest::findsNoFloatIn_data()
 {
     QTest::addColumn<QVariant>("held");
     QTest::newRow("nothing") << QVariant();
@@ -111,20 +111,20 @@ void TestVariantCast::findsNoFloatIn_data()
     QTest::newRow("beyond single precision") << QVariant(1e39);
 }
 
-void TestVariantCast::findsNoFloatIn()
+void VariantCastTest::findsNoFloatIn()
 {
     QFETCH(const QVariant, held);
     QCOMPARE(variantCast<float>(held), std::nullopt);
 }
 
-void TestVariantCast::keepsANumberThatIsNotFinite()
+void VariantCastTest::keepsANumberThatIsNotFinite()
 {
     QCOMPARE(variantCast<float>(QVariant(std::numeric_limits<double>::infinity())),
              std::numeric_limits<float>::infinity());
     QVERIFY(std::isnan(variantCast<float>(QVariant(std::nan(""))).value()));
 }
 
-void TestVariantCast::readsABoolFromABoolAlone()
+void VariantCastTest::readsABoolFromABoolAlone()
 {
     QCOMPARE(variantCast<bool>(true), true);
     QCOMPARE(variantCast<bool>(false), false);
@@ -133,7 +133,7 @@ void TestVariantCast::readsABoolFromABoolAlone()
     QCOMPARE(variantCast<bool>({}), std::nullopt);
 }
 
-void TestVariantCast::readsATextFromATextAlone()
+void VariantCastTest::readsATextFromATextAlone()
 {
     QCOMPARE(variantCast<QString>(u""_s), u""_s);
     QCOMPARE(variantCast<QString>(u"65W"_s), u"65W"_s);
@@ -142,13 +142,13 @@ void TestVariantCast::readsATextFromATextAlone()
     QCOMPARE(variantCast<QString>({}), std::nullopt);
 }
 
-void TestVariantCast::readsDataFromDataAlone()
+void VariantCastTest::readsDataFromDataAlone()
 {
     QCOMPARE(variantCast<QByteArray>(QByteArray("65W")), QByteArray("65W"));
     QCOMPARE(variantCast<QByteArray>(u"65W"_s), std::nullopt);
 }
 
-void TestVariantCast::readsADictionaryFromADictionaryAlone()
+void VariantCastTest::readsADictionaryFromADictionaryAlone()
 {
     const QVariantMap map { { u"Watts"_s, 65 } };
     QCOMPARE(variantCast<QVariantMap>(map), map);
@@ -157,5 +157,5 @@ void TestVariantCast::readsADictionaryFromADictionaryAlone()
     QCOMPARE(variantCast<QVariantMap>({}), std::nullopt);
 }
 
-FERRIN_TEST(QCoreApplication, TestVariantCast)
+FERRIN_TEST(QCoreApplication, VariantCastTest)
 #include "test_variantcast.moc"

@@ -21,7 +21,7 @@ const QString noCondition
 
 } // namespace
 
-class TestStaticData : public QObject
+class StaticDataTest : public QObject
 {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ private Q_SLOTS:
     void keepsItsVerdictsWithoutABattery();
 };
 
-void TestStaticData::knowsNothingBeforeItIsAsked()
+void StaticDataTest::knowsNothingBeforeItIsAsked()
 {
     ProviderBench bench;
     bench.set("CycleCount", 123);
@@ -54,7 +54,7 @@ void TestStaticData::knowsNothingBeforeItIsAsked()
     QCOMPARE(bench.data->health(), BatteryHealth::unknown);
 }
 
-void TestStaticData::readsTheCyclesAndTheReport()
+void StaticDataTest::readsTheCyclesAndTheReport()
 {
     ProviderBench bench;
     bench.set("CycleCount", 123);
@@ -71,7 +71,7 @@ void TestStaticData::readsTheCyclesAndTheReport()
     QCOMPARE(bench.data->lifespan(), BatteryLifespan::good);
 }
 
-void TestStaticData::forgetsTheCyclesWhenTheyGoMissing()
+void StaticDataTest::forgetsTheCyclesWhenTheyGoMissing()
 {
     ProviderBench bench;
     bench.set("CycleCount", 123);
@@ -86,7 +86,7 @@ void TestStaticData::forgetsTheCyclesWhenTheyGoMissing()
     QCOMPARE(bench.data->designCycles(), std::nullopt);
 }
 
-void TestStaticData::judgesTheHealthByTheCondition_data()
+void StaticDataTest::judgesTheHealthByTheCondition_data()
 {
     QTest::addColumn<QByteArray>("report");
     QTest::addColumn<BatteryHealth>("health");
@@ -104,7 +104,7 @@ void TestStaticData::judgesTheHealthByTheCondition_data()
     row("", BatteryHealth::unknown);
 }
 
-void TestStaticData::judgesTheHealthByTheCondition()
+void StaticDataTest::judgesTheHealthByTheCondition()
 {
     QFETCH(const QByteArray, report);
     ProviderBench bench;
@@ -115,7 +115,7 @@ void TestStaticData::judgesTheHealthByTheCondition()
     QTEST(bench.data->health(), "health");
 }
 
-void TestStaticData::writesTheHealthOnlyWhenItDiffers()
+void StaticDataTest::writesTheHealthOnlyWhenItDiffers()
 {
     ProviderBench bench;
     bench.start();
@@ -132,7 +132,7 @@ void TestStaticData::writesTheHealthOnlyWhenItDiffers()
     QCOMPARE(spy.size(), 2);
 }
 
-void TestStaticData::forgetsWhatTheReportNoLongerSays()
+void StaticDataTest::forgetsWhatTheReportNoLongerSays()
 {
     ProviderBench bench;
     bench.launcher.answer = "Maximum Capacity: 87%\nCondition: Normal";
@@ -146,7 +146,7 @@ void TestStaticData::forgetsWhatTheReportNoLongerSays()
     QCOMPARE(bench.data->health(), BatteryHealth::unknown);
 }
 
-void TestStaticData::forgetsTheReportWhenTheShellCannotBeStarted()
+void StaticDataTest::forgetsTheReportWhenTheShellCannotBeStarted()
 {
     ProviderBench bench;
     bench.launcher.answer = "Maximum Capacity: 87%\nCondition: Normal";
@@ -164,7 +164,7 @@ void TestStaticData::forgetsTheReportWhenTheShellCannotBeStarted()
     QCOMPARE(bench.data->health(), BatteryHealth::unknown);
 }
 
-void TestStaticData::runsTheToolOnceForBothFigures()
+void StaticDataTest::runsTheToolOnceForBothFigures()
 {
     ProviderBench bench;
     bench.start();
@@ -178,7 +178,7 @@ void TestStaticData::runsTheToolOnceForBothFigures()
     QCOMPARE(bench.launcher.runs.size(), 2);
 }
 
-void TestStaticData::readsTheCyclesBeforeItRunsTheTool()
+void StaticDataTest::readsTheCyclesBeforeItRunsTheTool()
 {
     ProviderBench bench;
     bench.set("CycleCount", 123);
@@ -198,7 +198,7 @@ void TestStaticData::readsTheCyclesBeforeItRunsTheTool()
     QCOMPARE(bench.registry.lookups, lookupsByThen);
 }
 
-void TestStaticData::keepsItsVerdictsWithoutABattery()
+void StaticDataTest::keepsItsVerdictsWithoutABattery()
 {
     ProviderBench bench;
     bench.registry.serviceName.reset();
@@ -219,5 +219,5 @@ void TestStaticData::keepsItsVerdictsWithoutABattery()
     QCOMPARE(bench.data->designCycles(), std::nullopt);
 }
 
-FERRIN_TEST(QCoreApplication, TestStaticData)
+FERRIN_TEST(QCoreApplication, StaticDataTest)
 #include "test_staticdata.moc"

@@ -34,7 +34,7 @@ struct Content
 
 } // namespace
 
-class TestMainContent : public QObject
+class MainContentTest : public QObject
 {
     Q_OBJECT
 
@@ -95,5 +95,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestMainContent)
+FERRIN_TEST(QGuiApplication, MainContentTest)
 #include "test_maincontent.moc"

@@ -62,7 +62,7 @@ constexpr int settings = 3;
 
 } // namespace
 
-class TestMainMenu : public QObject
+class MainMenuTest : public QObject
 {
     Q_OBJECT
 
@@ -235,5 +235,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestMainMenu)
+FERRIN_TEST(QGuiApplication, MainMenuTest)
 #include "test_mainmenu.moc"

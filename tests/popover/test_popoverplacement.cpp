@@ -27,7 +27,7 @@ PopoverSpot at(QPoint click, const QRect &panel = {}, const ScreenArea &area = {
 
 } // namespace
 
-class TestPopoverPlacement : public QObject
+class PopoverPlacementTest : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void liesOnTheScreenWhereNoSideHasRoom();
 };
 
-void TestPopoverPlacement::standsOnTheInnerSideOfThePanel_data()
+void PopoverPlacementTest::standsOnTheInnerSideOfThePanel_data()
 {
     QTest::addColumn<QRect>("panel");
     QTest::addColumn<QPoint>("click");
@@ -70,7 +70,7 @@ void TestPopoverPlacement::standsOnTheInnerSideOfThePanel_data()
                            << QPoint(760 - 6 - 420, 150);
 }
 
-void TestPopoverPlacement::standsOnTheInnerSideOfThePanel()
+void PopoverPlacementTest::standsOnTheInnerSideOfThePanel()
 {
     QFETCH(QRect, panel);
     QFETCH(QPoint, click);
@@ -83,7 +83,7 @@ void TestPopoverPlacement::standsOnTheInnerSideOfThePanel()
              qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
 }
 
-void TestPopoverPlacement::neverCoversThePanelNorLeavesTheScreen_data()
+void PopoverPlacementTest::neverCoversThePanelNorLeavesTheScreen_data()
 {
     QTest::addColumn<QRect>("panel");
     for (const auto &[name, panel] :
@@ -92,7 +92,7 @@ void TestPopoverPlacement::neverCoversThePanelNorLeavesTheScreen_data()
         QTest::newRow(name) << panel;
 }
 
-void TestPopoverPlacement::neverCoversThePanelNorLeavesTheScreen()
+void PopoverPlacementTest::neverCoversThePanelNorLeavesTheScreen()
 {
     QFETCH(QRect, panel);
     for (const QPoint click : { panel.topLeft(), panel.topRight(), panel.bottomLeft(),
@@ -105,7 +105,7 @@ void TestPopoverPlacement::neverCoversThePanelNorLeavesTheScreen()
     }
 }
 
-void TestPopoverPlacement::isCentredOnTheItem()
+void PopoverPlacementTest::isCentredOnTheItem()
 {
     const PopoverSpot spot
         = spotAtItem({ .item { 400, 0, 70, 30 }, .panel = topPanel }, popover, { screen, screen });
@@ -113,13 +113,13 @@ void TestPopoverPlacement::isCentredOnTheItem()
     QVERIFY(std::abs(spot.arrow - popover.width() / 2) <= 1);
 }
 
-void TestPopoverPlacement::keepsAwayFromTheEdgesOfTheScreen()
+void PopoverPlacementTest::keepsAwayFromTheEdgesOfTheScreen()
 {
     QCOMPARE(at({ 799, 15 }, topPanel).frame.right(), 799 - popoverGap);
     QCOMPARE(at({ 0, 15 }, topPanel).frame.left(), popoverGap);
 }
 
-void TestPopoverPlacement::knowsAShortPanelByItsShape_data()
+void PopoverPlacementTest::knowsAShortPanelByItsShape_data()
 {
     QTest::addColumn<QRect>("panel");
     QTest::addColumn<PopoverSide>("side");
@@ -131,7 +131,7 @@ void TestPopoverPlacement::knowsAShortPanelByItsShape_data()
     QTest::newRow("off the edge") << QRect(200, 8, 400, 40) << PopoverSide::Below;
 }
 
-void TestPopoverPlacement::knowsAShortPanelByItsShape()
+void PopoverPlacementTest::knowsAShortPanelByItsShape()
 {
     QFETCH(QRect, panel);
     QFETCH(PopoverSide, side);
@@ -140,7 +140,7 @@ void TestPopoverPlacement::knowsAShortPanelByItsShape()
     QVERIFY(!spot.bounds.intersects(panel));
 }
 
-void TestPopoverPlacement::standsAtThePanelOfTheSecondScreen()
+void PopoverPlacementTest::standsAtThePanelOfTheSecondScreen()
 {
     // The desktop tells no part of either screen as taken.
     const QRect second(800, 0, 1000, 600);
@@ -150,7 +150,7 @@ void TestPopoverPlacement::standsAtThePanelOfTheSecondScreen()
     QCOMPARE(spot.frame.bottomRight(), QPoint(1799 - popoverGap, 569 - popoverGap));
 }
 
-void TestPopoverPlacement::keepsClearOfOtherPanels()
+void PopoverPlacementTest::keepsClearOfOtherPanels()
 {
     const QRect available(0, 30, 760, 570);
     const PopoverSpot spot = at({ 790, 15 }, topPanel, { .whole = screen, .available = available });
@@ -158,7 +158,7 @@ void TestPopoverPlacement::keepsClearOfOtherPanels()
     QCOMPARE(spot.bounds, available);
 }
 
-void TestPopoverPlacement::takesTheNearestEdgeForThePanel_data()
+void PopoverPlacementTest::takesTheNearestEdgeForThePanel_data()
 {
     QTest::addColumn<QPoint>("click");
     QTest::addColumn<PopoverSide>("side");
@@ -169,7 +169,7 @@ void TestPopoverPlacement::takesTheNearestEdgeForThePanel_data()
     QTest::newRow("right") << QPoint(790, 300) << PopoverSide::Left;
 }
 
-void TestPopoverPlacement::takesTheNearestEdgeForThePanel()
+void PopoverPlacementTest::takesTheNearestEdgeForThePanel()
 {
     QFETCH(QPoint, click);
     QFETCH(PopoverSide, side);
@@ -179,14 +179,14 @@ void TestPopoverPlacement::takesTheNearestEdgeForThePanel()
     QVERIFY(!spot.frame.contains(click));
 }
 
-void TestPopoverPlacement::ignoresAPanelOfAnotherScreen()
+void PopoverPlacementTest::ignoresAPanelOfAnotherScreen()
 {
     const PopoverSpot spot = at({ 600, 10 }, { 2000, 0, 30, 600 });
     QCOMPARE(spot.side, PopoverSide::Below);
     QVERIFY(screen.contains(spot.frame));
 }
 
-void TestPopoverPlacement::standsInTheCornerOfTheStatusAreaWithoutAPlace_data()
+void PopoverPlacementTest::standsInTheCornerOfTheStatusAreaWithoutAPlace_data()
 {
     QTest::addColumn<QRect>("available");
     QTest::addColumn<QRect>("frame");
@@ -197,21 +197,21 @@ void TestPopoverPlacement::standsInTheCornerOfTheStatusAreaWithoutAPlace_data()
     QTest::newRow("panel at the right") << QRect(0, 0, 760, 600) << QRect(QPoint(334, 6), size);
 }
 
-void TestPopoverPlacement::standsInTheCornerOfTheStatusAreaWithoutAPlace()
+void PopoverPlacementTest::standsInTheCornerOfTheStatusAreaWithoutAPlace()
 {
     QFETCH(QRect, available);
     QFETCH(QRect, frame);
     QCOMPARE(spotAtItem({}, popover, { screen, available }).frame, frame);
 }
 
-void TestPopoverPlacement::showsItsTopLeftCornerWhenItIsLargerThanTheScreen()
+void PopoverPlacementTest::showsItsTopLeftCornerWhenItIsLargerThanTheScreen()
 {
     const PopoverSpot spot = spotAtItem({ .item { 400, 0, 40, 30 }, .panel = topPanel },
                                         { 2000, 2000 }, { screen, { 0, 30, 800, 570 } });
     QCOMPARE(spot.frame.topLeft(), QPoint(0, 30));
 }
 
-void TestPopoverPlacement::explainsAPartFromWhereThereIsRoom_data()
+void PopoverPlacementTest::explainsAPartFromWhereThereIsRoom_data()
 {
     QTest::addColumn<QRect>("part");
     QTest::addColumn<PopoverSide>("side");
@@ -221,7 +221,7 @@ void TestPopoverPlacement::explainsAPartFromWhereThereIsRoom_data()
     QTest::newRow("left") << QRect(690, 250, 100, 100) << PopoverSide::Left;
 }
 
-void TestPopoverPlacement::explainsAPartFromWhereThereIsRoom()
+void PopoverPlacementTest::explainsAPartFromWhereThereIsRoom()
 {
     QFETCH(QRect, part);
     QFETCH(PopoverSide, side);
@@ -231,7 +231,7 @@ void TestPopoverPlacement::explainsAPartFromWhereThereIsRoom()
     QVERIFY(!spot.frame.intersects(part));
 }
 
-void TestPopoverPlacement::pointsAtThePart()
+void PopoverPlacementTest::pointsAtThePart()
 {
     const QRect part(620, 50, 100, 100);
     const PopoverSpot below = spotAtPart(part, { 300, 260 }, screen);
@@ -241,18 +241,18 @@ void TestPopoverPlacement::pointsAtThePart()
     QCOMPARE(right.frame.top() + right.arrow, 300);
 }
 
-void TestPopoverPlacement::keepsTheArrowOffTheCorners()
+void PopoverPlacementTest::keepsTheArrowOffTheCorners()
 {
     const PopoverSpot spot = spotAtPart({ 790, 50, 10, 100 }, { 300, 260 }, screen);
     QVERIFY(spot.arrow <= 300 - 20);
     QVERIFY(spotAtPart({ 0, 50, 10, 100 }, { 300, 260 }, screen).arrow >= 20);
 }
 
-void TestPopoverPlacement::liesOnTheScreenWhereNoSideHasRoom()
+void PopoverPlacementTest::liesOnTheScreenWhereNoSideHasRoom()
 {
     const PopoverSpot spot = spotAtPart({ 300, 200, 200, 200 }, { 400, 350 }, screen);
     QVERIFY(screen.contains(spot.frame));
 }
 
-FERRIN_TEST(void, TestPopoverPlacement)
+FERRIN_TEST(void, PopoverPlacementTest)
 #include "test_popoverplacement.moc"

@@ -11,7 +11,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestFonts : public QObject
+class FontsTest : public QObject
 {
     Q_OBJECT
 
@@ -62,5 +62,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestFonts)
+FERRIN_TEST(QGuiApplication, FontsTest)
 #include "test_fonts.moc"

@@ -40,7 +40,7 @@ QImage onWhite(const IconView &view, qreal scale)
 
 } // namespace
 
-class TestIconItem : public QObject
+class IconItemTest : public QObject
 {
     Q_OBJECT
 
@@ -118,5 +118,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestIconItem)
+FERRIN_TEST(QGuiApplication, IconItemTest)
 #include "test_iconitem.moc"

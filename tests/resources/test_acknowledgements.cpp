@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestAcknowledgements : public QObject
+class AcknowledgementsTest : public QObject
 {
     Q_OBJECT
 
@@ -32,5 +32,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestAcknowledgements)
+QTEST_APPLESS_MAIN(AcknowledgementsTest)
 #include "test_acknowledgements.moc"

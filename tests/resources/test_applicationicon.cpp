@@ -80,7 +80,7 @@ double difference(const QImage &left, const QImage &right)
 
 } // namespace
 
-class TestApplicationIcon : public QObject
+class ApplicationIconTest : public QObject
 {
     Q_OBJECT
 
@@ -154,5 +154,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestApplicationIcon)
+QTEST_MAIN(ApplicationIconTest)
 #include "test_applicationicon.moc"

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestFaq : public QObject
+class FaqTest : public QObject
 {
     Q_OBJECT
 
@@ -97,5 +97,5 @@ private:
     QSet<QString> m_repeatedIds;
 };
 
-QTEST_APPLESS_MAIN(TestFaq)
+QTEST_APPLESS_MAIN(FaqTest)
 #include "test_faq.moc"

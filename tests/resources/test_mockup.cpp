@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestMockup : public QObject
+class MockupTest : public QObject
 {
     Q_OBJECT
 
@@ -48,5 +48,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestMockup)
+QTEST_MAIN(MockupTest)
 #include "test_mockup.moc"

@@ -74,7 +74,7 @@ void addSections()
 
 } // namespace
 
-class TestIconPopover : public QObject
+class IconPopoverTest : public QObject
 {
     Q_OBJECT
 
@@ -302,5 +302,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestIconPopover)
+FERRIN_TEST(QGuiApplication, IconPopoverTest)
 #include "test_iconpopover.moc"

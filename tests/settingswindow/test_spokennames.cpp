@@ -10,7 +10,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestSpokenNames : public QObject
+class SpokenNamesTest : public QObject
 {
     Q_OBJECT
 
@@ -56,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestSpokenNames)
+FERRIN_TEST(QCoreApplication, SpokenNamesTest)
 #include "test_spokennames.moc"

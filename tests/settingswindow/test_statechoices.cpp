@@ -60,7 +60,7 @@ void addStates()
 
 } // namespace
 
-class TestStateChoices : public QObject
+class StateChoicesTest : public QObject
 {
     Q_OBJECT
 
@@ -262,5 +262,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestStateChoices)
+FERRIN_TEST(QGuiApplication, StateChoicesTest)
 #include "test_statechoices.moc"

@@ -55,7 +55,7 @@ constexpr int dark = 2;
 
 } // namespace
 
-class TestThemePicker : public QObject
+class ThemePickerTest : public QObject
 {
     Q_OBJECT
 
@@ -193,5 +193,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestThemePicker)
+FERRIN_TEST(QGuiApplication, ThemePickerTest)
 #include "test_themepicker.moc"

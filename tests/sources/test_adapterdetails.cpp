@@ -20,7 +20,7 @@ QVariantMap withAdapter(const QVariant &details)
 
 } // namespace
 
-class TestAdapterDetails : public QObject
+class AdapterDetailsTest : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void findsNoFloatInAnEntryThatIsNotANumber();
 };
 
-void TestAdapterDetails::answersTheAdaptersEntriesAsStored()
+void AdapterDetailsTest::answersTheAdaptersEntriesAsStored()
 {
     const Bench bench(withAdapter(QVariantMap {
         { u"Watts"_s, 65 }, { u"Name"_s, u"65W adapter"_s }, { u"Manufacturer"_s, 7.5 } }));
@@ -44,7 +44,7 @@ void TestAdapterDetails::answersTheAdaptersEntriesAsStored()
     QCOMPARE(bench.registry.lookups, QStringList(4, u"AdapterDetails"_s));
 }
 
-void TestAdapterDetails::answersTheAdaptersCurrentAndVoltageInWholeUnits()
+void AdapterDetailsTest::answersTheAdaptersCurrentAndVoltageInWholeUnits()
 {
     const Bench bench(
         withAdapter(QVariantMap { { u"AdapterVoltage"_s, 20000 }, { u"Current"_s, 3000 } }));
@@ -54,7 +54,7 @@ void TestAdapterDetails::answersTheAdaptersCurrentAndVoltageInWholeUnits()
     QCOMPARE(bench.value(Key::current).metaType(), QMetaType::fromType<float>());
 }
 
-void TestAdapterDetails::mayKnowTheAdaptersNameButNotItsWatts()
+void AdapterDetailsTest::mayKnowTheAdaptersNameButNotItsWatts()
 {
     const Bench bench(withAdapter(QVariantMap { { u"Name"_s, u"pd charger"_s } }));
     QVERIFY(!bench.value(Key::watts).isValid());
@@ -63,7 +63,7 @@ void TestAdapterDetails::mayKnowTheAdaptersNameButNotItsWatts()
     QVERIFY(!bench.value(Key::adapterVoltage).isValid());
 }
 
-void TestAdapterDetails::findsNoEntryWithoutAdapterDetails_data()
+void AdapterDetailsTest::findsNoEntryWithoutAdapterDetails_data()
 {
     QTest::addColumn<QVariant>("details");
     QTest::newRow("missing") << QVariant();
@@ -72,7 +72,7 @@ void TestAdapterDetails::findsNoEntryWithoutAdapterDetails_data()
     QTest::newRow("a list") << QVariant(QVariantList { 65 });
 }
 
-void TestAdapterDetails::findsNoEntryWithoutAdapterDetails()
+void AdapterDetailsTest::findsNoEntryWithoutAdapterDetails()
 {
     QFETCH(const QVariant, details);
     const Bench bench(withAdapter(details));
@@ -81,7 +81,7 @@ void TestAdapterDetails::findsNoEntryWithoutAdapterDetails()
         QVERIFY(!bench.value(key).isValid());
 }
 
-void TestAdapterDetails::findsNoFloatInAnEntryThatIsNotANumber()
+void AdapterDetailsTest::findsNoFloatInAnEntryThatIsNotANumber()
 {
     const Bench bench(
         withAdapter(QVariantMap { { u"AdapterVoltage"_s, u"20000"_s }, { u"Current"_s, true } }));
@@ -89,5 +89,5 @@ void TestAdapterDetails::findsNoFloatInAnEntryThatIsNotANumber()
     QVERIFY(!bench.value(Key::current).isValid());
 }
 
-FERRIN_TEST(QCoreApplication, TestAdapterDetails)
+FERRIN_TEST(QCoreApplication, AdapterDetailsTest)
 #include "test_adapterdetails.moc"

@@ -31,7 +31,7 @@ QVariantMap ups()
 
 } // namespace
 
-class TestBatteryDataFromIOPS : public QObject
+class BatteryDataFromIOPSTest : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void readsAnewForEveryEstimate();
 };
 
-void TestBatteryDataFromIOPS::startsWithoutADescription()
+void BatteryDataFromIOPSTest::startsWithoutADescription()
 {
     FakePowerSources service;
     const BatteryDataFromIOPS reader(service);
@@ -68,7 +68,7 @@ void TestBatteryDataFromIOPS::startsWithoutADescription()
     QCOMPARE(service.snapshots, 0);
 }
 
-void TestBatteryDataFromIOPS::tellsOfItsFirstSuccessOnce()
+void BatteryDataFromIOPSTest::tellsOfItsFirstSuccessOnce()
 {
     LogCapture log;
     FakePowerSources service;
@@ -88,7 +88,7 @@ void TestBatteryDataFromIOPS::tellsOfItsFirstSuccessOnce()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::tellsOfASuccessThatComesLate()
+void BatteryDataFromIOPSTest::tellsOfASuccessThatComesLate()
 {
     LogCapture log;
     FakePowerSources service;
@@ -105,7 +105,7 @@ void TestBatteryDataFromIOPS::tellsOfASuccessThatComesLate()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::saysWhatFailed_data()
+void BatteryDataFromIOPSTest::saysWhatFailed_data()
 {
     QTest::addColumn<bool>("hasSnapshot");
     QTest::addColumn<bool>("hasList");
@@ -117,7 +117,7 @@ void TestBatteryDataFromIOPS::saysWhatFailed_data()
     QTest::newRow("no description") << true << true << QVariantList { {} } << nullDescription;
 }
 
-void TestBatteryDataFromIOPS::saysWhatFailed()
+void BatteryDataFromIOPSTest::saysWhatFailed()
 {
     QFETCH(const bool, hasSnapshot);
     QFETCH(const bool, hasList);
@@ -137,7 +137,7 @@ void TestBatteryDataFromIOPS::saysWhatFailed()
     QCOMPARE(log.take(), QStringList(line));
 }
 
-void TestBatteryDataFromIOPS::answersFromTheLastGoodDescription()
+void BatteryDataFromIOPSTest::answersFromTheLastGoodDescription()
 {
     LogCapture log;
     FakePowerSources service;
@@ -164,7 +164,7 @@ void TestBatteryDataFromIOPS::answersFromTheLastGoodDescription()
     QCOMPARE(reader.timeEstimate(true), 80);
 }
 
-void TestBatteryDataFromIOPS::passesOverAUps()
+void BatteryDataFromIOPSTest::passesOverAUps()
 {
     LogCapture log;
     FakePowerSources service;
@@ -175,7 +175,7 @@ void TestBatteryDataFromIOPS::passesOverAUps()
     QCOMPARE(service.described, QList<int>({ 0, 1 }));
 }
 
-void TestBatteryDataFromIOPS::takesTheFirstOfTwoBatteries()
+void BatteryDataFromIOPSTest::takesTheFirstOfTwoBatteries()
 {
     LogCapture log;
     FakePowerSources service;
@@ -186,7 +186,7 @@ void TestBatteryDataFromIOPS::takesTheFirstOfTwoBatteries()
     QCOMPARE(service.described, QList<int> { 0 });
 }
 
-void TestBatteryDataFromIOPS::stopsAtADescriptionThatIsNone_data()
+void BatteryDataFromIOPSTest::stopsAtADescriptionThatIsNone_data()
 {
     QTest::addColumn<QVariant>("description");
     QTest::newRow("null") << QVariant();
@@ -196,7 +196,7 @@ void TestBatteryDataFromIOPS::stopsAtADescriptionThatIsNone_data()
         << QVariant::fromValue(QMap<int, QVariant> { { 1, u"InternalBattery"_s } });
 }
 
-void TestBatteryDataFromIOPS::stopsAtADescriptionThatIsNone()
+void BatteryDataFromIOPSTest::stopsAtADescriptionThatIsNone()
 {
     QFETCH(const QVariant, description);
     LogCapture log;
@@ -209,7 +209,7 @@ void TestBatteryDataFromIOPS::stopsAtADescriptionThatIsNone()
     QCOMPARE(reader.batteryInfo(), std::nullopt);
 }
 
-void TestBatteryDataFromIOPS::passesOverADescriptionWithoutAType_data()
+void BatteryDataFromIOPSTest::passesOverADescriptionWithoutAType_data()
 {
     QTest::addColumn<QVariantMap>("description");
     QTest::newRow("empty") << QVariantMap();
@@ -221,7 +221,7 @@ void TestBatteryDataFromIOPS::passesOverADescriptionWithoutAType_data()
     QTest::newRow("key in other case") << QVariantMap { { u"type"_s, u"InternalBattery"_s } };
 }
 
-void TestBatteryDataFromIOPS::passesOverADescriptionWithoutAType()
+void BatteryDataFromIOPSTest::passesOverADescriptionWithoutAType()
 {
     QFETCH(const QVariantMap, description);
     LogCapture log;
@@ -232,7 +232,7 @@ void TestBatteryDataFromIOPS::passesOverADescriptionWithoutAType()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::staysSilentWithoutABattery()
+void BatteryDataFromIOPSTest::staysSilentWithoutABattery()
 {
     LogCapture log;
     FakePowerSources service;
@@ -244,7 +244,7 @@ void TestBatteryDataFromIOPS::staysSilentWithoutABattery()
     QCOMPARE(reader.batteryInfo(), std::nullopt);
 }
 
-void TestBatteryDataFromIOPS::answersNothingWithoutABattery()
+void BatteryDataFromIOPSTest::answersNothingWithoutABattery()
 {
     FakePowerSources service;
     service.descriptions = { ups() };
@@ -253,7 +253,7 @@ void TestBatteryDataFromIOPS::answersNothingWithoutABattery()
     QCOMPARE(reader.timeEstimate(false), std::nullopt);
 }
 
-void TestBatteryDataFromIOPS::answersMinusOneUnchanged()
+void BatteryDataFromIOPSTest::answersMinusOneUnchanged()
 {
     LogCapture log;
     FakePowerSources service;
@@ -264,7 +264,7 @@ void TestBatteryDataFromIOPS::answersMinusOneUnchanged()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::answersZeroUnchanged()
+void BatteryDataFromIOPSTest::answersZeroUnchanged()
 {
     LogCapture log;
     FakePowerSources service;
@@ -275,7 +275,7 @@ void TestBatteryDataFromIOPS::answersZeroUnchanged()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::answersEachEstimateUnderItsKey()
+void BatteryDataFromIOPSTest::answersEachEstimateUnderItsKey()
 {
     LogCapture log;
     FakePowerSources service;
@@ -286,7 +286,7 @@ void TestBatteryDataFromIOPS::answersEachEstimateUnderItsKey()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::answersNothingForAMissingKey()
+void BatteryDataFromIOPSTest::answersNothingForAMissingKey()
 {
     LogCapture log;
     FakePowerSources service;
@@ -298,7 +298,7 @@ void TestBatteryDataFromIOPS::answersNothingForAMissingKey()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::answersNothingForAnotherType_data()
+void BatteryDataFromIOPSTest::answersNothingForAnotherType_data()
 {
     QTest::addColumn<QVariant>("estimate");
     QTest::newRow("text") << QVariant(u"90"_s);
@@ -307,7 +307,7 @@ void TestBatteryDataFromIOPS::answersNothingForAnotherType_data()
     QTest::newRow("dictionary") << QVariant(QVariantMap());
 }
 
-void TestBatteryDataFromIOPS::answersNothingForAnotherType()
+void BatteryDataFromIOPSTest::answersNothingForAnotherType()
 {
     QFETCH(const QVariant, estimate);
     LogCapture log;
@@ -319,7 +319,7 @@ void TestBatteryDataFromIOPS::answersNothingForAnotherType()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-void TestBatteryDataFromIOPS::readsAnewForEveryEstimate()
+void BatteryDataFromIOPSTest::readsAnewForEveryEstimate()
 {
     LogCapture log;
     FakePowerSources service;
@@ -333,5 +333,5 @@ void TestBatteryDataFromIOPS::readsAnewForEveryEstimate()
     QCOMPARE(log.take(), QStringList(success));
 }
 
-FERRIN_TEST(QCoreApplication, TestBatteryDataFromIOPS)
+FERRIN_TEST(QCoreApplication, BatteryDataFromIOPSTest)
 #include "test_batterydatafromiops.moc"

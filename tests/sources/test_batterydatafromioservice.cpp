@@ -20,7 +20,7 @@ constexpr int keyCount = static_cast<int>(smartBatteryKeyCount);
 
 } // namespace
 
-class TestBatteryDataFromIOService : public QObject
+class BatteryDataFromIOServiceTest : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ private Q_SLOTS:
     void hasNothingToCloseWithoutAService();
 };
 
-void TestBatteryDataFromIOService::findsItsServiceOnce()
+void BatteryDataFromIOServiceTest::findsItsServiceOnce()
 {
     LogCapture log;
     FakeRegistry registry;
@@ -65,7 +65,7 @@ void TestBatteryDataFromIOService::findsItsServiceOnce()
     QCOMPARE(registry.searches, QStringList(u"AppleSmartBattery"_s));
 }
 
-void TestBatteryDataFromIOService::answersNothingWithoutItsService()
+void BatteryDataFromIOServiceTest::answersNothingWithoutItsService()
 {
     LogCapture log;
     FakeRegistry registry;
@@ -79,7 +79,7 @@ void TestBatteryDataFromIOService::answersNothingWithoutItsService()
     QVERIFY(registry.lookups.isEmpty());
 }
 
-void TestBatteryDataFromIOService::neverFindsAServiceThatShowsUpLater()
+void BatteryDataFromIOServiceTest::neverFindsAServiceThatShowsUpLater()
 {
     LogCapture log;
     FakeRegistry registry;
@@ -92,7 +92,7 @@ void TestBatteryDataFromIOService::neverFindsAServiceThatShowsUpLater()
     QCOMPARE(registry.searches.size(), 1);
 }
 
-void TestBatteryDataFromIOService::readsAPropertyInItsType_data()
+void BatteryDataFromIOServiceTest::readsAPropertyInItsType_data()
 {
     QTest::addColumn<Key>("key");
     QTest::addColumn<QString>("name");
@@ -118,7 +118,7 @@ void TestBatteryDataFromIOService::readsAPropertyInItsType_data()
     row(Key::serial, u"Serial"_s, u"D86"_s, u"D86"_s);
 }
 
-void TestBatteryDataFromIOService::readsAPropertyInItsType()
+void BatteryDataFromIOServiceTest::readsAPropertyInItsType()
 {
     QFETCH(const Key, key);
     QFETCH(const QString, name);
@@ -131,7 +131,7 @@ void TestBatteryDataFromIOService::readsAPropertyInItsType()
     QCOMPARE(bench.registry.lookups, QStringList(name));
 }
 
-void TestBatteryDataFromIOService::treatsAnUnexpectedTypeAsMissing_data()
+void BatteryDataFromIOServiceTest::treatsAnUnexpectedTypeAsMissing_data()
 {
     QTest::addColumn<Key>("key");
     QTest::addColumn<QVariant>("stored");
@@ -152,7 +152,7 @@ void TestBatteryDataFromIOService::treatsAnUnexpectedTypeAsMissing_data()
     rows(19, 19, { 12, true, QByteArray("D86") });
 }
 
-void TestBatteryDataFromIOService::treatsAnUnexpectedTypeAsMissing()
+void BatteryDataFromIOServiceTest::treatsAnUnexpectedTypeAsMissing()
 {
     QFETCH(const Key, key);
     QFETCH(const QVariant, stored);
@@ -162,14 +162,14 @@ void TestBatteryDataFromIOService::treatsAnUnexpectedTypeAsMissing()
     QVERIFY(!Bench(properties).value(key).isValid());
 }
 
-void TestBatteryDataFromIOService::answersNothingForAMissingProperty()
+void BatteryDataFromIOServiceTest::answersNothingForAMissingProperty()
 {
     const Bench bench({});
     for (int key = 0; key < keyCount; ++key)
         QVERIFY(!bench.value(static_cast<Key>(key)).isValid());
 }
 
-void TestBatteryDataFromIOService::readsTheRegistryAfreshAtEachLookUp()
+void BatteryDataFromIOServiceTest::readsTheRegistryAfreshAtEachLookUp()
 {
     Bench bench({ { u"CycleCount"_s, 12 } });
     QCOMPARE(bench.value(Key::cycleCount), qint64(12));
@@ -179,7 +179,7 @@ void TestBatteryDataFromIOService::readsTheRegistryAfreshAtEachLookUp()
     QVERIFY(!bench.value(Key::cycleCount).isValid());
 }
 
-void TestBatteryDataFromIOService::answersARawPropertyAsItStands()
+void BatteryDataFromIOServiceTest::answersARawPropertyAsItStands()
 {
     const Bench bench({ { u"CycleCount"_s, u"many"_s }, { u"Charge"_s, 12 } });
     QCOMPARE(bench.reader->property(Key::cycleCount), u"many"_s);
@@ -187,7 +187,7 @@ void TestBatteryDataFromIOService::answersARawPropertyAsItStands()
     QVERIFY(!bench.reader->property(Key::serial).isValid());
 }
 
-void TestBatteryDataFromIOService::convertsTheTemperature()
+void BatteryDataFromIOServiceTest::convertsTheTemperature()
 {
     const Bench bench({ { u"Temperature"_s, 3050 } });
     QCOMPARE(bench.value(Key::temperature), QVariant(3050.0F));
@@ -198,7 +198,7 @@ void TestBatteryDataFromIOService::convertsTheTemperature()
     QCOMPARE(bench.registry.lookups, QStringList(5, u"Temperature"_s));
 }
 
-void TestBatteryDataFromIOService::splitsTheTimeRemaining_data()
+void BatteryDataFromIOServiceTest::splitsTheTimeRemaining_data()
 {
     QTest::addColumn<int>("remaining");
     QTest::addColumn<qint64>("hours");
@@ -208,7 +208,7 @@ void TestBatteryDataFromIOService::splitsTheTimeRemaining_data()
     QTest::newRow("negative") << -125 << qint64(-2) << qint64(-5);
 }
 
-void TestBatteryDataFromIOService::splitsTheTimeRemaining()
+void BatteryDataFromIOServiceTest::splitsTheTimeRemaining()
 {
     QFETCH(const int, remaining);
     const Bench bench({ { u"TimeRemaining"_s, remaining } });
@@ -217,7 +217,7 @@ void TestBatteryDataFromIOService::splitsTheTimeRemaining()
     QCOMPARE(bench.value(Key::timeRemainingInHs).metaType(), QMetaType::fromType<qint64>());
 }
 
-void TestBatteryDataFromIOService::roundsTheChargeDown_data()
+void BatteryDataFromIOServiceTest::roundsTheChargeDown_data()
 {
     QTest::addColumn<qint64>("current");
     QTest::addColumn<qint64>("maximum");
@@ -236,7 +236,7 @@ void TestBatteryDataFromIOService::roundsTheChargeDown_data()
     row("rounded to single precision before it is rounded down", 99999999, 100000000, 100);
 }
 
-void TestBatteryDataFromIOService::roundsTheChargeDown()
+void BatteryDataFromIOServiceTest::roundsTheChargeDown()
 {
     QFETCH(const qint64, current);
     QFETCH(const qint64, maximum);
@@ -247,7 +247,7 @@ void TestBatteryDataFromIOService::roundsTheChargeDown()
              QStringList({ u"CurrentCapacity"_s, u"MaxCapacity"_s }));
 }
 
-void TestBatteryDataFromIOService::hasNoChargeWithoutBothCapacities()
+void BatteryDataFromIOServiceTest::hasNoChargeWithoutBothCapacities()
 {
     const QString current = u"CurrentCapacity"_s;
     const QString maximum = u"MaxCapacity"_s;
@@ -262,7 +262,7 @@ void TestBatteryDataFromIOService::hasNoChargeWithoutBothCapacities()
         QVERIFY(!Bench(properties).value(Key::charge).isValid());
 }
 
-void TestBatteryDataFromIOService::stopsTheProcessOverAChargeThatIsNoInteger_data()
+void BatteryDataFromIOServiceTest::stopsTheProcessOverAChargeThatIsNoInteger_data()
 {
     QTest::addColumn<qint64>("current");
     QTest::addColumn<qint64>("maximum");
@@ -273,7 +273,7 @@ void TestBatteryDataFromIOService::stopsTheProcessOverAChargeThatIsNoInteger_dat
     QTest::newRow("beyond 64 bits") << huge << qint64(1) << u"Not a 64-bit integer: 9.22337e+20"_s;
 }
 
-void TestBatteryDataFromIOService::stopsTheProcessOverAChargeThatIsNoInteger()
+void BatteryDataFromIOServiceTest::stopsTheProcessOverAChargeThatIsNoInteger()
 {
     QFETCH(const qint64, current);
     QFETCH(const qint64, maximum);
@@ -284,7 +284,7 @@ void TestBatteryDataFromIOService::stopsTheProcessOverAChargeThatIsNoInteger()
         words);
 }
 
-void TestBatteryDataFromIOService::closesItsService()
+void BatteryDataFromIOServiceTest::closesItsService()
 {
     Bench bench({ { u"CycleCount"_s, 12 } });
     LogCapture log;
@@ -299,7 +299,7 @@ void TestBatteryDataFromIOService::closesItsService()
     QCOMPARE(bench.registry.released.size(), 1);
 }
 
-void TestBatteryDataFromIOService::saysThatItCouldNotClose()
+void BatteryDataFromIOServiceTest::saysThatItCouldNotClose()
 {
     Bench bench({ { u"CycleCount"_s, 12 } });
     bench.registry.releaseResult = 5;
@@ -311,7 +311,7 @@ void TestBatteryDataFromIOService::saysThatItCouldNotClose()
     QVERIFY(!bench.value(Key::cycleCount).isValid());
 }
 
-void TestBatteryDataFromIOService::hasNothingToCloseWithoutAService()
+void BatteryDataFromIOServiceTest::hasNothingToCloseWithoutAService()
 {
     LogCapture log;
     FakeRegistry registry;
@@ -324,5 +324,5 @@ void TestBatteryDataFromIOService::hasNothingToCloseWithoutAService()
     QVERIFY(!reader.connected());
 }
 
-FERRIN_TEST(QCoreApplication, TestBatteryDataFromIOService)
+FERRIN_TEST(QCoreApplication, BatteryDataFromIOServiceTest)
 #include "test_batterydatafromioservice.moc"

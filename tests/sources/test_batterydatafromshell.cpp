@@ -52,7 +52,7 @@ struct Bench
 
 } // namespace
 
-class TestBatteryDataFromShell : public QObject
+class BatteryDataFromShellTest : public QObject
 {
     Q_OBJECT
 
@@ -83,7 +83,7 @@ private Q_SLOTS:
     void findsNoConditionIn();
 };
 
-void TestBatteryDataFromShell::runsTheShellWithItsArguments()
+void BatteryDataFromShellTest::runsTheShellWithItsArguments()
 {
     FakeProcessLauncher launcher;
     launcher.answer = "hello\n";
@@ -94,7 +94,7 @@ void TestBatteryDataFromShell::runsTheShellWithItsArguments()
     QCOMPARE(reader.response(), std::nullopt);
 }
 
-void TestBatteryDataFromShell::runsTheReportTool()
+void BatteryDataFromShellTest::runsTheReportTool()
 {
     const Bench bench(report);
     const FakeProcessLauncher::Run run { u"/bin/sh"_s,
@@ -102,7 +102,7 @@ void TestBatteryDataFromShell::runsTheReportTool()
     QCOMPARE(bench.launcher.runs, QList { run });
 }
 
-void TestBatteryDataFromShell::hasNoResponseBeforeItsFirstRun()
+void BatteryDataFromShellTest::hasNoResponseBeforeItsFirstRun()
 {
     LogCapture log;
     FakeProcessLauncher launcher;
@@ -114,7 +114,7 @@ void TestBatteryDataFromShell::hasNoResponseBeforeItsFirstRun()
     QCOMPARE(log.take(), QStringList());
 }
 
-void TestBatteryDataFromShell::saysThatTheShellCouldNotBeStarted()
+void BatteryDataFromShellTest::saysThatTheShellCouldNotBeStarted()
 {
     LogCapture log;
     FakeProcessLauncher launcher;
@@ -131,7 +131,7 @@ void TestBatteryDataFromShell::saysThatTheShellCouldNotBeStarted()
     QCOMPARE(log.take(), QStringList());
 }
 
-void TestBatteryDataFromShell::printsTheWholeListOfArguments()
+void BatteryDataFromShellTest::printsTheWholeListOfArguments()
 {
     LogCapture log;
     FakeProcessLauncher launcher;
@@ -144,7 +144,7 @@ void TestBatteryDataFromShell::printsTheWholeListOfArguments()
     QCOMPARE(log.take(), lines);
 }
 
-void TestBatteryDataFromShell::forgetsAResponseWhenALaterRunFails()
+void BatteryDataFromShellTest::forgetsAResponseWhenALaterRunFails()
 {
     Bench bench(report);
     QVERIFY(bench.reader.response());
@@ -157,13 +157,13 @@ void TestBatteryDataFromShell::forgetsAResponseWhenALaterRunFails()
     QCOMPARE(bench.reader.condition(), std::nullopt);
 }
 
-void TestBatteryDataFromShell::replacesBytesThatAreNotText()
+void BatteryDataFromShellTest::replacesBytesThatAreNotText()
 {
     const Bench bench("Condition: Nor\xffmal\xc3\xa9");
     QCOMPARE(bench.reader.condition(), u"Nor\uFFFDmal\u00E9"_s);
 }
 
-void TestBatteryDataFromShell::trimsBothEnds()
+void BatteryDataFromShellTest::trimsBothEnds()
 {
     const Bench bench("\n\n \t\r\n  Condition: Normal\nMaximum Capacity: 87%\n \r\n\n");
     QCOMPARE(bench.reader.response(), u"Condition: Normal\nMaximum Capacity: 87%"_s);
@@ -171,7 +171,7 @@ void TestBatteryDataFromShell::trimsBothEnds()
     QCOMPARE(bench.reader.maxCapacity(), 87);
 }
 
-void TestBatteryDataFromShell::takesAnEmptyOutputForAnEmptyText()
+void BatteryDataFromShellTest::takesAnEmptyOutputForAnEmptyText()
 {
     LogCapture log;
     FakeProcessLauncher launcher;
@@ -184,7 +184,7 @@ void TestBatteryDataFromShell::takesAnEmptyOutputForAnEmptyText()
     QCOMPARE(log.take(), QStringList({ success, noCapacity, noCondition }));
 }
 
-void TestBatteryDataFromShell::tellsOfEverySuccess()
+void BatteryDataFromShellTest::tellsOfEverySuccess()
 {
     LogCapture log;
     FakeProcessLauncher launcher;
@@ -194,7 +194,7 @@ void TestBatteryDataFromShell::tellsOfEverySuccess()
     QCOMPARE(log.take(), QStringList({ success, success }));
 }
 
-void TestBatteryDataFromShell::readsBothFiguresFromOneRun()
+void BatteryDataFromShellTest::readsBothFiguresFromOneRun()
 {
     const Bench bench(report);
     QCOMPARE(bench.reader.maxCapacity(), 87);
@@ -203,20 +203,20 @@ void TestBatteryDataFromShell::readsBothFiguresFromOneRun()
     QCOMPARE(bench.launcher.runs.size(), 1);
 }
 
-void TestBatteryDataFromShell::readsAHealthyReport()
+void BatteryDataFromShellTest::readsAHealthyReport()
 {
     const Bench bench("Maximum Capacity: 100%\nCondition: Normal\n");
     QCOMPARE(bench.reader.maxCapacity(), 100);
     QCOMPARE(bench.reader.condition(), u"Normal"_s);
 }
 
-void TestBatteryDataFromShell::readsAConditionThatAsksForService()
+void BatteryDataFromShellTest::readsAConditionThatAsksForService()
 {
     const Bench bench("Condition: Service Recommended\nMaximum Capacity: 79%\n");
     QCOMPARE(bench.reader.condition(), u"Service Recommended"_s);
 }
 
-void TestBatteryDataFromShell::readsAConditionWithoutACapacity()
+void BatteryDataFromShellTest::readsAConditionWithoutACapacity()
 {
     const Bench bench("Cycle Count: 123\nCondition: Normal\n");
     LogCapture log;
@@ -226,7 +226,7 @@ void TestBatteryDataFromShell::readsAConditionWithoutACapacity()
     QCOMPARE(log.take(), QStringList(noCapacity));
 }
 
-void TestBatteryDataFromShell::finds_data()
+void BatteryDataFromShellTest::finds_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<qint64>("capacity");
@@ -241,14 +241,14 @@ void TestBatteryDataFromShell::finds_data()
         << QByteArray("Maximum Capacity: %\nMaximum Capacity: 12%") << qint64(12);
 }
 
-void TestBatteryDataFromShell::finds()
+void BatteryDataFromShellTest::finds()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const qint64, capacity);
     QCOMPARE(Bench(text).reader.maxCapacity(), capacity);
 }
 
-void TestBatteryDataFromShell::findsNoCapacityIn_data()
+void BatteryDataFromShellTest::findsNoCapacityIn_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("no digits") << QByteArray("Maximum Capacity: %");
@@ -260,7 +260,7 @@ void TestBatteryDataFromShell::findsNoCapacityIn_data()
     QTest::newRow("between the slashes of the pattern") << QByteArray("/Maximum Capacity: /87/");
 }
 
-void TestBatteryDataFromShell::findsNoCapacityIn()
+void BatteryDataFromShellTest::findsNoCapacityIn()
 {
     QFETCH(const QByteArray, text);
     const Bench bench(text);
@@ -269,7 +269,7 @@ void TestBatteryDataFromShell::findsNoCapacityIn()
     QCOMPARE(log.take(), QStringList(noCapacity));
 }
 
-void TestBatteryDataFromShell::cannotConvertTwentyNines()
+void BatteryDataFromShellTest::cannotConvertTwentyNines()
 {
     const Bench bench("Maximum Capacity: 99999999999999999999%");
     LogCapture log;
@@ -277,7 +277,7 @@ void TestBatteryDataFromShell::cannotConvertTwentyNines()
     QCOMPARE(log.take(), QStringList(noInteger));
 }
 
-void TestBatteryDataFromShell::readsTheGreatestCapacityThatFits()
+void BatteryDataFromShellTest::readsTheGreatestCapacityThatFits()
 {
     QCOMPARE(Bench("Maximum Capacity: 9223372036854775807%").reader.maxCapacity(),
              9223372036854775807);
@@ -287,7 +287,7 @@ void TestBatteryDataFromShell::readsTheGreatestCapacityThatFits()
     QCOMPARE(log.take(), QStringList(noInteger));
 }
 
-void TestBatteryDataFromShell::findsTheConditionToTheEndOfItsLine_data()
+void BatteryDataFromShellTest::findsTheConditionToTheEndOfItsLine_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("condition");
@@ -302,14 +302,14 @@ void TestBatteryDataFromShell::findsTheConditionToTheEndOfItsLine_data()
     QTest::newRow("with a slash") << QByteArray("Condition: Fair/Normal/") << u"Fair/Normal/"_s;
 }
 
-void TestBatteryDataFromShell::findsTheConditionToTheEndOfItsLine()
+void BatteryDataFromShellTest::findsTheConditionToTheEndOfItsLine()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QString, condition);
     QCOMPARE(Bench(text).reader.condition(), condition);
 }
 
-void TestBatteryDataFromShell::findsNoConditionIn_data()
+void BatteryDataFromShellTest::findsNoConditionIn_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("other line") << QByteArray("Maximum Capacity: 87%");
@@ -317,7 +317,7 @@ void TestBatteryDataFromShell::findsNoConditionIn_data()
     QTest::newRow("no blank") << QByteArray("Condition:Normal");
 }
 
-void TestBatteryDataFromShell::findsNoConditionIn()
+void BatteryDataFromShellTest::findsNoConditionIn()
 {
     QFETCH(const QByteArray, text);
     const Bench bench(text);
@@ -326,5 +326,5 @@ void TestBatteryDataFromShell::findsNoConditionIn()
     QCOMPARE(log.take(), QStringList(noCondition));
 }
 
-FERRIN_TEST(QCoreApplication, TestBatteryDataFromShell)
+FERRIN_TEST(QCoreApplication, BatteryDataFromShellTest)
 #include "test_batterydatafromshell.moc"

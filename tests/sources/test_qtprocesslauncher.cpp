@@ -38,7 +38,7 @@ private:
 
 } // namespace
 
-class TestQtProcessLauncher : public QObject
+class QtProcessLauncherTest : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void readsFiguresBuriedInAHundredMegabytes();
 };
 
-void TestQtProcessLauncher::keepsWhatTheProgramPrints()
+void QtProcessLauncherTest::keepsWhatTheProgramPrints()
 {
     QtProcessLauncher launcher(u"/nowhere"_s);
     QCOMPARE(launcher.output(shell, { u"-c"_s, u"printf ' a\\n\\000b\\377\\n'"_s }),
@@ -67,7 +67,7 @@ void TestQtProcessLauncher::keepsWhatTheProgramPrints()
     QCOMPARE(launcher.output(shell, { u"-c"_s, u":"_s }), QByteArray());
 }
 
-void TestQtProcessLauncher::passesArgumentsAsTheyStand()
+void QtProcessLauncherTest::passesArgumentsAsTheyStand()
 {
     QtProcessLauncher launcher(u"/nowhere"_s);
     const auto output = launcher.output(
@@ -75,21 +75,21 @@ void TestQtProcessLauncher::passesArgumentsAsTheyStand()
     QCOMPARE(output, QByteArray("a b||\"c\" $d|"));
 }
 
-void TestQtProcessLauncher::doesNotCareHowTheProgramEnds_data()
+void QtProcessLauncherTest::doesNotCareHowTheProgramEnds_data()
 {
     QTest::addColumn<QString>("command");
     QTest::newRow("with a failure") << u"echo said; exit 3"_s;
     QTest::newRow("by a signal") << u"echo said; kill -KILL $$"_s;
 }
 
-void TestQtProcessLauncher::doesNotCareHowTheProgramEnds()
+void QtProcessLauncherTest::doesNotCareHowTheProgramEnds()
 {
     QFETCH(const QString, command);
     QtProcessLauncher launcher(u"/nowhere"_s);
     QCOMPARE(launcher.output(shell, { u"-c"_s, command }), QByteArray("said\n"));
 }
 
-void TestQtProcessLauncher::saysThatNothingWasStarted_data()
+void QtProcessLauncherTest::saysThatNothingWasStarted_data()
 {
     QTest::addColumn<QString>("executable");
     QTest::newRow("missing") << u"/nowhere/at/all"_s;
@@ -97,14 +97,14 @@ void TestQtProcessLauncher::saysThatNothingWasStarted_data()
     QTest::newRow("no name") << u""_s;
 }
 
-void TestQtProcessLauncher::saysThatNothingWasStarted()
+void QtProcessLauncherTest::saysThatNothingWasStarted()
 {
     QFETCH(const QString, executable);
     QtProcessLauncher launcher(u"/nowhere"_s);
     QCOMPARE(launcher.output(executable, { u"-c"_s }), std::nullopt);
 }
 
-void TestQtProcessLauncher::putsItsFolderFirstInThePath()
+void QtProcessLauncherTest::putsItsFolderFirstInThePath()
 {
     QtProcessLauncher launcher(u"/our own/tools"_s);
     const auto path = launcher.output(shell, { u"-c"_s, u"printf %s \"$PATH\""_s });
@@ -117,7 +117,7 @@ void TestQtProcessLauncher::putsItsFolderFirstInThePath()
     QCOMPARE(alone, QByteArray("/our own/tools"));
 }
 
-void TestQtProcessLauncher::leavesTheEnvironmentOtherwiseAsItIs()
+void QtProcessLauncherTest::leavesTheEnvironmentOtherwiseAsItIs()
 {
     QtProcessLauncher launcher(u"/nowhere"_s);
     qputenv("FERRIN_TEST_VALUE", "seen");
@@ -127,7 +127,7 @@ void TestQtProcessLauncher::leavesTheEnvironmentOtherwiseAsItIs()
     QVERIFY(!qgetenv("PATH").startsWith("/nowhere"));
 }
 
-void TestQtProcessLauncher::doesNotMixErrorsIntoTheOutput()
+void QtProcessLauncherTest::doesNotMixErrorsIntoTheOutput()
 {
     QtProcessLauncher launcher(u"/nowhere"_s);
     // The outer shell's standard error can be captured; the inner shell must inherit it.
@@ -140,14 +140,14 @@ void TestQtProcessLauncher::doesNotMixErrorsIntoTheOutput()
              QString::fromUtf8(ours).section(u'/', -1));
 }
 
-void TestQtProcessLauncher::givesTheProgramNothingToRead()
+void QtProcessLauncherTest::givesTheProgramNothingToRead()
 {
     QVERIFY(std::freopen("/proc/self/cmdline", "r", stdin));
     QtProcessLauncher launcher(u"/nowhere"_s);
     QCOMPARE(launcher.output(shell, { u"-c"_s, u"cat; echo done"_s }), QByteArray("done\n"));
 }
 
-void TestQtProcessLauncher::waitsForTheExitAfterTheOutputHasEnded()
+void QtProcessLauncherTest::waitsForTheExitAfterTheOutputHasEnded()
 {
     const QTemporaryDir folder;
     const QString mark = folder.filePath(u"mark"_s);
@@ -158,7 +158,7 @@ void TestQtProcessLauncher::waitsForTheExitAfterTheOutputHasEnded()
     QVERIFY(QFile::exists(mark));
 }
 
-void TestQtProcessLauncher::survivesAToolThatPrintsAHundredMegabytes()
+void QtProcessLauncherTest::survivesAToolThatPrintsAHundredMegabytes()
 {
     QtProcessLauncher launcher(u"/nowhere"_s);
     const auto output = launcher.output(
@@ -168,7 +168,7 @@ void TestQtProcessLauncher::survivesAToolThatPrintsAHundredMegabytes()
     QVERIFY(output->endsWith("xend\n"));
 }
 
-void TestQtProcessLauncher::runsTheReportToolOfItsFolder()
+void QtProcessLauncherTest::runsTheReportToolOfItsFolder()
 {
     const ToolFolder tools("echo \"Condition: $LANG $1 $#\"");
     QtProcessLauncher launcher(tools.path());
@@ -179,7 +179,7 @@ void TestQtProcessLauncher::runsTheReportToolOfItsFolder()
     QCOMPARE(reader.response(), u"Condition: C SPPowerDataType 1"_s);
 }
 
-void TestQtProcessLauncher::readsFiguresBuriedInAHundredMegabytes()
+void QtProcessLauncherTest::readsFiguresBuriedInAHundredMegabytes()
 {
     const ToolFolder tools("head -c 50000000 /dev/zero | tr '\\0' '\\n'\n"
                            "echo Maximum Capacity: 87%\n"
@@ -194,5 +194,5 @@ void TestQtProcessLauncher::readsFiguresBuriedInAHundredMegabytes()
     QCOMPARE(reader.condition(), u"Normal"_s);
 }
 
-FERRIN_TEST(QCoreApplication, TestQtProcessLauncher)
+FERRIN_TEST(QCoreApplication, QtProcessLauncherTest)
 #include "test_qtprocesslauncher.moc"

@@ -10,7 +10,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestSmartBatteryKey : public QObject
+class SmartBatteryKeyTest : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void namesTheFiguresInTheirOrder();
 };
 
-void TestSmartBatteryKey::namesTheFiguresInTheirOrder()
+void SmartBatteryKeyTest::namesTheFiguresInTheirOrder()
 {
     QStringList names;
     for (int i = 0; i <= static_cast<int>(SmartBatteryKey::adapterVoltage); ++i)
@@ -55,5 +55,5 @@ void TestSmartBatteryKey::namesTheFiguresInTheirOrder()
     QCOMPARE(rawValue(SmartBatteryKey::charge), u"Charge"_s);
 }
 
-FERRIN_TEST(QCoreApplication, TestSmartBatteryKey)
+FERRIN_TEST(QCoreApplication, SmartBatteryKeyTest)
 #include "test_smartbatterykey.moc"

@@ -19,6 +19,7 @@ namespace ferrin::test {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 const QString supplies = u"class/power_supply/"_s;
 
 void require(bool done, const char *what, const QString &path)
@@ -34,6 +35,7 @@ QString folderTemplate()
     const QString parent = memory.isWritable() ? memory.filePath() : QDir::tempPath();
     return parent + u"/ferrin-sysfs-XXXXXX"_s;
 }
+
 } // namespace
 
 FakeSysfs::FakeSysfs()

@@ -10,6 +10,7 @@ namespace ferrin::test {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 LogCapture *current = nullptr;
 
 QString levelOf(QtMsgType type)
@@ -28,6 +29,7 @@ QString levelOf(QtMsgType type)
     }
     return {};
 }
+
 } // namespace
 
 LogCapture::LogCapture()

@@ -14,6 +14,7 @@ namespace ferrin::test {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 struct Figure
 {
     QLatin1StringView attribute;
@@ -91,6 +92,7 @@ QString guessedType(const QString &name, const QJsonObject &attributes)
     const bool usb = name.contains("usb"_L1) || name.contains("ucsi"_L1);
     return usb ? u"USB"_s : u"Mains"_s;
 }
+
 } // namespace
 
 QJsonObject suppliesOf(const QJsonObject &record)

@@ -11,11 +11,13 @@
 namespace ferrin::test {
 
 namespace {
+
 QMap<QString, TestRun> &tests()
 {
     static QMap<QString, TestRun> map;
     return map;
 }
+
 } // namespace
 
 TestRegistration::TestRegistration(const char *sourceFile, TestRun run)

@@ -9,6 +9,7 @@
 // Preloaded into a process, this makes every access to one attribute hang, with all signals ignored
 // that can be.
 namespace {
+
 int openOrHang(int directory, const char *path, int flags)
 {
     if (std::strcmp(path, "energy_full") == 0) {
@@ -20,6 +21,7 @@ int openOrHang(int directory, const char *path, int flags)
     }
     return static_cast<int>(syscall(SYS_openat, directory, path, flags, 0));
 }
+
 } // namespace
 
 extern "C" int openat(int directory, const char *path, int flags, ...)

@@ -11,7 +11,7 @@
 using namespace ferrin;
 using namespace std::chrono_literals;
 
-class TestBoundedTask : public QObject
+class BoundedTaskTest : public QObject
 {
     Q_OBJECT
 
@@ -24,23 +24,23 @@ private Q_SLOTS:
     void leavesOurOutputToUs();
 };
 
-void TestBoundedTask::givesTheResultOfATaskThatEndsInTime()
+void BoundedTaskTest::givesTheResultOfATaskThatEndsInTime()
 {
     QCOMPARE(resultWithin(60s, [] { return std::string("a report\n"); }), "a report\n");
 }
 
-void TestBoundedTask::givesAnEmptyResultAsOne()
+void BoundedTaskTest::givesAnEmptyResultAsOne()
 {
     QCOMPARE(resultWithin(60s, [] { return std::string(); }), "");
 }
 
-void TestBoundedTask::givesLongResultsWhole()
+void BoundedTaskTest::givesLongResultsWhole()
 {
     const std::string big(1 << 20, 'x');
     QCOMPARE(resultWithin(60s, [&big] { return big; }), big);
 }
 
-void TestBoundedTask::givesUpATaskThatNeverEnds()
+void BoundedTaskTest::givesUpATaskThatNeverEnds()
 {
     const auto never = []() -> std::string {
         for (;;)
@@ -49,7 +49,7 @@ void TestBoundedTask::givesUpATaskThatNeverEnds()
     QVERIFY(!resultWithin(20ms, never));
 }
 
-void TestBoundedTask::givesNothingOfATaskThatCrashes()
+void BoundedTaskTest::givesNothingOfATaskThatCrashes()
 {
     const auto crash = []() -> std::string {
         ::signal(SIGABRT, SIG_DFL);
@@ -58,7 +58,7 @@ void TestBoundedTask::givesNothingOfATaskThatCrashes()
     QVERIFY(!resultWithin(60s, crash));
 }
 
-void TestBoundedTask::leavesOurOutputToUs()
+void BoundedTaskTest::leavesOurOutputToUs()
 {
     // A reader of our output must not wait for the child.
     int ends[2];
@@ -79,5 +79,5 @@ void TestBoundedTask::leavesOurOutputToUs()
     ::close(ends[0]);
 }
 
-QTEST_GUILESS_MAIN(TestBoundedTask)
+QTEST_GUILESS_MAIN(BoundedTaskTest)
 #include "test_boundedtask.moc"

@@ -9,7 +9,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestPowerReport : public QObject
+class PowerReportTest : public QObject
 {
     Q_OBJECT
 
@@ -31,6 +31,7 @@ private Q_SLOTS:
 };
 
 namespace {
+
 struct Machine
 {
     PowerSupplies supplies;
@@ -71,9 +72,10 @@ QString condition(const Machine &machine)
 {
     return first(machine.report(), u"Condition: (.*)"_s);
 }
+
 } // namespace
 
-void TestPowerReport::printsCapacityAndConditionInTheFormThatIsLookedFor()
+void PowerReportTest::printsCapacityAndConditionInTheFormThatIsLookedFor()
 {
     const QString report = Machine().pack("BAT0", 43'500'000, 50'000'000).report();
     QVERIFY(report.contains("Battery Information:\n"_L1));
@@ -82,7 +84,7 @@ void TestPowerReport::printsCapacityAndConditionInTheFormThatIsLookedFor()
     QVERIFY(report.contains("Connected: No\n"_L1));
 }
 
-void TestPowerReport::recommendsServiceBelow80Percent_data()
+void PowerReportTest::recommendsServiceBelow80Percent_data()
 {
     QTest::addColumn<qlonglong>("full");
     QTest::addColumn<QString>("percent");
@@ -92,7 +94,7 @@ void TestPowerReport::recommendsServiceBelow80Percent_data()
     QTest::newRow("worn") << 3'800'000LL << u"7"_s << u"Service Recommended"_s;
 }
 
-void TestPowerReport::recommendsServiceBelow80Percent()
+void PowerReportTest::recommendsServiceBelow80Percent()
 {
     QFETCH(qlonglong, full);
     const Machine machine = Machine().pack("BAT0", full, 50'000'000, "Good");
@@ -100,7 +102,7 @@ void TestPowerReport::recommendsServiceBelow80Percent()
     QTEST(condition(machine), "words");
 }
 
-void TestPowerReport::recommendsServiceWhenTheKernelSaysSo_data()
+void PowerReportTest::recommendsServiceWhenTheKernelSaysSo_data()
 {
     QTest::addColumn<QByteArray>("health");
     for (const char *health : { "Dead", "Overheat", "Over voltage", "Over current", "Blown fuse",
@@ -108,7 +110,7 @@ void TestPowerReport::recommendsServiceWhenTheKernelSaysSo_data()
         QTest::newRow(health) << QByteArray(health);
 }
 
-void TestPowerReport::recommendsServiceWhenTheKernelSaysSo()
+void PowerReportTest::recommendsServiceWhenTheKernelSaysSo()
 {
     QFETCH(QByteArray, health);
     const Machine machine = Machine().pack("BAT0", 48'000'000, 50'000'000, health.constData());
@@ -116,7 +118,7 @@ void TestPowerReport::recommendsServiceWhenTheKernelSaysSo()
     QCOMPARE(condition(machine), u"Service Recommended"_s);
 }
 
-void TestPowerReport::takesPassingStatesForNoFault_data()
+void PowerReportTest::takesPassingStatesForNoFault_data()
 {
     QTest::addColumn<QByteArray>("health");
     for (const char *health : { "Good", "Unknown", "Cold", "Warm", "Cool", "Hot", "",
@@ -124,21 +126,21 @@ void TestPowerReport::takesPassingStatesForNoFault_data()
         QTest::newRow(health) << QByteArray(health);
 }
 
-void TestPowerReport::takesPassingStatesForNoFault()
+void PowerReportTest::takesPassingStatesForNoFault()
 {
     QFETCH(QByteArray, health);
     const Machine machine = Machine().pack("BAT0", 48'000'000, 50'000'000, health.constData());
     QCOMPARE(condition(machine), u"Normal"_s);
 }
 
-void TestPowerReport::showsAtMost100Percent()
+void PowerReportTest::showsAtMost100Percent()
 {
     const Machine machine = Machine().pack("BAT1", 61'800'000, 60'600'000);
     QCOMPARE(capacity(machine), u"100"_s);
     QCOMPARE(condition(machine), u"Normal"_s);
 }
 
-void TestPowerReport::leavesOutACapacityWithoutAUsableDesign_data()
+void PowerReportTest::leavesOutACapacityWithoutAUsableDesign_data()
 {
     QTest::addColumn<qlonglong>("full");
     QTest::addColumn<qlonglong>("design");
@@ -150,7 +152,7 @@ void TestPowerReport::leavesOutACapacityWithoutAUsableDesign_data()
     QTest::newRow("beyond any pack") << 44'000'000LL << 9'000'000'000'000LL;
 }
 
-void TestPowerReport::leavesOutACapacityWithoutAUsableDesign()
+void PowerReportTest::leavesOutACapacityWithoutAUsableDesign()
 {
     QFETCH(qlonglong, full);
     QFETCH(qlonglong, design);
@@ -159,14 +161,14 @@ void TestPowerReport::leavesOutACapacityWithoutAUsableDesign()
     QVERIFY(!report.contains("Condition"_L1));
 }
 
-void TestPowerReport::saysNormalWhereTheKernelCallsThePackGood()
+void PowerReportTest::saysNormalWhereTheKernelCallsThePackGood()
 {
     const Machine machine = Machine().pack("BAT0", 44'000'000, 44'000'000, "Good");
     QCOMPARE(condition(machine), u"Normal"_s);
     QCOMPARE(capacity(machine), QString());
 }
 
-void TestPowerReport::putsTheWorstPackFirst()
+void PowerReportTest::putsTheWorstPackFirst()
 {
     Machine machine;
     machine.pack("BAT0", 66'220'000, 71'040'000).pack("BAT1", 17'940'000, 31'920'000);
@@ -177,17 +179,17 @@ void TestPowerReport::putsTheWorstPackFirst()
     QCOMPARE(first(machine.report(), u"Cycle Count: ([0-9]+)"_s), u"236"_s);
 }
 
-void TestPowerReport::leavesOutSlotsWithoutAPack()
+void PowerReportTest::leavesOutSlotsWithoutAPack()
 {
     const Machine machine = Machine().pack("BAT0", 0, 0).pack("BAT1", 41'000'000, 50'000'000);
     QVERIFY(!machine.report().contains("BAT0"_L1));
     QCOMPARE(capacity(machine), u"82"_s);
 }
 
-void TestPowerReport::hasNoBatterySectionWithoutABattery()
+void PowerReportTest::hasNoBatterySectionWithoutABattery()
 {
     QVERIFY(!Machine().report().contains("Battery"_L1));
 }
 
-QTEST_GUILESS_MAIN(TestPowerReport)
+QTEST_GUILESS_MAIN(PowerReportTest)
 #include "test_powerreport.moc"

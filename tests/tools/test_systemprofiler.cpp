@@ -11,7 +11,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 
 /// The program itself, on a sysfs that umockdev's library provides.
-class TestSystemProfiler : public QObject
+class SystemProfilerTest : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
                      const QString &driver = {});
 };
 
-TestSystemProfiler::Ended TestSystemProfiler::run(const test::FakeSysfs &sysfs,
+SystemProfilerTest::Ended SystemProfilerTest::run(const test::FakeSysfs &sysfs,
                                                   const QStringList &arguments,
                                                   const QString &driver)
 {
@@ -50,7 +50,7 @@ TestSystemProfiler::Ended TestSystemProfiler::run(const test::FakeSysfs &sysfs,
     return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()) };
 }
 
-void TestSystemProfiler::printsTheBatteryOfTheMachine()
+void SystemProfilerTest::printsTheBatteryOfTheMachine()
 {
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(u"samsung-sr-real-battery"_s));
@@ -61,7 +61,7 @@ void TestSystemProfiler::printsTheBatteryOfTheMachine()
     QVERIFY(ended.output.contains("Cycle Count: 547\n"_L1));
 }
 
-void TestSystemProfiler::printsNoBatteryWithoutOne()
+void SystemProfilerTest::printsNoBatteryWithoutOne()
 {
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(u"logitech-m510-mouse"_s));
@@ -70,7 +70,7 @@ void TestSystemProfiler::printsNoBatteryWithoutOne()
     QCOMPARE(ended.output, u"Power:\n"_s);
 }
 
-void TestSystemProfiler::endsByItselfWhenSysfsHangs()
+void SystemProfilerTest::endsByItselfWhenSysfsHangs()
 {
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(u"samsung-sr-real-battery"_s));
@@ -79,7 +79,7 @@ void TestSystemProfiler::endsByItselfWhenSysfsHangs()
     QCOMPARE(ended.output, QString());
 }
 
-void TestSystemProfiler::isNotHeldUpByAPipeInAFilesPlace()
+void SystemProfilerTest::isNotHeldUpByAPipeInAFilesPlace()
 {
     test::FakeSysfs sysfs;
     sysfs.load(test::FakeSysfs::record(u"samsung-sr-real-battery"_s));
@@ -90,7 +90,7 @@ void TestSystemProfiler::isNotHeldUpByAPipeInAFilesPlace()
     QVERIFY(ended.output.contains("Maximum Capacity: 74%\n"_L1));
 }
 
-void TestSystemProfiler::refusesOtherReports_data()
+void SystemProfilerTest::refusesOtherReports_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("none") << QStringList();
@@ -98,7 +98,7 @@ void TestSystemProfiler::refusesOtherReports_data()
     QTest::newRow("two") << QStringList { u"SPPowerDataType"_s, u"SPPowerDataType"_s };
 }
 
-void TestSystemProfiler::refusesOtherReports()
+void SystemProfilerTest::refusesOtherReports()
 {
     QFETCH(QStringList, arguments);
     test::FakeSysfs sysfs;
@@ -108,5 +108,5 @@ void TestSystemProfiler::refusesOtherReports()
     QCOMPARE(ended.output, QString());
 }
 
-QTEST_GUILESS_MAIN(TestSystemProfiler)
+QTEST_GUILESS_MAIN(SystemProfilerTest)
 #include "test_systemprofiler.moc"

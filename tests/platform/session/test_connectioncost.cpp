@@ -59,7 +59,7 @@ QByteArray ipv6Default(const QByteArray &device)
 
 } // namespace
 
-class TestConnectionCost : public QObject
+class ConnectionCostTest : public QObject
 {
     Q_OBJECT
 
@@ -98,7 +98,7 @@ private:
     PrivateBus m_bus;
 };
 
-void TestConnectionCost::tellsWhatNetworkManagerSays_data()
+void ConnectionCostTest::tellsWhatNetworkManagerSays_data()
 {
     QTest::addColumn<uint>("metered");
     QTest::addColumn<NetworkReach>("reach");
@@ -109,7 +109,7 @@ void TestConnectionCost::tellsWhatNetworkManagerSays_data()
     QTest::newRow("guessed no") << 4U << NetworkReach::free;
 }
 
-void TestConnectionCost::tellsWhatNetworkManagerSays()
+void ConnectionCostTest::tellsWhatNetworkManagerSays()
 {
     QFETCH(uint, metered);
     QFETCH(NetworkReach, reach);
@@ -119,20 +119,20 @@ void TestConnectionCost::tellsWhatNetworkManagerSays()
     QCOMPARE(this->reach(m_bus.connect()), reach);
 }
 
-void TestConnectionCost::knowsOfNoLimitsWithoutNetworkManager()
+void ConnectionCostTest::knowsOfNoLimitsWithoutNetworkManager()
 {
     connectToTheWorld();
     PrivateBus bus;
     QCOMPARE(reach(bus.connect()), NetworkReach::free);
 }
 
-void TestConnectionCost::knowsOfNoLimitsWithoutABus()
+void ConnectionCostTest::knowsOfNoLimitsWithoutABus()
 {
     connectToTheWorld();
     QCOMPARE(reach(QDBusConnection(u"no such bus"_s)), NetworkReach::free);
 }
 
-void TestConnectionCost::startsNoNetworkManager()
+void ConnectionCostTest::startsNoNetworkManager()
 {
     connectToTheWorld();
     PrivateBus bus;
@@ -142,7 +142,7 @@ void TestConnectionCost::startsNoNetworkManager()
     QVERIFY(!QFile::exists(mark));
 }
 
-void TestConnectionCost::knowsWhenThereIsNoWayOut_data()
+void ConnectionCostTest::knowsWhenThereIsNoWayOut_data()
 {
     QTest::addColumn<QByteArray>("ipv4");
     QTest::addColumn<QByteArray>("ipv6");
@@ -155,7 +155,7 @@ void TestConnectionCost::knowsWhenThereIsNoWayOut_data()
     QTest::newRow("IPv6") << ipv4Head << ipv6Default("lo") + ipv6Default("wlan0") << true;
 }
 
-void TestConnectionCost::knowsWhenThereIsNoWayOut()
+void ConnectionCostTest::knowsWhenThereIsNoWayOut()
 {
     QFETCH(QByteArray, ipv4);
     QFETCH(QByteArray, ipv6);
@@ -166,7 +166,7 @@ void TestConnectionCost::knowsWhenThereIsNoWayOut()
     QCOMPARE(reach(bus.connect()), isConnected ? NetworkReach::free : NetworkReach::none);
 }
 
-void TestConnectionCost::staysSilentWhenItIsGone()
+void ConnectionCostTest::staysSilentWhenItIsGone()
 {
     connectToTheWorld();
     FakeNetworkManager manager(m_bus.connect());
@@ -179,5 +179,5 @@ void TestConnectionCost::staysSilentWhenItIsGone()
     QCOMPARE(told, 0);
 }
 
-FERRIN_TEST(QCoreApplication, TestConnectionCost)
+FERRIN_TEST(QCoreApplication, ConnectionCostTest)
 #include "test_connectioncost.moc"

@@ -52,7 +52,7 @@ struct Installation
 
 } // namespace
 
-class TestProgramFile : public QObject
+class ProgramFileTest : public QObject
 {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void knowsAReplacementThatNobodyTold();
 };
 
-void TestProgramFile::tellsThatAnotherProgramTookItsPlace()
+void ProgramFileTest::tellsThatAnotherProgramTookItsPlace()
 {
     const Installation f;
     QVERIFY(!f.file->isReplaced());
@@ -76,21 +76,21 @@ void TestProgramFile::tellsThatAnotherProgramTookItsPlace()
     QTRY_VERIFY(!f.told->isEmpty());
 }
 
-void TestProgramFile::tellsItAgainUntilSomebodyActs()
+void ProgramFileTest::tellsItAgainUntilSomebodyActs()
 {
     const Installation f;
     f.replace();
     QTRY_VERIFY(f.told->size() > 2);
 }
 
-void TestProgramFile::saysNothingWhileNothingHappens()
+void ProgramFileTest::saysNothingWhileNothingHappens()
 {
     const Installation f;
     QTest::qWait(100);
     QVERIFY(f.told->isEmpty());
 }
 
-void TestProgramFile::saysNothingOfTheSameFileTouched()
+void ProgramFileTest::saysNothingOfTheSameFileTouched()
 {
     const Installation f;
     QVERIFY(QFile::setPermissions(f.path, runnable | QFile::ReadOther));
@@ -99,7 +99,7 @@ void TestProgramFile::saysNothingOfTheSameFileTouched()
     QVERIFY(!f.file->isReplaced());
 }
 
-void TestProgramFile::saysNothingWhenItIsRemoved()
+void ProgramFileTest::saysNothingWhenItIsRemoved()
 {
     const Installation f;
     QVERIFY(QFile::remove(f.path));
@@ -108,7 +108,7 @@ void TestProgramFile::saysNothingWhenItIsRemoved()
     QVERIFY(!f.file->isReplaced());
 }
 
-void TestProgramFile::saysNothingOfAFileThatCannotBeRunYet()
+void ProgramFileTest::saysNothingOfAFileThatCannotBeRunYet()
 {
     const Installation f;
     f.replace(QFile::ReadOwner | QFile::WriteOwner);
@@ -116,7 +116,7 @@ void TestProgramFile::saysNothingOfAFileThatCannotBeRunYet()
     QVERIFY(f.told->isEmpty());
 }
 
-void TestProgramFile::knowsAReplacementThatNobodyTold()
+void ProgramFileTest::knowsAReplacementThatNobodyTold()
 {
     const Installation f;
     // A process that runs a file keeps it.
@@ -127,5 +127,5 @@ void TestProgramFile::knowsAReplacementThatNobodyTold()
     QVERIFY(f.file->isReplaced());
 }
 
-FERRIN_TEST(QCoreApplication, TestProgramFile)
+FERRIN_TEST(QCoreApplication, ProgramFileTest)
 #include "test_programfile.moc"

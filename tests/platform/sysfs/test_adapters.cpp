@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 using test::Laptop;
 
 /// Adapters, from every source of data about them; see test_quirksofadapters.cpp for oddities.
-class TestAdapters : public QObject
+class AdaptersTest : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private Q_SLOTS:
     void takesNoUsbIdForAName();
 };
 
-void TestAdapters::saysOfAPlainAdapterOnlyThatItIsThere()
+void AdaptersTest::saysOfAPlainAdapterOnlyThatItIsThere()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
@@ -42,7 +42,7 @@ void TestAdapters::saysOfAPlainAdapterOnlyThatItIsThere()
     QCOMPARE(laptop.said(u"AdapterDetails"), QVariant(QVariantMap()));
 }
 
-void TestAdapters::hasNoDetailsWithoutExternalPower()
+void AdaptersTest::hasNoDetailsWithoutExternalPower()
 {
     Laptop laptop("thinkpad-t480s-ucsi");
     QVERIFY(!laptop.adapter().isEmpty());
@@ -50,7 +50,7 @@ void TestAdapters::hasNoDetailsWithoutExternalPower()
     QVERIFY(laptop.absent(u"AdapterDetails"));
 }
 
-void TestAdapters::saysVoltsAmpsWattsNameAndMaker()
+void AdaptersTest::saysVoltsAmpsWattsNameAndMaker()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"ucsi"_s,
@@ -70,7 +70,7 @@ void TestAdapters::saysVoltsAmpsWattsNameAndMaker()
     QCOMPARE(laptop.adapter(), expected);
 }
 
-void TestAdapters::appearsWhenTheDetailsArriveLate()
+void AdaptersTest::appearsWhenTheDetailsArriveLate()
 {
     Laptop laptop("thinkpad-t480s-ucsi");
     const QString port = u"ucsi-source-psy-USBC000:001"_s;
@@ -81,7 +81,7 @@ void TestAdapters::appearsWhenTheDetailsArriveLate()
     QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 60);
 }
 
-void TestAdapters::takesTheGreatestOfSeveralAdapters()
+void AdaptersTest::takesTheGreatestOfSeveralAdapters()
 {
     Laptop laptop("thinkpad-t480s-ucsi");
     laptop.sysfs.supply(u"AC"_s,
@@ -97,7 +97,7 @@ void TestAdapters::takesTheGreatestOfSeveralAdapters()
     QCOMPARE(laptop.adapter().value(u"Name"_s).toString(), u"Strong one"_s);
 }
 
-void TestAdapters::takesTheFirmwaresRatingForABarrelPlug()
+void AdaptersTest::takesTheFirmwaresRatingForABarrelPlug()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"ADP1"_s, { { "type", "Mains" }, { "online", "1" } });
@@ -105,14 +105,14 @@ void TestAdapters::takesTheFirmwaresRatingForABarrelPlug()
     QCOMPARE(laptop.adapter(), (QVariantMap { { u"Watts"_s, 130LL } }));
 }
 
-void TestAdapters::ignoresARatingBeyondReason_data()
+void AdaptersTest::ignoresARatingBeyondReason_data()
 {
     QTest::addColumn<QByteArray>("rating");
     for (const char *rating : { "0", "-1", "4294967295", "x", "500001", "999" })
         QTest::newRow(rating) << QByteArray(rating);
 }
 
-void TestAdapters::ignoresARatingBeyondReason()
+void AdaptersTest::ignoresARatingBeyondReason()
 {
     QFETCH(QByteArray, rating);
     Laptop laptop;
@@ -121,7 +121,7 @@ void TestAdapters::ignoresARatingBeyondReason()
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-void TestAdapters::takesTheRatingOfAChromebooksPort()
+void AdaptersTest::takesTheRatingOfAChromebooksPort()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"CROS_USBPD_CHARGER1"_s,
@@ -133,7 +133,7 @@ void TestAdapters::takesTheRatingOfAChromebooksPort()
     QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 15);
 }
 
-void TestAdapters::doesNotTakeAHostsLimitForTheAdapters()
+void AdaptersTest::doesNotTakeAHostsLimitForTheAdapters()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"axp20x-usb"_s,
@@ -147,7 +147,7 @@ void TestAdapters::doesNotTakeAHostsLimitForTheAdapters()
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-void TestAdapters::acceptsOnlyPlausiblePairs_data()
+void AdaptersTest::acceptsOnlyPlausiblePairs_data()
 {
     QTest::addColumn<qlonglong>("millivolts");
     QTest::addColumn<qlonglong>("milliamps");
@@ -161,7 +161,7 @@ void TestAdapters::acceptsOnlyPlausiblePairs_data()
     QTest::newRow("negative amps") << 20'000LL << -3'000LL << false;
 }
 
-void TestAdapters::acceptsOnlyPlausiblePairs()
+void AdaptersTest::acceptsOnlyPlausiblePairs()
 {
     QFETCH(qlonglong, millivolts);
     QFETCH(qlonglong, milliamps);
@@ -169,15 +169,17 @@ void TestAdapters::acceptsOnlyPlausiblePairs()
 }
 
 namespace {
+
 void attachPartner(Laptop &laptop, const QByteArray &header)
 {
     laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
     laptop.sysfs.write(u"class/typec/port0/power_role"_s, "source [sink]");
     laptop.sysfs.write(u"class/typec/port0-partner/identity/id_header"_s, header);
 }
+
 } // namespace
 
-void TestAdapters::namesThePartnersMaker()
+void AdaptersTest::namesThePartnersMaker()
 {
     QTemporaryFile list;
     QVERIFY(list.open());
@@ -195,14 +197,14 @@ void TestAdapters::namesThePartnersMaker()
     }
 }
 
-void TestAdapters::livesWithoutAListOfMakers()
+void AdaptersTest::livesWithoutAListOfMakers()
 {
     Laptop laptop(QStringList { u"/nothing/there"_s });
     attachPartner(laptop, "0x6c0018d1");
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-void TestAdapters::takesNoUsbIdForAName()
+void AdaptersTest::takesNoUsbIdForAName()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"CROS_USBPD_CHARGER0"_s,
@@ -213,5 +215,5 @@ void TestAdapters::takesNoUsbIdForAName()
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-FERRIN_TEST(QCoreApplication, TestAdapters)
+FERRIN_TEST(QCoreApplication, AdaptersTest)
 #include "test_adapters.moc"

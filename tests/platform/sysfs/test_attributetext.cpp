@@ -11,7 +11,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestAttributeText : public QObject
+class AttributeTextTest : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void survivesAnyBytes();
 };
 
-void TestAttributeText::readsNumbersOfAnySign()
+void AttributeTextTest::readsNumbersOfAnySign()
 {
     QCOMPARE(numberOf("0"), 0);
     QCOMPARE(numberOf("-8597000"), -8'597'000);
@@ -36,14 +36,14 @@ void TestAttributeText::readsNumbersOfAnySign()
     QCOMPARE(numberOf("-9223372036854775808"), std::numeric_limits<qint64>::min());
 }
 
-void TestAttributeText::takesNothingButAWholeNumber()
+void AttributeTextTest::takesNothingButAWholeNumber()
 {
     for (const char *text :
          { "", "-", "+1", " 1", "1 ", "1.0", "1e3", "0x1", "one", "1\xff", "9223372036854775808" })
         QVERIFY2(!numberOf(text), text);
 }
 
-void TestAttributeText::wantsTheVeryUnit()
+void AttributeTextTest::wantsTheVeryUnit()
 {
     QCOMPARE(numberWithUnit("20000mV", "mV"), 20'000);
     QCOMPARE(numberWithUnit("5000 mA", "mA"), 5'000);
@@ -51,7 +51,7 @@ void TestAttributeText::wantsTheVeryUnit()
         QVERIFY2(!numberWithUnit(text, "mV"), text);
 }
 
-void TestAttributeText::findsTheWordInBrackets()
+void AttributeTextTest::findsTheWordInBrackets()
 {
     QVERIFY(chosenWord("C [PD] PD_PPS") == "PD");
     QVERIFY(chosenWord("[C]") == "C");
@@ -59,7 +59,7 @@ void TestAttributeText::findsTheWordInBrackets()
         QVERIFY2(chosenWord(text).empty(), text);
 }
 
-void TestAttributeText::trimsWhiteSpaceAndZeroBytes()
+void AttributeTextTest::trimsWhiteSpaceAndZeroBytes()
 {
     QVERIFY(trimmed(" \t a b \r\n") == "a b");
     QVERIFY(trimmed(std::string_view("model\0", 6)) == "model");
@@ -67,7 +67,7 @@ void TestAttributeText::trimsWhiteSpaceAndZeroBytes()
     QVERIFY(trimmed("").empty());
 }
 
-void TestAttributeText::cutsNamesWhereTheyStopBeingText()
+void AttributeTextTest::cutsNamesWhereTheyStopBeingText()
 {
     QCOMPARE(nameOf("LNV-45N1\xff\xff"), u"LNV-45N1"_s);
     QCOMPARE(nameOf("SWD\x01\x02"), u"SWD"_s);
@@ -75,13 +75,13 @@ void TestAttributeText::cutsNamesWhereTheyStopBeingText()
     QCOMPARE(nameOf("a  \t b"), u"a b"_s);
 }
 
-void TestAttributeText::keepsNamesOfOtherAlphabets()
+void AttributeTextTest::keepsNamesOfOtherAlphabets()
 {
     QCOMPARE(nameOf("联想"), u"联想"_s);
     QCOMPARE(nameOf("Électro"), u"Électro"_s);
 }
 
-void TestAttributeText::dropsPlaceholders()
+void AttributeTextTest::dropsPlaceholders()
 {
     for (const char *text :
          { "", "Primary", "PRIMARY", "standard", "BAT", "BAT0", "1", "<BATT>", "<unkn>", "Notebook",
@@ -89,7 +89,7 @@ void TestAttributeText::dropsPlaceholders()
         QVERIFY2(nameOf(text).isEmpty(), text);
 }
 
-void TestAttributeText::hasNoSerialOfZeros()
+void AttributeTextTest::hasNoSerialOfZeros()
 {
     QCOMPARE(serialOf("00A1"), u"00A1"_s);
     QCOMPARE(serialOf(" 4711 "), u"4711"_s);
@@ -97,7 +97,7 @@ void TestAttributeText::hasNoSerialOfZeros()
         QVERIFY2(serialOf(text).isEmpty(), text);
 }
 
-void TestAttributeText::survivesAnyBytes()
+void AttributeTextTest::survivesAnyBytes()
 {
     std::mt19937 random(11);
     for (int round = 0; round < 10'000; ++round) {
@@ -114,5 +114,5 @@ void TestAttributeText::survivesAnyBytes()
     }
 }
 
-FERRIN_TEST(QCoreApplication, TestAttributeText)
+FERRIN_TEST(QCoreApplication, AttributeTextTest)
 #include "test_attributetext.moc"

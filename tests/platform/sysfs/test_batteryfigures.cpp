@@ -8,7 +8,7 @@
 
 using namespace ferrin;
 
-class TestBatteryFigures : public QObject
+class BatteryFiguresTest : public QObject
 {
     Q_OBJECT
 
@@ -27,6 +27,7 @@ private Q_SLOTS:
 };
 
 namespace {
+
 BatterySupply battery(std::optional<ChargeStatus> status, Reading capacity = {},
                       Reading energyNow = {}, Reading energyFull = {})
 {
@@ -39,16 +40,17 @@ BatterySupply battery(std::optional<ChargeStatus> status, Reading capacity = {},
 }
 
 constexpr auto discharging = ChargeStatus::Discharging;
+
 } // namespace
 
-void TestBatteryFigures::weighsPacksByTheirEnergy()
+void BatteryFiguresTest::weighsPacksByTheirEnergy()
 {
     const auto packs = packsOf({ battery(discharging, 100, 24'000'000, 24'000'000),
                                  battery(discharging, 0, 0, 72'000'000) });
     QCOMPARE(chargePercent(packs), 25);
 }
 
-void TestBatteryFigures::weighsAPackOfUnknownSizeLikeTheOthers()
+void BatteryFiguresTest::weighsAPackOfUnknownSizeLikeTheOthers()
 {
     const auto packs
         = packsOf({ battery(discharging, 100, 40'000'000, 40'000'000), battery(discharging, 50) });
@@ -56,7 +58,7 @@ void TestBatteryFigures::weighsAPackOfUnknownSizeLikeTheOthers()
     QCOMPARE(chargePercent(packsOf({ battery(discharging, 20), battery(discharging, 40) })), 30);
 }
 
-void TestBatteryFigures::comparesChargesAtDifferentVoltages()
+void BatteryFiguresTest::comparesChargesAtDifferentVoltages()
 {
     BatterySupply low = battery(discharging);
     low.chargeNow = 0;
@@ -69,13 +71,13 @@ void TestBatteryFigures::comparesChargesAtDifferentVoltages()
     QCOMPARE(fullMilliampHours(packsOf({ low, high })), 8000);
 }
 
-void TestBatteryFigures::hasNoChargeWhenOnePackHasNone()
+void BatteryFiguresTest::hasNoChargeWhenOnePackHasNone()
 {
     const auto packs = packsOf({ battery(discharging, 80, 8, 10), battery(discharging) });
     QVERIFY(!chargePercent(packs));
 }
 
-void TestBatteryFigures::hasNoSumWhenOnePackDoesNotKnow()
+void BatteryFiguresTest::hasNoSumWhenOnePackDoesNotKnow()
 {
     BatterySupply known = battery(discharging, 50);
     known.chargeFull = 4'000'000;
@@ -86,7 +88,7 @@ void TestBatteryFigures::hasNoSumWhenOnePackDoesNotKnow()
     QVERIFY(!remainingMilliampHours(packs));
 }
 
-void TestBatteryFigures::hasNoFiguresWithoutPacks()
+void BatteryFiguresTest::hasNoFiguresWithoutPacks()
 {
     QVERIFY(!chargePercent({}));
     QVERIFY(!fullMilliampHours({}));
@@ -95,7 +97,7 @@ void TestBatteryFigures::hasNoFiguresWithoutPacks()
     QVERIFY(!isFullyCharged({}, true));
 }
 
-void TestBatteryFigures::countsPhantomsOnlyWhenThereIsNothingElse()
+void BatteryFiguresTest::countsPhantomsOnlyWhenThereIsNothingElse()
 {
     const BatterySupply phantom = battery(ChargeStatus::Unknown, 0, 0, 0);
     const BatterySupply real = battery(discharging, 50, 5'000'000, 10'000'000);
@@ -104,7 +106,7 @@ void TestBatteryFigures::countsPhantomsOnlyWhenThereIsNothingElse()
     QCOMPARE(realPacks(packsOf({ battery(discharging), real })).size(), 2U);
 }
 
-void TestBatteryFigures::isFullOnlyWhenEveryPackIs()
+void BatteryFiguresTest::isFullOnlyWhenEveryPackIs()
 {
     const BatterySupply full = battery(ChargeStatus::Full, 100);
     const BatterySupply waiting = battery(ChargeStatus::NotCharging, 40);
@@ -115,7 +117,7 @@ void TestBatteryFigures::isFullOnlyWhenEveryPackIs()
     QCOMPARE(isFullyCharged(packsOf({ full, battery({}) }), true), std::nullopt);
 }
 
-void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly_data()
+void BatteryFiguresTest::isChargedAt95PercentOnExternalPowerOnly_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<int>("percent");
@@ -132,7 +134,7 @@ void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly_data()
         << static_cast<int>(ChargeStatus::Discharging) << 100 << 1 << false;
 }
 
-void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly()
+void BatteryFiguresTest::isChargedAt95PercentOnExternalPowerOnly()
 {
     QFETCH(int, status);
     QFETCH(int, percent);
@@ -143,7 +145,7 @@ void TestBatteryFigures::isChargedAt95PercentOnExternalPowerOnly()
     QTEST(isFullyCharged(packs, power).value_or(false), "full");
 }
 
-void TestBatteryFigures::knowsNoChargingWithoutAStatus()
+void BatteryFiguresTest::knowsNoChargingWithoutAStatus()
 {
     QVERIFY(!isCharging(packsOf({ battery({}) })));
     QCOMPARE(isCharging(packsOf({ battery({}, 50) })), false);
@@ -151,5 +153,5 @@ void TestBatteryFigures::knowsNoChargingWithoutAStatus()
     QCOMPARE(isCharging(packsOf({ battery({}), battery(ChargeStatus::Charging) })), true);
 }
 
-FERRIN_TEST(QCoreApplication, TestBatteryFigures)
+FERRIN_TEST(QCoreApplication, BatteryFiguresTest)
 #include "test_batteryfigures.moc"

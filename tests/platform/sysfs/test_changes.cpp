@@ -18,7 +18,7 @@ using namespace test;
 
 /// A sysfs that changes arbitrarily often and fast: no figure is ever implausible, and the next
 /// reading after the changes is right.
-class TestChanges : public QObject
+class ChangesTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void staysSaneOnAnyTextInAnyAttribute();
 };
 
-void TestChanges::livesThroughASupplyThatGoesAwayAndReturns()
+void ChangesTest::livesThroughASupplyThatGoesAwayAndReturns()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -43,7 +43,7 @@ void TestChanges::livesThroughASupplyThatGoesAwayAndReturns()
     }
 }
 
-void TestChanges::isRightAfterTenThousandChangesInTheMiddleOfReads()
+void ChangesTest::isRightAfterTenThousandChangesInTheMiddleOfReads()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -87,7 +87,7 @@ void TestChanges::isRightAfterTenThousandChangesInTheMiddleOfReads()
     QCOMPARE(laptop.said(u"AppleRawMaxCapacity").toInt(), 5000);
 }
 
-void TestChanges::readsSixtyFourSupplies()
+void ChangesTest::readsSixtyFourSupplies()
 {
     Laptop laptop;
     for (int index = 0; index < 32; ++index) {
@@ -104,7 +104,7 @@ void TestChanges::readsSixtyFourSupplies()
     QCOMPARE(laptop.said(u"TimeRemaining").toInt(), 120);
 }
 
-void TestChanges::staysSaneOnAnyTextInAnyAttribute()
+void ChangesTest::staysSaneOnAnyTextInAnyAttribute()
 {
     static const QByteArrayList texts {
         "0",
@@ -200,5 +200,5 @@ void TestChanges::staysSaneOnAnyTextInAnyAttribute()
     }
 }
 
-FERRIN_TEST(QCoreApplication, TestChanges)
+FERRIN_TEST(QCoreApplication, ChangesTest)
 #include "test_changes.moc"

@@ -9,7 +9,7 @@
 using namespace ferrin;
 using namespace std::chrono_literals;
 
-class TestChargeHistory : public QObject
+class ChargeHistoryTest : public QObject
 {
     Q_OBJECT
 
@@ -28,6 +28,7 @@ private Q_SLOTS:
 };
 
 namespace {
+
 struct Gauges
 {
     ChargeHistory history;
@@ -54,9 +55,10 @@ struct Gauges
     }
 };
 using Percents = std::vector<std::optional<int>>;
+
 } // namespace
 
-void TestChargeHistory::keepsTheLastChargeThroughAZero()
+void ChargeHistoryTest::keepsTheLastChargeThroughAZero()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
@@ -64,7 +66,7 @@ void TestChargeHistory::keepsTheLastChargeThroughAZero()
     QCOMPARE(gauges.sample({ 61 }), Percents { 61 });
 }
 
-void TestChargeHistory::believesAZeroAfterHalfAMinuteWithoutABreak()
+void ChargeHistoryTest::believesAZeroAfterHalfAMinuteWithoutABreak()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
@@ -74,7 +76,7 @@ void TestChargeHistory::believesAZeroAfterHalfAMinuteWithoutABreak()
     QCOMPARE(gauges.sample({ 0 }, 1s), Percents { 0 });
 }
 
-void TestChargeHistory::startsAnewAfterASampleInBetween()
+void ChargeHistoryTest::startsAnewAfterASampleInBetween()
 {
     Gauges gauges;
     for (int round = 0; round < 20; ++round) {
@@ -84,33 +86,33 @@ void TestChargeHistory::startsAnewAfterASampleInBetween()
     }
 }
 
-void TestChargeHistory::believesAZeroThatWasComing()
+void ChargeHistoryTest::believesAZeroThatWasComing()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 5 }), Percents { 5 });
     QCOMPARE(gauges.sample({ 0 }), Percents { 0 });
 }
 
-void TestChargeHistory::believesAFirstZeroThatTheVoltageConfirms()
+void ChargeHistoryTest::believesAFirstZeroThatTheVoltageConfirms()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 0 }, 5s, true), Percents { 0 });
 }
 
-void TestChargeHistory::doubtsAFirstZeroWithoutAWitness()
+void ChargeHistoryTest::doubtsAFirstZeroWithoutAWitness()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 0 }), Percents { std::nullopt });
     QCOMPARE(gauges.sample({ 0 }, 30s), Percents { 0 });
 }
 
-void TestChargeHistory::believesAnEmptyPackBesideAFullOne()
+void ChargeHistoryTest::believesAnEmptyPackBesideAFullOne()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 0, 80 }), (Percents { 0, 80 }));
 }
 
-void TestChargeHistory::keepsEachPacksChargeApart()
+void ChargeHistoryTest::keepsEachPacksChargeApart()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 40, 80 }), (Percents { 40, 80 }));
@@ -118,7 +120,7 @@ void TestChargeHistory::keepsEachPacksChargeApart()
     QCOMPARE(gauges.sample({ 39, 0 }), (Percents { 39, 79 }));
 }
 
-void TestChargeHistory::forgetsAPackThatWasTakenOut()
+void ChargeHistoryTest::forgetsAPackThatWasTakenOut()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 40, 80 }), (Percents { 40, 80 }));
@@ -126,7 +128,7 @@ void TestChargeHistory::forgetsAPackThatWasTakenOut()
     QCOMPARE(gauges.sample({ 40, 0 }), (Percents { 40, 0 }));
 }
 
-void TestChargeHistory::keepsTheLastChargeForHalfAMinuteWhereNoneCanBeRead()
+void ChargeHistoryTest::keepsTheLastChargeForHalfAMinuteWhereNoneCanBeRead()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ 62 }), Percents { 62 });
@@ -139,12 +141,12 @@ void TestChargeHistory::keepsTheLastChargeForHalfAMinuteWhereNoneCanBeRead()
     QCOMPARE(gauges.sample({ std::nullopt }), Percents { 61 });
 }
 
-void TestChargeHistory::hasNoChargeBeforeTheFirstThatCouldBeRead()
+void ChargeHistoryTest::hasNoChargeBeforeTheFirstThatCouldBeRead()
 {
     Gauges gauges;
     QCOMPARE(gauges.sample({ std::nullopt }), Percents { std::nullopt });
     QCOMPARE(gauges.sample({ 0 }, 60s, true), Percents { 0 });
 }
 
-FERRIN_TEST(QCoreApplication, TestChargeHistory)
+FERRIN_TEST(QCoreApplication, ChargeHistoryTest)
 #include "test_chargehistory.moc"

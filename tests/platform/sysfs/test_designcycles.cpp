@@ -12,7 +12,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestDesignCycles : public QObject
+class DesignCyclesTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private Q_SLOTS:
     void hasNoFigureWithoutATable();
 };
 
-void TestDesignCycles::knowsWhatMakersPublish_data()
+void DesignCyclesTest::knowsWhatMakersPublish_data()
 {
     QTest::addColumn<QString>("vendor");
     QTest::addColumn<QString>("product");
@@ -46,7 +46,7 @@ void TestDesignCycles::knowsWhatMakersPublish_data()
     QTest::newRow("a desktop of Apple") << u"Apple Inc."_s << u"iMac18,3"_s << 13 << 0;
 }
 
-void TestDesignCycles::knowsWhatMakersPublish()
+void DesignCyclesTest::knowsWhatMakersPublish()
 {
     QFETCH(QString, vendor);
     QFETCH(QString, product);
@@ -57,7 +57,7 @@ void TestDesignCycles::knowsWhatMakersPublish()
     QTEST(static_cast<int>(designCycles(machine, designCyclesTable()).value_or(0)), "cycles");
 }
 
-void TestDesignCycles::givesEveryRowASource()
+void DesignCyclesTest::givesEveryRowASource()
 {
     const QJsonObject table = QJsonDocument::fromJson(designCyclesTable()).object();
     const QJsonArray machines = table["machines"_L1].toArray();
@@ -67,7 +67,7 @@ void TestDesignCycles::givesEveryRowASource()
     QVERIFY(!table["notebooks"_L1]["source"_L1].toString().isEmpty());
 }
 
-void TestDesignCycles::readsWhoMadeTheMachine()
+void DesignCyclesTest::readsWhoMadeTheMachine()
 {
     test::FakeSysfs sysfs;
     QCOMPARE(readMachineIdentity(sysfs.root()), MachineIdentity());
@@ -78,7 +78,7 @@ void TestDesignCycles::readsWhoMadeTheMachine()
     QCOMPARE(readMachineIdentity(sysfs.root()), expected);
 }
 
-void TestDesignCycles::readsTheDeviceTreeWhereThereIsNoDmi()
+void DesignCyclesTest::readsTheDeviceTreeWhereThereIsNoDmi()
 {
     test::FakeSysfs sysfs;
     sysfs.write(u"firmware/devicetree/base/model"_s,
@@ -86,12 +86,12 @@ void TestDesignCycles::readsTheDeviceTreeWhereThereIsNoDmi()
     QCOMPARE(readMachineIdentity(sysfs.root()).product, u"Apple MacBook Air (M1, 2020)"_s);
 }
 
-void TestDesignCycles::hasNoFigureWithoutATable()
+void DesignCyclesTest::hasNoFigureWithoutATable()
 {
     QVERIFY(!designCycles({}, {}));
     QVERIFY(!designCycles({}, "not JSON"));
     QVERIFY(!designCycles({}, R"({"notebooks": {"cycles": "300"}})"));
 }
 
-FERRIN_TEST(QCoreApplication, TestDesignCycles)
+FERRIN_TEST(QCoreApplication, DesignCyclesTest)
 #include "test_designcycles.moc"

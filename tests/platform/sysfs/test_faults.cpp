@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 using namespace test;
 
 /// A broken sysfs: single figures become absent, and nothing else happens.
-class TestFaults : public QObject
+class FaultsTest : public QObject
 {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ private Q_SLOTS:
 };
 
 namespace {
+
 using Breaker = void (*)(FakeSysfs &, const QString &);
 
 struct Fault
@@ -109,14 +110,15 @@ void addFaultRows()
     for (int index = 0; index < static_cast<int>(faults.size()); ++index)
         QTest::newRow(faults[static_cast<std::size_t>(index)].name) << index;
 }
+
 } // namespace
 
-void TestFaults::losesOneFigureWithOneBrokenFile_data()
+void FaultsTest::losesOneFigureWithOneBrokenFile_data()
 {
     addFaultRows();
 }
 
-void TestFaults::losesOneFigureWithOneBrokenFile()
+void FaultsTest::losesOneFigureWithOneBrokenFile()
 {
     QFETCH(int, fault);
     const auto breakFile = faults[static_cast<std::size_t>(fault)].apply;
@@ -138,12 +140,12 @@ void TestFaults::losesOneFigureWithOneBrokenFile()
     QCOMPARE(laptop.said(u"AppleRawMaxCapacity").toInt(), 5000);
 }
 
-void TestFaults::livesWithEveryFileBroken_data()
+void FaultsTest::livesWithEveryFileBroken_data()
 {
     addFaultRows();
 }
 
-void TestFaults::livesWithEveryFileBroken()
+void FaultsTest::livesWithEveryFileBroken()
 {
     QFETCH(int, fault);
     Laptop laptop;
@@ -159,7 +161,7 @@ void TestFaults::livesWithEveryFileBroken()
     expectTheLaptop(laptop);
 }
 
-void TestFaults::livesWithoutThePowerSupplyClass()
+void FaultsTest::livesWithoutThePowerSupplyClass()
 {
     Laptop laptop;
     laptop.sysfs.remove(u"class"_s);
@@ -170,7 +172,7 @@ void TestFaults::livesWithoutThePowerSupplyClass()
     QVERIFY(laptop.absent(u"CurrentCapacity"));
 }
 
-void TestFaults::takesNoNumberOutOfDamagedText_data()
+void FaultsTest::takesNoNumberOutOfDamagedText_data()
 {
     QTest::addColumn<QByteArray>("text");
     for (const char *text : { "", " ", "-", "+50", "5 0", "50%", "50.0", "0x32", "fifty", "1e2",
@@ -180,7 +182,7 @@ void TestFaults::takesNoNumberOutOfDamagedText_data()
     QTest::newRow("a zero byte within") << QByteArray("5\0000", 3);
 }
 
-void TestFaults::takesNoNumberOutOfDamagedText()
+void FaultsTest::takesNoNumberOutOfDamagedText()
 {
     QFETCH(QByteArray, text);
     Laptop laptop;
@@ -189,7 +191,7 @@ void TestFaults::takesNoNumberOutOfDamagedText()
     QVERIFY(laptop.absent(u"CurrentCapacity"));
 }
 
-void TestFaults::leaksNoFileWhateverItMeets()
+void FaultsTest::leaksNoFileWhateverItMeets()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -204,5 +206,5 @@ void TestFaults::leaksNoFileWhateverItMeets()
     QCOMPARE(openFiles(), before);
 }
 
-FERRIN_TEST(QCoreApplication, TestFaults)
+FERRIN_TEST(QCoreApplication, FaultsTest)
 #include "test_faults.moc"

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 /// Real machines against expected/sysfs.json, which was written by hand from the records. A figure
 /// that is missing there must be absent.
-class TestMachines : public QObject
+class MachinesTest : public QObject
 {
     Q_OBJECT
 
@@ -39,6 +39,7 @@ private:
 };
 
 namespace {
+
 const QStringList figures {
     u"CurrentCapacity"_s,   u"AppleRawMaxCapacity"_s, u"DesignCapacity"_s, u"CycleCount"_s,
     u"ExternalConnected"_s, u"IsCharging"_s,          u"FullyCharged"_s,   u"TimeRemaining"_s,
@@ -55,9 +56,10 @@ RegistryService::Handle service(SysfsRegistry &registry)
 {
     return registry.matchingService(registry.serviceNameMatching(u"AppleSmartBattery"_s));
 }
+
 } // namespace
 
-void TestMachines::initTestCase()
+void MachinesTest::initTestCase()
 {
     QFile file(QStringLiteral(FERRIN_TEST_DATA "/machines/expected/sysfs.json"));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -67,14 +69,14 @@ void TestMachines::initTestCase()
     QVERIFY(m_expected.size() > 50);
 }
 
-void TestMachines::saysWhatACarefulPersonSays_data()
+void MachinesTest::saysWhatACarefulPersonSays_data()
 {
     QTest::addColumn<QString>("machine");
     for (const QString &machine : m_expected.keys())
         QTest::newRow(qPrintable(machine)) << machine;
 }
 
-void TestMachines::saysWhatACarefulPersonSays()
+void MachinesTest::saysWhatACarefulPersonSays()
 {
     QFETCH(QString, machine);
     const QJsonObject expected = m_expected.value(machine).toObject();
@@ -100,7 +102,7 @@ void TestMachines::saysWhatACarefulPersonSays()
     QVERIFY(!registry.createProperty(handle, u"Serial"_s).isValid());
 }
 
-void TestMachines::knowsTheHealthOfThePackThatNeedsItMost()
+void MachinesTest::knowsTheHealthOfThePackThatNeedsItMost()
 {
     QFETCH(QString, machine);
     test::FakeSysfs sysfs;
@@ -116,7 +118,7 @@ void TestMachines::knowsTheHealthOfThePackThatNeedsItMost()
     QCOMPARE(least.value_or(-1), m_expected.value(machine).toObject().value("health"_L1).toInt(-1));
 }
 
-void TestMachines::hasAnExpectationForEveryCompleteMachine()
+void MachinesTest::hasAnExpectationForEveryCompleteMachine()
 {
     int complete = 0;
     for (const QString &machine : test::FakeSysfs::recordNames()) {
@@ -129,7 +131,7 @@ void TestMachines::hasAnExpectationForEveryCompleteMachine()
     QVERIFY(complete >= 37);
 }
 
-void TestMachines::findsNoServiceWithoutASystemBattery_data()
+void MachinesTest::findsNoServiceWithoutASystemBattery_data()
 {
     QTest::addColumn<QString>("machine");
     for (const char *machine :
@@ -138,7 +140,7 @@ void TestMachines::findsNoServiceWithoutASystemBattery_data()
         QTest::newRow(machine) << QString::fromLatin1(machine);
 }
 
-void TestMachines::findsNoServiceWithoutASystemBattery()
+void MachinesTest::findsNoServiceWithoutASystemBattery()
 {
     QFETCH(QString, machine);
     test::FakeSysfs sysfs;
@@ -147,14 +149,14 @@ void TestMachines::findsNoServiceWithoutASystemBattery()
     QCOMPARE(service(registry), 0U);
 }
 
-void TestMachines::staysSaneOnEveryRecord_data()
+void MachinesTest::staysSaneOnEveryRecord_data()
 {
     QTest::addColumn<QString>("machine");
     for (const QString &machine : test::FakeSysfs::recordNames())
         QTest::newRow(qPrintable(machine)) << machine;
 }
 
-void TestMachines::staysSaneOnEveryRecord()
+void MachinesTest::staysSaneOnEveryRecord()
 {
     QFETCH(QString, machine);
     test::FakeSysfs sysfs;
@@ -171,5 +173,5 @@ void TestMachines::staysSaneOnEveryRecord()
     }
 }
 
-FERRIN_TEST(QCoreApplication, TestMachines)
+FERRIN_TEST(QCoreApplication, MachinesTest)
 #include "test_machines.moc"

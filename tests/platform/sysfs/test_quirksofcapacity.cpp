@@ -12,7 +12,7 @@ using test::Laptop;
 
 /// Oddities of real machines in capacities and cycle counts, one test for each;
 /// tests/machines/README.md describes the machines.
-class TestQuirksOfCapacity : public QObject
+class QuirksOfCapacityTest : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void ignoresADesignVoltageOfOneMillivolt();
 };
 
-void TestQuirksOfCapacity::readsAMachineOfChargesAndOneOfEnergies()
+void QuirksOfCapacityTest::readsAMachineOfChargesAndOneOfEnergies()
 {
     Laptop charges("framework13-frangwa");
     QCOMPARE(charges.fresh(u"AppleRawMaxCapacity").toInt(), 3992);
@@ -46,7 +46,7 @@ void TestQuirksOfCapacity::readsAMachineOfChargesAndOneOfEnergies()
     QCOMPARE(energies.fresh(u"CurrentCapacity").toInt(), 85);
 }
 
-void TestQuirksOfCapacity::readsBothFamiliesAndNone()
+void QuirksOfCapacityTest::readsBothFamiliesAndNone()
 {
     Laptop both("chromebook-limozeen-sbs");
     QCOMPARE(both.fresh(u"AppleRawMaxCapacity").toInt(), 3555);
@@ -59,7 +59,7 @@ void TestQuirksOfCapacity::readsBothFamiliesAndNone()
     QVERIFY(silent.absent(u"MaxCapacity"));
 }
 
-void TestQuirksOfCapacity::takesEnergyBesideACurrent()
+void QuirksOfCapacityTest::takesEnergyBesideACurrent()
 {
     Laptop laptop("asus-f5-2008-mixed");
     laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Discharging");
@@ -67,7 +67,7 @@ void TestQuirksOfCapacity::takesEnergyBesideACurrent()
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 298);
 }
 
-void TestQuirksOfCapacity::derivesTheRestWhereChargeNowIsMissing()
+void QuirksOfCapacityTest::derivesTheRestWhereChargeNowIsMissing()
 {
     Laptop laptop("pinebookpro-cw2015");
     QCOMPARE(laptop.fresh(u"AppleRawCurrentCapacity").toInt(), 9408);
@@ -76,7 +76,7 @@ void TestQuirksOfCapacity::derivesTheRestWhereChargeNowIsMissing()
     QVERIFY(designOnly.absent(u"AppleRawMaxCapacity"));
 }
 
-void TestQuirksOfCapacity::convertsByTheDesignVoltageSoThatTheDesignStandsStill()
+void QuirksOfCapacityTest::convertsByTheDesignVoltageSoThatTheDesignStandsStill()
 {
     Laptop laptop("asus-ux32vd");
     QCOMPARE(laptop.fresh(u"DesignCapacity").toInt(), 6168);
@@ -84,7 +84,7 @@ void TestQuirksOfCapacity::convertsByTheDesignVoltageSoThatTheDesignStandsStill(
     QCOMPARE(laptop.fresh(u"DesignCapacity").toInt(), 6168);
 }
 
-void TestQuirksOfCapacity::hasNoCycleCountAtZeroAtSaturationAndWithoutTheFile()
+void QuirksOfCapacityTest::hasNoCycleCountAtZeroAtSaturationAndWithoutTheFile()
 {
     Laptop zero("asus-ux32vd");
     QVERIFY(zero.absent(u"CycleCount"));
@@ -94,33 +94,33 @@ void TestQuirksOfCapacity::hasNoCycleCountAtZeroAtSaturationAndWithoutTheFile()
     QVERIFY(none.absent(u"CycleCount"));
 }
 
-void TestQuirksOfCapacity::dropsCycleCountsInAnotherUnit()
+void QuirksOfCapacityTest::dropsCycleCountsInAnotherUnit()
 {
     Laptop laptop("gpd-pocket-max170xx");
     QVERIFY(laptop.absent(u"CycleCount"));
 }
 
-void TestQuirksOfCapacity::passesOnACountOfEightBits()
+void QuirksOfCapacityTest::passesOnACountOfEightBits()
 {
     Laptop laptop("framework13-7040-cycles-8bit");
     QCOMPARE(laptop.fresh(u"CycleCount").toInt(), 65);
 }
 
-void TestQuirksOfCapacity::acceptsAFullChargeAboveTheDesign()
+void QuirksOfCapacityTest::acceptsAFullChargeAboveTheDesign()
 {
     Laptop laptop("thinkpad-45n1173-tlp330");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 100);
     QVERIFY(laptop.fresh(u"FullyCharged").toBool());
 }
 
-void TestQuirksOfCapacity::acceptsAFullChargeThatIsTheDesignForEver()
+void QuirksOfCapacityTest::acceptsAFullChargeThatIsTheDesignForEver()
 {
     Laptop laptop("hp-pavilion-primary");
     QCOMPARE(laptop.fresh(u"AppleRawMaxCapacity"), laptop.fresh(u"DesignCapacity"));
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 39);
 }
 
-void TestQuirksOfCapacity::dropsTemperaturesBeyondReason()
+void QuirksOfCapacityTest::dropsTemperaturesBeyondReason()
 {
     Laptop cold("gta04-bq27000-allzero");
     QVERIFY(cold.absent(u"Temperature"));
@@ -130,7 +130,7 @@ void TestQuirksOfCapacity::dropsTemperaturesBeyondReason()
     QCOMPARE(warm.fresh(u"Temperature").toInt(), 1940);
 }
 
-void TestQuirksOfCapacity::dropsASaturatedGauge()
+void QuirksOfCapacityTest::dropsASaturatedGauge()
 {
     Laptop laptop("openmoko-neo-bq27000-uncalibrated");
     laptop.sysfs.set(u"bq27000-battery"_s, u"charge_full"_s, "11697997");
@@ -139,7 +139,7 @@ void TestQuirksOfCapacity::dropsASaturatedGauge()
     QVERIFY(laptop.absent(u"CurrentCapacity"));
 }
 
-void TestQuirksOfCapacity::ignoresADesignVoltageOfOneMillivolt()
+void QuirksOfCapacityTest::ignoresADesignVoltageOfOneMillivolt()
 {
     Laptop laptop("asus-ux32-481cycles");
     laptop.sysfs.set(u"BAT0"_s, u"voltage_min_design"_s, "1000");
@@ -147,5 +147,5 @@ void TestQuirksOfCapacity::ignoresADesignVoltageOfOneMillivolt()
     QCOMPARE(laptop.fresh(u"AppleRawMaxCapacity").toInt(), 5110);
 }
 
-FERRIN_TEST(QCoreApplication, TestQuirksOfCapacity)
+FERRIN_TEST(QCoreApplication, QuirksOfCapacityTest)
 #include "test_quirksofcapacity.moc"

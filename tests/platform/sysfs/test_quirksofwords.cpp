@@ -12,7 +12,7 @@ using test::Laptop;
 
 /// Batteries that lack attributes, or whose words and units are not the kernel's: their other
 /// figures must not be lost, and none may be computed in a wrong unit.
-class TestQuirksOfWords : public QObject
+class QuirksOfWordsTest : public QObject
 {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ private Q_SLOTS:
 };
 
 namespace {
+
 void fill(Laptop &laptop, const char *online, const char *status)
 {
     laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", online } });
@@ -43,9 +44,10 @@ void fill(Laptop &laptop, const char *online, const char *status)
                           { "power_now", "8000000" },
                           { "voltage_min_design", "11520000" } });
 }
+
 } // namespace
 
-void TestQuirksOfWords::readsTheStatusInAnyCase_data()
+void QuirksOfWordsTest::readsTheStatusInAnyCase_data()
 {
     QTest::addColumn<QByteArray>("status");
     QTest::addColumn<bool>("charging");
@@ -57,7 +59,7 @@ void TestQuirksOfWords::readsTheStatusInAnyCase_data()
     QTest::newRow("full") << QByteArray("full") << false << true;
 }
 
-void TestQuirksOfWords::readsTheStatusInAnyCase()
+void QuirksOfWordsTest::readsTheStatusInAnyCase()
 {
     QFETCH(QByteArray, status);
     Laptop laptop;
@@ -66,7 +68,7 @@ void TestQuirksOfWords::readsTheStatusInAnyCase()
     QTEST(laptop.said(u"FullyCharged").toBool(), "full");
 }
 
-void TestQuirksOfWords::keepsItsStateWhereOnPowerNobodyKnowsTheDirection_data()
+void QuirksOfWordsTest::keepsItsStateWhereOnPowerNobodyKnowsTheDirection_data()
 {
     QTest::addColumn<QString>("missing");
     QTest::newRow("a rate that may go either way") << QString();
@@ -74,7 +76,7 @@ void TestQuirksOfWords::keepsItsStateWhereOnPowerNobodyKnowsTheDirection_data()
     QTest::newRow("no status") << u"status"_s;
 }
 
-void TestQuirksOfWords::keepsItsStateWhereOnPowerNobodyKnowsTheDirection()
+void QuirksOfWordsTest::keepsItsStateWhereOnPowerNobodyKnowsTheDirection()
 {
     QFETCH(QString, missing);
     Laptop laptop;
@@ -88,7 +90,7 @@ void TestQuirksOfWords::keepsItsStateWhereOnPowerNobodyKnowsTheDirection()
     QVERIFY(!laptop.said(u"TimeRemaining").isValid());
 }
 
-void TestQuirksOfWords::dischargesOnBatteryWithoutAStatus()
+void QuirksOfWordsTest::dischargesOnBatteryWithoutAStatus()
 {
     Laptop laptop;
     fill(laptop, "0", "");
@@ -96,7 +98,7 @@ void TestQuirksOfWords::dischargesOnBatteryWithoutAStatus()
     QCOMPARE(laptop.said(u"FullyCharged"), QVariant(false));
 }
 
-void TestQuirksOfWords::isChargedWithoutAStatusAtTheTop()
+void QuirksOfWordsTest::isChargedWithoutAStatusAtTheTop()
 {
     Laptop laptop;
     fill(laptop, "1", "");
@@ -105,7 +107,7 @@ void TestQuirksOfWords::isChargedWithoutAStatusAtTheTop()
     QCOMPARE(laptop.fresh(u"FullyCharged"), QVariant(true));
 }
 
-void TestQuirksOfWords::hasNoCapacityInMilliampHoursTakenForMicroampHours()
+void QuirksOfWordsTest::hasNoCapacityInMilliampHoursTakenForMicroampHours()
 {
     Laptop laptop("own-gauge-in-milliamphours");
     QVERIFY(laptop.absent(u"AppleRawMaxCapacity"));
@@ -115,7 +117,7 @@ void TestQuirksOfWords::hasNoCapacityInMilliampHoursTakenForMicroampHours()
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 60);
 }
 
-void TestQuirksOfWords::hasNoCapacityInMilliwattHoursTakenForMicrowattHours()
+void QuirksOfWordsTest::hasNoCapacityInMilliwattHoursTakenForMicrowattHours()
 {
     Laptop laptop;
     fill(laptop, "0", "Discharging");
@@ -127,14 +129,14 @@ void TestQuirksOfWords::hasNoCapacityInMilliwattHoursTakenForMicrowattHours()
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 60);
 }
 
-void TestQuirksOfWords::keepsTheCapacityOfASmallPack()
+void QuirksOfWordsTest::keepsTheCapacityOfASmallPack()
 {
     Laptop laptop("own-gauge-in-milliamphours");
     laptop.sysfs.set(u"BAT0"_s, u"charge_full"_s, "880000");
     QCOMPARE(laptop.fresh(u"AppleRawMaxCapacity").toInt(), 880);
 }
 
-void TestQuirksOfWords::takesTheSentinelOfSixteenBitsForNoTime()
+void QuirksOfWordsTest::takesTheSentinelOfSixteenBitsForNoTime()
 {
     Laptop laptop;
     fill(laptop, "0", "Discharging");
@@ -147,5 +149,5 @@ void TestQuirksOfWords::takesTheSentinelOfSixteenBitsForNoTime()
     QCOMPARE(other.fresh(u"TimeRemaining").toInt(), 200);
 }
 
-FERRIN_TEST(QCoreApplication, TestQuirksOfWords)
+FERRIN_TEST(QCoreApplication, QuirksOfWordsTest)
 #include "test_quirksofwords.moc"

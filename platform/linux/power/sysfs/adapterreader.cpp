@@ -11,6 +11,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr std::string_view partnerSuffix = "-partner";
 
 // The partner of a port that gives power is a device, not an adapter.
@@ -54,6 +55,7 @@ std::optional<std::uint16_t> vendorOf(const AttributeDirectory &partner)
         return std::nullopt;
     return vendor;
 }
+
 } // namespace
 
 AdapterReader::AdapterReader(const std::string &root)

@@ -15,6 +15,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr int directoryFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
 // O_NONBLOCK: opening a pipe in place of an attribute must not block.
 constexpr int attributeFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
@@ -27,6 +28,7 @@ ssize_t readOnce(int descriptor, AttributeDirectory::Buffer &buffer)
     } while (size < 0 && errno == EINTR);
     return size;
 }
+
 } // namespace
 
 AttributeDirectory::AttributeDirectory(const char *path)

@@ -15,6 +15,7 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr bool isBlank(char character)
 {
     return character == ' ' || (character >= '\t' && character <= '\r') || character == '\0';
@@ -70,6 +71,7 @@ QString readablePart(std::string_view text)
     }
     return readable.simplified();
 }
+
 } // namespace
 
 std::string_view trimmed(std::string_view text) noexcept

@@ -8,6 +8,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr int chargedPercent = 95;
 
 qint64 usualFull(const std::vector<Pack> &packs)
@@ -44,6 +45,7 @@ bool isFull(const Pack &pack, std::optional<bool> external)
     }
     return false;
 }
+
 } // namespace
 
 std::vector<Pack> realPacks(std::vector<Pack> packs)

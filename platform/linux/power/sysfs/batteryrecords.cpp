@@ -11,6 +11,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr qint64 mostCycles = 10'000;
 // Tenths of a degree.
 constexpr qint64 coldest = -400;
@@ -27,6 +28,7 @@ Reading greater(Reading left, Reading right)
 {
     return left && (!right || *left >= *right) ? left : right;
 }
+
 } // namespace
 
 Reading greatestCycleCount(const std::vector<BatteryRecord> &records)

@@ -10,8 +10,10 @@ namespace ferrin {
 using namespace std::chrono_literals;
 
 namespace {
+
 constexpr auto acceptedAfter = 30s;
 constexpr int nearlyEmptyPercent = 5;
+
 } // namespace
 
 void ChargeHistory::settle(const std::vector<BatterySupply> &batteries, std::vector<Pack> &packs,

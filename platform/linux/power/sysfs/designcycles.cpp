@@ -19,6 +19,7 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 bool matches(const QJsonValue &pattern, const QString &text)
 {
     const QString expression = QRegularExpression::anchoredPattern(pattern.toString());
@@ -37,6 +38,7 @@ std::optional<qint64> countOf(const QJsonValue &value)
     const qint64 count = value.toInteger();
     return count > 0 ? std::optional<qint64>(count) : std::nullopt;
 }
+
 } // namespace
 
 MachineIdentity readMachineIdentity(const std::string &root)

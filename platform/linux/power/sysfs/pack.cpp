@@ -9,6 +9,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr qint64 million = 1'000'000;
 // µV: one cell that is nearly empty, and more than any notebook's pack has.
 constexpr qint64 leastVoltage = 2'500'000;
@@ -180,6 +181,7 @@ Pack packOf(const BatterySupply &battery, qint64 voltage)
         pack.now = trustedNow(family, pack.percent);
     return pack;
 }
+
 } // namespace
 
 std::vector<Pack> packsOf(const std::vector<BatterySupply> &batteries)

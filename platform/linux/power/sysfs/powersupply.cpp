@@ -8,10 +8,12 @@
 namespace ferrin {
 
 namespace {
+
 bool isWord(std::string_view text, std::string_view word) noexcept
 {
     return QByteArrayView(text).compare(QByteArrayView(word), Qt::CaseInsensitive) == 0;
 }
+
 } // namespace
 
 SupplyType supplyTypeOf(std::string_view text) noexcept
