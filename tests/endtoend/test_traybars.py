@@ -177,5 +177,30 @@ class Polybar(InATrayBar, OnADesktop):
         return traybars.PolybarScreen()
 
 
+class Trayer(InATrayBar, OnADesktop):
+    def make_session(self):
+        return traybars.TrayerScreen()
+
+
+class Stalonetray(InATrayBar, OnADesktop):
+    def make_session(self):
+        return traybars.StalonetrayScreen()
+
+
+class Lxpanel(InATrayBar, OnADesktop):
+    def make_session(self):
+        return traybars.LxpanelScreen()
+
+
+class IceWM(InATrayBar, OnADesktop):
+    def make_session(self):
+        return traybars.IcewmScreen()
+
+
+class QtileTray(InATrayBar, OnADesktop):
+    def make_session(self):
+        return traybars.QtileTrayScreen()
+
+
 if __name__ == "__main__":
     main()

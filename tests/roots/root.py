@@ -17,7 +17,7 @@ from . import namespaces
 MIRROR = "http://deb.debian.org/debian"
 LISTS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts")
 # Raised when roots are made in another way.
-RECIPE = 1
+RECIPE = 2
 # What no test reads. The licences stay: they are beside the changelogs.
 LEFT_OUT = ("/usr/share/man/*", "/usr/share/info/*", "/usr/share/locale/*", "/usr/share/help/*",
             "/usr/share/gtk-doc/*", "/usr/share/doc/*/changelog*", "/usr/share/doc/*/NEWS*",
@@ -110,13 +110,24 @@ def cached(release, packages=()):
 
 
 def _make(path, release, packages):
+    """With a second try: mirrors have their moments."""
+    try:
+        _try_to_make(path, release, packages)
+    except RootCommandFailed:
+        _try_to_make(path, release, packages)
+
+
+def _try_to_make(path, release, packages):
     unfinished = path + ".unfinished"
     _do("rm", "--recursive", "--force", "--one-file-system", unfinished)
+    left_out = "".join(f"path-exclude={each}\\n" for each in LEFT_OUT) \
+        + "path-include=/usr/share/locale/locale.alias\\n"
     command = ["mmdebstrap", "--quiet", "--mode=root", "--variant=apt",
+               "--dpkgopt=force-unsafe-io",
                "--aptopt=Acquire::Languages \"none\"", "--aptopt=Acquire::Retries \"5\"",
-               *(f"--dpkgopt=path-exclude={each}" for each in LEFT_OUT),
-               "--dpkgopt=path-include=/usr/share/locale/locale.alias",
-               "--include=" + ",".join(sorted({"util-linux", *packages})),
+               # As an option it would take a program for each of the first packages.
+               f"--extract-hook=printf '{left_out}' >\"$1/etc/dpkg/dpkg.cfg.d/left-out\"",
+               "--include=" + ",".join(sorted({"passwd", "util-linux", *packages})),
                "--customize-hook=chroot \"$1\" useradd --uid 1000 --create-home person",
                "--customize-hook=touch \"$1/etc/resolv.conf\"",
                release, unfinished, MIRROR]
@@ -127,11 +138,13 @@ def _make(path, release, packages):
 
 
 def _forget_old_ones():
-    """Takes away what nobody has asked for in a long time."""
+    """Takes away what nobody has asked for in a long time. Of a root, its lock tells: the folder is as
+    old as what was unpacked into it."""
     folder = cache_folder()
     for name in os.listdir(folder):
         path = os.path.join(folder, name)
-        used = os.path.getmtime(path + ".lock" if os.path.exists(path + ".lock") else path)
+        lock = path.removesuffix(".unfinished") + ".lock"
+        used = os.path.getmtime(lock if os.path.exists(lock) else path)
         if not name.endswith(".lock") and time.time() - used > KEPT_SECONDS:
             _do("rm", "--recursive", "--force", "--one-file-system", path)
 

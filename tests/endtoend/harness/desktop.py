@@ -32,7 +32,7 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
       <property name="expand" type="bool" value="true"/>
       <property name="style" type="uint" value="0"/>
     </property>
-    <property name="plugin-2" type="string" value="systray">
+    <property name="plugin-2" type="string" value="{plugin}">
       <property name="square-icons" type="bool" value="true"/>
     </property>
   </property>
@@ -130,6 +130,8 @@ class PanelScreen(BareScreen):
 
 class XfceScreen(PanelScreen):
     desktop = "XFCE"
+    # The one that the panel has.
+    plugin = "systray"
     panel_box = Box(480, 0, 800, 30)
     # The panel's own numbers for the edges, and for lying or standing there.
     edges = {"top": (6, 0), "bottom": (10, 0), "left": (5, 1), "right": (1, 1)}
@@ -148,7 +150,8 @@ class XfceScreen(PanelScreen):
         path = "config/xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml"
         if not os.path.exists(os.path.join(self.folder, path)):
             position, mode = self.edges[self._edge]
-            self.write(path, XFCE_PANEL.format(dark=self._dark, position=position, mode=mode))
+            self.write(path, XFCE_PANEL.format(dark=self._dark, position=position, mode=mode,
+                                               plugin=self.plugin))
         return ["xfce4-panel", "--disable-wm-check"]
 
 

@@ -3,6 +3,8 @@
 """Panels beside those that most tests use."""
 
 from harness.desktop import PanelScreen
+from harness.processes import eventually
+from harness.traybars import QtileTrayScreen
 
 LXQT_PANEL = """panels=panel1
 [panel1]
@@ -32,3 +34,13 @@ class LxqtScreen(PanelScreen):
     def command(self):
         self.write("config/lxqt/lxqt.conf", f"theme={self._theme}\n")
         return ["lxqt-panel", "-c", self.write("config/lxqt/panel.conf", LXQT_PANEL)]
+
+
+class QtileScreen(QtileTrayScreen):
+    """With its own status area in place of a tray."""
+
+    widget = "StatusNotifier"
+
+    def start_bar(self):
+        self.bar = self.start(self.command())
+        eventually(self.bus.has_host, "the bar offers a status area")

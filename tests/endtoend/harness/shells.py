@@ -2,7 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """Whole desktop shells, which bring their own window manager or want much of a session around."""
 
+import glob
 import json
+import shutil
 
 from harness.desktop import BareScreen
 from harness.picture import Box
@@ -73,6 +75,11 @@ class Shell:
         self.write("config/glib-2.0/settings/keyfile", "\n".join(lines) + "\n")
 
 
+def xapp_watcher():
+    """The status area of Linux Mint's desktops, a process that their sessions start."""
+    return glob.glob("/usr/lib*/**/xapp-sn-watcher", recursive=True)[0]
+
+
 class CinnamonScreen(Shell, Screen):
     size = (1024, 600)
     desktop = "X-Cinnamon"
@@ -85,7 +92,7 @@ class CinnamonScreen(Shell, Screen):
             "org/cinnamon/desktop/interface": {"scaling-factor": f"uint32 {self.scale}"},
         })
         self.start_shell(["cinnamon", "--sync"])
-        self.start_shell(["/usr/libexec/xapps/sn-watcher/xapp-sn-watcher"])
+        self.start_shell([xapp_watcher()])
         eventually(self.bus.has_host, "the panel offers a status area")
 
     def windows_of(self, process_id):
@@ -99,9 +106,10 @@ class CinnamonScreen(Shell, Screen):
 class PlasmaScreen(Shell, BareScreen):
     size = (1024, 600)
     desktop = "KDE"
+    daemon = "kded6" if shutil.which("kded6") else "kded5"
     environment_of_plasma = {
-        "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5", "QT_QUICK_BACKEND": "software",
-        "QT_QPA_PLATFORM": "xcb"}
+        "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": daemon[-1],
+        "QT_QUICK_BACKEND": "software", "QT_QPA_PLATFORM": "xcb"}
 
     def __init__(self, dark=False, **options):
         super().__init__(**options)
@@ -116,7 +124,7 @@ class PlasmaScreen(Shell, BareScreen):
         if self.scale != 1:
             # As a session that scales does.
             environment["PLASMA_USE_QT_SCALING"] = "1"
-        self.start_shell(["kded5"], environment)
+        self.start_shell([self.daemon], environment)
         self.start_shell(["plasmashell", "--no-respawn"], environment)
         eventually(self.bus.has_host, "the panel offers a status area")
 

@@ -5,8 +5,10 @@
 import re
 
 from harness.desktop import BareScreen
+from harness.picture import Box
 from harness.processes import eventually
 from harness.session import Screen
+from harness.xwindows import has_owner
 
 I3 = """# i3 config file (v4)
 font pango:DejaVu Sans {points}
@@ -44,6 +46,34 @@ foreground = {text}
 type = custom/text
 content = " "
 """
+LXPANEL = """Global {
+    edge=top
+    margin=0
+    widthtype=percent
+    width=100
+    height=26
+    transparent=0
+    setdocktype=1
+    setpartialstrut=1
+    iconsize=24
+}
+Plugin {
+    type=space
+    expand=1
+}
+Plugin {
+    type=tray
+}
+"""
+QTILE = """from libqtile import bar, layout, widget
+from libqtile.config import Group, Screen
+items = [widget.Spacer(), widget.{widget}(), widget.TextBox("|")]
+screens = [Screen(top=bar.Bar(items, {height}))]
+layouts = [layout.Floating()]
+groups = [Group("1")]
+keys = []
+"""
+QTILE_HEIGHT = 24
 
 
 class TrayBar(BareScreen):
@@ -67,9 +97,7 @@ class TrayBar(BareScreen):
         self.start_bar()
 
     def has_tray(self):
-        return b"_NET_SYSTEM_TRAY_ORIENTATION" in self.run(
-            "sh", "-c", "for w in $(xwininfo -root -tree | grep -oE '0x[0-9a-f]{4,}'); do"
-            " xprop -id $w _NET_SYSTEM_TRAY_ORIENTATION; done | grep -v 'not found'")
+        return has_owner(self.environment["DISPLAY"], b"_NET_SYSTEM_TRAY_S0")
 
     def bar_box(self):
         windows = self.run("xdotool", "search", "--onlyvisible", "--class", self.bar_class)
@@ -142,3 +170,69 @@ class PolybarScreen(TrayBar):
 
     def command(self):
         return ["polybar", "-c", self.write("config/polybar.ini", self._configuration)]
+
+
+class TrayerScreen(TrayBar):
+    bar_class = "trayer"
+
+    def command(self):
+        return ["trayer", "--edge", "top", "--align", "right", "--SetDockType", "true",
+                "--expand", "true", "--width", "10", "--widthtype", "percent",
+                "--height", "24", "--heighttype", "pixel", "--tint", "0x202020",
+                "--transparent", "true", "--alpha", "0"]
+
+
+class StalonetrayScreen(TrayBar):
+    bar_class = "stalonetray"
+
+    def command(self):
+        return ["stalonetray", "--geometry", "2x1-0+0", "--background", "#202020",
+                "--icon-size", "24", "--window-type", "dock"]
+
+
+class LxpanelScreen(TrayBar):
+    desktop = "LXDE"
+    bar_class = "panel"
+
+    def command(self):
+        self.write("config/lxpanel/default/config", "[Command]\n")
+        self.write("config/lxpanel/default/panels/panel", LXPANEL)
+        return ["lxpanel", "--profile", "default"]
+
+
+class IcewmScreen(TrayBar):
+    """Window manager and bar are one."""
+
+    desktop = "ICEWM"
+
+    def boot(self):
+        Screen.boot(self)
+        self.start_bar()
+
+    def command(self):
+        return ["icewm"]
+
+    def bar_box(self):
+        tree = self.all_windows().decode()
+        window = re.search(r"(0x[0-9a-f]+) \"TaskBar\"", tree).group(1)
+        return self.box_of(window)
+
+
+class QtileTrayScreen(TrayBar):
+    """The bar of a window manager that has either kind of status area."""
+
+    desktop = "qtile"
+    widget = "Systray"
+
+    def boot(self):
+        Screen.boot(self)
+        self.start_bar()
+
+    def command(self):
+        return ["qtile", "start", "-c",
+                self.write("config/qtile/config.py", QTILE.format(
+                    widget=self.widget, height=QTILE_HEIGHT))]
+
+    def bar_box(self):
+        """The bar's window has no name."""
+        return Box(0, 0, self.size[0], QTILE_HEIGHT)

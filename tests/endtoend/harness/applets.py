@@ -1,0 +1,98 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""Panels whose status area is an applet that another process feeds: Ayatana's indicators, as Ubuntu's
+flavours have them, and XApp's, as Linux Mint has it."""
+
+from harness.desktop import BareScreen, PanelScreen, XfceScreen
+from harness.processes import eventually
+from harness.shells import Shell, xapp_watcher
+
+AYATANA = "/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service"
+MATE_INDICATORS = "IndicatorAppletFactory::IndicatorAppletComplete"
+MATE_XAPP = "MateXAppStatusAppletFactory::MateXAppStatusApplet"
+BUDGIE_TRAY, BUDGIE_INDICATORS = "System Tray", "AppIndicator Applet"
+# Identifiers of a panel and of an applet in it; Budgie wants them in this form.
+PANEL, APPLET = "22345678-1234-11ee-8888-0123456789ab", "12345678-1234-11ee-8888-0123456789ab"
+
+
+class BudgieScreen(Shell, BareScreen):
+    """The desktop is its own window manager and its panel."""
+
+    size = (1024, 600)
+    desktop = "Budgie:GNOME"
+    applet = BUDGIE_TRAY
+
+    def boot(self):
+        base = "com/solus-project/budgie-panel"
+        self.store_gsettings({
+            base: {"panels": f"['{PANEL}']", "migration-level": "2"},
+            f"{base}/panels/{{{PANEL}}}": {
+                "location": "'top'", "size": "32", "applets": f"['{APPLET}']"},
+            f"{base}/applets/{{{APPLET}}}": {
+                "name": f"'{self.applet}'", "alignment": "'end'", "position": "0"}})
+        BareScreen.boot(self)
+        self.start_status_area()
+        self.start_shell(["budgie-panel"])
+        eventually(self.bus.has_host, "the panel offers a status area")
+
+    def start_status_area(self):
+        self.start_shell(["budgie-daemon"])
+
+
+class BudgieIndicatorScreen(BudgieScreen):
+    applet = BUDGIE_INDICATORS
+
+    def start_status_area(self):
+        self.start_shell([AYATANA])
+
+
+class MateAppletScreen(Shell, PanelScreen):
+    """MATE's panel with one applet."""
+
+    desktop = "MATE"
+    applet = MATE_INDICATORS
+    more_settings = {}
+
+    def __init__(self, dark=False, **options):
+        super().__init__(**options)
+        self.environment["GTK_THEME"] = "Adwaita:dark" if dark else "Adwaita"
+        # Its applets are processes that the bus starts.
+        self.environment["GSETTINGS_BACKEND"] = "keyfile"
+
+    def boot(self):
+        base = "org/mate/panel"
+        self.store_gsettings(self.more_settings | {
+            f"{base}/general": {"toplevel-id-list": "['top']", "object-id-list": "['area']"},
+            f"{base}/toplevels/top": {"orientation": "'top'", "size": "28", "expand": "true"},
+            f"{base}/objects/area": {
+                "object-type": "'applet'", "applet-iid": f"'{self.applet}'",
+                "toplevel-id": "'top'", "position": "0", "panel-right-stick": "true"}})
+        super().boot()
+
+    def start_panel(self):
+        self.start_status_area()
+        super().start_panel()
+
+    def start_status_area(self):
+        self.start_shell([AYATANA])
+
+    def command(self):
+        return ["mate-panel"]
+
+
+class MateXappScreen(MateAppletScreen):
+    applet = MATE_XAPP
+    # As Linux Mint has it; as it comes, it is for Cinnamon alone.
+    more_settings = {
+        "org/x/apps/statusicon": {"status-notifier-enabled-desktops": "['X-Cinnamon', 'MATE']"}}
+
+    def start_status_area(self):
+        self.start_shell([xapp_watcher()])
+
+
+class XfceIndicatorScreen(Shell, XfceScreen):
+    plugin = "indicator"
+
+    def start_panel(self):
+        self.start_shell([AYATANA])
+        super().start_panel()
