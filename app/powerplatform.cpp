@@ -20,7 +20,7 @@ PowerPlatform::PowerPlatform(const QDBusConnection &systemBus)
 BatteryDataProvider::Platform PowerPlatform::parts()
 {
     return { .registry = m_registry,
-             .powerSources = m_upower,
+             .powerSources = m_sources,
              .processLauncher = m_launcher,
              .storedData = &StoredData::shared };
 }
@@ -29,7 +29,7 @@ void PowerPlatform::refreshEarly()
 {
     connect(&m_events, &PowerEvents::changed, this, [this] {
         m_registry.expire();
-        BatteryDataProvider::shared().updatePeriodicData();
+        BatteryDataProvider::shared().updateEarly();
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/batterydataprovider.h"
 #include "platform/linux/power/events/powerevents.h"
+#include "platform/linux/power/powersources/powersources.h"
 #include "platform/linux/power/sysfs/sysfsregistry.h"
 #include "platform/linux/power/upower/upowerservice.h"
 #include "sources/qtprocesslauncher.h"
@@ -32,6 +33,7 @@ public:
 private:
     SysfsRegistry m_registry;
     UPowerService m_upower;
+    PowerSources m_sources { m_upower, m_registry };
     PowerEvents m_events;
     QtProcessLauncher m_launcher;
 };

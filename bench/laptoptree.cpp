@@ -26,6 +26,11 @@ void LaptopTree::set(const QString &supply, const QString &attribute, const QByt
         qFatal("Cannot write %s", qPrintable(file.fileName()));
 }
 
+void LaptopTree::remove(const QString &supply, const QString &attribute) const
+{
+    QFile::remove(m_folder.filePath(u"class/power_supply/"_s + supply + u'/' + attribute));
+}
+
 void LaptopTree::addMains() const
 {
     set(u"AC"_s, u"type"_s, "Mains");

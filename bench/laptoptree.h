@@ -15,6 +15,7 @@ public:
 
     [[nodiscard]] QString root() const { return m_folder.path(); }
     void set(const QString &supply, const QString &attribute, const QByteArray &value) const;
+    void remove(const QString &supply, const QString &attribute) const;
 
 private:
     void addMains() const;

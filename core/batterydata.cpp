@@ -55,9 +55,11 @@ BatteryTime BatteryData::estimatedTimeToFull() const
     const auto current = adapterCurrent();
     const float amperes
         = current ? *current - currentBesidesChargingInAmperes : assumedChargingCurrentInAmperes;
+    // An adapter that gives no more than the machine takes would never fill the battery.
+    if (!(amperes > 0))
+        return {};
     const float hours = ampereHours / amperes;
-    // An adapter that gives exactly what the machine takes would never fill the battery.
-    return std::isfinite(hours) ? BatteryTime::fractionalHours(hours) : timeRemaining();
+    return std::isfinite(hours) ? BatteryTime::fractionalHours(hours) : BatteryTime();
 }
 
 BatteryTime BatteryData::estimatedTimeToEmpty() const

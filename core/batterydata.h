@@ -34,6 +34,7 @@ class BatteryData : public QObject
     Q_PROPERTY(ferrin::TimeQuality timeRemainingQuality READ timeRemainingQuality NOTIFY
                    timeRemainingQualityChanged)
     Q_PROPERTY(QVariant charge READ chargeValue NOTIFY chargeChanged)
+    Q_PROPERTY(QVariant chargeLimit READ chargeLimitValue NOTIFY chargeLimitChanged)
     Q_PROPERTY(QVariant chargeCycles READ chargeCyclesValue NOTIFY chargeCyclesChanged)
     Q_PROPERTY(QVariant designCycles READ designCyclesValue NOTIFY designCyclesChanged)
     Q_PROPERTY(QVariant rawMaxCapacity READ rawMaxCapacityValue NOTIFY rawMaxCapacityChanged)
@@ -61,6 +62,8 @@ public:
     [[nodiscard]] TimeQuality timeRemainingQuality() const { return m_timeRemainingQuality; }
     /// Percent, 0 to 100.
     [[nodiscard]] std::optional<qint64> charge() const { return m_charge; }
+    /// Where a held battery is held, percent; absent when it is held for another reason.
+    [[nodiscard]] std::optional<qint64> chargeLimit() const { return m_chargeLimit; }
     /// Counted so far.
     [[nodiscard]] std::optional<qint64> chargeCycles() const { return m_chargeCycles; }
     /// What the battery is designed for.
@@ -87,8 +90,8 @@ public:
     [[nodiscard]] BatteryLifespan lifespan() const;
     /// The minutes of `timeRemaining` as two digits, or "??".
     [[nodiscard]] QString timeRemainingMinutesText() const;
-    /// Our own estimate, from the adapter's current or from a fixed one. While it cannot be made it
-    /// is the time that stands.
+    /// Our own estimate, from the adapter's current or from a fixed one. Without a charge it is the
+    /// time that stands; an adapter that leaves nothing for the battery gives none.
     [[nodiscard]] BatteryTime estimatedTimeToFull() const;
     /// Our own estimate, at a fixed load. While it cannot be made it is the time that stands.
     [[nodiscard]] BatteryTime estimatedTimeToEmpty() const;
@@ -99,6 +102,7 @@ public:
     void setTimeRemaining(BatteryTime value) { m_timeRemaining = value; }
     void setTimeRemainingQuality(TimeQuality value) { m_timeRemainingQuality = value; }
     void setCharge(std::optional<qint64> value) { m_charge = value; }
+    void setChargeLimit(std::optional<qint64> value) { m_chargeLimit = value; }
     void setChargeCycles(std::optional<qint64> value) { m_chargeCycles = value; }
     void setDesignCycles(std::optional<qint64> value) { m_designCycles = value; }
     void setRawMaxCapacity(std::optional<qint64> value) { m_rawMaxCapacity = value; }
@@ -119,6 +123,7 @@ Q_SIGNALS:
     void timeRemainingChanged();
     void timeRemainingQualityChanged();
     void chargeChanged();
+    void chargeLimitChanged();
     void chargeCyclesChanged();
     void designCyclesChanged();
     void rawMaxCapacityChanged();
@@ -131,6 +136,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QVariant chargeValue() const { return toVariant(charge()); }
+    [[nodiscard]] QVariant chargeLimitValue() const { return toVariant(chargeLimit()); }
     [[nodiscard]] QVariant chargeCyclesValue() const { return toVariant(chargeCycles()); }
     [[nodiscard]] QVariant designCyclesValue() const { return toVariant(designCycles()); }
     [[nodiscard]] QVariant rawMaxCapacityValue() const { return toVariant(rawMaxCapacity()); }
@@ -158,6 +164,8 @@ private:
                                          &BatteryData::timeRemainingQualityChanged)
     Q_OBJECT_BINDABLE_PROPERTY(BatteryData, std::optional<qint64>, m_charge,
                                &BatteryData::chargeChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(BatteryData, std::optional<qint64>, m_chargeLimit,
+                               &BatteryData::chargeLimitChanged)
     Q_OBJECT_BINDABLE_PROPERTY(BatteryData, std::optional<qint64>, m_chargeCycles,
                                &BatteryData::chargeCyclesChanged)
     Q_OBJECT_BINDABLE_PROPERTY(BatteryData, std::optional<qint64>, m_designCycles,

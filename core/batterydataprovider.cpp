@@ -60,12 +60,22 @@ BatteryDataProvider &BatteryDataProvider::shared()
 
 void BatteryDataProvider::updatePeriodicData()
 {
+    update(Refresh::Timed);
+}
+
+void BatteryDataProvider::updateEarly()
+{
+    update(Refresh::Early);
+}
+
+void BatteryDataProvider::update(Refresh refresh)
+{
     m_data.setCharge(registryValue<qint64>(SmartBatteryKey::charge));
     m_data.setRawMaxCapacity(registryValue<qint64>(SmartBatteryKey::appleRawMaxCapacity));
     updatePowerSource();
-    m_data.setChargingStatus(chargingStatusNow());
+    updateChargingStatus();
     updateAdapterDetails();
-    storeAdapterDetails();
+    storeAdapterDetails(refresh);
     updateTimeRemaining();
 }
 
@@ -96,6 +106,15 @@ void BatteryDataProvider::updatePowerSource()
         m_data.setPowerSource(*external ? PowerSource::external : PowerSource::battery);
 }
 
+void BatteryDataProvider::updateChargingStatus()
+{
+    const BatteryChargingStatus status = chargingStatusNow();
+    m_data.setChargeLimit(status == BatteryChargingStatus::held
+                              ? registryValue<qint64>(SmartBatteryKey::chargeLimit)
+                              : std::nullopt);
+    m_data.setChargingStatus(status);
+}
+
 BatteryChargingStatus BatteryDataProvider::chargingStatusNow() const
 {
     const auto full = registryValue<bool>(SmartBatteryKey::fullyCharged);
@@ -103,6 +122,8 @@ BatteryChargingStatus BatteryDataProvider::chargingStatusNow() const
     const auto charge = m_data.charge();
     if (!full || !charging || !charge)
         return BatteryChargingStatus::unknown;
+    if (registryValue<bool>(SmartBatteryKey::chargingHeld) == true)
+        return BatteryChargingStatus::held;
     if (*full) {
         return m_data.powerSource() == PowerSource::external ? BatteryChargingStatus::charged
                                                              : BatteryChargingStatus::discharging;
@@ -123,7 +144,7 @@ void BatteryDataProvider::updateAdapterDetails()
     m_data.setAdapterVoltage(registryValue<float>(SmartBatteryKey::adapterVoltage));
 }
 
-void BatteryDataProvider::storeAdapterDetails()
+void BatteryDataProvider::storeAdapterDetails(Refresh refresh)
 {
     if (m_data.powerSource() != PowerSource::external)
         return;
@@ -133,7 +154,8 @@ void BatteryDataProvider::storeAdapterDetails()
     }
     // The system publishes the adapter's details some seconds after it was connected.
     if (m_adapterConnectedCounter <= POWER_ADAPTER_INFO_COUNTS) {
-        m_adapterConnectedCounter = checkedAdd(m_adapterConnectedCounter, 1);
+        if (refresh == Refresh::Timed)
+            m_adapterConnectedCounter = checkedAdd(m_adapterConnectedCounter, 1);
         copyAdapterDetails();
     } else {
         neutralizeAbsentAdapterDetails();
@@ -197,10 +219,15 @@ void BatteryDataProvider::updateTimeRemaining()
         break;
     case BatteryChargingStatus::charged:
     case BatteryChargingStatus::finishingCharge:
+        m_timeIsToFull = false;
         if (const auto capacity = m_data.rawMaxCapacity()) {
             m_data.setTimeRemaining(BatteryTime::fractionalHours(static_cast<float>(*capacity)
                                                                  / assumedLoadInMilliamperes));
         }
+        break;
+    case BatteryChargingStatus::held:
+        m_timeIsToFull = false;
+        m_data.setTimeRemaining(availableTime());
         break;
     case BatteryChargingStatus::unknown:
         m_data.setTimeRemaining({});
@@ -210,23 +237,42 @@ void BatteryDataProvider::updateTimeRemaining()
 
 void BatteryDataProvider::updateRunningTime()
 {
+    const bool toFull = m_data.chargingStatus() == BatteryChargingStatus::charging;
+    // A time of the one direction is none of the other.
+    if (m_timeIsToFull != toFull && !hasNewTime())
+        m_data.setTimeRemaining({});
+    m_timeIsToFull = toFull;
     switch (m_data.timeRemainingQuality()) {
     case TimeQuality::real:
-        m_data.setTimeRemaining(timeRemainingFromRegistry());
+        m_data.setTimeRemaining(timeFromRegistry(SmartBatteryKey::timeRemaining));
         break;
     case TimeQuality::estimated:
-        m_data.setTimeRemaining(m_data.chargingStatus() == BatteryChargingStatus::charging
-                                    ? m_data.estimatedTimeToFull()
-                                    : m_data.estimatedTimeToEmpty());
+        m_data.setTimeRemaining(toFull ? m_data.estimatedTimeToFull()
+                                       : m_data.estimatedTimeToEmpty());
         break;
     case TimeQuality::frozen:
         break;
     }
 }
 
-BatteryTime BatteryDataProvider::timeRemainingFromRegistry() const
+bool BatteryDataProvider::hasNewTime() const
 {
-    const auto minutes = registryValue<qint64>(SmartBatteryKey::timeRemaining);
+    const TimeQuality quality = m_data.timeRemainingQuality();
+    return quality == TimeQuality::real
+        || (quality == TimeQuality::estimated && m_data.rawMaxCapacity() && m_data.charge());
+}
+
+BatteryTime BatteryDataProvider::availableTime() const
+{
+    const BatteryTime usual = timeFromRegistry(SmartBatteryKey::avgTimeToEmpty);
+    if (usual.hours)
+        return usual;
+    return m_data.rawMaxCapacity() ? m_data.estimatedTimeToEmpty() : BatteryTime();
+}
+
+BatteryTime BatteryDataProvider::timeFromRegistry(SmartBatteryKey key) const
+{
+    const auto minutes = registryValue<qint64>(key);
     if (!minutes)
         return {};
     return { *minutes / 60, *minutes % 60 };

@@ -69,12 +69,16 @@ public:
     }
     /// The power source of the refresh before the last.
     [[nodiscard]] PowerSource lastPowerSource() const { return m_lastPowerSource; }
-    /// How many refreshes have copied the present adapter's details, 0 to 4.
+    /// How many of the timer's refreshes have copied the present adapter's details, 0 to 4.
     [[nodiscard]] qint64 adapterConnectedCounter() const { return m_adapterConnectedCounter; }
     [[nodiscard]] const QTimer &timer() const noexcept { return m_timer; }
 
     /// The fast refresh. The timer calls it; others may, at any time.
     Q_INVOKABLE void updatePeriodicData();
+    /// The fast refresh between two of the timer's, because something has just changed. Such
+    /// changes come in bursts, so that it does not count towards the time in which the adapter's
+    /// details are copied.
+    void updateEarly();
     /// The slow refresh: blocks while the report tool runs. A caller with something to draw first
     /// queues it.
     Q_INVOKABLE void updateStaticData();
@@ -84,16 +88,23 @@ Q_SIGNALS:
     void adapterConnectedCounterChanged();
 
 private:
+    enum class Refresh { Timed, Early };
+
+    void update(Refresh refresh);
     void updatePowerSource();
     void updateAdapterDetails();
-    void storeAdapterDetails();
+    void storeAdapterDetails(Refresh refresh);
     void copyAdapterDetails();
     void neutralizeAbsentAdapterDetails();
+    void updateChargingStatus();
     void updateTimeRemaining();
     void updateRunningTime();
+    /// What the time is made of in its present quality is known.
+    [[nodiscard]] bool hasNewTime() const;
+    [[nodiscard]] BatteryTime availableTime() const;
     [[nodiscard]] BatteryChargingStatus chargingStatusNow() const;
     [[nodiscard]] TimeQuality timeQualityNow();
-    [[nodiscard]] BatteryTime timeRemainingFromRegistry() const;
+    [[nodiscard]] BatteryTime timeFromRegistry(SmartBatteryKey key) const;
 
     template <typename T>
     [[nodiscard]] std::optional<T> registryValue(SmartBatteryKey key) const;
@@ -107,6 +118,8 @@ private:
                                          &BatteryDataProvider::lastPowerSourceChanged)
     Q_OBJECT_BINDABLE_PROPERTY(BatteryDataProvider, qint64, m_adapterConnectedCounter,
                                &BatteryDataProvider::adapterConnectedCounterChanged)
+    /// The direction of the time that the snapshot holds.
+    bool m_timeIsToFull = false;
     QTimer m_timer;
     std::function<StoredData &()> m_storedData;
 };

@@ -9,8 +9,9 @@ namespace ferrin {
 enum class PowerSource { battery, external, unknown };
 
 /// What the battery is doing now. `finishingCharge`: the system reports charging while the charge
-/// already reads 100. `charged`: fully charged on external power.
-enum class BatteryChargingStatus { charging, discharging, charged, finishingCharge, unknown };
+/// already reads 100. `charged`: fully charged on external power. `held`: on external power, and
+/// kept from charging below full, usually at a limit that the user has set.
+enum class BatteryChargingStatus { charging, discharging, charged, finishingCharge, unknown, held };
 
 /// The battery's condition.
 enum class BatteryHealth { normal, service, unknown };

@@ -19,6 +19,7 @@ namespace ferrin {
     case BatteryChargingStatus::charged:
     case BatteryChargingStatus::finishingCharge:
     case BatteryChargingStatus::unknown:
+    case BatteryChargingStatus::held:
         return ItemState::charged;
     }
     Q_UNREACHABLE();

@@ -16,6 +16,7 @@ Battery::Battery(BatteryData &data, QObject *parent)
     // Compiled QML looks the type's enumerations up by its name before it asks for the singleton.
     qRegisterMetaType<Battery *>();
     connect(&data, &BatteryData::chargeChanged, this, &Battery::chargeChanged);
+    connect(&data, &BatteryData::chargeLimitChanged, this, &Battery::chargeLimitChanged);
     connect(&data, &BatteryData::timeRemainingChanged, this, &Battery::timeRemainingChanged);
     connect(&data, &BatteryData::chargingStatusChanged, this, &Battery::chargingStatusChanged);
     connect(&data, &BatteryData::powerSourceChanged, this, &Battery::powerSourceChanged);
@@ -37,6 +38,11 @@ Battery *Battery::create(QQmlEngine *engine, QJSEngine *)
 QVariant Battery::charge() const
 {
     return toVariant(m_data.charge());
+}
+
+QVariant Battery::chargeLimit() const
+{
+    return toVariant(m_data.chargeLimit());
 }
 
 QVariant Battery::hours() const

@@ -27,6 +27,8 @@ class Battery final : public QObject
     Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
     /// Percent, 0 to 100.
     Q_PROPERTY(QVariant charge READ charge NOTIFY chargeChanged)
+    /// Where a held battery is held, percent; undefined when it is held for another reason.
+    Q_PROPERTY(QVariant chargeLimit READ chargeLimit NOTIFY chargeLimitChanged)
     /// Of the remaining time.
     Q_PROPERTY(QVariant hours READ hours NOTIFY timeRemainingChanged)
     Q_PROPERTY(QVariant minutes READ minutes NOTIFY timeRemainingChanged)
@@ -46,6 +48,7 @@ public:
         Charged = int(BatteryChargingStatus::charged),
         FinishingCharge = int(BatteryChargingStatus::finishingCharge),
         Unknown = int(BatteryChargingStatus::unknown),
+        Held = int(BatteryChargingStatus::held),
     };
     Q_ENUM(ChargingStatus)
 
@@ -78,6 +81,7 @@ public:
     static Battery *create(QQmlEngine *engine, QJSEngine *);
 
     [[nodiscard]] QVariant charge() const;
+    [[nodiscard]] QVariant chargeLimit() const;
     [[nodiscard]] QVariant hours() const;
     [[nodiscard]] QVariant minutes() const;
     [[nodiscard]] ChargingStatus chargingStatus() const;
@@ -90,6 +94,7 @@ public:
 
 Q_SIGNALS:
     void chargeChanged();
+    void chargeLimitChanged();
     void timeRemainingChanged();
     void chargingStatusChanged();
     void powerSourceChanged();

@@ -24,23 +24,46 @@ QString chargeTextOf(const BatteryData &data)
     return charge ? QString::number(*charge) : u"??"_s;
 }
 
+/// A full battery is at 100 whatever the gauge says; one that is held is where it is, and where
+/// neither state nor charge is known nothing is claimed.
+QString restingChargeText(const BatteryData &data)
+{
+    const BatteryChargingStatus status = data.chargingStatus();
+    const bool isKnownFull = status != BatteryChargingStatus::unknown || data.charge().has_value();
+    const bool isHeld = status == BatteryChargingStatus::held;
+    return isKnownFull && !isHeld ? u"100"_s : chargeTextOf(data);
+}
+
 QString timeTextOf(const BatteryData &data)
 {
     const auto hours = data.timeRemaining().hours;
     return (hours ? QString::number(*hours) : u"?"_s) + u':' + data.timeRemainingMinutesText();
 }
 
-QString nameOf(ItemState state)
+QString nameOf(BatteryChargingStatus status)
 {
-    switch (state) {
-    case ItemState::discharging:
-        return u"Discharging"_s;
-    case ItemState::charging:
+    switch (status) {
+    case BatteryChargingStatus::charging:
         return u"Charging"_s;
-    case ItemState::charged:
+    case BatteryChargingStatus::discharging:
+        return u"Discharging"_s;
+    case BatteryChargingStatus::charged:
+    case BatteryChargingStatus::finishingCharge:
         return u"Charged"_s;
+    case BatteryChargingStatus::unknown:
+        return u"Battery state unknown"_s;
+    case BatteryChargingStatus::held:
+        return u"Not charging"_s;
     }
     Q_UNREACHABLE();
+}
+
+QString heldSentence(const ItemContent &content)
+{
+    const QString why = content.heldAtLimit ? u"held at its limit"_s : u"not charging"_s;
+    if (content.charge)
+        return *content.charge + u"%, "_s + why;
+    return content.heldAtLimit ? u"Held at its limit"_s : nameOf(content.status);
 }
 
 /// The seven mixes, in words of the views.
@@ -87,7 +110,10 @@ ItemContent contentFor(const BatteryData &data, const DisplaySwitches &switches,
     const ItemState state = itemStateOf(status);
     const ItemElements shown = shownElements(state, switchedOnFor(state, switches));
 
-    ItemContent content { .status = status, .hasBattery = connected };
+    ItemContent content { .status = status,
+                          .hasBattery = connected,
+                          .heldAtLimit = status == BatteryChargingStatus::held
+                              && data.chargeLimit().has_value() };
     if (shown.icon) {
         content.icon = IconElement { .charge = double(data.charge().value_or(50)),
                                      .status = status,
@@ -96,7 +122,7 @@ ItemContent contentFor(const BatteryData &data, const DisplaySwitches &switches,
             content.icon->icon = bindableIconSelected(state, settings).value();
     }
     if (shown.charge)
-        content.charge = state == ItemState::charged ? u"100"_s : chargeTextOf(data);
+        content.charge = state == ItemState::charged ? restingChargeText(data) : chargeTextOf(data);
     if (shown.time)
         content.time = timeTextOf(data);
     return content;
@@ -118,6 +144,10 @@ QString sentenceFor(const ItemContent &content)
 {
     if (!content.hasBattery)
         return u"No battery"_s;
+    if (content.status == BatteryChargingStatus::held)
+        return heldSentence(content);
+    if (content.charge == u"??"_s && content.status == BatteryChargingStatus::unknown)
+        return nameOf(content.status);
     QStringList parts;
     if (content.charge)
         parts << *content.charge + u'%';
@@ -125,7 +155,7 @@ QString sentenceFor(const ItemContent &content)
         parts << *content.time
                 + (content.status == BatteryChargingStatus::charging ? u" to full"_s
                                                                      : u" to empty"_s);
-    return parts.isEmpty() ? nameOf(itemStateOf(content.status)) : parts.join(u", "_s);
+    return parts.isEmpty() ? nameOf(content.status) : parts.join(u", "_s);
 }
 
 } // namespace ferrin

@@ -44,6 +44,8 @@ struct ItemContent
     std::optional<QString> time = {};
     /// The machine has a battery service.
     bool hasBattery = true;
+    /// The battery is held, and at a limit that is known.
+    bool heldAtLimit = false;
 
     bool operator==(const ItemContent &) const = default;
 };
@@ -80,8 +82,9 @@ struct ItemElements
 [[nodiscard]] AnyView viewFor(const IconElement &element);
 
 /// What the item shows, in words: charge then time, only those that are shown ("37%, 4:29 to
-/// empty", "78%, 0:52 to full", "100%"); with the icon alone the state ("Discharging"); "No
-/// battery" without a battery service.
+/// empty", "78%, 0:52 to full", "100%", "80%, held at its limit"); with the icon alone the state
+/// ("Discharging"); "Battery state unknown" where not even the charge is known; "No battery"
+/// without a battery service.
 [[nodiscard]] QString sentenceFor(const ItemContent &content);
 
 } // namespace ferrin

@@ -24,6 +24,7 @@ public:
         Charged = int(BatteryChargingStatus::charged),
         FinishingCharge = int(BatteryChargingStatus::finishingCharge),
         Unknown = int(BatteryChargingStatus::unknown),
+        Held = int(BatteryChargingStatus::held),
     };
     Q_ENUM(Status)
 

@@ -44,6 +44,7 @@ QVariant BatteryDataFromIOService::value(SmartBatteryKey key) const
     case SmartBatteryKey::externalConnected:
     case SmartBatteryKey::isCharging:
     case SmartBatteryKey::fullyCharged:
+    case SmartBatteryKey::chargingHeld:
         return only<bool>(property(key));
     case SmartBatteryKey::appleRawCurrentCapacity:
     case SmartBatteryKey::appleRawMaxCapacity:
@@ -55,6 +56,7 @@ QVariant BatteryDataFromIOService::value(SmartBatteryKey key) const
     case SmartBatteryKey::timeRemaining:
     case SmartBatteryKey::avgTimeToEmpty:
     case SmartBatteryKey::avgTimeToFull:
+    case SmartBatteryKey::chargeLimit:
         return only<qint64>(property(key));
     case SmartBatteryKey::temperature:
     case SmartBatteryKey::temperatureInC:

@@ -38,6 +38,8 @@ const QString &rawValue(SmartBatteryKey key)
         u"Manufacturer"_s,
         u"Current"_s,
         u"AdapterVoltage"_s,
+        u"ChargingHeld"_s,
+        u"ChargeLimit"_s,
     };
     return rawValues.at(static_cast<std::size_t>(key));
 }

@@ -39,9 +39,13 @@ enum class SmartBatteryKey {
     manufacturer,
     current,
     adapterVoltage,
+    /// Boolean: the battery is on external power and kept from charging below full.
+    chargingHeld,
+    /// Percent: the limit that it is held at.
+    chargeLimit,
 };
 
-inline constexpr std::size_t smartBatteryKeyCount = 25;
+inline constexpr std::size_t smartBatteryKeyCount = 27;
 
 /// Valid for the life of the process. Does not allocate.
 [[nodiscard]] const QString &rawValue(SmartBatteryKey key);

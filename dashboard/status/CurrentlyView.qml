@@ -10,6 +10,8 @@ CardView {
     id: root
 
     required property int status
+    // Where a held battery is held; undefined when it is held for another reason.
+    property var limit
 
     title: "Battery is"
     isKnown: status !== Battery.ChargingStatus.Unknown
@@ -32,6 +34,8 @@ CardView {
             return "Charged";
         case Battery.ChargingStatus.FinishingCharge:
             return "Finishing charge";
+        case Battery.ChargingStatus.Held:
+            return limit === undefined ? "Not charging" : `Held at ${limit}%`;
         default:
             return "";
         }
@@ -43,6 +47,8 @@ CardView {
             return "arrow.down";
         case Battery.ChargingStatus.Charging:
             return "arrow.up";
+        case Battery.ChargingStatus.Held:
+            return "pause";
         default:
             return "arrow.up.to.line";
         }

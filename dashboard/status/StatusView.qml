@@ -35,6 +35,7 @@ Column {
             id: currently
 
             status: Battery.chargingStatus
+            limit: Battery.chargeLimit
             KeyNavigation.right: powerSource
         }
 

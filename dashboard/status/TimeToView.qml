@@ -4,16 +4,17 @@
 import QtQuick
 import Ferrin.Dashboard
 
-// The card of the time to empty or to full. On a full battery it is the time that the charge would
-// last, which takes an explanation.
+// The card of the time to empty or to full. On a battery that is full, or held, it is the time that
+// the charge would last, which takes an explanation.
 CardView {
     id: root
 
     required property int chargeStatus
     // Its hours and minutes, either undefined while unknown.
     required property var time
-    readonly property bool isFull: chargeStatus === Battery.ChargingStatus.Charged
+    readonly property bool isResting: chargeStatus === Battery.ChargingStatus.Charged
         || chargeStatus === Battery.ChargingStatus.FinishingCharge
+        || chargeStatus === Battery.ChargingStatus.Held
 
     isKnown: chargeStatus !== Battery.ChargingStatus.Unknown
         && time.hours !== undefined && time.minutes !== undefined
@@ -24,7 +25,7 @@ CardView {
         hours: root.time.hours ?? 0
         minutes: root.time.minutes ?? 0
     }
-    moreInfoView: isFull ? moreInfo : null
+    moreInfoView: isResting ? moreInfo : null
 
     function titleOf(status: int): string {
         switch (status) {

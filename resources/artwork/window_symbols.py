@@ -222,6 +222,7 @@ def symbols():
         "heart.fill": heart_fill(),
         "info.circle.fill": out_of_disc(*letter_i),
         "link": link(),
+        "pause": sign(14, [line((4.5, 3.75), (4.5, 14.25)), line((9.5, 3.75), (9.5, 14.25))]),
         "person.text.rectangle": person_text_rectangle(),
         "plus": sign(16, [line((8, 2), (8, 16)), line((1, 9), (15, 9))]),
         "power": power(),

@@ -67,6 +67,7 @@ class TestAdapterStorage : public QObject
 
 private Q_SLOTS:
     void leavesTheStoreAloneOnBatteryPower();
+    void copiesInEarlyRefreshesWithoutCountingThem();
     void leavesTheStoreAloneOnUnknownPower();
     void deletesAnEarlierAdapterWhenLaunchedOnExternalPower();
     void copiesTheLiveDetailsInTheirOrder();
@@ -324,6 +325,23 @@ void TestAdapterStorage::asksForTheStoredDataOnlyOnExternalPower()
     bench.plugIn();
     bench.refresh();
     QVERIFY(bench.storedDataAccesses > 0);
+}
+
+void TestAdapterStorage::copiesInEarlyRefreshesWithoutCountingThem()
+{
+    ProviderBench bench;
+    bench.plugIn();
+    bench.setAdapter({ { u"Watts"_s, 15 } });
+    bench.start();
+    bench.log.ignoreRest();
+    QCOMPARE(bench.provider->adapterConnectedCounter(), 1);
+    // The contract of a USB-C port is made in many small steps.
+    for (int i = 0; i < 10; ++i)
+        bench.provider->updateEarly();
+    QCOMPARE(bench.provider->adapterConnectedCounter(), 1);
+    bench.setAdapter({ { u"Watts"_s, 65 } });
+    bench.provider->updateEarly();
+    QCOMPARE(bench.storedData.adapterWatts(), 65);
 }
 
 FERRIN_TEST(QCoreApplication, TestAdapterStorage)

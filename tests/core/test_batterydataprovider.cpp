@@ -110,9 +110,9 @@ void TestBatteryDataProvider::looksUpItsValuesInTheirOrder()
     bench.refresh();
     const QStringList expected {
         u"CurrentCapacity"_s, u"MaxCapacity"_s,    u"AppleRawMaxCapacity"_s, u"ExternalConnected"_s,
-        u"FullyCharged"_s,    u"IsCharging"_s,     u"AdapterDetails"_s,      u"AdapterDetails"_s,
-        u"AdapterDetails"_s,  u"AdapterDetails"_s, u"AdapterDetails"_s,      u"TimeRemaining"_s,
-        u"TimeRemaining"_s,
+        u"FullyCharged"_s,    u"IsCharging"_s,     u"ChargingHeld"_s,        u"AdapterDetails"_s,
+        u"AdapterDetails"_s,  u"AdapterDetails"_s, u"AdapterDetails"_s,      u"AdapterDetails"_s,
+        u"TimeRemaining"_s,   u"TimeRemaining"_s,
     };
     QCOMPARE(bench.registry.lookups, expected);
 }

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void estimatesTheTimeToFullWhileTheSystemIsStillCalculating();
     void keepsTheTimeThatStandsWhenItCannotEstimate();
     void keepsTheTimeWhenBothEstimatesAreZero();
+    void tellsTheTimeAvailableOnAHeldBattery();
     void knowsHowLongAFullBatteryLasts_data();
     void knowsHowLongAFullBatteryLasts();
     void keepsTheTimeOfAFullBatteryOfUnknownCapacity();
@@ -143,9 +144,10 @@ void TestTimeRemaining::keepsTheLastTimeWhileTheSourcesDisagree()
     bench.refresh();
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 2, 15 }));
     bench.set("ExternalConnected", false);
+    // A time to empty is none to full.
     bench.set("IsCharging", true);
     bench.refresh();
-    QVERIFY(bench.data->timeRemaining() == (BatteryTime { 2, 15 }));
+    QVERIFY(bench.data->timeRemaining() == BatteryTime());
     bench.set("IsCharging", false);
     bench.refresh();
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 0, 50 }));
@@ -311,7 +313,26 @@ void TestTimeRemaining::keepsTheTimeWhenBothEstimatesAreZero()
     putInto(bench, State::charging);
     bench.refresh();
     QCOMPARE(bench.data->timeRemainingQuality(), TimeQuality::frozen);
-    QVERIFY(bench.data->timeRemaining() == (BatteryTime { 2, 15 }));
+    QVERIFY(bench.data->timeRemaining() == BatteryTime());
+}
+
+void TestTimeRemaining::tellsTheTimeAvailableOnAHeldBattery()
+{
+    ProviderBench bench;
+    bench.set("ExternalConnected", true);
+    bench.set("ChargingHeld", true);
+    bench.set("ChargeLimit", 80);
+    bench.remove("TimeRemaining");
+    bench.start();
+    bench.log.ignoreRest();
+    QCOMPARE(bench.data->chargingStatus(), BatteryChargingStatus::held);
+    QCOMPARE(bench.data->chargeLimit(), 80);
+    // 80 % of 6000 mAh at 300 mA.
+    QVERIFY(bench.data->timeRemaining() == (BatteryTime { 16, 0 }));
+    // At the usual draw, where one is known.
+    bench.set("AvgTimeToEmpty", 310);
+    bench.refresh();
+    QVERIFY(bench.data->timeRemaining() == (BatteryTime { 5, 10 }));
 }
 
 void TestTimeRemaining::knowsHowLongAFullBatteryLasts_data()

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void hasAnUnknownCardTitledTimeForAnUnknownStatus();
     void saysWhatTheBatteryIsDoing_data();
     void saysWhatTheBatteryIsDoing();
+    void saysWhereABatteryIsHeld();
     void readsChargedOnAFullBattery();
     void showsTheAdapterAsABolt();
     void showsTheBatteryWithItsCharge();
@@ -196,6 +197,8 @@ void StatusViewTest::saysWhatTheBatteryIsDoing_data()
                              << QByteArray("greenIcon") << u"Charged"_s;
     QTest::newRow("finishing") << BatteryChargingStatus::finishingCharge << u"arrow.up.to.line"_s
                                << QByteArray("greenIcon") << u"Finishing charge"_s;
+    QTest::newRow("held") << BatteryChargingStatus::held << u"pause"_s << QByteArray("greenIcon")
+                          << u"Not charging"_s;
     QTest::newRow("unknown") << BatteryChargingStatus::unknown << u"questionmark.circle"_s
                              << QByteArray("unknownColor") << u"Unknown"_s;
 }
@@ -211,6 +214,17 @@ void StatusViewTest::saysWhatTheBatteryIsDoing()
     QCOMPARE(textsOf(tile), QStringList({ u"Battery is"_s, text }));
     QCOMPARE(imagesOf(tile), QStringList { symbol + u" 18 "_s + m_stage->colour(colour) });
     QVERIFY(!moreInfoButton(tile));
+}
+
+void StatusViewTest::saysWhereABatteryIsHeld()
+{
+    m_stage->data.setCharge(80);
+    m_stage->data.setChargeLimit(80);
+    m_stage->data.setChargingStatus(BatteryChargingStatus::held);
+    m_stage->data.setTimeRemaining({ 5, 10 });
+    QCOMPARE(textsOf(cardOf("CurrentlyView")), QStringList({ u"Battery is"_s, u"Held at 80%"_s }));
+    QCOMPARE(textsOf(cardOf("TimeToView")).constFirst(), u"Time available"_s);
+    QVERIFY(moreInfoButton(cardOf("TimeToView")));
 }
 
 void StatusViewTest::readsChargedOnAFullBattery()

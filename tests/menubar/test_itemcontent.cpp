@@ -159,6 +159,26 @@ private Q_SLOTS:
         QVERIFY(viewFor(contentOf(sources)) == AnyView(MenuBarTimeView { u"0:52"_s }));
     }
 
+    void heldReadsTheChargeAsMeasuredAndNoTime()
+    {
+        ItemSources sources;
+        sources.show(BatteryChargingStatus::held, 80, { 5, 10 });
+        sources.data().setChargeLimit(80);
+        QCOMPARE(contentOf(sources).charge, u"80"_s);
+        QCOMPARE(contentOf(sources).time, std::nullopt);
+        QCOMPARE(sentenceFor(contentOf(sources)), u"80%, held at its limit"_s);
+        sources.data().setChargeLimit({});
+        QCOMPARE(sentenceFor(contentOf(sources)), u"80%, not charging"_s);
+    }
+
+    void claimsNothingOfABatteryThatSaysNothing()
+    {
+        ItemSources sources;
+        sources.show(unknown, {});
+        QCOMPARE(contentOf(sources).charge, u"??"_s);
+        QCOMPARE(sentenceFor(contentOf(sources)), u"Battery state unknown"_s);
+    }
+
     void chargedReadsOneHundredWhateverWasMeasured_data()
     {
         QTest::addColumn<std::optional<qint64>>("measured");

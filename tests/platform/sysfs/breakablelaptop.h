@@ -34,7 +34,8 @@ inline void expectTheLaptop(Laptop &laptop)
 {
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 50);
     QCOMPARE(laptop.said(u"AppleRawMaxCapacity").toInt(), 5000);
-    QCOMPARE(laptop.said(u"TimeRemaining").toInt(), 150);
+    // The shown time runs down by itself while nothing contradicts it.
+    QVERIFY(std::abs(laptop.said(u"TimeRemaining").toInt() - 150) <= 8);
     QCOMPARE(laptop.said(u"ExternalConnected"), QVariant(false));
 }
 

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void goesByTheBatteriesWhereMainsDisagree_data();
     void goesByTheBatteriesWhereMainsDisagree();
     void isExternalWhileABatteryDischargesOnAWeakCharger();
+    void doesNotLetAPortThatStaysOnlineOutvoteTheRest();
 };
 
 namespace {
@@ -110,8 +111,20 @@ void ExternalPowerTest::goesByTheBatteriesWhereMainsDisagree()
 void ExternalPowerTest::isExternalWhileABatteryDischargesOnAWeakCharger()
 {
     PowerSupplies supplies;
-    supplies.adapters = { adapter(SupplyType::Mains, 0), adapter(SupplyType::Usb, 2) };
+    supplies.adapters = { adapter(SupplyType::Usb, 2) };
     supplies.batteries = { battery(discharging) };
+    QCOMPARE(externalConnected(supplies), true);
+    supplies.adapters = { adapter(SupplyType::Mains, 1), adapter(SupplyType::Usb, 2) };
+    QCOMPARE(externalConnected(supplies), true);
+}
+
+void ExternalPowerTest::doesNotLetAPortThatStaysOnlineOutvoteTheRest()
+{
+    PowerSupplies supplies;
+    supplies.adapters = { adapter(SupplyType::Mains, 0), adapter(SupplyType::Usb, 1) };
+    supplies.batteries = { battery(discharging) };
+    QCOMPARE(externalConnected(supplies), false);
+    supplies.batteries = { battery(ChargeStatus::NotCharging) };
     QCOMPARE(externalConnected(supplies), true);
 }
 

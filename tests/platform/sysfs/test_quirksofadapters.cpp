@@ -152,6 +152,7 @@ void TestQuirksOfAdapters::livesWithoutOffers()
 {
     Laptop laptop("hp-snapdragon-x2-glymur");
     laptop.sysfs.set(u"ucsi-source-psy-2"_s, u"online"_s, "1");
+    laptop.sysfs.set(u"qcom-battmgr-bat"_s, u"status"_s, "Charging");
     laptop.sysfs.writeDirectory(u"class/typec/port1-partner/usb_power_delivery"_s);
     QVERIFY(laptop.fresh(u"AdapterDetails").isValid());
     QVERIFY(laptop.adapter().isEmpty());

@@ -34,7 +34,7 @@ private Q_SLOTS:
     void readsWithoutAnEventLoop();
     void hasTimesOnlyInTheirDirection();
     void hasNoTimeWhenHeldOnExternalPower();
-    void startsTheSmoothingAnewWhenUnplugged();
+    void isCalmWhileTheLoadJumps();
 };
 
 namespace {
@@ -158,6 +158,8 @@ void TestSysfsRegistry::readsEachFileOnceForAllLookUpsOfATurn()
     Laptop laptop;
     makeLaptop(laptop.sysfs);
     laptop.sysfs.set(u"ucsi"_s, u"online"_s, "1");
+    // The first look learns which batteries these are.
+    static_cast<void>(laptop.fresh(u"CurrentCapacity"));
     OpenCounter counter(laptop.sysfs.path({}));
     for (int turn = 0; turn < 3; ++turn) {
         laptop.registry().expire();
@@ -229,8 +231,8 @@ void TestSysfsRegistry::hasTimesOnlyInTheirDirection()
     QVERIFY(!laptop.said(u"AvgTimeToFull").isValid());
     laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Charging");
     laptop.sysfs.set(u"BAT0"_s, u"power_now"_s, "20000000");
-    QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 75);
-    QCOMPARE(laptop.said(u"AvgTimeToFull").toInt(), 75);
+    QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 131);
+    QCOMPARE(laptop.said(u"AvgTimeToFull").toInt(), 131);
     QVERIFY(!laptop.said(u"AvgTimeToEmpty").isValid());
 }
 
@@ -243,7 +245,7 @@ void TestSysfsRegistry::hasNoTimeWhenHeldOnExternalPower()
     QVERIFY(laptop.absent(u"TimeRemaining"));
 }
 
-void TestSysfsRegistry::startsTheSmoothingAnewWhenUnplugged()
+void TestSysfsRegistry::isCalmWhileTheLoadJumps()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -251,10 +253,6 @@ void TestSysfsRegistry::startsTheSmoothingAnewWhenUnplugged()
     laptop.pass(5s);
     laptop.sysfs.set(u"BAT0"_s, u"power_now"_s, "25000000");
     QVERIFY(laptop.fresh(u"TimeRemaining").toInt() > 145);
-    laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Charging");
-    QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 60);
-    laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Discharging");
-    QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 60);
 }
 
 FERRIN_TEST(QCoreApplication, TestSysfsRegistry)

@@ -33,6 +33,22 @@ bool isTypeC(std::string_view usbType)
     return usbType == "C" || usbType.starts_with("PD");
 }
 
+// Mains are online and the USB ports, which this machine does tell of, are not: what a port's
+// partner offers is not what feeds the machine.
+bool isBarrel(const std::vector<AdapterSupply> &adapters)
+{
+    bool mains = false;
+    bool ports = false;
+    bool fedByPort = false;
+    for (const AdapterSupply &adapter : adapters) {
+        const bool isPort = adapter.type == SupplyType::Usb;
+        mains |= adapter.type == SupplyType::Mains && isOnline(adapter);
+        ports |= isPort;
+        fedByPort |= isPort && isOnline(adapter);
+    }
+    return mains && ports && !fedByPort;
+}
+
 std::optional<Offer> statedMaximum(const AdapterSupply &adapter)
 {
     const Reading volts = milli(adapter.voltageMax ? adapter.voltageMax : adapter.voltageMaxDesign);
@@ -117,7 +133,7 @@ QVariantMap adapterDetails(const std::vector<AdapterSupply> &adapters, const Ada
         if (better)
             offer = candidate;
     }
-    if (!offer)
+    if (!offer && !isBarrel(adapters))
         offer = hints.partner.greatest;
     if (const Reading watts = wattsOf(adapters, hints, offer))
         details.insert(rawValue(SmartBatteryKey::watts), *watts);
@@ -129,7 +145,7 @@ QVariantMap adapterDetails(const std::vector<AdapterSupply> &adapters, const Ada
         insertName(details, rawValue(SmartBatteryKey::name), nameOf(best->modelName));
         insertName(details, rawValue(SmartBatteryKey::manufacturer), nameOf(best->manufacturer));
     }
-    if (!details.contains(rawValue(SmartBatteryKey::manufacturer)))
+    if (!details.contains(rawValue(SmartBatteryKey::manufacturer)) && !isBarrel(adapters))
         insertName(details, rawValue(SmartBatteryKey::manufacturer), hints.partnerMaker);
     return details;
 }

@@ -70,7 +70,9 @@ std::optional<bool> externalConnected(const PowerSupplies &supplies)
         return byStatus(votes);
     if (votes.charging && !votes.discharging)
         return true;
-    if (online.mainsOnline && online.mainsOffline && !online.otherOnline)
+    const bool mainsDisagree = online.mainsOnline && online.mainsOffline && !online.otherOnline;
+    const bool onlyOtherOnline = online.otherOnline && online.mainsOffline && !online.mainsOnline;
+    if (mainsDisagree || onlyOtherOnline)
         return !votes.discharging || votes.charging;
     return online.mainsOnline || online.otherOnline;
 }

@@ -15,7 +15,9 @@ namespace ferrin {
 /// - Any supply that powers the system and is online (`online` is not 0; some drivers report 2)
 ///   says yes. A battery may still discharge then: a weak charger, or a controller that waits.
 /// - If several supplies of type Mains disagree, one of them always reports the same value. Then
-///   the batteries decide: while one discharges and none charges, there is no external power.
+///   the batteries decide: while one discharges and none charges, there is no external power. So
+///   they do where only a USB port says yes and the mains adapter no, because ports have been seen
+///   to stay online after they were unplugged.
 /// - A battery that charges while none discharges is fed by something, whatever the supplies say.
 /// - Without a supply that reports `online`, the batteries' status decides: Charging, Full and Not
 ///   charging happen on external power only, Discharging only without.

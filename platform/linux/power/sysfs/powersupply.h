@@ -54,6 +54,8 @@ struct BatterySupply
     Reading timeToEmptyAverage;
     Reading timeToFullNow;
     Reading timeToFullAverage;
+    /// Percent.
+    Reading chargeEndThreshold;
     /// Read only where the charge needs a witness; empty otherwise.
     std::string capacityLevel;
 
@@ -70,6 +72,7 @@ struct BatteryRecord
     Reading temperature;
     /// Raw bytes; empty when absent.
     std::string serialNumber;
+    std::string modelName;
     std::string health;
 
     bool operator==(const BatteryRecord &) const = default;

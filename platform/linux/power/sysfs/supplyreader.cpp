@@ -18,7 +18,7 @@ struct NumberAttribute
     Reading Supply::*member;
 };
 
-constexpr std::array<NumberAttribute<BatterySupply>, 13> batteryNumbers { {
+constexpr std::array<NumberAttribute<BatterySupply>, 14> batteryNumbers { {
     { "capacity", &BatterySupply::capacity },
     { "energy_now", &BatterySupply::energyNow },
     { "energy_full", &BatterySupply::energyFull },
@@ -32,6 +32,7 @@ constexpr std::array<NumberAttribute<BatterySupply>, 13> batteryNumbers { {
     { "time_to_empty_avg", &BatterySupply::timeToEmptyAverage },
     { "time_to_full_now", &BatterySupply::timeToFullNow },
     { "time_to_full_avg", &BatterySupply::timeToFullAverage },
+    { "charge_control_end_threshold", &BatterySupply::chargeEndThreshold },
 } };
 
 constexpr std::array<NumberAttribute<BatteryRecord>, 4> recordNumbers { {
@@ -136,6 +137,7 @@ SupplyReader::readRecords(const std::vector<BatterySupply> &batteries) const
         readNumbers(directory, recordNumbers, record);
         record.serialNumber = directory.read("serial_number", buffer);
         record.health = directory.read("health", buffer);
+        record.modelName = directory.read("model_name", buffer);
     }
     return records;
 }

@@ -8,6 +8,9 @@
 #include "platform/linux/power/sysfs/batteryrecords.h"
 #include "platform/linux/power/sysfs/designcycles.h"
 #include "platform/linux/power/sysfs/externalpower.h"
+#include "platform/linux/power/sysfs/heldcharge.h"
+#include "platform/linux/power/sysfs/packmoments.h"
+#include "platform/linux/power/sysfs/portablemachine.h"
 #include "sources/smartbatterykey.h"
 
 #include <QCoreApplication>
@@ -15,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 
 namespace ferrin {
 
@@ -44,11 +48,19 @@ struct SysfsRegistry::Moment
     std::optional<bool> external;
     std::optional<bool> charging;
     std::optional<bool> fullyCharged;
+    HeldCharge held;
     std::optional<Direction> direction;
     std::optional<std::chrono::minutes> time;
     std::optional<std::vector<BatteryRecord>> records;
     std::optional<QVariant> adapter;
 };
+
+std::chrono::nanoseconds sleeplessClock()
+{
+    timespec time {};
+    ::clock_gettime(CLOCK_BOOTTIME, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
 
 struct SysfsRegistry::Property
 {
@@ -59,7 +71,7 @@ struct SysfsRegistry::Property
 SysfsRegistry::SysfsRegistry(QObject *parent)
     : SysfsRegistry(
         Options { .usbVendors = { u"/usr/share/misc/usb.ids"_s, u"/usr/share/hwdata/usb.ids"_s },
-                  .now = &std::chrono::steady_clock::now },
+                  .memoryPath = MemoryStore::usualPath() },
         parent)
 {
 }
@@ -70,6 +82,7 @@ SysfsRegistry::SysfsRegistry(Options options, QObject *parent)
     , m_supplies(m_options.root)
     , m_adapters(m_options.root)
     , m_vendors(m_options.usbVendors)
+    , m_forecast(m_options.memoryPath)
 {
 }
 
@@ -83,7 +96,9 @@ RegistryService::Matching SysfsRegistry::serviceNameMatching(const QString &name
 RegistryService::Handle SysfsRegistry::matchingService(const Matching &matching)
 {
     const bool known = matching.name == "AppleSmartBattery"_L1;
-    return known && !moment().supplies.batteries.empty() ? batteryHandle : 0;
+    const bool found = known && !moment().supplies.batteries.empty();
+    // A slot may be filled later, and a driver come late.
+    return found || (known && isPortable(m_options.root)) ? batteryHandle : 0;
 }
 
 QVariant SysfsRegistry::createProperty(Handle service, const QString &key)
@@ -128,6 +143,11 @@ const SysfsRegistry::Property *SysfsRegistry::find(QStringView key)
                    [](SysfsRegistry &self) { return toVariant(self.moment().charging); } },
         Property { Key::fullyCharged,
                    [](SysfsRegistry &self) { return toVariant(self.moment().fullyCharged); } },
+        Property { Key::chargingHeld,
+                   [](SysfsRegistry &self) { return QVariant(self.moment().held.isHeld); } },
+        Property {
+            Key::chargeLimit,
+            [](SysfsRegistry &self) { return toVariant(Reading(self.moment().held.limit)); } },
         Property { Key::currentCapacity,
                    [](SysfsRegistry &self) {
                        return toVariant(Reading(chargePercent(self.moment().packs)));
@@ -170,18 +190,44 @@ std::unique_ptr<SysfsRegistry::Moment> SysfsRegistry::read()
 {
     auto moment = std::make_unique<Moment>();
     moment->supplies = m_supplies.read();
-    const auto now = m_options.now();
     std::vector<Pack> packs = packsOf(moment->supplies.batteries);
-    m_history.settle(moment->supplies.batteries, packs, now);
-    moment->packs = realPacks(std::move(packs));
+    m_history.settle(moment->supplies.batteries, packs, m_options.now());
+    moment->packs = realPacks(packs);
     moment->external = externalConnected(moment->supplies);
     moment->charging = isCharging(moment->packs);
-    moment->fullyCharged = isFullyCharged(moment->packs, moment->external);
-    moment->direction = directionOf(moment->packs, moment->charging, moment->external);
-    moment->time
-        = m_estimate.update(moment->packs, moment->direction,
-                            std::chrono::duration_cast<TimeEstimate::Time>(now.time_since_epoch()));
+    forecast(*moment, packs);
     return moment;
+}
+
+void SysfsRegistry::forecast(Moment &moment, const std::vector<Pack> &packs)
+{
+    learnKeys(moment.supplies.batteries);
+    const std::vector<PackMoment> moments = packMoments(moment.supplies.batteries, packs, m_keys);
+    moment.held = heldCharge(moment.packs, moment.external, chargePercent(moment.packs),
+                             m_forecast.limit(moments));
+    const std::optional<bool> full = isFullyCharged(moment.packs, moment.external);
+    moment.fullyCharged = full && moment.held.isHeld ? std::optional(false) : full;
+    if (!moment.held.isHeld)
+        moment.direction = directionOf(moment.packs, moment.charging, moment.external);
+    moment.time = m_forecast.update(
+        moments, moment.direction, moment.external == true,
+        { Hours(m_options.now().time_since_epoch()), Hours(m_options.elapsed()) });
+}
+
+void SysfsRegistry::learnKeys(const std::vector<BatterySupply> &batteries)
+{
+    const bool same = std::equal(
+        batteries.begin(), batteries.end(), m_names.begin(), m_names.end(),
+        [](const BatterySupply &battery, const std::string &name) { return battery.name == name; });
+    if (same)
+        return;
+    const std::vector<BatteryRecord> slow = m_supplies.readRecords(batteries);
+    m_names.clear();
+    m_keys.clear();
+    for (std::size_t index = 0; index < batteries.size(); ++index) {
+        m_names.push_back(batteries[index].name);
+        m_keys.push_back(memoryKey(batteries[index], slow[index]));
+    }
 }
 
 const SysfsRegistry::Moment &SysfsRegistry::moment()
@@ -220,6 +266,10 @@ QVariant SysfsRegistry::adapter()
 QVariant SysfsRegistry::time(std::optional<Direction> wanted)
 {
     const Moment &now = moment();
+    if (wanted == Direction::ToEmpty && !now.direction) {
+        const auto available = m_forecast.available();
+        return available ? QVariant(static_cast<qlonglong>(available->count())) : QVariant();
+    }
     if (!now.time || (wanted && now.direction != wanted))
         return {};
     return toVariant(Reading(now.time->count()));

@@ -4,10 +4,10 @@
 #pragma once
 
 #include "base/steadynow.h"
+#include "platform/linux/power/forecast/forecast.h"
 #include "platform/linux/power/sysfs/adapterreader.h"
 #include "platform/linux/power/sysfs/chargehistory.h"
 #include "platform/linux/power/sysfs/supplyreader.h"
-#include "platform/linux/power/sysfs/timeestimate.h"
 #include "platform/linux/power/sysfs/usbvendors.h"
 #include "sources/registryservice.h"
 
@@ -16,6 +16,9 @@
 #include <memory>
 
 namespace ferrin {
+
+/// CLOCK_BOOTTIME.
+[[nodiscard]] std::chrono::nanoseconds sleeplessClock();
 
 /// The registry of a Linux machine: one service, "AppleSmartBattery", which stands for all system
 /// batteries and the adapter. Its properties are computed from the kernel's power supplies. A
@@ -40,6 +43,10 @@ public:
         /// Lists of USB vendors (usb.ids); the first that exists is used.
         QStringList usbVendors;
         SteadyNow now = &std::chrono::steady_clock::now;
+        /// Like the steady clock, but goes on while the machine sleeps.
+        std::function<std::chrono::nanoseconds()> elapsed = &sleeplessClock;
+        /// Where it is kept what was learned of the batteries; empty for nowhere.
+        QString memoryPath = {};
     };
 
     explicit SysfsRegistry(QObject *parent = nullptr);
@@ -47,7 +54,7 @@ public:
     ~SysfsRegistry() override;
 
     [[nodiscard]] Matching serviceNameMatching(const QString &name) const override;
-    /// 0 also while the machine has no system battery.
+    /// 0 on a machine that neither has a system battery nor is made to have one.
     [[nodiscard]] Handle matchingService(const Matching &matching) override;
     [[nodiscard]] QVariant createProperty(Handle service, const QString &key) override;
     int release(Handle service) override;
@@ -68,6 +75,8 @@ private:
     [[nodiscard]] std::unique_ptr<Moment> read();
     [[nodiscard]] const Moment &moment();
     [[nodiscard]] const std::vector<BatteryRecord> &records();
+    void forecast(Moment &moment, const std::vector<Pack> &packs);
+    void learnKeys(const std::vector<BatterySupply> &batteries);
     [[nodiscard]] QVariant adapter();
     [[nodiscard]] QVariant time(std::optional<Direction> wanted);
     [[nodiscard]] QVariant cycleCount();
@@ -80,7 +89,10 @@ private:
     AdapterReader m_adapters;
     UsbVendors m_vendors;
     ChargeHistory m_history;
-    TimeEstimate m_estimate;
+    Forecast m_forecast;
+    /// Of the batteries of the last reading, in their order.
+    std::vector<std::string> m_names;
+    std::vector<std::string> m_keys;
     std::unique_ptr<Moment> m_moment;
     bool m_expiryPosted = false;
 };
