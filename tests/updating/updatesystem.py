@@ -13,10 +13,11 @@ import re
 import shutil
 import struct
 import subprocess
+import sys
 import threading
 import time
 
-PORT, OTHER_PORT = 8000, 8001
+PORT = 8000
 SOURCE = "/etc/apt/sources.list.d/ferrin.sources"
 OTHER_SOURCE = "/etc/apt/sources.list.d/other.list"
 KEYRING = "/usr/share/keyrings/ferrin-archive-keyring.gpg"
@@ -168,6 +169,14 @@ class Repository:
         return found
 
 
+class QuietServer(http.server.ThreadingHTTPServer):
+    """Says nothing about those who hang up: that is what is tried here."""
+
+    def handle_error(self, *_):
+        if not issubclass(sys.exc_info()[0], ConnectionError):
+            super().handle_error(*_)
+
+
 class Server:
     """Serves the repository as well or as badly as the test wants."""
 
@@ -181,7 +190,7 @@ class Server:
         self.start()
 
     def start(self):
-        self._server = http.server.ThreadingHTTPServer(("127.0.0.1", self.port), self._handler())
+        self._server = QuietServer(("127.0.0.1", self.port), self._handler())
         self._server.daemon_threads = True
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
 

@@ -31,6 +31,12 @@ QString shownVersion(const PackageId &newest, const PackageId &installed)
     return upstream == upstreamVersion(installed.version) ? newest.version : upstream;
 }
 
+/// "manual:" and the like stand before the origin of an installed package.
+QString originOf(const PackageId &package)
+{
+    return package.source.section(u':', -1);
+}
+
 } // namespace
 
 void CheckTask::start()
@@ -54,19 +60,29 @@ void CheckTask::refresh()
     });
 }
 
-void CheckTask::judge(const TransactionResult &result)
+void CheckTask::judge(const TransactionResult &refresh)
 {
-    // "manual:" and the like stand before the origin of an installed package.
-    const QString origin = m_installed.source.section(u':', -1);
+    // The installed version alone does not tell: it may be in no list any more.
+    run(u"Resolve"_s, { packagekit::noFilter, QStringList(m_installed.name) },
+        [this, refresh](const TransactionResult &known) {
+            QStringList origins;
+            for (const auto &found : known.packages)
+                origins.append(originOf(found.id));
+            judge(refresh, origins);
+        });
+}
+
+void CheckTask::judge(const TransactionResult &refresh, const QStringList &origins)
+{
     read(u"apt-get"_s,
          { u"indextargets"_s, u"--format"_s, targetsFormat, u"Created-By: Packages"_s },
-         [this, result, origin](const QByteArray &targets) {
-             if (!isOfOtherSources(result.errors, sourceNames(targets, origin))) {
-                 Q_EMIT failed(*result.trouble);
+         [this, refresh, origins](const QByteArray &targets) {
+             if (!isOfOtherSources(refresh.errors, sourceNames(targets, origins))) {
+                 Q_EMIT failed(*refresh.trouble);
                  return;
              }
              qCInfo(logger, "Another package source failed: %s",
-                    qUtf8Printable(result.trouble->detail));
+                    qUtf8Printable(refresh.trouble->detail));
              findUpdate();
          });
 }

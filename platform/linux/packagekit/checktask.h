@@ -23,7 +23,8 @@ Q_SIGNALS:
 
 private:
     void refresh();
-    void judge(const TransactionResult &result);
+    void judge(const TransactionResult &refresh);
+    void judge(const TransactionResult &refresh, const QStringList &origins);
     void findUpdate();
     [[nodiscard]] std::optional<PackageId> newestOf(const TransactionResult &updates) const;
     void describe(const PackageId &newest);

@@ -9,12 +9,23 @@ namespace ferrin {
 
 using namespace Qt::StringLiterals;
 
-QStringList sourceNames(const QByteArray &targets, const QString &origin)
+namespace {
+
+bool isOfAny(const QStringList &found, const QStringList &origins)
+{
+    return std::ranges::any_of(origins, [&](const QString &origin) {
+        return found.contains(origin, Qt::CaseInsensitive);
+    });
+}
+
+} // namespace
+
+QStringList sourceNames(const QByteArray &targets, const QStringList &origins)
 {
     QStringList names;
     for (const QString &line : QString::fromUtf8(targets).split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList words = line.split(u' ');
-        if (words.size() != 4 || !words.first(2).contains(origin, Qt::CaseInsensitive))
+        if (words.size() != 4 || !isOfAny(words.first(2), origins))
             continue;
         QString address = words[2];
         while (address.endsWith(u'/'))

@@ -13,9 +13,9 @@ namespace ferrin {
 inline const QString targetsFormat = QStringLiteral(
     "$(ORIGIN)-$(SUITE)-$(COMPONENT) $(ORIGIN)-$(CODENAME)-$(COMPONENT) $(REPO_URI) $(RELEASE)");
 
-/// The words by which apt's errors name the sources that offer packages of this origin
+/// The words by which apt's errors name the sources that offer packages of one of these origins
 /// ("debian-stable-main", as in a package id). Empty when apt knows none.
-[[nodiscard]] QStringList sourceNames(const QByteArray &targets, const QString &origin);
+[[nodiscard]] QStringList sourceNames(const QByteArray &targets, const QStringList &origins);
 
 /// Whether each error is of one certain source, and none of them of these. With no names it cannot
 /// be known and is false.

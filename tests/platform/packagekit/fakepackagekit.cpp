@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr uint installedInfo = 1;
+constexpr uint availableInfo = 2;
 // As the real one tells it, with the severity above.
 constexpr uint updateInfo = 327685;
 } // namespace
@@ -28,6 +29,12 @@ FakePackageKit::FakePackageKit(const QDBusConnection &connection)
     acts.insert(u"GetUpdates"_s, [this](const QString &path) {
         if (!offered.isEmpty())
             package(path, updateInfo, offered);
+        finish(path);
+    });
+    acts.insert(u"Resolve"_s, [this](const QString &path) {
+        package(path, installedInfo, installed);
+        if (!offered.isEmpty())
+            package(path, availableInfo, offered);
         finish(path);
     });
     acts.insert(u"GetDetails"_s, [this](const QString &path) {

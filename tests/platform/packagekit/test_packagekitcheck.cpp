@@ -134,6 +134,8 @@ private Q_SLOTS:
 
     void doesNotMindAnotherSourcesFailure()
     {
+        // The installed version is in no list any more.
+        m_bench->service.installed = u"ferrin;1.0-1;amd64;manual:local"_s;
         m_bench->outputs.insert(u"apt-get"_s, targets);
         failRefresh(u"E: http://example.net/d stable InRelease is not (yet) available (Could not "
                     "connect)\n"_s);

@@ -24,14 +24,16 @@ class TestPackageSources : public QObject
 private Q_SLOTS:
     void findsTheSourceOfAPackage()
     {
-        QCOMPARE(sourceNames(targets, u"ferrin-stable-main"_s),
+        QCOMPARE(sourceNames(targets, { u"ferrin-stable-main"_s }),
                  (QStringList { u"http://127.0.0.1:8000 stable "_s,
                                 u"http://127.0.0.1:8000/dists/stable/"_s,
                                 u"http://127.0.0.1:8000/stable"_s }));
-        QCOMPARE(sourceNames(targets, u"debian-bookworm-main"_s).constFirst(),
+        QCOMPARE(sourceNames(targets, { u"debian-bookworm-main"_s }).constFirst(),
                  u"http://deb.debian.org/debian bookworm "_s);
-        QVERIFY(sourceNames(targets, u"local"_s).isEmpty());
-        QVERIFY(sourceNames("", u"ferrin-stable-main"_s).isEmpty());
+        QVERIFY(sourceNames(targets, { u"local"_s }).isEmpty());
+        QVERIFY(sourceNames(targets, {}).isEmpty());
+        QCOMPARE(sourceNames(targets, { u"local"_s, u"ferrin-stable-main"_s }).size(), 3);
+        QVERIFY(sourceNames("", { u"ferrin-stable-main"_s }).isEmpty());
     }
 
     void tellsWhoseFailureItIs_data()
@@ -58,7 +60,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, errors);
         QFETCH(bool, isOfOthers);
-        QCOMPARE(isOfOtherSources(errors, sourceNames(targets, u"ferrin-stable-main"_s)),
+        QCOMPARE(isOfOtherSources(errors, sourceNames(targets, { u"ferrin-stable-main"_s })),
                  isOfOthers);
         QVERIFY(!isOfOtherSources(errors, {}));
     }
