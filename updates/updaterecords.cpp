@@ -10,10 +10,12 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 const QString checksKey = u"automaticallyChecksForUpdates"_s;
 const QString downloadsKey = u"automaticallyDownloadsUpdates"_s;
 const QString lastCheckKey = u"lastUpdateCheck"_s;
 const QString skippedKey = u"skippedUpdateVersion"_s;
+
 } // namespace
 
 UpdateRecords::UpdateRecords(DefaultsStore &store)

@@ -55,7 +55,7 @@ struct Stage final : ApplicationAppearance
 
 } // namespace
 
-class TestFerrinApp : public QObject
+class FerrinAppTest : public QObject
 {
     Q_OBJECT
 
@@ -83,7 +83,7 @@ private:
     int m_timesLookedAtClock = 0;
 };
 
-void TestFerrinApp::initTestCase()
+void FerrinAppTest::initTestCase()
 {
     setSharedDefaults(std::make_unique<test::MemoryDefaultsStore>());
     AppUpdater::setParts({ .store = sharedDefaults(),
@@ -98,12 +98,12 @@ void TestFerrinApp::initTestCase()
                                } });
 }
 
-void TestFerrinApp::cleanup()
+void FerrinAppTest::cleanup()
 {
     AppColor::shared().setScheme(AppColorScheme::system);
 }
 
-void TestFerrinApp::leavesTheAppearanceToTheSystemOnFirstLaunch()
+void FerrinAppTest::leavesTheAppearanceToTheSystemOnFirstLaunch()
 {
     Stage stage;
     QCOMPARE(AppColor::shared().scheme(), AppColorScheme::system);
@@ -111,7 +111,7 @@ void TestFerrinApp::leavesTheAppearanceToTheSystemOnFirstLaunch()
     QTRY_COMPARE(stage.log, QStringList({ u"follow"_s, u"fill"_s }));
 }
 
-void TestFerrinApp::appliesTheStoredSchemeBeforeItFillsTheItem()
+void FerrinAppTest::appliesTheStoredSchemeBeforeItFillsTheItem()
 {
     AppColor::shared().setScheme(AppColorScheme::dark);
     Stage stage;
@@ -119,7 +119,7 @@ void TestFerrinApp::appliesTheStoredSchemeBeforeItFillsTheItem()
     QTRY_COMPARE(stage.log, QStringList({ u"dark"_s, u"fill"_s }));
 }
 
-void TestFerrinApp::handsTheItemOverOnce()
+void FerrinAppTest::handsTheItemOverOnce()
 {
     Stage stage;
     stage.app.useStatusBar(stage.bar);
@@ -128,7 +128,7 @@ void TestFerrinApp::handsTheItemOverOnce()
     QCOMPARE(stage.log.count(u"fill"_s), 1);
 }
 
-void TestFerrinApp::fillsTheItemOfEachLaterBar()
+void FerrinAppTest::fillsTheItemOfEachLaterBar()
 {
     Stage stage;
     test::FakeStatusItem other;
@@ -147,7 +147,7 @@ void TestFerrinApp::fillsTheItemOfEachLaterBar()
     QVERIFY(stage.app.isDashboardShown());
 }
 
-void TestFerrinApp::loadsNoWindowsUntilOneOpens()
+void FerrinAppTest::loadsNoWindowsUntilOneOpens()
 {
     Stage stage;
     stage.app.useStatusBar(stage.bar);
@@ -158,7 +158,7 @@ void TestFerrinApp::loadsNoWindowsUntilOneOpens()
     QCOMPARE(stage.log.count(u"load"_s), 1);
 }
 
-void TestFerrinApp::opensAndClosesTheDashboardByTheItem()
+void FerrinAppTest::opensAndClosesTheDashboardByTheItem()
 {
     Stage stage;
     stage.app.useStatusBar(stage.bar);
@@ -173,7 +173,7 @@ void TestFerrinApp::opensAndClosesTheDashboardByTheItem()
     QVERIFY(!stage.item.highlighted);
 }
 
-void TestFerrinApp::isTrueExactlyWhileTheDashboardIsShown()
+void FerrinAppTest::isTrueExactlyWhileTheDashboardIsShown()
 {
     QStringList log;
     std::unique_ptr<Windows> windows = std::make_unique<test::FakeWindows>(log);
@@ -190,7 +190,7 @@ void TestFerrinApp::isTrueExactlyWhileTheDashboardIsShown()
     QCOMPARE(log, QStringList({ u"show"_s, u"hide"_s }));
 }
 
-void TestFerrinApp::staysClosedWhenTheWindowsAreMissing()
+void FerrinAppTest::staysClosedWhenTheWindowsAreMissing()
 {
     Stage stage;
     stage.windowsAreMissing = true;
@@ -200,14 +200,14 @@ void TestFerrinApp::staysClosedWhenTheWindowsAreMissing()
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"load"_s }));
 }
 
-void TestFerrinApp::opensTheSettingsWindowByItsIdentifier()
+void FerrinAppTest::opensTheSettingsWindowByItsIdentifier()
 {
     Stage stage;
     stage.app.openSettings();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"FerrinSettings"_s }));
 }
 
-void TestFerrinApp::startsTheUpdaterWhileItIsConstructed()
+void FerrinAppTest::startsTheUpdaterWhileItIsConstructed()
 {
     const Stage stage;
     // Nobody but the application has asked for it so far.
@@ -216,7 +216,7 @@ void TestFerrinApp::startsTheUpdaterWhileItIsConstructed()
     QVERIFY(m_engine.checks.isEmpty());
 }
 
-void TestFerrinApp::opensTheWindowOfUpdatesWhenTheUpdaterWantsIt()
+void FerrinAppTest::opensTheWindowOfUpdatesWhenTheUpdaterWantsIt()
 {
     Stage stage;
     Updater &updater = *AppUpdater::shared().controller()->updater();
@@ -225,7 +225,7 @@ void TestFerrinApp::opensTheWindowOfUpdatesWhenTheUpdaterWantsIt()
     updater.session().cancel();
 }
 
-void TestFerrinApp::isInUseWhileAnyWindowIsShown()
+void FerrinAppTest::isInUseWhileAnyWindowIsShown()
 {
     QStringList log;
     auto windows = std::make_unique<test::FakeWindows>(log);
@@ -241,5 +241,5 @@ void TestFerrinApp::isInUseWhileAnyWindowIsShown()
     QVERIFY(app.isInUse());
 }
 
-QTEST_GUILESS_MAIN(TestFerrinApp)
+QTEST_GUILESS_MAIN(FerrinAppTest)
 #include "test_ferrinapp.moc"

@@ -61,7 +61,7 @@ struct Connected : ProviderBench
 
 } // namespace
 
-class TestAdapterStorage : public QObject
+class AdapterStorageTest : public QObject
 {
     Q_OBJECT
 
@@ -86,7 +86,7 @@ private Q_SLOTS:
     void asksForTheStoredDataOnlyOnExternalPower();
 };
 
-void TestAdapterStorage::leavesTheStoreAloneOnBatteryPower()
+void AdapterStorageTest::leavesTheStoreAloneOnBatteryPower()
 {
     ProviderBench bench;
     bench.store.stored = earlier();
@@ -99,7 +99,7 @@ void TestAdapterStorage::leavesTheStoreAloneOnBatteryPower()
     QCOMPARE(bench.provider->adapterConnectedCounter(), 0);
 }
 
-void TestAdapterStorage::leavesTheStoreAloneOnUnknownPower()
+void AdapterStorageTest::leavesTheStoreAloneOnUnknownPower()
 {
     ProviderBench bench;
     bench.store.stored = earlier();
@@ -112,7 +112,7 @@ void TestAdapterStorage::leavesTheStoreAloneOnUnknownPower()
     QCOMPARE(bench.provider->adapterConnectedCounter(), 0);
 }
 
-void TestAdapterStorage::deletesAnEarlierAdapterWhenLaunchedOnExternalPower()
+void AdapterStorageTest::deletesAnEarlierAdapterWhenLaunchedOnExternalPower()
 {
     ProviderBench bench;
     bench.store.stored = earlier();
@@ -125,7 +125,7 @@ void TestAdapterStorage::deletesAnEarlierAdapterWhenLaunchedOnExternalPower()
     QCOMPARE(bench.log.take(), QStringList());
 }
 
-void TestAdapterStorage::copiesTheLiveDetailsInTheirOrder()
+void AdapterStorageTest::copiesTheLiveDetailsInTheirOrder()
 {
     const Connected bench;
     QCOMPARE(bench.store.writes, allKeys + allKeys);
@@ -136,7 +136,7 @@ void TestAdapterStorage::copiesTheLiveDetailsInTheirOrder()
     QCOMPARE(bench.storedData.adapterCurrent(), 3.25F);
 }
 
-void TestAdapterStorage::storesTheAdapterBeforeItAsksForTheTime()
+void AdapterStorageTest::storesTheAdapterBeforeItAsksForTheTime()
 {
     ProviderBench bench;
     bench.start();
@@ -152,7 +152,7 @@ void TestAdapterStorage::storesTheAdapterBeforeItAsksForTheTime()
     QCOMPARE(bench.registry.lookups.last(), u"TimeRemaining"_s);
 }
 
-void TestAdapterStorage::copiesOnFourConsecutiveRefreshes()
+void AdapterStorageTest::copiesOnFourConsecutiveRefreshes()
 {
     Connected bench;
     QCOMPARE(bench.provider->adapterConnectedCounter(), 1);
@@ -168,7 +168,7 @@ void TestAdapterStorage::copiesOnFourConsecutiveRefreshes()
     QCOMPARE(bench.storedData.adapterWatts(), 40);
 }
 
-void TestAdapterStorage::copiesDetailsThatArriveLate()
+void AdapterStorageTest::copiesDetailsThatArriveLate()
 {
     ProviderBench bench;
     bench.plugIn();
@@ -183,7 +183,7 @@ void TestAdapterStorage::copiesDetailsThatArriveLate()
     QCOMPARE(bench.storedData.adapterCurrent(), 3.25F);
 }
 
-void TestAdapterStorage::copiesAnAbsentDetailAsAbsent()
+void AdapterStorageTest::copiesAnAbsentDetailAsAbsent()
 {
     Connected bench;
     bench.setAdapter({});
@@ -194,7 +194,7 @@ void TestAdapterStorage::copiesAnAbsentDetailAsAbsent()
     QCOMPARE(bench.storedData.adapterVoltage(), std::nullopt);
 }
 
-void TestAdapterStorage::keepsAStoredCurrentThatGoesAbsent()
+void AdapterStorageTest::keepsAStoredCurrentThatGoesAbsent()
 {
     Connected bench;
     bench.setAdapter({});
@@ -203,7 +203,7 @@ void TestAdapterStorage::keepsAStoredCurrentThatGoesAbsent()
     QCOMPARE(bench.storedData.adapterCurrent(), 3.25F);
 }
 
-void TestAdapterStorage::writesNeutralValuesOnceTheFourCopiesAreMade()
+void AdapterStorageTest::writesNeutralValuesOnceTheFourCopiesAreMade()
 {
     Connected bench;
     bench.refreshTimes(3);
@@ -219,7 +219,7 @@ void TestAdapterStorage::writesNeutralValuesOnceTheFourCopiesAreMade()
     QCOMPARE(bench.storedData.adapterCurrent(), 0.0F);
 }
 
-void TestAdapterStorage::neverCopiesAPresentDetailAfterTheFourCopies()
+void AdapterStorageTest::neverCopiesAPresentDetailAfterTheFourCopies()
 {
     Connected bench;
     bench.refreshTimes(3);
@@ -236,7 +236,7 @@ void TestAdapterStorage::neverCopiesAPresentDetailAfterTheFourCopies()
     QCOMPARE(bench.storedData.adapterManufacturer(), u""_s);
 }
 
-void TestAdapterStorage::writesEachNeutralValueOnlyOnce()
+void AdapterStorageTest::writesEachNeutralValueOnlyOnce()
 {
     Connected bench;
     bench.refreshTimes(3);
@@ -249,7 +249,7 @@ void TestAdapterStorage::writesEachNeutralValueOnlyOnce()
     QCOMPARE(spy.size(), 0);
 }
 
-void TestAdapterStorage::deletesAndCountsAnewOnReconnection()
+void AdapterStorageTest::deletesAndCountsAnewOnReconnection()
 {
     Connected bench;
     bench.refreshTimes(5);
@@ -272,7 +272,7 @@ void TestAdapterStorage::deletesAndCountsAnewOnReconnection()
     QCOMPARE(bench.log.take(), QStringList());
 }
 
-void TestAdapterStorage::setsTheCounterToZeroOnlyWhenItIsNot()
+void AdapterStorageTest::setsTheCounterToZeroOnlyWhenItIsNot()
 {
     ProviderBench bench;
     bench.start();
@@ -290,7 +290,7 @@ void TestAdapterStorage::setsTheCounterToZeroOnlyWhenItIsNot()
     QCOMPARE(counts, QList<qint64>({ 1, 0, 1 }));
 }
 
-void TestAdapterStorage::takesAReturnFromUnknownPowerForAConnection()
+void AdapterStorageTest::takesAReturnFromUnknownPowerForAConnection()
 {
     Connected bench;
     bench.refreshTimes(2);
@@ -304,7 +304,7 @@ void TestAdapterStorage::takesAReturnFromUnknownPowerForAConnection()
     QCOMPARE(bench.provider->adapterConnectedCounter(), 1);
 }
 
-void TestAdapterStorage::keepsTheCounterOnBatteryPower()
+void AdapterStorageTest::keepsTheCounterOnBatteryPower()
 {
     Connected bench;
     bench.refresh();
@@ -315,7 +315,7 @@ void TestAdapterStorage::keepsTheCounterOnBatteryPower()
     QCOMPARE(bench.store.writes, QStringList());
 }
 
-void TestAdapterStorage::asksForTheStoredDataOnlyOnExternalPower()
+void AdapterStorageTest::asksForTheStoredDataOnlyOnExternalPower()
 {
     ProviderBench bench;
     bench.start();
@@ -327,7 +327,7 @@ void TestAdapterStorage::asksForTheStoredDataOnlyOnExternalPower()
     QVERIFY(bench.storedDataAccesses > 0);
 }
 
-void TestAdapterStorage::copiesInEarlyRefreshesWithoutCountingThem()
+void AdapterStorageTest::copiesInEarlyRefreshesWithoutCountingThem()
 {
     ProviderBench bench;
     bench.plugIn();
@@ -344,5 +344,5 @@ void TestAdapterStorage::copiesInEarlyRefreshesWithoutCountingThem()
     QCOMPARE(bench.storedData.adapterWatts(), 65);
 }
 
-FERRIN_TEST(QCoreApplication, TestAdapterStorage)
+FERRIN_TEST(QCoreApplication, AdapterStorageTest)
 #include "test_adapterstorage.moc"

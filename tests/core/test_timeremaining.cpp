@@ -30,7 +30,7 @@ void putInto(ProviderBench &bench, State state)
 
 } // namespace
 
-class TestTimeRemaining : public QObject
+class TimeRemainingTest : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void followsTheFreshSnapshotOfTheSameRefresh();
 };
 
-void TestTimeRemaining::judgesTheQuality_data()
+void TimeRemainingTest::judgesTheQuality_data()
 {
     QTest::addColumn<State>("state");
     QTest::addColumn<QVariant>("toEmpty");
@@ -95,7 +95,7 @@ void TestTimeRemaining::judgesTheQuality_data()
     row("unknown, one missing", State::unknown, 0, missing, estimated);
 }
 
-void TestTimeRemaining::judgesTheQuality()
+void TimeRemainingTest::judgesTheQuality()
 {
     QFETCH(const State, state);
     QFETCH(const QVariant, toEmpty);
@@ -108,7 +108,7 @@ void TestTimeRemaining::judgesTheQuality()
     QTEST(bench.data->timeRemainingQuality(), "quality");
 }
 
-void TestTimeRemaining::distrustsSourcesThatDisagree_data()
+void TimeRemainingTest::distrustsSourcesThatDisagree_data()
 {
     QTest::addColumn<QVariant>("external");
     QTest::addColumn<bool>("charging");
@@ -120,7 +120,7 @@ void TestTimeRemaining::distrustsSourcesThatDisagree_data()
     QTest::newRow("discharging on unknown power") << QVariant() << false << TimeQuality::real;
 }
 
-void TestTimeRemaining::distrustsSourcesThatDisagree()
+void TimeRemainingTest::distrustsSourcesThatDisagree()
 {
     QFETCH(const QVariant, external);
     QFETCH(const bool, charging);
@@ -133,7 +133,7 @@ void TestTimeRemaining::distrustsSourcesThatDisagree()
     QTEST(bench.data->timeRemainingQuality(), "quality");
 }
 
-void TestTimeRemaining::keepsTheLastTimeWhileTheSourcesDisagree()
+void TimeRemainingTest::keepsTheLastTimeWhileTheSourcesDisagree()
 {
     ProviderBench bench;
     bench.start();
@@ -153,7 +153,7 @@ void TestTimeRemaining::keepsTheLastTimeWhileTheSourcesDisagree()
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 0, 50 }));
 }
 
-void TestTimeRemaining::asksForNoEstimateWhereItIsFrozenAnyway()
+void TimeRemainingTest::asksForNoEstimateWhereItIsFrozenAnyway()
 {
     ProviderBench bench;
     bench.start();
@@ -171,7 +171,7 @@ void TestTimeRemaining::asksForNoEstimateWhereItIsFrozenAnyway()
     QCOMPARE(bench.powerSources.snapshots, 2);
 }
 
-void TestTimeRemaining::asksForTheTimeToFullFirst()
+void TimeRemainingTest::asksForTheTimeToFullFirst()
 {
     // The battery changes its state between the two calls.
     class Changing final : public PowerSourcesService
@@ -197,7 +197,7 @@ void TestTimeRemaining::asksForTheTimeToFullFirst()
     QCOMPARE(changing.reads, 5);
 }
 
-void TestTimeRemaining::freezesWithoutATimeInTheRegistry_data()
+void TimeRemainingTest::freezesWithoutATimeInTheRegistry_data()
 {
     QTest::addColumn<QVariant>("remaining");
     QTest::newRow("missing") << QVariant();
@@ -205,7 +205,7 @@ void TestTimeRemaining::freezesWithoutATimeInTheRegistry_data()
     QTest::newRow("a bool") << QVariant(true);
 }
 
-void TestTimeRemaining::freezesWithoutATimeInTheRegistry()
+void TimeRemainingTest::freezesWithoutATimeInTheRegistry()
 {
     QFETCH(const QVariant, remaining);
     ProviderBench bench;
@@ -218,7 +218,7 @@ void TestTimeRemaining::freezesWithoutATimeInTheRegistry()
     QVERIFY(bench.data->timeRemaining() == standing);
 }
 
-void TestTimeRemaining::writesTheQualityOnlyWhenItDiffers()
+void TimeRemainingTest::writesTheQualityOnlyWhenItDiffers()
 {
     ProviderBench bench;
     bench.start();
@@ -233,7 +233,7 @@ void TestTimeRemaining::writesTheQualityOnlyWhenItDiffers()
     QCOMPARE(spy.size(), 1);
 }
 
-void TestTimeRemaining::takesTheRegistrysTimeWhenItIsReal_data()
+void TimeRemainingTest::takesTheRegistrysTimeWhenItIsReal_data()
 {
     QTest::addColumn<State>("state");
     QTest::addColumn<int>("remaining");
@@ -247,7 +247,7 @@ void TestTimeRemaining::takesTheRegistrysTimeWhenItIsReal_data()
     QTest::newRow("the largest 16 bits") << State::charging << 65535 << BatteryTime { 1092, 15 };
 }
 
-void TestTimeRemaining::takesTheRegistrysTimeWhenItIsReal()
+void TimeRemainingTest::takesTheRegistrysTimeWhenItIsReal()
 {
     QFETCH(const State, state);
     QFETCH(const int, remaining);
@@ -264,7 +264,7 @@ void TestTimeRemaining::takesTheRegistrysTimeWhenItIsReal()
     QCOMPARE(bench.data->timeRemaining().minutes, time.minutes);
 }
 
-void TestTimeRemaining::estimatesTheTimeToEmptyWhileTheSystemIsStillCalculating()
+void TimeRemainingTest::estimatesTheTimeToEmptyWhileTheSystemIsStillCalculating()
 {
     ProviderBench bench;
     bench.setEstimates(-1, 0);
@@ -274,7 +274,7 @@ void TestTimeRemaining::estimatesTheTimeToEmptyWhileTheSystemIsStillCalculating(
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 16, 0 }));
 }
 
-void TestTimeRemaining::estimatesTheTimeToFullWhileTheSystemIsStillCalculating()
+void TimeRemainingTest::estimatesTheTimeToFullWhileTheSystemIsStillCalculating()
 {
     ProviderBench bench;
     putInto(bench, State::charging);
@@ -288,7 +288,7 @@ void TestTimeRemaining::estimatesTheTimeToFullWhileTheSystemIsStillCalculating()
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 1, 0 }));
 }
 
-void TestTimeRemaining::keepsTheTimeThatStandsWhenItCannotEstimate()
+void TimeRemainingTest::keepsTheTimeThatStandsWhenItCannotEstimate()
 {
     ProviderBench bench;
     bench.setEstimates(-1, 0);
@@ -300,7 +300,7 @@ void TestTimeRemaining::keepsTheTimeThatStandsWhenItCannotEstimate()
     QVERIFY(bench.data->timeRemaining() == standing);
 }
 
-void TestTimeRemaining::keepsTheTimeWhenBothEstimatesAreZero()
+void TimeRemainingTest::keepsTheTimeWhenBothEstimatesAreZero()
 {
     ProviderBench bench;
     bench.start();
@@ -316,7 +316,7 @@ void TestTimeRemaining::keepsTheTimeWhenBothEstimatesAreZero()
     QVERIFY(bench.data->timeRemaining() == BatteryTime());
 }
 
-void TestTimeRemaining::tellsTheTimeAvailableOnAHeldBattery()
+void TimeRemainingTest::tellsTheTimeAvailableOnAHeldBattery()
 {
     ProviderBench bench;
     bench.set("ExternalConnected", true);
@@ -335,7 +335,7 @@ void TestTimeRemaining::tellsTheTimeAvailableOnAHeldBattery()
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 5, 10 }));
 }
 
-void TestTimeRemaining::knowsHowLongAFullBatteryLasts_data()
+void TimeRemainingTest::knowsHowLongAFullBatteryLasts_data()
 {
     QTest::addColumn<State>("state");
     QTest::addColumn<int>("capacity");
@@ -351,7 +351,7 @@ void TestTimeRemaining::knowsHowLongAFullBatteryLasts_data()
     QTest::newRow("zero") << State::charged << 0 << true << BatteryTime { 0, 0 };
 }
 
-void TestTimeRemaining::knowsHowLongAFullBatteryLasts()
+void TimeRemainingTest::knowsHowLongAFullBatteryLasts()
 {
     QFETCH(const State, state);
     QFETCH(const int, capacity);
@@ -368,7 +368,7 @@ void TestTimeRemaining::knowsHowLongAFullBatteryLasts()
     QCOMPARE(bench.data->timeRemaining().minutes, time.minutes);
 }
 
-void TestTimeRemaining::keepsTheTimeOfAFullBatteryOfUnknownCapacity()
+void TimeRemainingTest::keepsTheTimeOfAFullBatteryOfUnknownCapacity()
 {
     ProviderBench bench;
     bench.start();
@@ -383,7 +383,7 @@ void TestTimeRemaining::keepsTheTimeOfAFullBatteryOfUnknownCapacity()
     QCOMPARE(spy.size(), 0);
 }
 
-void TestTimeRemaining::knowsNoTimeInAnUnknownState()
+void TimeRemainingTest::knowsNoTimeInAnUnknownState()
 {
     ProviderBench bench;
     bench.start();
@@ -394,7 +394,7 @@ void TestTimeRemaining::knowsNoTimeInAnUnknownState()
     QVERIFY(bench.data->timeRemaining() == BatteryTime());
 }
 
-void TestTimeRemaining::followsTheFreshSnapshotOfTheSameRefresh()
+void TimeRemainingTest::followsTheFreshSnapshotOfTheSameRefresh()
 {
     ProviderBench bench;
     bench.start();
@@ -407,5 +407,5 @@ void TestTimeRemaining::followsTheFreshSnapshotOfTheSameRefresh()
     QVERIFY(bench.data->timeRemaining() == (BatteryTime { 2, 0 }));
 }
 
-FERRIN_TEST(QCoreApplication, TestTimeRemaining)
+FERRIN_TEST(QCoreApplication, TimeRemainingTest)
 #include "test_timeremaining.moc"

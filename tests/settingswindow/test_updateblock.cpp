@@ -39,7 +39,7 @@ struct Block
 
 } // namespace
 
-class TestUpdateBlock : public QObject
+class UpdateBlockTest : public QObject
 {
     Q_OBJECT
 
@@ -222,5 +222,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestUpdateBlock)
+FERRIN_TEST(QGuiApplication, UpdateBlockTest)
 #include "test_updateblock.moc"

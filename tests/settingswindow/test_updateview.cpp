@@ -51,7 +51,7 @@ struct Window : test::UpdateScenes
 
 } // namespace
 
-class TestUpdateView : public QObject
+class UpdateViewTest : public QObject
 {
     Q_OBJECT
 
@@ -317,5 +317,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QGuiApplication, TestUpdateView)
+FERRIN_TEST(QGuiApplication, UpdateViewTest)
 #include "test_updateview.moc"

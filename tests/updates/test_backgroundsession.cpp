@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 using Stage = UpdateSession::Stage;
 
 /// Sessions that nobody asked for.
-class TestBackgroundSession : public QObject
+class BackgroundSessionTest : public QObject
 {
     Q_OBJECT
 
@@ -154,5 +154,5 @@ private:
     std::optional<SessionBench> m_bench;
 };
 
-FERRIN_TEST(QCoreApplication, TestBackgroundSession)
+FERRIN_TEST(QCoreApplication, BackgroundSessionTest)
 #include "test_backgroundsession.moc"

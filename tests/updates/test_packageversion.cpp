@@ -25,7 +25,7 @@ int order(const QString &left, const QString &right, VersionOrder order)
 
 } // namespace
 
-class TestPackageVersion : public QObject
+class PackageVersionTest : public QObject
 {
     Q_OBJECT
 
@@ -96,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestPackageVersion)
+FERRIN_TEST(QCoreApplication, PackageVersionTest)
 #include "test_packageversion.moc"

@@ -10,7 +10,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestUpdateFailure : public QObject
+class UpdateFailureTest : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ private:
     static constexpr auto last = UpdateFailure::nothingDone;
 };
 
-void TestUpdateFailure::hasPlainWordsAndANameForEach()
+void UpdateFailureTest::hasPlainWordsAndANameForEach()
 {
     QSet<QString> words;
     for (int i = 0; i <= static_cast<int>(last); ++i) {
@@ -33,5 +33,5 @@ void TestUpdateFailure::hasPlainWordsAndANameForEach()
     QCOMPARE(words.size(), static_cast<int>(last) + 1);
 }
 
-FERRIN_TEST(QCoreApplication, TestUpdateFailure)
+FERRIN_TEST(QCoreApplication, UpdateFailureTest)
 #include "test_updatefailure.moc"

@@ -56,7 +56,7 @@ struct Bench
 
 } // namespace
 
-class TestUpdater : public QObject
+class UpdaterTest : public QObject
 {
     Q_OBJECT
 
@@ -96,7 +96,7 @@ private:
     std::optional<Bench> m_bench;
 };
 
-void TestUpdater::checksByItselfOnceADay()
+void UpdaterTest::checksByItselfOnceADay()
 {
     Updater &updater = m_bench->launch();
     for (int hour = 0; hour < 49; ++hour) {
@@ -109,7 +109,7 @@ void TestUpdater::checksByItselfOnceADay()
     QCOMPARE(m_bench->log.take().size(), 3);
 }
 
-void TestUpdater::checksAgainTheSameDayOnlyWhenTheUserAsks()
+void UpdaterTest::checksAgainTheSameDayOnlyWhenTheUserAsks()
 {
     m_bench->launch().look();
     m_bench->updater->session().cancel();
@@ -120,7 +120,7 @@ void TestUpdater::checksAgainTheSameDayOnlyWhenTheUserAsks()
     QCOMPARE(m_bench->engine.checks.size(), 2);
 }
 
-void TestUpdater::countsTheUsersOwnChecks()
+void UpdaterTest::countsTheUsersOwnChecks()
 {
     m_bench->launch().checkForUpdates();
     m_bench->updater->session().cancel();
@@ -128,7 +128,7 @@ void TestUpdater::countsTheUsersOwnChecks()
     QCOMPARE(m_bench->engine.checks.size(), 1);
 }
 
-void TestUpdater::doesNotLookInTheFirstMinute()
+void UpdaterTest::doesNotLookInTheFirstMinute()
 {
     QCOMPARE(m_bench->launch().timer().intervalAsDuration(), 61s);
     QVERIFY(m_bench->updater->timer().isActive());
@@ -136,14 +136,14 @@ void TestUpdater::doesNotLookInTheFirstMinute()
     QCOMPARE(m_bench->network.asked, 0);
 }
 
-void TestUpdater::hasOneTimerAndACoarseOne()
+void UpdaterTest::hasOneTimerAndACoarseOne()
 {
     QVERIFY(m_bench->launch().timer().isSingleShot());
     QCOMPARE(m_bench->updater->timer().timerType(), Qt::VeryCoarseTimer);
     QCOMPARE(m_bench->updater->findChildren<QTimer *>().size(), 0);
 }
 
-void TestUpdater::looksAgainWithinTheHour()
+void UpdaterTest::looksAgainWithinTheHour()
 {
     m_bench->launch().look();
     QVERIFY(m_bench->updater->timer().isActive());
@@ -154,14 +154,14 @@ void TestUpdater::looksAgainWithinTheHour()
     QCOMPARE(m_bench->updater->timer().intervalAsDuration(), 10min);
 }
 
-void TestUpdater::waitsAnHourWhereTheConditionsAreNotRight()
+void UpdaterTest::waitsAnHourWhereTheConditionsAreNotRight()
 {
     m_bench->network.reach = NetworkReach::metered;
     m_bench->launch().look();
     QCOMPARE(m_bench->updater->timer().intervalAsDuration(), 1h);
 }
 
-void TestUpdater::staysOffAMeteredConnection()
+void UpdaterTest::staysOffAMeteredConnection()
 {
     m_bench->network.reach = NetworkReach::metered;
     m_bench->launch().look();
@@ -172,7 +172,7 @@ void TestUpdater::staysOffAMeteredConnection()
     QCOMPARE(m_bench->engine.checks.size(), 1);
 }
 
-void TestUpdater::waitsForAConnection()
+void UpdaterTest::waitsForAConnection()
 {
     m_bench->network.reach = NetworkReach::none;
     m_bench->launch().look();
@@ -182,7 +182,7 @@ void TestUpdater::waitsForAConnection()
     QCOMPARE(m_bench->engine.checks.size(), 1);
 }
 
-void TestUpdater::sparesALowBattery_data()
+void UpdaterTest::sparesALowBattery_data()
 {
     QTest::addColumn<int>("charge");
     QTest::addColumn<bool>("discharging");
@@ -195,7 +195,7 @@ void TestUpdater::sparesALowBattery_data()
     QTest::newRow("a battery that says nothing") << -1 << true << true;
 }
 
-void TestUpdater::sparesALowBattery()
+void UpdaterTest::sparesALowBattery()
 {
     QFETCH(int, charge);
     QFETCH(bool, discharging);
@@ -205,7 +205,7 @@ void TestUpdater::sparesALowBattery()
     QCOMPARE(!m_bench->engine.checks.isEmpty(), checks);
 }
 
-void TestUpdater::checksOnAnyNetworkAndBatteryWhenTheUserAsks()
+void UpdaterTest::checksOnAnyNetworkAndBatteryWhenTheUserAsks()
 {
     m_bench->network.reach = NetworkReach::metered;
     m_bench->battery = { 3, true };
@@ -215,7 +215,7 @@ void TestUpdater::checksOnAnyNetworkAndBatteryWhenTheUserAsks()
     QCOMPARE(m_bench->network.asked, 0);
 }
 
-void TestUpdater::keepsItsSwitchesAcrossLaunches()
+void UpdaterTest::keepsItsSwitchesAcrossLaunches()
 {
     m_bench->launch().setAutomaticallyChecksForUpdates(false);
     m_bench->updater->setAutomaticallyDownloadsUpdates(true);
@@ -227,7 +227,7 @@ void TestUpdater::keepsItsSwitchesAcrossLaunches()
     QVERIFY(!m_bench->updater->automaticallyDownloadsUpdates());
 }
 
-void TestUpdater::checksAndDoesNotDownloadByDefault()
+void UpdaterTest::checksAndDoesNotDownloadByDefault()
 {
     QVERIFY(m_bench->launch().automaticallyChecksForUpdates());
     QVERIFY(!m_bench->updater->automaticallyDownloadsUpdates());
@@ -236,7 +236,7 @@ void TestUpdater::checksAndDoesNotDownloadByDefault()
     QVERIFY(m_bench->launch().automaticallyChecksForUpdates());
 }
 
-void TestUpdater::stopsItsTimerWithTheSwitch()
+void UpdaterTest::stopsItsTimerWithTheSwitch()
 {
     m_bench->launch().setAutomaticallyChecksForUpdates(false);
     QVERIFY(!m_bench->updater->timer().isActive());
@@ -246,7 +246,7 @@ void TestUpdater::stopsItsTimerWithTheSwitch()
     QVERIFY(m_bench->updater->timer().isActive());
 }
 
-void TestUpdater::doesNotBeginWhatTheUserSwitchedOffMeanwhile()
+void UpdaterTest::doesNotBeginWhatTheUserSwitchedOffMeanwhile()
 {
     m_bench->network.answersLater = true;
     m_bench->launch().look();
@@ -255,7 +255,7 @@ void TestUpdater::doesNotBeginWhatTheUserSwitchedOffMeanwhile()
     QVERIFY(m_bench->engine.checks.isEmpty());
 }
 
-void TestUpdater::downloadsByItselfWhereTheUserLetsIt()
+void UpdaterTest::downloadsByItselfWhereTheUserLetsIt()
 {
     m_bench->launch().setAutomaticallyDownloadsUpdates(true);
     m_bench->updater->look();
@@ -264,7 +264,7 @@ void TestUpdater::downloadsByItselfWhereTheUserLetsIt()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdater::survivesAnAnswerOfTheNetworkThatComesTooLate()
+void UpdaterTest::survivesAnAnswerOfTheNetworkThatComesTooLate()
 {
     m_bench->network.answersLater = true;
     m_bench->launch().look();
@@ -273,7 +273,7 @@ void TestUpdater::survivesAnAnswerOfTheNetworkThatComesTooLate()
     QVERIFY(m_bench->engine.checks.isEmpty());
 }
 
-void TestUpdater::cannotCheckWhileACheckIsRunning()
+void UpdaterTest::cannotCheckWhileACheckIsRunning()
 {
     Updater &updater = m_bench->launch();
     QList<bool> told;
@@ -288,7 +288,7 @@ void TestUpdater::cannotCheckWhileACheckIsRunning()
     QCOMPARE(told, QList({ false, true }));
 }
 
-void TestUpdater::canCheckAgainWhateverTheCheckFound()
+void UpdaterTest::canCheckAgainWhateverTheCheckFound()
 {
     Updater &updater = m_bench->launch();
     updater.checkForUpdates();
@@ -299,7 +299,7 @@ void TestUpdater::canCheckAgainWhateverTheCheckFound()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdater::doesNothingAtAllForACopyThatNoPackageInstalled()
+void UpdaterTest::doesNothingAtAllForACopyThatNoPackageInstalled()
 {
     m_bench->engine.setSupport(UpdateSupport::notPackaged);
     Updater &updater = m_bench->launch();
@@ -317,7 +317,7 @@ void TestUpdater::doesNothingAtAllForACopyThatNoPackageInstalled()
     QCOMPARE(updater.session().stage(), Stage::idle);
 }
 
-void TestUpdater::restsWhileTheSystemHasNoPackageService()
+void UpdaterTest::restsWhileTheSystemHasNoPackageService()
 {
     Updater &updater = m_bench->launch();
     m_bench->engine.setSupport(UpdateSupport::noService);
@@ -330,14 +330,14 @@ void TestUpdater::restsWhileTheSystemHasNoPackageService()
     QVERIFY(updater.canCheckForUpdates());
 }
 
-void TestUpdater::looksNoMoreOnceItIsKnownThatNoPackageOwnsTheProgram()
+void UpdaterTest::looksNoMoreOnceItIsKnownThatNoPackageOwnsTheProgram()
 {
     m_bench->launch().look();
     m_bench->engine.setSupport(UpdateSupport::notPackaged);
     QVERIFY(!m_bench->updater->timer().isActive());
 }
 
-void TestUpdater::tellsOfAnOfferByANotification()
+void UpdaterTest::tellsOfAnOfferByANotification()
 {
     m_bench->launch().look();
     Q_EMIT m_bench->engine.checked(someRelease());
@@ -352,7 +352,7 @@ void TestUpdater::tellsOfAnOfferByANotification()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdater::tellsOfAnUnseenOfferOnce()
+void UpdaterTest::tellsOfAnUnseenOfferOnce()
 {
     Updater &updater = m_bench->launch();
     for (int day = 0; day < 3; ++day) {
@@ -371,7 +371,7 @@ void TestUpdater::tellsOfAnUnseenOfferOnce()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdater::withdrawsTheNotificationOfWhatIsInstalledByNow()
+void UpdaterTest::withdrawsTheNotificationOfWhatIsInstalledByNow()
 {
     m_bench->launch().look();
     Q_EMIT m_bench->engine.checked(someRelease());
@@ -382,11 +382,11 @@ void TestUpdater::withdrawsTheNotificationOfWhatIsInstalledByNow()
     m_bench->log.ignoreRest();
 }
 
-void TestUpdater::isStartedByItsController()
+void UpdaterTest::isStartedByItsController()
 {
     AppUpdater app(m_bench->parts());
     QVERIFY(app.controller()->updater()->timer().isActive());
 }
 
-FERRIN_TEST(QCoreApplication, TestUpdater)
+FERRIN_TEST(QCoreApplication, UpdaterTest)
 #include "test_updater.moc"

@@ -10,7 +10,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-class TestUpdateSchedule : public QObject
+class UpdateScheduleTest : public QObject
 {
     Q_OBJECT
 
@@ -26,39 +26,39 @@ private:
     const QDateTime m_now { QDate(2026, 5, 1), QTime(12, 0), Qt::UTC };
 };
 
-void TestUpdateSchedule::isDueADayAfterTheLastCheck()
+void UpdateScheduleTest::isDueADayAfterTheLastCheck()
 {
     QVERIFY(updateschedule::isDue(m_now.addDays(-1), m_now));
     QVERIFY(!updateschedule::isDue(m_now.addDays(-1).addMSecs(1), m_now));
     QVERIFY(!updateschedule::isDue(m_now, m_now));
 }
 
-void TestUpdateSchedule::isDueWhenThereWasNone()
+void UpdateScheduleTest::isDueWhenThereWasNone()
 {
     QVERIFY(updateschedule::isDue(std::nullopt, m_now));
 }
 
-void TestUpdateSchedule::isDueWhenTheLastIsYetToCome()
+void UpdateScheduleTest::isDueWhenTheLastIsYetToCome()
 {
     QVERIFY(updateschedule::isDue(m_now.addYears(30), m_now));
 }
 
-void TestUpdateSchedule::neverWaitsLessThanAMinute()
+void UpdateScheduleTest::neverWaitsLessThanAMinute()
 {
     QCOMPARE(updateschedule::untilNextLook(std::nullopt, m_now), 61s);
     QCOMPARE(updateschedule::untilNextLook(m_now.addYears(-1), m_now), 61s);
     QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(59), m_now), 61s);
 }
 
-void TestUpdateSchedule::neverWaitsMoreThanAnHour()
+void UpdateScheduleTest::neverWaitsMoreThanAnHour()
 {
     QCOMPARE(updateschedule::untilNextLook(m_now, m_now), 1h);
 }
 
-void TestUpdateSchedule::waitsUntilItIsDue()
+void UpdateScheduleTest::waitsUntilItIsDue()
 {
     QCOMPARE(updateschedule::untilNextLook(m_now.addDays(-1).addSecs(600), m_now), 10min);
 }
 
-FERRIN_TEST(QCoreApplication, TestUpdateSchedule)
+FERRIN_TEST(QCoreApplication, UpdateScheduleTest)
 #include "test_updateschedule.moc"

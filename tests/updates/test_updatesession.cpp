@@ -9,7 +9,7 @@ using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 using Stage = UpdateSession::Stage;
 
-class TestUpdateSession : public QObject
+class UpdateSessionTest : public QObject
 {
     Q_OBJECT
 
@@ -44,20 +44,20 @@ private:
     std::optional<SessionBench> m_bench;
 };
 
-void TestUpdateSession::checksInTheUsersName()
+void UpdateSessionTest::checksInTheUsersName()
 {
     m_bench->session.begin();
     QCOMPARE(m_bench->session.stage(), Stage::checking);
     QCOMPARE(m_bench->engine.checks, QList { UpdateManner::interactive });
 }
 
-void TestUpdateSession::isShownFromItsBeginning()
+void UpdateSessionTest::isShownFromItsBeginning()
 {
     m_bench->session.begin();
     QCOMPARE(m_bench->shown, 1);
 }
 
-void TestUpdateSession::saysThatFerrinIsUpToDate()
+void UpdateSessionTest::saysThatFerrinIsUpToDate()
 {
     m_bench->session.begin();
     m_bench->findNothing();
@@ -67,7 +67,7 @@ void TestUpdateSession::saysThatFerrinIsUpToDate()
     QCOMPARE(m_bench->session.stage(), Stage::idle);
 }
 
-void TestUpdateSession::offersANewerRelease()
+void UpdateSessionTest::offersANewerRelease()
 {
     m_bench->session.begin();
     m_bench->offer();
@@ -78,7 +78,7 @@ void TestUpdateSession::offersANewerRelease()
     QCOMPARE(m_bench->offers, 0);
 }
 
-void TestUpdateSession::downloadsWhatIsOffered()
+void UpdateSessionTest::downloadsWhatIsOffered()
 {
     m_bench->session.begin();
     m_bench->offer();
@@ -93,7 +93,7 @@ void TestUpdateSession::downloadsWhatIsOffered()
     QVERIFY(m_bench->engine.installations.isEmpty());
 }
 
-void TestUpdateSession::installsWhatIsDownloaded()
+void UpdateSessionTest::installsWhatIsDownloaded()
 {
     m_bench->becomeReady();
     m_bench->session.install();
@@ -110,7 +110,7 @@ void TestUpdateSession::installsWhatIsDownloaded()
     QCOMPARE(m_bench->session.stage(), Stage::idle);
 }
 
-void TestUpdateSession::tellsAFailureInPlainWords()
+void UpdateSessionTest::tellsAFailureInPlainWords()
 {
     m_bench->session.begin();
     m_bench->fail(UpdateFailure::notTrusted);
@@ -123,7 +123,7 @@ void TestUpdateSession::tellsAFailureInPlainWords()
     QCOMPARE(m_bench->session.failure(), QString());
 }
 
-void TestUpdateSession::triesTheStepAgainThatFailed()
+void UpdateSessionTest::triesTheStepAgainThatFailed()
 {
     m_bench->session.begin();
     m_bench->fail(UpdateFailure::unreachable);
@@ -147,7 +147,7 @@ void TestUpdateSession::triesTheStepAgainThatFailed()
     QCOMPARE(m_bench->engine.checks.size(), 2);
 }
 
-void TestUpdateSession::checksAgainWhenTheOfferIsGone()
+void UpdateSessionTest::checksAgainWhenTheOfferIsGone()
 {
     m_bench->beginInstalling();
     m_bench->fail(UpdateFailure::nothingDone);
@@ -156,7 +156,7 @@ void TestUpdateSession::checksAgainWhenTheOfferIsGone()
     QCOMPARE(m_bench->engine.installations.size(), 1);
 }
 
-void TestUpdateSession::cancelsACheck()
+void UpdateSessionTest::cancelsACheck()
 {
     m_bench->session.begin();
     m_bench->session.cancel();
@@ -164,7 +164,7 @@ void TestUpdateSession::cancelsACheck()
     QCOMPARE(m_bench->session.stage(), Stage::idle);
 }
 
-void TestUpdateSession::cancelsADownloadAndKeepsTheOffer()
+void UpdateSessionTest::cancelsADownloadAndKeepsTheOffer()
 {
     m_bench->session.begin();
     m_bench->offer();
@@ -176,7 +176,7 @@ void TestUpdateSession::cancelsADownloadAndKeepsTheOffer()
     QCOMPARE(m_bench->engine.downloads.size(), 2);
 }
 
-void TestUpdateSession::cancelsAnInstallationOnlyWhereThatIsSafe()
+void UpdateSessionTest::cancelsAnInstallationOnlyWhereThatIsSafe()
 {
     m_bench->beginInstalling();
     Q_EMIT m_bench->engine.progressed({ UpdateActivity::installing, 0.2, false });
@@ -189,7 +189,7 @@ void TestUpdateSession::cancelsAnInstallationOnlyWhereThatIsSafe()
     QCOMPARE(m_bench->session.stage(), Stage::readyToInstall);
 }
 
-void TestUpdateSession::installsOnWhenTheUserLooksAway()
+void UpdateSessionTest::installsOnWhenTheUserLooksAway()
 {
     m_bench->beginInstalling();
     m_bench->session.dismiss();
@@ -204,7 +204,7 @@ void TestUpdateSession::installsOnWhenTheUserLooksAway()
     QCOMPARE(m_bench->shown, 2);
 }
 
-void TestUpdateSession::endsAllElseWhenTheUserLooksAway()
+void UpdateSessionTest::endsAllElseWhenTheUserLooksAway()
 {
     m_bench->session.begin();
     m_bench->session.dismiss();
@@ -216,7 +216,7 @@ void TestUpdateSession::endsAllElseWhenTheUserLooksAway()
     QCOMPARE(m_bench->engine.cancels, 1);
 }
 
-void TestUpdateSession::ignoresWhatMakesNoSenseNow_data()
+void UpdateSessionTest::ignoresWhatMakesNoSenseNow_data()
 {
     QTest::addColumn<Stage>("stage");
     QTest::newRow("idle") << Stage::idle;
@@ -226,7 +226,7 @@ void TestUpdateSession::ignoresWhatMakesNoSenseNow_data()
     QTest::newRow("installing") << Stage::installing;
 }
 
-void TestUpdateSession::ignoresWhatMakesNoSenseNow()
+void UpdateSessionTest::ignoresWhatMakesNoSenseNow()
 {
     QFETCH(Stage, stage);
     if (stage == Stage::installing)
@@ -255,7 +255,7 @@ void TestUpdateSession::ignoresWhatMakesNoSenseNow()
     QCOMPARE(m_bench->records.skippedVersion(), QString());
 }
 
-void TestUpdateSession::forgetsTheOldOfferWhenItBeginsAnew()
+void UpdateSessionTest::forgetsTheOldOfferWhenItBeginsAnew()
 {
     m_bench->becomeReady();
     m_bench->session.begin();
@@ -265,7 +265,7 @@ void TestUpdateSession::forgetsTheOldOfferWhenItBeginsAnew()
     QVERIFY(m_bench->engine.installations.isEmpty());
 }
 
-void TestUpdateSession::tellsBindingsOfEachStage()
+void UpdateSessionTest::tellsBindingsOfEachStage()
 {
     QList<Stage> stages;
     const auto handler = m_bench->session.bindableStage().addNotifier(
@@ -278,5 +278,5 @@ void TestUpdateSession::tellsBindingsOfEachStage()
                      Stage::installing, Stage::installed, Stage::idle }));
 }
 
-FERRIN_TEST(QCoreApplication, TestUpdateSession)
+FERRIN_TEST(QCoreApplication, UpdateSessionTest)
 #include "test_updatesession.moc"

@@ -11,6 +11,7 @@
 using namespace ferrin;
 
 namespace {
+
 // One whole charge of a battery, percent by percent, up to a charge.
 ChargeFit charged(const ChargeFit::Charge &truth, double from, double to,
                   std::optional<ChargeFit::Charge> known = {})
@@ -27,9 +28,10 @@ double error(const ChargeFit &fit, const ChargeFit::Charge &truth, double from)
     const Hours shown = found.curve.between(from, 99.5, found.rate);
     return std::abs(std::log(shown / truth.curve.between(from, 99.5, truth.rate)));
 }
+
 } // namespace
 
-class TestChargeFit : public QObject
+class ChargeFitTest : public QObject
 {
     Q_OBJECT
 
@@ -106,5 +108,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestChargeFit)
+FERRIN_TEST(QCoreApplication, ChargeFitTest)
 #include "test_chargefit.moc"

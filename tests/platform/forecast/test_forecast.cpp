@@ -13,6 +13,7 @@ using namespace ferrin;
 using namespace std::chrono_literals;
 
 namespace {
+
 using Flow = PackMoment::Flow;
 
 /// A laptop with a battery of 50 Wh, read every five seconds.
@@ -81,9 +82,10 @@ bool isNear(int shown, double wanted, double share = 0.08)
 {
     return std::abs(shown - wanted) <= wanted * share + 1;
 }
+
 } // namespace
 
-class TestForecast : public QObject
+class ForecastTest : public QObject
 {
     Q_OBJECT
 
@@ -296,5 +298,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestForecast)
+FERRIN_TEST(QCoreApplication, ForecastTest)
 #include "test_forecast.moc"

@@ -9,7 +9,7 @@
 using namespace ferrin;
 using namespace std::chrono_literals;
 
-class TestGaugeSteps : public QObject
+class GaugeStepsTest : public QObject
 {
     Q_OBJECT
 
@@ -75,5 +75,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestGaugeSteps)
+FERRIN_TEST(QCoreApplication, GaugeStepsTest)
 #include "test_gaugesteps.moc"

@@ -14,7 +14,7 @@
 using namespace ferrin;
 using namespace std::chrono_literals;
 
-class TestMemoryStore : public QObject
+class MemoryStoreTest : public QObject
 {
     Q_OBJECT
 
@@ -119,5 +119,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-FERRIN_TEST(QCoreApplication, TestMemoryStore)
+FERRIN_TEST(QCoreApplication, MemoryStoreTest)
 #include "test_memorystore.moc"

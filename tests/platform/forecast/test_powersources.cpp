@@ -11,7 +11,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestPowerSources : public QObject
+class PowerSourcesTest : public QObject
 {
     Q_OBJECT
 
@@ -89,5 +89,5 @@ private:
     PowerSources m_sources { m_upower, m_registry };
 };
 
-FERRIN_TEST(QCoreApplication, TestPowerSources)
+FERRIN_TEST(QCoreApplication, PowerSourcesTest)
 #include "test_powersources.moc"

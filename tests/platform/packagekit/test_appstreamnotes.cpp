@@ -10,6 +10,7 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 
 namespace {
+
 const QByteArray component = R"(<?xml version="1.0" encoding="utf-8"?>
 <component type="desktop-application"><releases>
   <release type="stable" version="1.1" date="2026-04-29T22:00:00Z">
@@ -22,9 +23,10 @@ const QByteArray component = R"(<?xml version="1.0" encoding="utf-8"?>
   </release>
   <release version="1.0" timestamp="1767500000"><description><p>Old.</p></description></release>
 </releases></component>)";
+
 } // namespace
 
-class TestAppStreamNotes : public QObject
+class AppStreamNotesTest : public QObject
 {
     Q_OBJECT
 
@@ -58,5 +60,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestAppStreamNotes)
+FERRIN_TEST(QCoreApplication, AppStreamNotesTest)
 #include "test_appstreamnotes.moc"

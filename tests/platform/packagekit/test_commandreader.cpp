@@ -11,7 +11,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestCommandReader : public QObject
+class CommandReaderTest : public QObject
 {
     Q_OBJECT
 
@@ -54,5 +54,5 @@ private:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestCommandReader)
+FERRIN_TEST(QCoreApplication, CommandReaderTest)
 #include "test_commandreader.moc"

@@ -9,7 +9,7 @@
 using namespace ferrin;
 using namespace Qt::StringLiterals;
 
-class TestPackageKitError : public QObject
+class PackageKitErrorTest : public QObject
 {
     Q_OBJECT
 
@@ -99,5 +99,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestPackageKitError)
+FERRIN_TEST(QCoreApplication, PackageKitErrorTest)
 #include "test_packagekiterror.moc"

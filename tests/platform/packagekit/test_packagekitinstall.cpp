@@ -9,7 +9,7 @@ using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 
 /// Downloads and installations.
-class TestPackageKitInstall : public QObject
+class PackageKitInstallTest : public QObject
 {
     Q_OBJECT
 
@@ -134,5 +134,5 @@ private:
     std::optional<EngineBench> m_bench;
 };
 
-FERRIN_TEST(QCoreApplication, TestPackageKitInstall)
+FERRIN_TEST(QCoreApplication, PackageKitInstallTest)
 #include "test_packagekitinstall.moc"

@@ -58,7 +58,7 @@ private:
 
 } // namespace
 
-class TestDesktopNotice : public QObject
+class DesktopNoticeTest : public QObject
 {
     Q_OBJECT
 
@@ -112,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestDesktopNotice)
+FERRIN_TEST(QCoreApplication, DesktopNoticeTest)
 #include "test_desktopnotice.moc"

@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 using test::Laptop;
 
 namespace {
+
 // On external power.
 void fill(Laptop &laptop, const QByteArray &status, const QByteArray &percent,
           const QByteArray &limit = {}, const QByteArray &power = "0")
@@ -27,9 +28,10 @@ void fill(Laptop &laptop, const QByteArray &status, const QByteArray &percent,
         laptop.sysfs.set(u"BAT0"_s, u"charge_control_end_threshold"_s, limit);
     laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
 }
+
 } // namespace
 
-class TestHeldCharge : public QObject
+class HeldChargeTest : public QObject
 {
     Q_OBJECT
 
@@ -125,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-FERRIN_TEST(QCoreApplication, TestHeldCharge)
+FERRIN_TEST(QCoreApplication, HeldChargeTest)
 #include "test_heldcharge.moc"

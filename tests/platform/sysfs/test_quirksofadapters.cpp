@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 using test::Laptop;
 
 /// Oddities of real machines in the data of the adapter, one test for each.
-class TestQuirksOfAdapters : public QObject
+class QuirksOfAdaptersTest : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void cleansNamesOfGarbage();
 };
 
-void TestQuirksOfAdapters::believesTheBatteryWhereOneOfTwoMainsIsAlwaysOnline()
+void QuirksOfAdaptersTest::believesTheBatteryWhereOneOfTwoMainsIsAlwaysOnline()
 {
     Laptop laptop("apple-mbp2017-two-mains");
     laptop.sysfs.set(u"ADP1"_s, u"online"_s, "0");
@@ -49,7 +49,7 @@ void TestQuirksOfAdapters::believesTheBatteryWhereOneOfTwoMainsIsAlwaysOnline()
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
 }
 
-void TestQuirksOfAdapters::findsAnAdapterThatIsNoMains()
+void QuirksOfAdaptersTest::findsAnAdapterThatIsNoMains()
 {
     Laptop laptop("gpd-pocket-max170xx");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
@@ -57,14 +57,14 @@ void TestQuirksOfAdapters::findsAnAdapterThatIsNoMains()
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(false));
 }
 
-void TestQuirksOfAdapters::isOnExternalPowerWhileDischarging()
+void QuirksOfAdaptersTest::isOnExternalPowerWhileDischarging()
 {
     Laptop laptop("apple-mbp16-t2-online-discharging");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
     QCOMPARE(laptop.fresh(u"IsCharging"), QVariant(false));
 }
 
-void TestQuirksOfAdapters::isOnExternalPowerWhereMainsIsAlwaysOfflineButTheBatteryCharges()
+void QuirksOfAdaptersTest::isOnExternalPowerWhereMainsIsAlwaysOfflineButTheBatteryCharges()
 {
     Laptop laptop("hp-snapdragon-x2-glymur");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(false));
@@ -72,14 +72,14 @@ void TestQuirksOfAdapters::isOnExternalPowerWhereMainsIsAlwaysOfflineButTheBatte
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
 }
 
-void TestQuirksOfAdapters::takesAnyNumberButZeroForOnline()
+void QuirksOfAdaptersTest::takesAnyNumberButZeroForOnline()
 {
     Laptop laptop("thinkpad-lnv45n1-nodeexporter");
     laptop.sysfs.set(u"AC"_s, u"online"_s, "2");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(true));
 }
 
-void TestQuirksOfAdapters::takesTheContractWhereTheMaximumIsOfAnotherProfile()
+void QuirksOfAdaptersTest::takesTheContractWhereTheMaximumIsOfAnotherProfile()
 {
     Laptop laptop("chromebook-cros-ucsi-pps");
     const QVariantMap before = laptop.adapter();
@@ -97,7 +97,7 @@ void TestQuirksOfAdapters::takesTheContractWhereTheMaximumIsOfAnotherProfile()
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-void TestQuirksOfAdapters::takesTheMaximumWhereThePresentValuesAreStale()
+void QuirksOfAdaptersTest::takesTheMaximumWhereThePresentValuesAreStale()
 {
     Laptop laptop("thinkpad-t480s-ucsi");
     const QVariantMap details = laptop.adapter();
@@ -107,14 +107,14 @@ void TestQuirksOfAdapters::takesTheMaximumWhereThePresentValuesAreStale()
     QVERIFY(!details.contains(u"Name"_s));
 }
 
-void TestQuirksOfAdapters::saysNothingOfAnIdlePort()
+void QuirksOfAdaptersTest::saysNothingOfAnIdlePort()
 {
     Laptop laptop("dell-xps13-ucsi-idle");
     QCOMPARE(laptop.fresh(u"ExternalConnected"), QVariant(false));
     QVERIFY(laptop.absent(u"AdapterDetails"));
 }
 
-void TestQuirksOfAdapters::takesTheGreatestFixedOfferOfThePartner()
+void QuirksOfAdaptersTest::takesTheGreatestFixedOfferOfThePartner()
 {
     Laptop laptop;
     const QJsonObject machine = test::FakeSysfs::record(u"thinkpad-x13g3-dell130w"_s);
@@ -134,7 +134,7 @@ void TestQuirksOfAdapters::takesTheGreatestFixedOfferOfThePartner()
     QCOMPARE(details.value(u"Current"_s).toInt(), 5'000);
 }
 
-void TestQuirksOfAdapters::ignoresAPortThatGivesPower()
+void QuirksOfAdaptersTest::ignoresAPortThatGivesPower()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
@@ -148,7 +148,7 @@ void TestQuirksOfAdapters::ignoresAPortThatGivesPower()
     QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 8);
 }
 
-void TestQuirksOfAdapters::livesWithoutOffers()
+void QuirksOfAdaptersTest::livesWithoutOffers()
 {
     Laptop laptop("hp-snapdragon-x2-glymur");
     laptop.sysfs.set(u"ucsi-source-psy-2"_s, u"online"_s, "1");
@@ -158,7 +158,7 @@ void TestQuirksOfAdapters::livesWithoutOffers()
     QVERIFY(laptop.adapter().isEmpty());
 }
 
-void TestQuirksOfAdapters::cleansNamesOfGarbage()
+void QuirksOfAdaptersTest::cleansNamesOfGarbage()
 {
     Laptop laptop("lenovo-l21l4pd8-mouse");
     const auto nameIs = [&laptop](const QByteArray &name) {
@@ -172,5 +172,5 @@ void TestQuirksOfAdapters::cleansNamesOfGarbage()
         QVERIFY2(!nameIs(placeholder).isValid(), placeholder);
 }
 
-FERRIN_TEST(QCoreApplication, TestQuirksOfAdapters)
+FERRIN_TEST(QCoreApplication, QuirksOfAdaptersTest)
 #include "test_quirksofadapters.moc"

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 using test::Laptop;
 
 /// Oddities of real machines in the charge, one test for each.
-class TestQuirksOfCharge : public QObject
+class QuirksOfChargeTest : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void doesNotCareForAThresholdOfGarbage();
 };
 
-void TestQuirksOfCharge::clampsACapacityOf106To100()
+void QuirksOfChargeTest::clampsACapacityOf106To100()
 {
     Laptop laptop("sutils-capacity106");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 100);
@@ -49,7 +49,7 @@ void TestQuirksOfCharge::clampsACapacityOf106To100()
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 100);
 }
 
-void TestQuirksOfCharge::fallsBackFromACapacityBeyondReason()
+void QuirksOfChargeTest::fallsBackFromACapacityBeyondReason()
 {
     Laptop laptop("apple-mbp-t2-a2251");
     for (const char *garbage : { "1536", "-1", "4294967295", "99999999999999999999", "0x55" }) {
@@ -62,14 +62,14 @@ void TestQuirksOfCharge::fallsBackFromACapacityBeyondReason()
     QVERIFY(alone.absent(u"MaxCapacity"));
 }
 
-void TestQuirksOfCharge::showsAtMost100WhereNowIsAboveFull()
+void QuirksOfChargeTest::showsAtMost100WhereNowIsAboveFull()
 {
     Laptop laptop("thinkpad-42t4969-over100");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 100);
     QCOMPARE(laptop.fresh(u"AppleRawCurrentCapacity"), laptop.fresh(u"AppleRawMaxCapacity"));
 }
 
-void TestQuirksOfCharge::trustsTheCapacityWhereChargeNowIsInAnotherUnit()
+void QuirksOfChargeTest::trustsTheCapacityWhereChargeNowIsInAnotherUnit()
 {
     Laptop laptop("apple-m1pro-macsmc-scale");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 87);
@@ -83,7 +83,7 @@ void TestQuirksOfCharge::trustsTheCapacityWhereChargeNowIsInAnotherUnit()
     }
 }
 
-void TestQuirksOfCharge::keepsTheCapacityWhereNowAndFullDisagree()
+void QuirksOfChargeTest::keepsTheCapacityWhereNowAndFullDisagree()
 {
     Laptop board("orangepi-bq27541");
     QCOMPARE(board.fresh(u"CurrentCapacity").toInt(), 63);
@@ -91,7 +91,7 @@ void TestQuirksOfCharge::keepsTheCapacityWhereNowAndFullDisagree()
     QCOMPARE(notebook.fresh(u"CurrentCapacity").toInt(), 50);
 }
 
-void TestQuirksOfCharge::shows100PercentOfAWornPack()
+void QuirksOfChargeTest::shows100PercentOfAWornPack()
 {
     Laptop laptop("hp-pavilion-power15-tlp446");
     laptop.sysfs.set(u"BAT0"_s, u"charge_full"_s, "348000");
@@ -100,7 +100,7 @@ void TestQuirksOfCharge::shows100PercentOfAWornPack()
     QCOMPARE(laptop.fresh(u"AppleRawMaxCapacity").toInt(), 348);
 }
 
-void TestQuirksOfCharge::survivesADesignOfZero()
+void QuirksOfChargeTest::survivesADesignOfZero()
 {
     Laptop laptop("apple-mbp-t2-a2251");
     laptop.sysfs.set(u"BAT0"_s, u"energy_full_design"_s, "0");
@@ -113,7 +113,7 @@ void TestQuirksOfCharge::survivesADesignOfZero()
     QVERIFY(other.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfCharge::saysNothingForAGaugeOfZeros()
+void QuirksOfChargeTest::saysNothingForAGaugeOfZeros()
 {
     Laptop laptop("gta04-bq27000-allzero");
     // It stays like this, however long it lasts.
@@ -124,7 +124,7 @@ void TestQuirksOfCharge::saysNothingForAGaugeOfZeros()
     }
 }
 
-void TestQuirksOfCharge::keepsAPercentageWithoutEnergies()
+void QuirksOfChargeTest::keepsAPercentageWithoutEnergies()
 {
     Laptop laptop("pinebook-a64-upower");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 54);
@@ -132,7 +132,7 @@ void TestQuirksOfCharge::keepsAPercentageWithoutEnergies()
     QVERIFY(laptop.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfCharge::ignoresAPhantomSecondPack()
+void QuirksOfChargeTest::ignoresAPhantomSecondPack()
 {
     Laptop laptop("asus-ux32-481cycles");
     laptop.sysfs.supply(u"BAT1"_s,
@@ -148,7 +148,7 @@ void TestQuirksOfCharge::ignoresAPhantomSecondPack()
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 132);
 }
 
-void TestQuirksOfCharge::doesNotBelieveAFullSizePackThatReadsZero()
+void QuirksOfChargeTest::doesNotBelieveAFullSizePackThatReadsZero()
 {
     Laptop laptop("acer-chromebook-tab10-flapping");
     QVERIFY(laptop.absent(u"CurrentCapacity"));
@@ -157,7 +157,7 @@ void TestQuirksOfCharge::doesNotBelieveAFullSizePackThatReadsZero()
     QCOMPARE(laptop.fresh(u"CurrentCapacity"), QVariant(0LL));
 }
 
-void TestQuirksOfCharge::ignoresAPackThatIsNotPresent()
+void QuirksOfChargeTest::ignoresAPackThatIsNotPresent()
 {
     Laptop laptop("olimex-lime2-no-battery");
     QVERIFY(laptop.absent(u"CurrentCapacity"));
@@ -165,7 +165,7 @@ void TestQuirksOfCharge::ignoresAPackThatIsNotPresent()
     QVERIFY(laptop.absent(u"IsCharging"));
 }
 
-void TestQuirksOfCharge::holdsTheChargeWhileTheGaugeFlaps()
+void QuirksOfChargeTest::holdsTheChargeWhileTheGaugeFlaps()
 {
     Laptop laptop("acer-chromebook-tab10-flapping");
     const QString gauge = u"sbs-9-000b"_s;
@@ -187,7 +187,7 @@ void TestQuirksOfCharge::holdsTheChargeWhileTheGaugeFlaps()
     QCOMPARE(read("62", "0").toInt(), 62);
 }
 
-void TestQuirksOfCharge::hasNoTimeWhileTheRateIsMissingAfterUnplugging()
+void QuirksOfChargeTest::hasNoTimeWhileTheRateIsMissingAfterUnplugging()
 {
     Laptop laptop("dell-xps15-9550-nocurrent");
     QVERIFY(laptop.absent(u"TimeRemaining"));
@@ -196,7 +196,7 @@ void TestQuirksOfCharge::hasNoTimeWhileTheRateIsMissingAfterUnplugging()
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 359);
 }
 
-void TestQuirksOfCharge::survivesASingleFileThatFails()
+void QuirksOfChargeTest::survivesASingleFileThatFails()
 {
     Laptop deck("steamdeck-oled-enodev");
     deck.sysfs.set(u"BAT1"_s, u"capacity"_s, "100");
@@ -207,7 +207,7 @@ void TestQuirksOfCharge::survivesASingleFileThatFails()
     QVERIFY(!deck.said(u"TimeRemaining").isValid());
 }
 
-void TestQuirksOfCharge::takesFilesOfDifferentMoments()
+void QuirksOfChargeTest::takesFilesOfDifferentMoments()
 {
     Laptop laptop("thinkpad-lnv45n1-procfs");
     laptop.sysfs.set(u"BAT0"_s, u"energy_full"_s, "47390000");
@@ -216,7 +216,7 @@ void TestQuirksOfCharge::takesFilesOfDifferentMoments()
     QCOMPARE(laptop.said(u"AppleRawCurrentCapacity"), laptop.said(u"AppleRawMaxCapacity"));
 }
 
-void TestQuirksOfCharge::doesNotCareForAThresholdOfGarbage()
+void QuirksOfChargeTest::doesNotCareForAThresholdOfGarbage()
 {
     Laptop laptop("apple-mbp-t2-a2251");
     laptop.sysfs.set(u"BAT0"_s, u"charge_control_end_threshold"_s, "-962691840");
@@ -224,5 +224,5 @@ void TestQuirksOfCharge::doesNotCareForAThresholdOfGarbage()
     QCOMPARE(laptop.said(u"TimeRemaining").toInt(), 38);
 }
 
-FERRIN_TEST(QCoreApplication, TestQuirksOfCharge)
+FERRIN_TEST(QCoreApplication, QuirksOfChargeTest)
 #include "test_quirksofcharge.moc"

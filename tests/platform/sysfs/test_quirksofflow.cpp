@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 using test::Laptop;
 
 /// Oddities of real machines in the status, rates and times, one test for each.
-class TestQuirksOfFlow : public QObject
+class QuirksOfFlowTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private Q_SLOTS:
     void hasNoTimeAtTheSentinelOf65535Minutes();
 };
 
-void TestQuirksOfFlow::isChargedWhenUnknownAndFull()
+void QuirksOfFlowTest::isChargedWhenUnknownAndFull()
 {
     for (const char *machine : { "toshiba-unknown-full", "unnamed-2021-over-design-unknown",
                                  "thinkpad-42t4969-over100" }) {
@@ -44,7 +44,7 @@ void TestQuirksOfFlow::isChargedWhenUnknownAndFull()
     }
 }
 
-void TestQuirksOfFlow::isChargedWhenNotChargingNearTheTop()
+void QuirksOfFlowTest::isChargedWhenNotChargingNearTheTop()
 {
     Laptop thinkpad("thinkpad-e590");
     QVERIFY(thinkpad.fresh(u"FullyCharged").toBool());
@@ -52,7 +52,7 @@ void TestQuirksOfFlow::isChargedWhenNotChargingNearTheTop()
     QVERIFY(board.fresh(u"FullyCharged").toBool());
 }
 
-void TestQuirksOfFlow::isNotChargedWhenHeldBelow()
+void QuirksOfFlowTest::isNotChargedWhenHeldBelow()
 {
     for (const char *machine : { "microsoft-surface-pro7", "thinkpad-dual-01av425-01av493" }) {
         Laptop laptop(machine);
@@ -62,7 +62,7 @@ void TestQuirksOfFlow::isNotChargedWhenHeldBelow()
     }
 }
 
-void TestQuirksOfFlow::isNotChargingWhenIdleAndUnknown()
+void QuirksOfFlowTest::isNotChargingWhenIdleAndUnknown()
 {
     Laptop held("dell-70n2f95-biosthreshold-tlp621");
     held.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
@@ -74,7 +74,7 @@ void TestQuirksOfFlow::isNotChargingWhenIdleAndUnknown()
     QVERIFY(held.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfFlow::isFullAtAnyPercentageAndCurrent()
+void QuirksOfFlowTest::isFullAtAnyPercentageAndCurrent()
 {
     Laptop fujitsu("fujitsu-cmb1");
     QVERIFY(fujitsu.fresh(u"FullyCharged").toBool());
@@ -83,7 +83,7 @@ void TestQuirksOfFlow::isFullAtAnyPercentageAndCurrent()
     QVERIFY(asus.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfFlow::takesTheMagnitudeOfANegativeRate()
+void QuirksOfFlowTest::takesTheMagnitudeOfANegativeRate()
 {
     Laptop laptop("samsung-sr-real-battery");
     laptop.sysfs.set(u"BAT1"_s, u"current_now"_s, "-692000");
@@ -94,7 +94,7 @@ void TestQuirksOfFlow::takesTheMagnitudeOfANegativeRate()
     QCOMPARE(charging.fresh(u"TimeRemaining").toInt(), 6);
 }
 
-void TestQuirksOfFlow::hasNoTimeAtARateOfZero()
+void QuirksOfFlowTest::hasNoTimeAtARateOfZero()
 {
     Laptop discharging("hp-pavilion-primary");
     QVERIFY(discharging.absent(u"TimeRemaining"));
@@ -102,7 +102,7 @@ void TestQuirksOfFlow::hasNoTimeAtARateOfZero()
     QVERIFY(charging.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfFlow::hasNoTimeAtTheNoiseOfAnIdleMachine()
+void QuirksOfFlowTest::hasNoTimeAtTheNoiseOfAnIdleMachine()
 {
     Laptop laptop("compal-laptop-ups-mouse-keyboard");
     QVERIFY(laptop.fresh(u"IsCharging").toBool());
@@ -111,7 +111,7 @@ void TestQuirksOfFlow::hasNoTimeAtTheNoiseOfAnIdleMachine()
     QVERIFY(laptop.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfFlow::hasNoTimeAtARateOfNonsense()
+void QuirksOfFlowTest::hasNoTimeAtARateOfNonsense()
 {
     Laptop laptop("apple-mbp-t2-a2251");
     laptop.sysfs.set(u"BAT0"_s, u"power_now"_s, "635000000");
@@ -124,7 +124,7 @@ void TestQuirksOfFlow::hasNoTimeAtARateOfNonsense()
     QVERIFY(tablet.absent(u"TimeRemaining"));
 }
 
-void TestQuirksOfFlow::hasNoTimeAtTheSentinelOf65535Minutes()
+void QuirksOfFlowTest::hasNoTimeAtTheSentinelOf65535Minutes()
 {
     Laptop laptop("chromebook-juniper-sbs");
     laptop.sysfs.set(u"sbs-12-000b"_s, u"status"_s, "Discharging");
@@ -135,5 +135,5 @@ void TestQuirksOfFlow::hasNoTimeAtTheSentinelOf65535Minutes()
     QCOMPARE(laptop.fresh(u"TimeRemaining").toInt(), 599);
 }
 
-FERRIN_TEST(QCoreApplication, TestQuirksOfFlow)
+FERRIN_TEST(QCoreApplication, QuirksOfFlowTest)
 #include "test_quirksofflow.moc"

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 using test::Laptop;
 
 /// Oddities of real machines in what is a system battery, one test for each.
-class TestQuirksOfSupplies : public QObject
+class QuirksOfSuppliesTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void followsAPackThatIsSwapped();
 };
 
-void TestQuirksOfSupplies::findsBatteriesAndAdaptersByTypeWhateverTheirNames_data()
+void QuirksOfSuppliesTest::findsBatteriesAndAdaptersByTypeWhateverTheirNames_data()
 {
     QTest::addColumn<QString>("battery");
     QTest::addColumn<QString>("adapter");
@@ -44,7 +44,7 @@ void TestQuirksOfSupplies::findsBatteriesAndAdaptersByTypeWhateverTheirNames_dat
     QTest::newRow("nine") << u"AC"_s << u"hidpp_battery_0"_s;
 }
 
-void TestQuirksOfSupplies::findsBatteriesAndAdaptersByTypeWhateverTheirNames()
+void QuirksOfSuppliesTest::findsBatteriesAndAdaptersByTypeWhateverTheirNames()
 {
     QFETCH(QString, battery);
     QFETCH(QString, adapter);
@@ -57,7 +57,7 @@ void TestQuirksOfSupplies::findsBatteriesAndAdaptersByTypeWhateverTheirNames()
     QVERIFY(laptop.said(u"IsCharging").toBool());
 }
 
-void TestQuirksOfSupplies::ignoresAMouseThatComesFirst()
+void QuirksOfSuppliesTest::ignoresAMouseThatComesFirst()
 {
     Laptop laptop("lenovo-l21l4pd8-mouse");
     laptop.sysfs.supply(u"A-mouse"_s,
@@ -72,13 +72,13 @@ void TestQuirksOfSupplies::ignoresAMouseThatComesFirst()
     QCOMPARE(mouseAlone.registry().matchingService({ u"AppleSmartBattery"_s }), 0U);
 }
 
-void TestQuirksOfSupplies::ignoresAKeyboardsPackBesideTheMainOne()
+void QuirksOfSuppliesTest::ignoresAKeyboardsPackBesideTheMainOne()
 {
     Laptop laptop("pine64-pinephone-keyboard");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 43);
 }
 
-void TestQuirksOfSupplies::ignoresAnUninterruptiblePowerSupply()
+void QuirksOfSuppliesTest::ignoresAnUninterruptiblePowerSupply()
 {
     Laptop laptop("compal-laptop-ups-mouse-keyboard");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 51);
@@ -86,7 +86,7 @@ void TestQuirksOfSupplies::ignoresAnUninterruptiblePowerSupply()
     QCOMPARE(laptop.said(u"FullyCharged"), QVariant(false));
 }
 
-void TestQuirksOfSupplies::sumsEnergiesAndRatesOfTwoPacks()
+void QuirksOfSuppliesTest::sumsEnergiesAndRatesOfTwoPacks()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"BAT0"_s,
@@ -109,7 +109,7 @@ void TestQuirksOfSupplies::sumsEnergiesAndRatesOfTwoPacks()
     QCOMPARE(laptop.said(u"TimeRemaining").toInt(), 240);
 }
 
-void TestQuirksOfSupplies::countsAnEmptyPackThatWaitsItsTurn()
+void QuirksOfSuppliesTest::countsAnEmptyPackThatWaitsItsTurn()
 {
     Laptop laptop("thinkpad-t450-bat1-empty");
     laptop.sysfs.supply(u"BAT0"_s,
@@ -124,7 +124,7 @@ void TestQuirksOfSupplies::countsAnEmptyPackThatWaitsItsTurn()
     QVERIFY(laptop.said(u"IsCharging").toBool());
 }
 
-void TestQuirksOfSupplies::followsAPackThatIsSwapped()
+void QuirksOfSuppliesTest::followsAPackThatIsSwapped()
 {
     Laptop laptop("thinkpad-dual-01av425-01av493");
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 22);
@@ -134,5 +134,5 @@ void TestQuirksOfSupplies::followsAPackThatIsSwapped()
     QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 22);
 }
 
-FERRIN_TEST(QCoreApplication, TestQuirksOfSupplies)
+FERRIN_TEST(QCoreApplication, QuirksOfSuppliesTest)
 #include "test_quirksofsupplies.moc"

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 using test::Laptop;
 
-class TestSysfsRegistry : public QObject
+class SysfsRegistryTest : public QObject
 {
     Q_OBJECT
 
@@ -38,6 +38,7 @@ private Q_SLOTS:
 };
 
 namespace {
+
 const QStringList refreshKeys {
     u"CurrentCapacity"_s, u"MaxCapacity"_s,    u"AppleRawMaxCapacity"_s, u"ExternalConnected"_s,
     u"FullyCharged"_s,    u"IsCharging"_s,     u"AdapterDetails"_s,      u"AdapterDetails"_s,
@@ -103,9 +104,10 @@ private:
     int m_descriptor;
     QHash<int, QString> m_names;
 };
+
 } // namespace
 
-void TestSysfsRegistry::knowsOneServiceByName()
+void SysfsRegistryTest::knowsOneServiceByName()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -118,14 +120,14 @@ void TestSysfsRegistry::knowsOneServiceByName()
     QVERIFY(registry.release(0) != 0);
 }
 
-void TestSysfsRegistry::hasNoServiceWithoutABattery()
+void SysfsRegistryTest::hasNoServiceWithoutABattery()
 {
     Laptop laptop;
     laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
     QCOMPARE(laptop.registry().matchingService({ u"AppleSmartBattery"_s }), 0U);
 }
 
-void TestSysfsRegistry::answersNothingToOtherHandlesAndKeys()
+void SysfsRegistryTest::answersNothingToOtherHandlesAndKeys()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -135,7 +137,7 @@ void TestSysfsRegistry::answersNothingToOtherHandlesAndKeys()
         QVERIFY(laptop.absent(key));
 }
 
-void TestSysfsRegistry::answersWithTheTypesThatAreExpected()
+void SysfsRegistryTest::answersWithTheTypesThatAreExpected()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -153,7 +155,7 @@ void TestSysfsRegistry::answersWithTheTypesThatAreExpected()
     QCOMPARE(laptop.fresh(u"AppleRawCurrentCapacity").toInt(), 2500);
 }
 
-void TestSysfsRegistry::readsEachFileOnceForAllLookUpsOfATurn()
+void SysfsRegistryTest::readsEachFileOnceForAllLookUpsOfATurn()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -175,7 +177,7 @@ void TestSysfsRegistry::readsEachFileOnceForAllLookUpsOfATurn()
     }
 }
 
-void TestSysfsRegistry::readsNothingElseOfAPeripheral()
+void SysfsRegistryTest::readsNothingElseOfAPeripheral()
 {
     Laptop laptop("lenovo-l21l4pd8-mouse");
     OpenCounter counter(laptop.sysfs.path(u"class/power_supply/hidpp_battery_0"_s));
@@ -187,7 +189,7 @@ void TestSysfsRegistry::readsNothingElseOfAPeripheral()
     QCOMPARE(opened, (QStringList { u"scope"_s, u"type"_s }));
 }
 
-void TestSysfsRegistry::showsOneMomentWithinATurnAndANewOneInTheNext()
+void SysfsRegistryTest::showsOneMomentWithinATurnAndANewOneInTheNext()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -201,7 +203,7 @@ void TestSysfsRegistry::showsOneMomentWithinATurnAndANewOneInTheNext()
     QCOMPARE(laptop.said(u"IsCharging"), QVariant(true));
 }
 
-void TestSysfsRegistry::readsAnewRightAfterAChange()
+void SysfsRegistryTest::readsAnewRightAfterAChange()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -212,7 +214,7 @@ void TestSysfsRegistry::readsAnewRightAfterAChange()
     }
 }
 
-void TestSysfsRegistry::readsWithoutAnEventLoop()
+void SysfsRegistryTest::readsWithoutAnEventLoop()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -222,7 +224,7 @@ void TestSysfsRegistry::readsWithoutAnEventLoop()
     QCOMPARE(laptop.said(u"CurrentCapacity").toInt(), 49);
 }
 
-void TestSysfsRegistry::hasTimesOnlyInTheirDirection()
+void SysfsRegistryTest::hasTimesOnlyInTheirDirection()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -236,7 +238,7 @@ void TestSysfsRegistry::hasTimesOnlyInTheirDirection()
     QVERIFY(!laptop.said(u"AvgTimeToEmpty").isValid());
 }
 
-void TestSysfsRegistry::hasNoTimeWhenHeldOnExternalPower()
+void SysfsRegistryTest::hasNoTimeWhenHeldOnExternalPower()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -245,7 +247,7 @@ void TestSysfsRegistry::hasNoTimeWhenHeldOnExternalPower()
     QVERIFY(laptop.absent(u"TimeRemaining"));
 }
 
-void TestSysfsRegistry::isCalmWhileTheLoadJumps()
+void SysfsRegistryTest::isCalmWhileTheLoadJumps()
 {
     Laptop laptop;
     makeLaptop(laptop.sysfs);
@@ -255,5 +257,5 @@ void TestSysfsRegistry::isCalmWhileTheLoadJumps()
     QVERIFY(laptop.fresh(u"TimeRemaining").toInt() > 145);
 }
 
-FERRIN_TEST(QCoreApplication, TestSysfsRegistry)
+FERRIN_TEST(QCoreApplication, SysfsRegistryTest)
 #include "test_sysfsregistry.moc"

@@ -11,6 +11,7 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr double longestDrawHours = 4;
 constexpr double newestShare = 0.25;
 // W, percent an hour.
@@ -36,6 +37,7 @@ double readable(double number)
 {
     return std::round(number * 100) / 100;
 }
+
 } // namespace
 
 void BatteryMemory::learnDraw(double energy, Hours span)

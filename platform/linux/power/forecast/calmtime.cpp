@@ -8,7 +8,9 @@
 namespace ferrin {
 
 namespace {
+
 constexpr double band = 0.05;
+
 } // namespace
 
 Hours CalmTime::show(Hours calculated, Hours moment)

@@ -10,6 +10,7 @@
 namespace ferrin {
 
 namespace {
+
 /// What is expected of a battery, and how far it usually is from that.
 struct Expectation
 {
@@ -58,6 +59,7 @@ double pull(double difference)
     const double size = std::abs(difference);
     return size <= disturbed ? 1 : disturbed / size;
 }
+
 } // namespace
 
 ChargeFit::ChargeFit(std::optional<Charge> known)

@@ -8,9 +8,11 @@
 namespace ferrin {
 
 namespace {
+
 // From here on a gauge that counts finer says 100.
 constexpr double roundedFull = 99.5;
 constexpr double leastPower = 0.1;
+
 } // namespace
 
 ChargeForecast::ChargeForecast(const BatteryMemory &memory)

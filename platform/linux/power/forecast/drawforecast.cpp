@@ -11,6 +11,7 @@ namespace ferrin {
 using namespace std::chrono_literals;
 
 namespace {
+
 // W. Less is a gauge that tells no rate, more one that fails.
 constexpr double leastLoad = 0.1;
 constexpr double greatestLoad = 300;
@@ -41,6 +42,7 @@ std::optional<double> toldLoad(const std::vector<PackMoment> &packs)
         = load >= leastLoad && load <= greatestLoad && load <= greatestShareAnHour * full;
     return possible ? std::optional(load) : std::nullopt;
 }
+
 } // namespace
 
 DrawForecast::DrawForecast(std::optional<double> usual)

@@ -10,6 +10,7 @@ namespace ferrin {
 using namespace std::chrono_literals;
 
 namespace {
+
 constexpr Hours longest = 48h;
 // The two clocks drift apart by less than this unless the machine sleeps.
 constexpr Hours leastSleep = 20s;
@@ -37,6 +38,7 @@ bool isCharging(const PackMoment &pack)
 {
     return pack.flow == PackMoment::Flow::Charging;
 }
+
 } // namespace
 
 Forecast::Forecast(QString memoryPath)

@@ -9,6 +9,7 @@
 namespace ferrin {
 
 namespace {
+
 // Parts an hour: no notebook is emptied or filled in less than half an hour.
 constexpr double greatestRate = 2;
 // More than the rounding of a gauge in whole percents can hide.
@@ -21,6 +22,7 @@ bool isWholePercent(double charge)
     constexpr double tolerance = 0.005;
     return std::abs(charge * 100 - std::round(charge * 100)) < tolerance;
 }
+
 } // namespace
 
 void GaugeSteps::anchor(double charge, Hours moment, bool exact)

@@ -11,12 +11,14 @@ namespace ferrin {
 using namespace std::chrono_literals;
 
 namespace {
+
 constexpr Hours longConstant = 45min;
 constexpr Hours shortConstant = 6min;
 constexpr Hours expectation = 10min;
 // What the last minutes must differ by, and for how long, to be another load: exp(0.45) is 1.57.
 constexpr double greatestDifference = 0.45;
 constexpr Hours changedAfter = 3min;
+
 } // namespace
 
 void LoadMean::Fading::add(double load, Hours span, Hours constant)

@@ -17,10 +17,12 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
 constexpr Hours leastPause = 10min;
 // Far more than the batteries of a life, and far less than would be felt.
 constexpr qint64 largestFile = 65536;
 constexpr std::size_t mostBatteries = 64;
+
 } // namespace
 
 MemoryStore::MemoryStore(QString path)

@@ -14,6 +14,7 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr int stillEstimating = -1;
 
 const QList<QVariantMap> &sourcesIn(const PowerSourcesService::Snapshot &snapshot)
@@ -25,6 +26,7 @@ bool isBattery(const QVariantMap &source)
 {
     return source.value(u"Type"_s) == u"InternalBattery"_s;
 }
+
 } // namespace
 
 PowerSourcesService::Snapshot PowerSources::copyInfo()

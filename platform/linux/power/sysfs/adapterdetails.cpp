@@ -11,6 +11,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr qint64 leastMillivolts = 5'000;
 constexpr qint64 greatestMillivolts = 48'000;
 constexpr qint64 greatestMilliamps = 5'000;
@@ -88,6 +89,7 @@ void insertName(QVariantMap &details, const QString &key, const QString &name)
     if (!name.isEmpty() && !isUsbId(name))
         details.insert(key, name);
 }
+
 } // namespace
 
 qint64 Offer::watts() const noexcept

@@ -6,6 +6,7 @@
 namespace ferrin {
 
 namespace {
+
 /// What the batteries' status says about external power, all batteries taken together.
 struct StatusVotes
 {
@@ -60,6 +61,7 @@ OnlineVotes onlineVotesOf(const std::vector<AdapterSupply> &adapters)
     }
     return votes;
 }
+
 } // namespace
 
 std::optional<bool> externalConnected(const PowerSupplies &supplies)

@@ -8,6 +8,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr int fullPercent = 95;
 // Charging begins again only some percent below the limit.
 constexpr int below = 5;
@@ -28,6 +29,7 @@ bool mayBeHeld(const Pack &pack, bool atLimit)
         return atLimit && pack.rate && *pack.rate < leastRate;
     return pack.status != ChargeStatus::Full || atLimit;
 }
+
 } // namespace
 
 HeldCharge heldCharge(const std::vector<Pack> &packs, std::optional<bool> external,

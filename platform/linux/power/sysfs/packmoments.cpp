@@ -8,6 +8,7 @@
 namespace ferrin {
 
 namespace {
+
 constexpr double microwattHours = 1e6;
 constexpr double assumedFull = 50;
 // µW
@@ -54,6 +55,7 @@ std::optional<double> rateOf(const Pack &pack, const PackMoment &moment)
         return rate ? rate : over(moment.full - moment.now, pack.timeToFull);
     return rate;
 }
+
 } // namespace
 
 std::string memoryKey(const BatterySupply &battery, const BatteryRecord &record)

@@ -12,10 +12,12 @@
 namespace ferrin {
 
 namespace {
+
 // SMBIOS: portable, laptop, notebook, hand held, sub notebook, tablet, convertible, detachable.
 constexpr std::array<std::int64_t, 8> portableChassis { 8, 9, 10, 11, 14, 30, 31, 32 };
 constexpr std::array<std::string_view, 4> portableWords { "laptop", "convertible", "tablet",
                                                           "handset" };
+
 } // namespace
 
 bool isPortable(const std::string &root)

@@ -11,6 +11,7 @@
 namespace ferrin {
 
 namespace {
+
 template <typename Supply>
 struct NumberAttribute
 {
@@ -105,6 +106,7 @@ void readSupply(const AttributeDirectory &directory, const std::string &name,
     else if (directory.read("present", buffer) != "0")
         supplies.batteries.push_back(readBattery(directory, name));
 }
+
 } // namespace
 
 SupplyReader::SupplyReader(std::string root)

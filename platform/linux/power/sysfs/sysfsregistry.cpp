@@ -25,6 +25,7 @@ namespace ferrin {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr RegistryService::Handle batteryHandle = 1;
 constexpr QEvent::Type expiry = QEvent::User;
 
@@ -38,6 +39,7 @@ std::optional<Direction> directionOf(const std::vector<Pack> &packs, std::option
     });
     return discharging || external == false ? std::optional(Direction::ToEmpty) : std::nullopt;
 }
+
 } // namespace
 
 /// One reading and what follows from it; the last two members are filled when they are asked for.
