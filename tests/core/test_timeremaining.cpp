@@ -51,7 +51,6 @@ private Q_SLOTS:
     void estimatesTheTimeToFullWhileTheSystemIsStillCalculating();
     void keepsTheTimeThatStandsWhenItCannotEstimate();
     void keepsTheTimeWhenBothEstimatesAreZero();
-    void tellsTheTimeAvailableOnAHeldBattery();
     void knowsHowLongAFullBatteryLasts_data();
     void knowsHowLongAFullBatteryLasts();
     void keepsTheTimeOfAFullBatteryOfUnknownCapacity();
@@ -314,25 +313,6 @@ void TimeRemainingTest::keepsTheTimeWhenBothEstimatesAreZero()
     bench.refresh();
     QCOMPARE(bench.data->timeRemainingQuality(), TimeQuality::frozen);
     QVERIFY(bench.data->timeRemaining() == BatteryTime());
-}
-
-void TimeRemainingTest::tellsTheTimeAvailableOnAHeldBattery()
-{
-    ProviderBench bench;
-    bench.set("ExternalConnected", true);
-    bench.set("ChargingHeld", true);
-    bench.set("ChargeLimit", 80);
-    bench.remove("TimeRemaining");
-    bench.start();
-    bench.log.ignoreRest();
-    QCOMPARE(bench.data->chargingStatus(), BatteryChargingStatus::held);
-    QCOMPARE(bench.data->chargeLimit(), 80);
-    // 80 % of 6000 mAh at 300 mA.
-    QVERIFY(bench.data->timeRemaining() == (BatteryTime { 16, 0 }));
-    // At the usual draw, where one is known.
-    bench.set("AvgTimeToEmpty", 310);
-    bench.refresh();
-    QVERIFY(bench.data->timeRemaining() == (BatteryTime { 5, 10 }));
 }
 
 void TimeRemainingTest::knowsHowLongAFullBatteryLasts_data()

@@ -42,7 +42,7 @@ class ADay(OnADesktop):
         self.assertEqual(self.stored("adapterCurrentStored"), 3.25)
 
         self.laptop.send("charge", "BAT0", 78)
-        program.says("78%, 0:18 to full")
+        program.says(r"78%, 1:0\d to full")
         self.laptop.send("charge", "BAT0", 100)
         program.says("100%")
         self.assertEqual(item.get("IconAccessibleDesc"), "100%")

@@ -50,7 +50,7 @@ class WithAnUnreliableUPower(OnADesktop):
         program.says(r"33%, \d+:\d\d to full")
         self.laptop.send("upower", "resume")
         self.laptop.send("charge", "BAT0", 78)
-        program.says("78%, 0:18 to full")
+        program.says(r"78%, 1:0\d to full")
 
     def test_a_daemon_that_hangs_from_the_start_is_not_waited_for(self):
         self.laptop.send("upower", "hang")
