@@ -1,76 +1,67 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""A Debian 12 with nothing in it, in a folder: packages are installed there and run from there."""
+"""A Debian with nothing in it, in which a package is installed and from which it is run: on a desktop
+of another root, as if both were one system."""
 
 import configparser
-import glob
 import os
-import shlex
 import shutil
-import subprocess
-import tempfile
+import sys
 
-MIRROR = "http://deb.debian.org/debian"
-# What a program in the root sees of the outside: the displays, the buses and the virtual laptop.
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
+from roots.desktops import RELEASES, Desktops, release_of_this_machine  # noqa: E402
+
+# Where the desktop's root has the clean one, and what starts programs from there.
+PLACE, TOOLS = "/mnt/clean", "/mnt/tools"
+# What a program in the clean root sees of the desktop: the displays, the buses, the virtual laptop.
 SEEN = ("/tmp", "/proc", "/dev")
-MOCK = "/usr/lib/*/libumockdev-preload.so.0"
+MOCK = "libumockdev-preload.so.0"
+# The mounts go with the process, which stays the one that was started and whose user stays himself.
+LAUNCHER = """#!/bin/sh -e
+[ -n "$APART" ] || APART=1 exec unshare --user --map-root-user --mount "$0"
+{mounts}
+export LD_LIBRARY_PATH={tools}
+exec unshare --user --map-user=1000 --map-group=1000 --root={place} -- env PATH=/usr/bin:/bin {command}
+"""
 
 
-class CleanRoot:
-    def __init__(self):
-        # Not below /tmp, which the root sees.
-        self.path = tempfile.mkdtemp(prefix="ferrin-root-", dir="/var/tmp")
-        os.chmod(self.path, 0o755)
-        self._tools = tempfile.mkdtemp(prefix="ferrin-root-tools-")
-        shutil.copy(glob.glob(MOCK)[0], self._tools)
-        subprocess.run(["mmdebstrap", "--quiet", "--variant=apt", "bookworm", self.path, MIRROR],
-                       check=True)
+def number_of_this_machine():
+    """What the package was made for is what it is tried on."""
+    release = release_of_this_machine()
+    for number, name in RELEASES.items():
+        if name == release:
+            return number
+    raise AssertionError(f"there are no roots of this machine's release, {release}")
 
-    def close(self):
-        shutil.rmtree(self.path, ignore_errors=True)
-        shutil.rmtree(self._tools, ignore_errors=True)
 
-    def run(self, *command):
-        """Runs a command in the root and returns what it says."""
-        done = subprocess.run(["chroot", self.path, *command], text=True, stdin=subprocess.DEVNULL,
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False,
-                              env={"PATH": "/usr/sbin:/usr/bin:/sbin:/bin",
-                                   "DEBIAN_FRONTEND": "noninteractive", "LC_ALL": "C.UTF-8"})
-        if done.returncode != 0:
-            raise AssertionError(f"{shlex.join(command)} ended with {done.returncode}:\n"
-                                 + done.stdout)
-        return done.stdout
+def files_named(root, part):
+    """The paths in the root that have this in their last name, outside of homes and apt's books."""
+    found = []
+    for folder, folders, files in os.walk(root.path):
+        if folder == root.path:
+            folders[:] = [each for each in folders
+                          if each not in ("proc", "dev", "sys", "var", "home")]
+        found += [os.path.relpath(os.path.join(folder, each), root.path)
+                  for each in folders + files if part in each.lower()]
+    return sorted(found)
 
-    def take(self, file):
-        """Puts a file into the root's top folder; returns its path there."""
-        shutil.copy(file, self.path)
-        return "/" + os.path.basename(file)
 
-    def files_named(self, part):
-        """The paths in the root that have this in their last name, outside of apt's own books."""
-        found = []
-        for folder, folders, files in os.walk(self.path):
-            if folder == self.path:
-                folders[:] = [each for each in folders if each not in ("proc", "dev", "sys", "var")]
-            found += [os.path.relpath(os.path.join(folder, each), self.path)
-                      for each in folders + files if part in each.lower()]
-        return sorted(found)
-
-    def launcher(self, entry):
-        """A program that does what the application menu does with this desktop entry."""
-        parser = configparser.ConfigParser(interpolation=None)
-        parser.optionxform = str
-        parser.read(os.path.join(self.path, "usr/share/applications", entry))
-        command = parser["Desktop Entry"]["Exec"]
-        path = os.path.join(self._tools, "launch")
-        mounts = "\n".join(f"mount --rbind {each} {self.path}{each}" for each in SEEN)
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(f"#!/bin/sh -e\n{mounts}\nexport LD_LIBRARY_PATH={self._tools}\n"
-                       f"exec /usr/sbin/chroot {self.path} env PATH=/usr/bin:/bin {command}\n")
-        os.chmod(path, 0o755)
-        # Its mounts are its own and go with it; it stays the process that was started.
-        outer = path + "-apart"
-        with open(outer, "w", encoding="utf-8") as file:
-            file.write(f"#!/bin/sh\nexec /usr/bin/unshare --mount {path}\n")
-        os.chmod(outer, 0o755)
-        return outer
+def run_from(root, tools, entry, *command, build):
+    """The command line of a test on the desktops, whose program is what the application menu would
+    start with this desktop entry in the clean root. The folder of tools is the caller's own."""
+    parser = configparser.ConfigParser(interpolation=None)
+    parser.optionxform = str
+    parser.read(os.path.join(root.path, "usr/share/applications", entry))
+    launcher = os.path.join(tools, "launch")
+    with open(launcher, "w", encoding="utf-8") as file:
+        file.write(LAUNCHER.format(
+            mounts="\n".join(f"mount --rbind {each} {PLACE}{each}" for each in SEEN),
+            tools=TOOLS, place=PLACE, command=parser["Desktop Entry"]["Exec"]))
+    os.chmod(launcher, 0o755)
+    desktops = Desktops(number_of_this_machine(), build)
+    # Where the program is, the mock of the laptop is not.
+    shutil.copy(desktops.library(MOCK), tools)
+    os.makedirs(root.path + TOOLS, exist_ok=True)
+    shutil.copy(os.path.join(tools, MOCK), root.path + TOOLS)
+    return desktops.command(command, {"FERRIN_BINARY": TOOLS + "/launch"},
+                            binds=[f"{root.path}:{PLACE}", f"{tools}:{TOOLS}"])

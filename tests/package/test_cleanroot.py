@@ -12,21 +12,19 @@ import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.dont_write_bytecode = True
-sys.path.insert(0, os.path.join(HERE, "..", "endtoend"))
-from cleanroot import CleanRoot  # noqa: E402
-from harness import desktop  # noqa: E402
-from harness.case import AT_START  # noqa: E402
-from harness.dashboard import TAB, Dashboard  # noqa: E402
-from harness.processes import eventually  # noqa: E402
-from harness.program import store_path  # noqa: E402
-from virtuallaptop import VirtualLaptop  # noqa: E402
+sys.path.insert(0, HERE)
+from cleanroot import TOOLS, files_named, run_from  # noqa: E402
+from roots import cached  # noqa: E402
+from roots.desktops import release_of_this_machine  # noqa: E402
 
 ENTRY = "org.ferrin.Ferrin.desktop"
+BUILD = os.environ["FERRIN_BUILD"]
+STORE = "home/person/.config/org.ferrin.Ferrin/defaults.json"
 
 
 def made_package(folder):
     """The package that cpack makes of the build."""
-    subprocess.run(["cpack", "-B", folder], cwd=os.environ["FERRIN_BUILD"], check=True,
+    subprocess.run(["cpack", "-B", folder], cwd=BUILD, check=True,
                    stdout=subprocess.DEVNULL)
     packages = glob.glob(os.path.join(folder, "ferrin_*.deb"))
     assert len(packages) == 1, packages
@@ -46,33 +44,31 @@ class ThePackage(unittest.TestCase):
         self.assertEqual(told.stdout, "")
 
     def test_it_is_installed_started_from_the_menu_and_removed_without_a_trace(self):
-        root = CleanRoot()
-        self.addCleanup(root.close)
-        root.run("apt-get", "update")
+        root = self.enterContext(cached(release_of_this_machine()).copy())
         package = root.take(self.package)
-        root.run("apt-get", "install", "--yes", "--no-install-recommends", package)
-        os.remove(os.path.join(root.path, os.path.basename(package)))
-        self.assertIn("usr/bin/ferrin", root.files_named("ferrin"))
+        root.install(package)
+        os.remove(root.path + package)
+        self.assertIn("usr/bin/ferrin", files_named(root, "ferrin"))
+        self.use(root)
+        root.apt("purge", "--autoremove", "ferrin")
+        self.assertEqual(files_named(root, "ferrin"), [])
+        self.assertTrue(os.path.exists(os.path.join(root.path, STORE)))
 
-        os.environ["FERRIN_BINARY"] = root.launcher(ENTRY)
-        with VirtualLaptop() as laptop, desktop.XfceScreen() as session:
-            self.use(session, laptop)
-            settings = store_path(session)
-            root.run("apt-get", "purge", "--yes", "--autoremove", "ferrin")
-            self.assertEqual(root.files_named("ferrin"), [])
-            self.assertTrue(os.path.exists(settings))
-
-    def use(self, session, laptop):
-        """A first look at all of its windows."""
-        with Dashboard(session, laptop, AT_START) as dashboard:
-            dashboard.open()
-            dashboard.select("HEALTH")
-            dashboard.shows(Max_capacity=r"\d+%", Charge_cycles=r".*", Health="Normal",
-                            Lifespan=".*")
-            dashboard.click("SETTINGS", TAB)
-            eventually(dashboard.settings_window, "the settings have opened")
-            self.assertEqual(dashboard.program.log().count(".qml"), 0, dashboard.program.log())
-            dashboard.program.terminate()
+    def use(self, root):
+        """Its windows are opened; what was stored lies in the home of the root's user."""
+        with tempfile.TemporaryDirectory(prefix="ferrin-tools-") as tools:
+            used = subprocess.run(
+                run_from(root, tools, ENTRY, "/usr/bin/python3", "-B",
+                         os.path.join(HERE, "use_installed.py"), TOOLS + "/stored.json",
+                         build=BUILD),
+                text=True, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                stderr=subprocess.STDOUT, check=False)
+            self.assertEqual(used.returncode, 0, used.stdout)
+            stored = os.path.join(root.path, STORE)
+            root.run("install", "-D", "--owner=person", "--group=person", "/dev/null", "/" + STORE)
+            root.run("cp", "/mnt/stored.json", "/" + STORE,
+                     binds=[os.path.join(tools, "stored.json") + ":/mnt/stored.json"])
+            self.assertTrue(os.path.getsize(stored))
 
 
 if __name__ == "__main__":
