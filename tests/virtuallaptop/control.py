@@ -142,7 +142,7 @@ class Commands:
         by_name = {name: part for name, part in values.items() if isinstance(part, dict)}
         if not by_name:
             adapters = self._names(machines.is_adapter)
-            usb = [name for name in adapters if self._sysfs.supplies[name]["type"] == "USB"]
+            usb = [name for name in adapters if self._sysfs.supplies[name].get("type") == "USB"]
             if not adapters:
                 raise ValueError("there is no adapter")
             by_name[(usb or adapters)[0]] = values
