@@ -10,41 +10,21 @@
 #include <QObject>
 #include <QProperty>
 #include <QString>
-#include <QVariant>
 
 #include <optional>
 #include <utility>
 
 namespace ferrin {
 
-/// The one snapshot of the battery and the power adapter that everything shown is made of. The
-/// provider creates it, owns it and alone writes it; views only read. Its many members are the
-/// snapshot: each is tracked by itself, so that a binding that reads one is evaluated again only
-/// when that one changes, and writing the value that is there already notifies nobody.
+/// The one snapshot of the battery and the power adapter; everything shown is derived from it. The
+/// provider creates it, owns it and is its only writer; views only read. Each value is tracked on
+/// its own: a binding that reads it is evaluated again only when that value changes, each has its
+/// own signal, and writing the present value again notifies nobody.
 ///
-/// An absent value is a state of its own, distinct from zero. To QML it is `undefined`.
+/// An absent value is unknown, which differs from zero.
 class BatteryData : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(ferrin::BatteryChargingStatus chargingStatus READ chargingStatus NOTIFY
-                   chargingStatusChanged)
-    Q_PROPERTY(ferrin::PowerSource powerSource READ powerSource NOTIFY powerSourceChanged)
-    Q_PROPERTY(ferrin::BatteryHealth health READ health NOTIFY healthChanged)
-    Q_PROPERTY(ferrin::BatteryTime timeRemaining READ timeRemaining NOTIFY timeRemainingChanged)
-    Q_PROPERTY(ferrin::TimeQuality timeRemainingQuality READ timeRemainingQuality NOTIFY
-                   timeRemainingQualityChanged)
-    Q_PROPERTY(QVariant charge READ chargeValue NOTIFY chargeChanged)
-    Q_PROPERTY(QVariant chargeLimit READ chargeLimitValue NOTIFY chargeLimitChanged)
-    Q_PROPERTY(QVariant chargeCycles READ chargeCyclesValue NOTIFY chargeCyclesChanged)
-    Q_PROPERTY(QVariant designCycles READ designCyclesValue NOTIFY designCyclesChanged)
-    Q_PROPERTY(QVariant rawMaxCapacity READ rawMaxCapacityValue NOTIFY rawMaxCapacityChanged)
-    Q_PROPERTY(QVariant maxCapacity READ maxCapacityValue NOTIFY maxCapacityChanged)
-    Q_PROPERTY(QVariant adapterName READ adapterNameValue NOTIFY adapterNameChanged)
-    Q_PROPERTY(QVariant adapterManufacturer READ adapterManufacturerValue NOTIFY
-                   adapterManufacturerChanged)
-    Q_PROPERTY(QVariant adapterWatts READ adapterWattsValue NOTIFY adapterWattsChanged)
-    Q_PROPERTY(QVariant adapterVoltage READ adapterVoltageValue NOTIFY adapterVoltageChanged)
-    Q_PROPERTY(QVariant adapterCurrent READ adapterCurrentValue NOTIFY adapterCurrentChanged)
 
 public:
     using QObject::QObject;
@@ -135,21 +115,6 @@ Q_SIGNALS:
     void adapterCurrentChanged();
 
 private:
-    [[nodiscard]] QVariant chargeValue() const { return toVariant(charge()); }
-    [[nodiscard]] QVariant chargeLimitValue() const { return toVariant(chargeLimit()); }
-    [[nodiscard]] QVariant chargeCyclesValue() const { return toVariant(chargeCycles()); }
-    [[nodiscard]] QVariant designCyclesValue() const { return toVariant(designCycles()); }
-    [[nodiscard]] QVariant rawMaxCapacityValue() const { return toVariant(rawMaxCapacity()); }
-    [[nodiscard]] QVariant maxCapacityValue() const { return toVariant(maxCapacity()); }
-    [[nodiscard]] QVariant adapterNameValue() const { return toVariant(adapterName()); }
-    [[nodiscard]] QVariant adapterManufacturerValue() const
-    {
-        return toVariant(adapterManufacturer());
-    }
-    [[nodiscard]] QVariant adapterWattsValue() const { return toVariant(adapterWatts()); }
-    [[nodiscard]] QVariant adapterVoltageValue() const { return toVariant(adapterVoltage()); }
-    [[nodiscard]] QVariant adapterCurrentValue() const { return toVariant(adapterCurrent()); }
-
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(BatteryData, BatteryChargingStatus, m_chargingStatus,
                                          BatteryChargingStatus::unknown,
                                          &BatteryData::chargingStatusChanged)

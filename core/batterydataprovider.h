@@ -30,7 +30,6 @@ class StoredData;
 class BatteryDataProvider : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(ferrin::BatteryData *data READ data CONSTANT)
 
 public:
     static constexpr double REFRESH_RATE_IN_SECONDS = 5.0;

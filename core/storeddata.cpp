@@ -113,29 +113,4 @@ void StoredData::deleteAll()
         m_defaults.removeObject(key);
 }
 
-QVariant StoredData::adapterNameValue() const
-{
-    return toVariant(adapterName());
-}
-
-QVariant StoredData::adapterManufacturerValue() const
-{
-    return toVariant(adapterManufacturer());
-}
-
-QVariant StoredData::adapterWattsValue() const
-{
-    return toVariant(adapterWatts());
-}
-
-QVariant StoredData::adapterVoltageValue() const
-{
-    return toVariant(adapterVoltage());
-}
-
-QVariant StoredData::adapterCurrentValue() const
-{
-    return toVariant(adapterCurrent());
-}
-
 } // namespace ferrin

@@ -6,7 +6,6 @@
 #include <QObject>
 #include <QProperty>
 #include <QString>
-#include <QVariant>
 
 #include <optional>
 
@@ -17,17 +16,11 @@ class DefaultsStore;
 /// The details of the last power adapter, which persist across launches: five keys of the defaults
 /// store. Nothing is cached; every call reads the store. Only the provider writes it.
 ///
-/// Reading a value inside a binding records the read; writing a different value evaluates that
-/// binding again. Deleting everything notifies nobody. To QML an absent value is `undefined`.
+/// A binding that reads a value is evaluated again when a different one is written. Deleting
+/// everything notifies nobody.
 class StoredData : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QVariant adapterName READ adapterNameValue NOTIFY adapterNameChanged)
-    Q_PROPERTY(QVariant adapterManufacturer READ adapterManufacturerValue NOTIFY
-                   adapterManufacturerChanged)
-    Q_PROPERTY(QVariant adapterWatts READ adapterWattsValue NOTIFY adapterWattsChanged)
-    Q_PROPERTY(QVariant adapterVoltage READ adapterVoltageValue NOTIFY adapterVoltageChanged)
-    Q_PROPERTY(QVariant adapterCurrent READ adapterCurrentValue NOTIFY adapterCurrentChanged)
 
 public:
     /// The store must outlive this view.
@@ -64,12 +57,6 @@ Q_SIGNALS:
     void adapterCurrentChanged();
 
 private:
-    [[nodiscard]] QVariant adapterNameValue() const;
-    [[nodiscard]] QVariant adapterManufacturerValue() const;
-    [[nodiscard]] QVariant adapterWattsValue() const;
-    [[nodiscard]] QVariant adapterVoltageValue() const;
-    [[nodiscard]] QVariant adapterCurrentValue() const;
-
     DefaultsStore &m_defaults;
 
     // The number of writes of each value: a read registers a dependency on it, a write changes it.

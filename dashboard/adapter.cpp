@@ -19,13 +19,12 @@ Adapter::Adapter(StoredData &stored, BatteryData &data, QObject *parent)
     : QObject(parent)
     , m_stored(stored)
 {
-    connect(&stored, &StoredData::adapterWattsChanged, this, &Adapter::readSoon);
-    connect(&stored, &StoredData::adapterVoltageChanged, this, &Adapter::readSoon);
-    connect(&stored, &StoredData::adapterCurrentChanged, this, &Adapter::readSoon);
-    connect(&stored, &StoredData::adapterNameChanged, this, &Adapter::readSoon);
-    connect(&stored, &StoredData::adapterManufacturerChanged, this, &Adapter::readSoon);
-    connect(&data, &BatteryData::powerSourceChanged, this, &Adapter::readSoon);
-    read();
+    connect(&stored, &StoredData::adapterWattsChanged, this, &Adapter::notifySoon);
+    connect(&stored, &StoredData::adapterVoltageChanged, this, &Adapter::notifySoon);
+    connect(&stored, &StoredData::adapterCurrentChanged, this, &Adapter::notifySoon);
+    connect(&stored, &StoredData::adapterNameChanged, this, &Adapter::notifySoon);
+    connect(&stored, &StoredData::adapterManufacturerChanged, this, &Adapter::notifySoon);
+    connect(&data, &BatteryData::powerSourceChanged, this, &Adapter::notifySoon);
 }
 
 Adapter *Adapter::create(QQmlEngine *engine, QJSEngine *)
@@ -35,7 +34,7 @@ Adapter *Adapter::create(QQmlEngine *engine, QJSEngine *)
 
 QString Adapter::decimalText(double value)
 {
-    // Of a half the even neighbour, as number formatters round.
+    // A half goes to the even neighbour, as in number formatters.
     const double hundredths = std::nearbyint(value * 100);
     QLocale locale = QLocale::c();
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
@@ -47,21 +46,40 @@ bool Adapter::isApple(const QString &manufacturer)
     return manufacturer.contains(QLatin1String("apple"), Qt::CaseInsensitive);
 }
 
-void Adapter::readSoon()
+QVariant Adapter::watts() const
 {
-    if (!std::exchange(m_isReadQueued, true))
-        QMetaObject::invokeMethod(
-            this, [this] { read(); }, Qt::QueuedConnection);
+    return toVariant(m_stored.adapterWatts());
 }
 
-void Adapter::read()
+QVariant Adapter::voltage() const
 {
-    m_isReadQueued = false;
-    m_watts = toVariant(m_stored.adapterWatts());
-    m_voltage = toVariant(m_stored.adapterVoltage());
-    m_current = toVariant(m_stored.adapterCurrent());
-    m_name = toVariant(m_stored.adapterName());
-    m_manufacturer = toVariant(m_stored.adapterManufacturer());
+    return toVariant(m_stored.adapterVoltage());
+}
+
+QVariant Adapter::current() const
+{
+    return toVariant(m_stored.adapterCurrent());
+}
+
+QVariant Adapter::name() const
+{
+    return toVariant(m_stored.adapterName());
+}
+
+QVariant Adapter::manufacturer() const
+{
+    return toVariant(m_stored.adapterManufacturer());
+}
+
+void Adapter::notifySoon()
+{
+    if (std::exchange(m_isNotificationQueued, true))
+        return;
+    const auto notify = [this] {
+        m_isNotificationQueued = false;
+        Q_EMIT changed();
+    };
+    QMetaObject::invokeMethod(this, notify, Qt::QueuedConnection);
 }
 
 } // namespace ferrin

@@ -55,9 +55,9 @@ QVariant Battery::minutes() const
     return toVariant(m_data.timeRemaining().minutes);
 }
 
-Battery::ChargingStatus Battery::chargingStatus() const
+ChargingStatuses::Status Battery::chargingStatus() const
 {
-    return ChargingStatus(m_data.chargingStatus());
+    return ChargingStatuses::Status(m_data.chargingStatus());
 }
 
 Battery::PowerSource Battery::powerSource() const

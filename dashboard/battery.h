@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "core/batterytypes.h"
+#include "quick/chargingstatuses.h"
 
 #include <QObject>
 #include <QVariant>
@@ -16,9 +16,9 @@ namespace ferrin {
 
 class BatteryData;
 
-/// The snapshot of the battery in the form that QML can name: its enumerations with capital
-/// letters, its absent numbers as `undefined`. It holds nothing of its own, and each property
-/// notifies when the snapshot's does. A child of the engine; the snapshot outlives it.
+/// The battery snapshot as QML reads it: enumerators begin with capital letters, as QML demands,
+/// and an absent number is `undefined`. It stores nothing; each property notifies when the
+/// snapshot's does. A child of the engine; the snapshot outlives it.
 class Battery final : public QObject
 {
     Q_OBJECT
@@ -29,10 +29,11 @@ class Battery final : public QObject
     Q_PROPERTY(QVariant charge READ charge NOTIFY chargeChanged)
     /// Where a held battery is held, percent; undefined when it is held for another reason.
     Q_PROPERTY(QVariant chargeLimit READ chargeLimit NOTIFY chargeLimitChanged)
-    /// Of the remaining time.
+    /// Whole hours of the remaining time, and the minutes past them, 0 to 59.
     Q_PROPERTY(QVariant hours READ hours NOTIFY timeRemainingChanged)
     Q_PROPERTY(QVariant minutes READ minutes NOTIFY timeRemainingChanged)
-    Q_PROPERTY(ChargingStatus chargingStatus READ chargingStatus NOTIFY chargingStatusChanged)
+    Q_PROPERTY(ferrin::ChargingStatuses::Status chargingStatus READ chargingStatus NOTIFY
+                   chargingStatusChanged)
     Q_PROPERTY(PowerSource powerSource READ powerSource NOTIFY powerSourceChanged)
     /// Percent of the design capacity.
     Q_PROPERTY(QVariant maxCapacity READ maxCapacity NOTIFY maxCapacityChanged)
@@ -42,16 +43,6 @@ class Battery final : public QObject
     Q_PROPERTY(Lifespan lifespan READ lifespan NOTIFY lifespanChanged)
 
 public:
-    enum class ChargingStatus {
-        Charging = int(BatteryChargingStatus::charging),
-        Discharging = int(BatteryChargingStatus::discharging),
-        Charged = int(BatteryChargingStatus::charged),
-        FinishingCharge = int(BatteryChargingStatus::finishingCharge),
-        Unknown = int(BatteryChargingStatus::unknown),
-        Held = int(BatteryChargingStatus::held),
-    };
-    Q_ENUM(ChargingStatus)
-
     enum class PowerSource {
         Battery = int(ferrin::PowerSource::battery),
         External = int(ferrin::PowerSource::external),
@@ -84,7 +75,7 @@ public:
     [[nodiscard]] QVariant chargeLimit() const;
     [[nodiscard]] QVariant hours() const;
     [[nodiscard]] QVariant minutes() const;
-    [[nodiscard]] ChargingStatus chargingStatus() const;
+    [[nodiscard]] ChargingStatuses::Status chargingStatus() const;
     [[nodiscard]] PowerSource powerSource() const;
     [[nodiscard]] QVariant maxCapacity() const;
     [[nodiscard]] QVariant chargeCycles() const;

@@ -10,12 +10,12 @@
 
 namespace ferrin {
 
-/// What a button of a group draws itself as, in the form that QML can name.
+/// `ButtonState` for QML, whose enumerators must begin with a capital letter.
 class ButtonStates : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(ButtonState)
-    QML_UNCREATABLE("It names the states and has none.")
+    QML_UNCREATABLE("An enumeration.")
 
 public:
     enum State {

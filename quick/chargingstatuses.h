@@ -10,12 +10,12 @@
 
 namespace ferrin {
 
-/// What the battery is doing, in the form that QML can name and hand on to a picture of an icon.
+/// `BatteryChargingStatus` for QML, whose enumerators must begin with a capital letter.
 class ChargingStatuses : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(ChargingStatus)
-    QML_UNCREATABLE("It names the statuses and has none.")
+    QML_UNCREATABLE("An enumeration.")
 
 public:
     enum Status {

@@ -21,7 +21,7 @@ void IconItem::setCharge(double charge)
         showIcon();
 }
 
-void IconItem::setStatus(int status)
+void IconItem::setStatus(ChargingStatuses::Status status)
 {
     if (std::exchange(m_status, status) != status)
         showIcon();

@@ -18,8 +18,7 @@ class IconItem : public ferrin::ViewItem
     Q_PROPERTY(QString icon READ icon WRITE setIcon NOTIFY changed)
     /// Percent, 0 to 100.
     Q_PROPERTY(double charge READ charge WRITE setCharge NOTIFY changed)
-    /// A ChargingStatus.
-    Q_PROPERTY(int status READ status WRITE setStatus NOTIFY changed)
+    Q_PROPERTY(ferrin::ChargingStatuses::Status status READ status WRITE setStatus NOTIFY changed)
 
 public:
     using ViewItem::ViewItem;
@@ -28,8 +27,8 @@ public:
     void setIcon(const QString &icon);
     [[nodiscard]] double charge() const noexcept { return m_charge; }
     void setCharge(double charge);
-    [[nodiscard]] int status() const noexcept { return m_status; }
-    void setStatus(int status);
+    [[nodiscard]] ChargingStatuses::Status status() const noexcept { return m_status; }
+    void setStatus(ChargingStatuses::Status status);
 
 Q_SIGNALS:
     void changed();
@@ -39,7 +38,7 @@ private:
 
     QString m_icon;
     double m_charge = 0;
-    int m_status = ChargingStatuses::Unknown;
+    ChargingStatuses::Status m_status = ChargingStatuses::Unknown;
 };
 
 } // namespace ferrin

@@ -33,7 +33,6 @@ enum class AppColorScheme { system, light, dark };
 class AppColor : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(ferrin::AppColorScheme scheme READ scheme WRITE setScheme BINDABLE bindableScheme)
 
 public:
     /// The process's, over the shared defaults, made on first use.

@@ -16,10 +16,6 @@ namespace ferrin {
 class AppStatus : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(ferrin::DashboardMenuButton dashboardItemSelected READ dashboardItemSelected WRITE
-                   setDashboardItemSelected BINDABLE bindableDashboardItemSelected)
-    Q_PROPERTY(ferrin::SettingsMenuButton settingsItemSelected READ settingsItemSelected WRITE
-                   setSettingsItemSelected BINDABLE bindableSettingsItemSelected)
 
 public:
     /// The process's, made on first use.

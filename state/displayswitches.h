@@ -28,29 +28,11 @@ enum class DisplaySwitch {
 
 /// What the item shows in each battery state. A switch that was never set, or that holds anything
 /// but a bool, is on; reading writes nothing. Bindings that read a switch follow it, whoever in the
-/// process changes it. One instance serves the process. Each switch has a property of its own
-/// beside the three functions that serve them all, because windows bind to switches by name.
+/// process changes it. One instance serves the process. Each switch can be reached by its name or
+/// by its DisplaySwitch.
 class DisplaySwitches : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(bool showIconWhenDischarging READ showIconWhenDischarging WRITE
-                   setShowIconWhenDischarging BINDABLE bindableShowIconWhenDischarging)
-    Q_PROPERTY(bool showChargeWhenDischarging READ showChargeWhenDischarging WRITE
-                   setShowChargeWhenDischarging BINDABLE bindableShowChargeWhenDischarging)
-    Q_PROPERTY(bool showTimeWhenDischarging READ showTimeWhenDischarging WRITE
-                   setShowTimeWhenDischarging BINDABLE bindableShowTimeWhenDischarging)
-    Q_PROPERTY(bool showIconWhenCharging READ showIconWhenCharging WRITE setShowIconWhenCharging
-                   BINDABLE bindableShowIconWhenCharging)
-    Q_PROPERTY(bool showChargeWhenCharging READ showChargeWhenCharging WRITE
-                   setShowChargeWhenCharging BINDABLE bindableShowChargeWhenCharging)
-    Q_PROPERTY(bool showTimeWhenCharging READ showTimeWhenCharging WRITE setShowTimeWhenCharging
-                   BINDABLE bindableShowTimeWhenCharging)
-    Q_PROPERTY(bool showIconWhenCharged READ showIconWhenCharged WRITE setShowIconWhenCharged
-                   BINDABLE bindableShowIconWhenCharged)
-    Q_PROPERTY(bool showChargeWhenCharged READ showChargeWhenCharged WRITE setShowChargeWhenCharged
-                   BINDABLE bindableShowChargeWhenCharged)
-    Q_PROPERTY(bool showTimeWhenCharged READ showTimeWhenCharged WRITE setShowTimeWhenCharged
-                   BINDABLE bindableShowTimeWhenCharged)
 
 public:
     /// The process's, over the shared defaults, made on first use.

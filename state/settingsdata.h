@@ -31,28 +31,10 @@ struct IconsOnOffer
 /// width that the status item last had, and the release that ran last. It caches nothing: every
 /// value is read from the defaults store, every binding that read one is evaluated again when it is
 /// set here or changes in the store. A value that cannot be read is replaced by its default in the
-/// store, on first read. One instance serves the process; it never shows an error. It is long
-/// because each of eight properties has its getter, its setter and its bindable.
+/// store, on first read. One instance serves the process; it never shows an error.
 class SettingsData : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(ferrin::Icon dischargingIconSelected READ dischargingIconSelected WRITE
-                   setDischargingIconSelected BINDABLE bindableDischargingIconSelected)
-    Q_PROPERTY(ferrin::Icon chargingIconSelected READ chargingIconSelected WRITE
-                   setChargingIconSelected BINDABLE bindableChargingIconSelected)
-    Q_PROPERTY(ferrin::Icon chargedIconSelected READ chargedIconSelected WRITE
-                   setChargedIconSelected BINDABLE bindableChargedIconSelected)
-    Q_PROPERTY(QString releaseVersionNumber READ releaseVersionNumber WRITE setReleaseVersionNumber
-                   BINDABLE bindableReleaseVersionNumber)
-    Q_PROPERTY(float statusItemWidth READ statusItemWidth WRITE setStatusItemWidth BINDABLE
-                   bindableStatusItemWidth)
-    Q_PROPERTY(
-        ferrin::Icon dischargingIconSelectedDefault READ dischargingIconSelectedDefault WRITE
-            setDischargingIconSelectedDefault BINDABLE bindableDischargingIconSelectedDefault)
-    Q_PROPERTY(ferrin::Icon chargingIconSelectedDefault READ chargingIconSelectedDefault WRITE
-                   setChargingIconSelectedDefault BINDABLE bindableChargingIconSelectedDefault)
-    Q_PROPERTY(ferrin::Icon chargedIconSelectedDefault READ chargedIconSelectedDefault WRITE
-                   setChargedIconSelectedDefault BINDABLE bindableChargedIconSelectedDefault)
 
 public:
     /// The process's, over the shared defaults, made on first use.

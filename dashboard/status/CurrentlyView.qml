@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
-import Ferrin.Dashboard
 import Ferrin.Quick
 
 // The card of what the battery is doing.
@@ -14,27 +13,26 @@ CardView {
     property var limit
 
     title: "Battery is"
-    isKnown: status !== Battery.ChargingStatus.Unknown
+    isKnown: status !== ChargingStatus.Unknown
     value: verdictOf(status)
     imageView: Symbol {
         name: root.symbolOf(root.status)
         size: 18
-        color: root.status === Battery.ChargingStatus.Discharging ? Colours.redIcon
-                                                                  : Colours.greenIcon
+        color: root.status === ChargingStatus.Discharging ? Colours.redIcon : Colours.greenIcon
     }
     textView: GenericTextView { text: root.value }
 
     function verdictOf(batteryStatus: int): string {
         switch (batteryStatus) {
-        case Battery.ChargingStatus.Discharging:
+        case ChargingStatus.Discharging:
             return "Discharging";
-        case Battery.ChargingStatus.Charging:
+        case ChargingStatus.Charging:
             return "Charging";
-        case Battery.ChargingStatus.Charged:
+        case ChargingStatus.Charged:
             return "Charged";
-        case Battery.ChargingStatus.FinishingCharge:
+        case ChargingStatus.FinishingCharge:
             return "Finishing charge";
-        case Battery.ChargingStatus.Held:
+        case ChargingStatus.Held:
             return limit === undefined ? "Not charging" : `Held at ${limit}%`;
         default:
             return "";
@@ -43,11 +41,11 @@ CardView {
 
     function symbolOf(batteryStatus: int): string {
         switch (batteryStatus) {
-        case Battery.ChargingStatus.Discharging:
+        case ChargingStatus.Discharging:
             return "arrow.down";
-        case Battery.ChargingStatus.Charging:
+        case ChargingStatus.Charging:
             return "arrow.up";
-        case Battery.ChargingStatus.Held:
+        case ChargingStatus.Held:
             return "pause";
         default:
             return "arrow.up.to.line";

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
-import Ferrin.Dashboard
+import Ferrin.Quick
 
 // The card of the time to empty or to full. On a battery that is full, or held, it is the time that
 // the charge would last, which takes an explanation.
@@ -12,11 +12,11 @@ CardView {
     required property int chargeStatus
     // Its hours and minutes, either undefined while unknown.
     required property var time
-    readonly property bool isResting: chargeStatus === Battery.ChargingStatus.Charged
-        || chargeStatus === Battery.ChargingStatus.FinishingCharge
-        || chargeStatus === Battery.ChargingStatus.Held
+    readonly property bool isResting: chargeStatus === ChargingStatus.Charged
+        || chargeStatus === ChargingStatus.FinishingCharge
+        || chargeStatus === ChargingStatus.Held
 
-    isKnown: chargeStatus !== Battery.ChargingStatus.Unknown
+    isKnown: chargeStatus !== ChargingStatus.Unknown
         && time.hours !== undefined && time.minutes !== undefined
     title: isKnown ? titleOf(chargeStatus) : "Time"
     value: `${counted(time.hours, "hour")} ${counted(time.minutes, "minute")}`
@@ -29,9 +29,9 @@ CardView {
 
     function titleOf(status: int): string {
         switch (status) {
-        case Battery.ChargingStatus.Discharging:
+        case ChargingStatus.Discharging:
             return "Time to empty";
-        case Battery.ChargingStatus.Charging:
+        case ChargingStatus.Charging:
             return "Time to full";
         default:
             return "Time available";

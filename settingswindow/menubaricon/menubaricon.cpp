@@ -26,9 +26,9 @@ MenuBarIcon *MenuBarIcon::create(QQmlEngine *engine, QJSEngine *)
     return engineChild<MenuBarIcon>(*engine);
 }
 
-int MenuBarIcon::status() const
+ChargingStatuses::Status MenuBarIcon::status() const
 {
-    return int(m_data.chargingStatus());
+    return ChargingStatuses::Status(m_data.chargingStatus());
 }
 
 QString MenuBarIcon::nameOf(const QString &rawValue) const

@@ -20,8 +20,8 @@ class MenuBarIcon final : public QObject
     Q_PROPERTY(ferrin::StateChoices *discharging READ discharging CONSTANT)
     Q_PROPERTY(ferrin::StateChoices *charging READ charging CONSTANT)
     Q_PROPERTY(ferrin::StateChoices *charged READ charged CONSTANT)
-    /// What the battery is doing now, a ChargingStatus.
-    Q_PROPERTY(int status READ status NOTIFY statusChanged)
+    /// What the battery is doing now.
+    Q_PROPERTY(ferrin::ChargingStatuses::Status status READ status NOTIFY statusChanged)
 
 public:
     explicit MenuBarIcon(const StateChoices::Sources &sources, QObject *parent = nullptr);
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] StateChoices *discharging() { return &m_discharging; }
     [[nodiscard]] StateChoices *charging() { return &m_charging; }
     [[nodiscard]] StateChoices *charged() { return &m_charged; }
-    [[nodiscard]] int status() const;
+    [[nodiscard]] ChargingStatuses::Status status() const;
 
     /// The icon with this raw value in words; empty for a text that is no icon's.
     Q_INVOKABLE QString nameOf(const QString &rawValue) const;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "menubar/itemcontent.h"
+#include "quick/chargingstatuses.h"
 #include "settingswindow/menubaricon/statesample.h"
 
 #include <QObject>
@@ -24,8 +25,7 @@ class StateChoices final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("There is one for each battery state.")
-    /// A ChargingStatus.
-    Q_PROPERTY(int status READ status CONSTANT)
+    Q_PROPERTY(ferrin::ChargingStatuses::Status status READ status CONSTANT)
     Q_PROPERTY(bool showIcon READ showIcon WRITE setShowIcon NOTIFY switchesChanged)
     Q_PROPERTY(bool showCharge READ showCharge WRITE setShowCharge NOTIFY switchesChanged)
     Q_PROPERTY(bool showTime READ showTime WRITE setShowTime NOTIFY switchesChanged)
@@ -54,7 +54,10 @@ public:
 
     StateChoices(ItemState state, const Sources &sources, QObject *parent = nullptr);
 
-    [[nodiscard]] int status() const { return int(m_sample.status); }
+    [[nodiscard]] ChargingStatuses::Status status() const
+    {
+        return ChargingStatuses::Status(m_sample.status);
+    }
     [[nodiscard]] bool showIcon() const;
     void setShowIcon(bool on);
     [[nodiscard]] bool showCharge() const;

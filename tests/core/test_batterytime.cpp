@@ -27,7 +27,6 @@ private Q_SLOTS:
     void truncatesTowardZero();
     void stopsTheProcessOverANumberThatIsNoTime_data();
     void stopsTheProcessOverANumberThatIsNoTime();
-    void isUndefinedToQmlWhereItIsAbsent();
 };
 
 void TestBatteryTime::isUnknownAtFirst()
@@ -85,19 +84,6 @@ void TestBatteryTime::stopsTheProcessOverANumberThatIsNoTime()
     const auto words
         = test::lastWords([fraction] { std::ignore = BatteryTime::fractionalHours(fraction); });
     QTEST(words.value_or(QString()), "words");
-}
-
-void TestBatteryTime::isUndefinedToQmlWhereItIsAbsent()
-{
-    const QMetaObject &meta = BatteryTime::staticMetaObject;
-    const QMetaProperty hours = meta.property(meta.indexOfProperty("hours"));
-    const QMetaProperty minutes = meta.property(meta.indexOfProperty("minutes"));
-    const BatteryTime known { 2, 30 };
-    QCOMPARE(hours.readOnGadget(&known), QVariant(2));
-    QCOMPARE(minutes.readOnGadget(&known), QVariant(30));
-    const BatteryTime unknown;
-    QVERIFY(!hours.readOnGadget(&unknown).isValid());
-    QVERIFY(!minutes.readOnGadget(&unknown).isValid());
 }
 
 FERRIN_TEST(QCoreApplication, TestBatteryTime)

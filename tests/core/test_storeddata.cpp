@@ -84,7 +84,6 @@ private Q_SLOTS:
     void deletesAllInTheirOrder();
     void deletesWithoutTellingAnyone();
     void evaluatesABindingAgainWhenAValueThatItReadIsWritten();
-    void isUndefinedToQmlWhereItIsAbsent();
     void survivesALaunch();
     void cannotBeSharedWithoutASharedStore();
     void isSharedOnTheSharedStore();
@@ -324,21 +323,6 @@ void TestStoredData::evaluatesABindingAgainWhenAValueThatItReadIsWritten()
     bench.data.setAdapterName(u"charger"_s);
     bench.data.setAdapterWatts(65);
     QCOMPARE(evaluations, 0);
-}
-
-void TestStoredData::isUndefinedToQmlWhereItIsAbsent()
-{
-    Bench bench;
-    const QList<const char *> names { "adapterName", "adapterManufacturer", "adapterWatts",
-                                      "adapterVoltage", "adapterCurrent" };
-    for (const char *name : names)
-        QVERIFY2(!bench.data.property(name).isValid(), name);
-    bench.fill();
-    QCOMPARE(bench.data.property("adapterName"), QVariant(u"65W charger"_s));
-    QCOMPARE(bench.data.property("adapterManufacturer"), QVariant(u"Maker"_s));
-    QCOMPARE(bench.data.property("adapterWatts"), QVariant(65));
-    QCOMPARE(bench.data.property("adapterVoltage"), QVariant(20.0F));
-    QCOMPARE(bench.data.property("adapterCurrent"), QVariant(3.25F));
 }
 
 void TestStoredData::survivesALaunch()
