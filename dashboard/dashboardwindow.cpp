@@ -95,7 +95,7 @@ void DashboardWindow::focusOutEvent(QFocusEvent *event)
 void DashboardWindow::keyPressEvent(QKeyEvent *event)
 {
     FramedWindow::keyPressEvent(event);
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape || event->keyCombination() == (Qt::CTRL | Qt::Key_W))
         Q_EMIT dismissed();
 }
 

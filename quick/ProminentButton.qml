@@ -4,38 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// A push button in the accent colour, for what a view mainly offers.
-Pressable {
-    id: root
-
-    required property string text
-
-    spokenName: text
-    implicitWidth: Math.max(56, label.implicitWidth + 20)
-    implicitHeight: label.implicitHeight + 10
-    opacity: enabled ? 1 : 0.5
-
-    Rectangle {
-        id: ground
-
-        anchors.fill: parent
-        radius: 5
-        color: root.isDown ? Qt.darker(Colours.accent, 1.2) : Colours.accent
-    }
-
-    FocusRing {
-        anchors.margins: -3
-        radius: ground.radius + 3
-        owner: root
-    }
-
-    Text {
-        id: label
-
-        anchors.centerIn: parent
-        text: root.text
-        textFormat: Text.PlainText
-        font: Fonts.regular12
-        color: Colours.accentText
-    }
+// A push button in the accent colour, for a view's main action.
+PushButton {
+    groundColor: isDown ? Qt.darker(Colours.accent, 1.2) : Colours.accent
+    textColor: Colours.accentText
 }

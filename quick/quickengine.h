@@ -3,14 +3,16 @@
 
 #pragma once
 
+#include "quick/heldkeys.h"
+
 #include <QQmlEngine>
 
-/// Has the C++ types of a QML module linked in; `name` is its URI with underscores.
+/// Links the C++ types of a QML module; `name` is its URI with underscores.
 #define FERRIN_USE_QML_TYPES(name)                                                                 \
     extern void qml_register_types_##name();                                                       \
     [[maybe_unused]] static const volatile auto typesOf_##name = &qml_register_types_##name;
 
-/// Has the compiled files of a QML module linked in; `target` is its room's.
+/// Links the compiled files of a QML module; `target` is its CMake target.
 #define FERRIN_USE_QML_FILES(target)                                                               \
     extern int qInitResources_qmlcache_##target();                                                 \
     [[maybe_unused]] static const int filesOf_##target = qInitResources_qmlcache_##target();
@@ -19,26 +21,27 @@ namespace ferrin {
 
 class PopoverDesktop;
 
-/// The engine of both windows, made before either: it also decides that they are painted in
-/// software. It knows our QML modules and no other place on the disk than Qt's
-/// own. What a singleton needs is found among its children: whoever makes the engine puts it there.
+/// The QML engine of all windows, made before any of them: it also decides that they are painted in
+/// software and that a held key acts once. It imports our own modules and Qt's, nothing else. A
+/// singleton's C++ object is found among its children, where the owner of the engine puts it.
 class QuickEngine final : public QQmlEngine
 {
     Q_OBJECT
 
 public:
     explicit QuickEngine(QObject *parent = nullptr);
-    /// Popovers are dressed by this desktop, which outlives the engine.
+    /// The desktop prepares the popovers' windows; it outlives the engine.
     explicit QuickEngine(PopoverDesktop &popovers, QObject *parent = nullptr);
 
     [[nodiscard]] PopoverDesktop &popovers() const noexcept { return m_popovers; }
 
 private:
     PopoverDesktop &m_popovers;
+    HeldKeys m_heldKeys;
 };
 
-/// The engine's child of this type, which the engine does not own; for a singleton's `create`. Its
-/// absence is a programming error and stops the process.
+/// The engine's child of this type, for a singleton's `create`; QML does not take ownership of it.
+/// Its absence is a programming error and stops the process.
 template <typename T>
 [[nodiscard]] T *engineChild(const QQmlEngine &engine)
 {

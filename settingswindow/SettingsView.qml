@@ -3,14 +3,37 @@
 
 import QtQuick
 import Ferrin.Quick
+import Ferrin.Settings
 
-// The settings window's content: the menu of pages and, beside it, the selected one.
+// The settings window's content: the menu of pages and, beside it, the selected one. What lies over
+// it meanwhile, such as the question whether to quit, takes its keys.
 FocusScope {
     id: root
 
     implicitWidth: menu.width + divider.width + content.width
     implicitHeight: Math.max(menu.height, content.height)
     focus: true
+
+    Keys.onEscapePressed: Settings.dismissRequested()
+
+    Shortcut {
+        sequence: "Ctrl+W"
+        autoRepeat: false
+        onActivated: Settings.dismissRequested()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Q"
+        autoRepeat: false
+        enabled: root.enabled
+        onActivated: menu.quitPopoverShown = true
+    }
+
+    Shortcut {
+        sequence: "F1"
+        autoRepeat: false
+        onActivated: Links.open(Links.faq)
+    }
 
     SettingsMenuView {
         id: menu

@@ -4,39 +4,9 @@
 import QtQuick
 import Ferrin.Quick
 
-// A push button for what a view offers beside its main thing.
-Pressable {
-    id: root
-
-    required property string text
-
-    spokenName: text
-    implicitWidth: Math.max(56, label.implicitWidth + 20)
-    implicitHeight: label.implicitHeight + 10
-    opacity: enabled ? 1 : 0.5
-
-    Rectangle {
-        id: ground
-
-        anchors.fill: parent
-        radius: 5
-        color: root.isDown || root.isHovered ? Colours.settingsMenuSelected : Colours.settingsRectangle
-        border { width: 1; color: Colours.settingsPopBorder }
-    }
-
-    FocusRing {
-        anchors.margins: -3
-        radius: ground.radius + 3
-        owner: root
-    }
-
-    Text {
-        id: label
-
-        anchors.centerIn: parent
-        text: root.text
-        textFormat: Text.PlainText
-        font: Fonts.regular12
-        color: Colours.primaryText
-    }
+// A push button for an action beside the view's main one.
+PushButton {
+    groundColor: isDown || isHovered ? Colours.settingsMenuSelected : Colours.settingsRectangle
+    textColor: Colours.primaryText
+    borderWidth: 1
 }

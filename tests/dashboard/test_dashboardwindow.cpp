@@ -45,6 +45,28 @@ private Q_SLOTS:
         QCOMPARE(lost.count(), 0);
     }
 
+    void closesAtEscapeAndAtCtrlW_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::newRow("Escape") << Qt::Key_Escape << Qt::KeyboardModifiers();
+        QTest::newRow("Ctrl+W") << Qt::Key_W << Qt::KeyboardModifiers(Qt::ControlModifier);
+    }
+
+    void closesAtEscapeAndAtCtrlW()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        test::Stage stage;
+        DashboardWindow window(stage.engine);
+        const QSignalSpy dismissals(&window, &DashboardWindow::dismissed);
+        window.openAt({});
+        QTest::keyClick(&window, Qt::Key_W);
+        QCOMPARE(dismissals.count(), 0);
+        QTest::keyClick(&window, key, modifiers);
+        QCOMPARE(dismissals.count(), 1);
+    }
+
     void tellsOfTheFocusThatIsLostLater()
     {
         FakeDesktop desktop;
