@@ -80,7 +80,7 @@ Item {
         owner: root
     }
 
-    // In a wide font a title spreads into its padding before it shrinks.
+    // In a wide font a title uses some of its padding before it shrinks.
     Text {
         width: parent.width
         padding: 10

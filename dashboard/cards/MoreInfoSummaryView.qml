@@ -38,10 +38,17 @@ Column {
         }
     }
 
-    Rectangle {
+    Item {
         width: parent.width
-        height: 1
-        color: Colours.greyIcon
+        height: divider.height + 20
+
+        Rectangle {
+            id: divider
+
+            anchors { left: parent.left; right: parent.right; margins: 10; verticalCenter: parent.verticalCenter }
+            height: 1
+            color: Colours.greyIcon
+        }
     }
 
     MoreInfoText { text: root.text }

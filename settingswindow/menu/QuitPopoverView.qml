@@ -21,17 +21,20 @@ FocusScope {
     Accessible.name: question.text
 
     Column {
-        anchors.centerIn: parent
+        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: 10 }
         spacing: 10
 
         Text {
             id: question
 
-            anchors.horizontalCenter: parent.horizontalCenter
+            width: parent.width
             text: "Do you want quit Ferrin?"
             textFormat: Text.PlainText
             font: Fonts.regular12
             color: Colours.primaryText
+            horizontalAlignment: Text.AlignLeft
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
         }
 
         Row {

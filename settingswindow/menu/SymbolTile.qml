@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// A white symbol on a rounded square of colour, which is fainter than it can be unless it is bright.
+// A white symbol on a rounded square of colour, which is muted unless it is bright.
 Item {
     id: root
 
@@ -22,13 +22,15 @@ Item {
         opacity: root.isBright ? 1 : 0.7
     }
 
-    // The light that falls on its rim.
+    // White light from above. It ends in the middle, for the white symbol's contrast.
     Rectangle {
         anchors.fill: parent
         radius: 6
-        color: "transparent"
-        border { width: 1; color: Colours.tileSymbol }
         opacity: 0.33
+        gradient: Gradient {
+            GradientStop { position: 0; color: Colours.tileSymbol }
+            GradientStop { position: 0.5; color: "transparent" }
+        }
     }
 
     Symbol {

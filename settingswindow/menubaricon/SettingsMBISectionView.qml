@@ -118,8 +118,7 @@ MakeBackgroundRectangle {
         }
 
         ScaleTextEffect {
-            id: note
-
+            width: parent.width
             trigger: root.mustNoteBeScaled
 
             Text {

@@ -259,6 +259,10 @@ void MoreInfoTest::standsWithPaddingAroundEachBlock()
         QCOMPARE(text->property("padding").toReal(), 10);
         QCOMPARE(text->width(), 300);
     }
+    const QQuickItem *const divider = visibleItemsOfType(content, "QQuickRectangle").constFirst();
+    QCOMPARE(divider->width(), 280);
+    QCOMPARE(divider->mapToItem(content, {}), QPointF(10, 36 + 10));
+    QCOMPARE(texts.constFirst()->y(), 36 + 10 + 1 + 10);
     const QQuickItem *const symbol = visibleItemsOfType(content, "ferrin::Symbol").constFirst();
     QCOMPARE(symbol->height(), 36);
     QCOMPARE(symbol->width(), qMax(symbol->implicitWidth(), 16.0) + 20);

@@ -135,6 +135,7 @@ private Q_SLOTS:
         IconStage f;
         QQuickItem *const section = f.sections[discharging];
         QQuickItem *const note = itemsOfType(section, "ScaleTextEffect").constFirst();
+        QCOMPARE(note->width(), note->parentItem()->width());
         QQuickItem *const swelling = note->childItems().constFirst();
         QList<qreal> scales { 1.0 };
         connect(swelling, &QQuickItem::scaleChanged, this,

@@ -44,6 +44,15 @@ private Q_SLOTS:
         QCOMPARE(f.view->size(), QSizeF(180, 80));
     }
 
+    void alignsTheQuestionWithTheLeadingEdge()
+    {
+        const Popover f;
+        const QQuickItem *const question = test::itemsOfType(f.view, "QQuickText").constFirst();
+        QCOMPARE(question->property("horizontalAlignment").toInt(), int(Qt::AlignLeft));
+        QCOMPARE(question->mapToItem(f.view, {}).x(), 10);
+        QCOMPARE(question->width(), 160);
+    }
+
     void noClosesItAndLeavesTheProgramRunning()
     {
         Popover f;

@@ -72,6 +72,18 @@ private Q_SLOTS:
         QCOMPARE(f.menu->size(), QSizeF(200, 500));
     }
 
+    void lightsItsTilesFromAbove()
+    {
+        Menu f;
+        const QQuickItem *const tile = test::itemsOfType(f.menu, "SymbolTile").constFirst();
+        const QImage picture = f.stage.picture();
+        const auto lightness = [&](qreal y) {
+            return picture.pixelColor(tile->mapToScene(QPointF(4, y)).toPoint()).lightness();
+        };
+        QVERIFY(lightness(5) > lightness(10));
+        QCOMPARE(lightness(16), lightness(22));
+    }
+
     void beginsAtTheIconsPage() { QCOMPARE(Menu().marked(), QStringList { u"Menu bar icon"_s }); }
 
     void marksTheItemUnderThePointerBesideTheSelectedOne()
