@@ -35,6 +35,8 @@ Column {
             font: Fonts.header
             color: Colours.cardTextColor
             verticalAlignment: Text.AlignVCenter
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
     }
 

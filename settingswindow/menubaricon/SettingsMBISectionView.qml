@@ -4,6 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
+import Ferrin.Theme
 
 // What the item shows in one battery state: switches and icon to choose, and how it will look.
 MakeBackgroundRectangle {
@@ -11,6 +12,11 @@ MakeBackgroundRectangle {
 
     required property StateChoices choices
     property bool mustNoteBeScaled: false
+    // A switch has just been turned back on; the note stands out where it may not move, and whoever
+    // has the focus on a switch hears it.
+    property bool isNoteDue: false
+    readonly property bool stressesNote: isNoteDue && Theme.reducesMotion
+    readonly property string noteText: "At least one element must be selected"
 
     title: choices.title
 
@@ -23,6 +29,8 @@ MakeBackgroundRectangle {
         function onLastOneKept() {
             root.mustNoteBeScaled = true;
             relaxation.restart();
+            root.isNoteDue = true;
+            reminder.restart();
         }
     }
 
@@ -32,6 +40,21 @@ MakeBackgroundRectangle {
         interval: 100
         onTriggered: root.mustNoteBeScaled = false
     }
+
+    Timer {
+        id: reminder
+
+        interval: 3000
+        onTriggered: root.isNoteDue = false
+    }
+
+    // qmllint disable unqualified
+    component Switch: SwitchView {
+        width: switches.width
+        height: 20
+        Accessible.description: root.isNoteDue ? root.noteText : ""
+    }
+    // qmllint enable unqualified
 
     Column {
         width: parent.width
@@ -48,6 +71,8 @@ MakeBackgroundRectangle {
             lineHeight: 15
             font: Fonts.regular12
             color: Colours.secondaryText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         Item {
@@ -60,25 +85,19 @@ MakeBackgroundRectangle {
                 width: 190
                 spacing: 1
 
-                SwitchView {
-                    width: parent.width
-                    height: 20
+                Switch {
                     label: "Show icon"
                     isOn: root.choices.showIcon
                     onFlipped: on => root.choices.showIcon = on
                 }
 
-                SwitchView {
-                    width: parent.width
-                    height: 20
+                Switch {
                     label: "Show charge %"
                     isOn: root.choices.showCharge
                     onFlipped: on => root.choices.showCharge = on
                 }
 
-                SwitchView {
-                    width: parent.width
-                    height: 20
+                Switch {
                     visible: label !== ""
                     label: root.choices.timeLabel
                     isOn: root.choices.showTime
@@ -114,6 +133,8 @@ MakeBackgroundRectangle {
                 color: Colours.secondaryText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 8
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
 
@@ -123,10 +144,12 @@ MakeBackgroundRectangle {
 
             Text {
                 height: 14
-                text: "At least one element must be selected"
+                text: root.noteText
                 textFormat: Text.PlainText
-                font: Fonts.regular10
-                color: Colours.secondaryText
+                font: root.stressesNote ? Fonts.semibold10 : Fonts.regular10
+                color: root.stressesNote ? Colours.redIcon : Colours.secondaryText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
     }

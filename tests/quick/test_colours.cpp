@@ -103,6 +103,7 @@ void ColoursTest::textsReadOnTheirGrounds_data()
                { "primaryText", "segmentTrack" },
                { "primaryText", "segmentHovered" },
                { "secondaryText", "settingsRectangle" },
+               { "redIcon", "settingsRectangle" },
                { "secondaryText", "settingsBackground" },
                { "link", "settingsRectangle" },
                { "link", "settingsBackground" },

@@ -36,6 +36,25 @@ QRectF placeOf(const QQuickItem *item)
     return item->mapRectToScene(item->boundingRect());
 }
 
+const QQuickItem *noteIn(QQuickItem *section)
+{
+    QQuickItem *const note = itemsOfType(section, "ScaleTextEffect").constFirst();
+    return visibleItemsOfType(note, "QQuickText").constFirst();
+}
+
+/// The texts that are not part of a control.
+QStringList spokenTextsIn(QQuickItem *section)
+{
+    QStringList spoken;
+    for (QQuickItem *const text : visibleItemsOfType(section, "QQuickText")) {
+        const auto *const told = QAccessible::queryAccessibleInterface(text);
+        const QList<QAccessible::Role> roles { QAccessible::StaticText, QAccessible::Heading };
+        if (told && !told->state().invisible && roles.contains(told->role()))
+            spoken.append(told->text(QAccessible::Name));
+    }
+    return spoken;
+}
+
 } // namespace
 
 class TestMenuBarIconPage : public QObject
@@ -192,6 +211,36 @@ private Q_SLOTS:
         QCOMPARE(scales.count(), 0);
     }
 
+    void theNoteStandsOutInsteadWhereNothingMayMove()
+    {
+        IconStage f;
+        const QQuickItem *const words = noteIn(f.sections[discharging]);
+        const auto colour = [words] { return words->property("color").value<QColor>().name(); };
+        for (QQuickItem *const each : f.switchesOf(discharging))
+            f.click(each);
+        QCOMPARE(colour(), f.colour("secondaryText"));
+        f.appearance.setReducesMotion(true);
+        QCOMPARE(colour(), f.colour("redIcon"));
+        QCOMPARE(noteIn(f.sections[charging])->property("color").value<QColor>().name(),
+                 f.colour("secondaryText"));
+        QTRY_COMPARE(colour(), f.colour("secondaryText"));
+    }
+
+    void aSwitchThatIsTurnedBackOnSaysWhy()
+    {
+        IconStage f;
+        const auto described = [&f] {
+            return QAccessible::queryAccessibleInterface(f.switchesOf(discharging)[2])
+                ->text(QAccessible::Description);
+        };
+        f.click(f.switchesOf(discharging)[0]);
+        f.click(f.switchesOf(discharging)[1]);
+        QCOMPARE(described(), QString());
+        f.click(f.switchesOf(discharging)[2]);
+        QCOMPARE(described(), u"At least one element must be selected"_s);
+        QTRY_COMPARE(described(), QString());
+    }
+
     void chargedShowsTheChargeWithBothOfItsSwitchesOff()
     {
         IconStage f;
@@ -298,6 +347,12 @@ private Q_SLOTS:
     {
         IconStage f;
         QCOMPARE(spokenNameOf(f.sections[charging]), u"When charging"_s);
+        const QStringList told = spokenTextsIn(f.sections[charging]);
+        for (const QString &text : { u"When charging"_s,
+                                     u"Choose menu bar icon appearance when power adapter is connected and battery is charging."_s,
+                                     u"Preview 78% and 0:52 to full"_s,
+                                     u"At least one element must be selected"_s })
+            QVERIFY2(told.contains(text), qPrintable(text));
         QCOMPARE(spokenNameOf(f.switchesOf(charging)[2]), u"Show time to full"_s);
         QCOMPARE(spokenNameOf(f.controlOf(charging)), u"Choose icon"_s);
         const auto described = [](QQuickItem *item) {
