@@ -27,10 +27,11 @@ QString privateFolder()
 Vendor vendor()
 {
     const QString faq = QStringLiteral(FERRIN_FAQ_URL);
+    const QString email = QStringLiteral(FERRIN_SUPPORT_EMAIL);
     return { .faq = faq.isEmpty()
                  ? QUrl::fromLocalFile(besideTheProgram(u"share/ferrin/faq/index.html"_s))
                  : QUrl(faq),
-             .supportMail = QUrl(u"mailto:"_s + QStringLiteral(FERRIN_SUPPORT_EMAIL)) };
+             .supportMail = email.isEmpty() ? QUrl() : QUrl(u"mailto:"_s + email) };
 }
 
 } // namespace ferrin

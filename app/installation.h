@@ -13,8 +13,9 @@ namespace ferrin {
 /// beside the folder of the executable, in the build tree as in the install tree.
 [[nodiscard]] QString privateFolder();
 
-/// Where the vendor is found, as this program was built: unless that names an address, the page of
-/// frequently asked questions is the one that was installed with it.
+/// Where the vendor is found, as this program was built. Built without an address for the page of
+/// frequently asked questions, it is the page that was installed with the program; built without a
+/// support address, there is none.
 [[nodiscard]] Vendor vendor();
 
 } // namespace ferrin

@@ -7,8 +7,9 @@ set(FERRIN_SANITIZERS "" CACHE STRING "Sanitizers to build with: address,undefin
 option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
 set(FERRIN_FAQ_URL "" CACHE STRING
     "Page of frequently asked questions; empty: the one that is installed with the program")
-set(FERRIN_SUPPORT_EMAIL "support@ferrin.example" CACHE STRING "Address that users write to")
-if(NOT FERRIN_SUPPORT_EMAIL MATCHES "^[^@ ]+@[^@ ]+$")
+set(FERRIN_SUPPORT_EMAIL "" CACHE STRING
+    "Address that users write to; empty: the support page says that there is none")
+if(FERRIN_SUPPORT_EMAIL AND NOT FERRIN_SUPPORT_EMAIL MATCHES "^[^@ ]+@[^@ ]+$")
     message(FATAL_ERROR "FERRIN_SUPPORT_EMAIL is no address: \"${FERRIN_SUPPORT_EMAIL}\"")
 endif()
 

@@ -40,6 +40,29 @@ SettingsSectionView {
         }
     }
 
+    // What the program runs on.
+    Grid {
+        width: parent.width
+        columns: 2
+        rowSpacing: 4
+
+        Repeater {
+            // qmllint disable unqualified
+            model: ["Qt: The Qt Company and contributors", "UPower: David Zeuthen, Richard Hughes",
+                    "libudev, libsystemd: the systemd developers", "libxcb: the XCB contributors"]
+
+            SettingsText {
+                required property string modelData
+
+                width: parent.width / 2
+                text: modelData
+                font: Fonts.regular10
+                color: Colours.secondaryText
+            }
+            // qmllint enable unqualified
+        }
+    }
+
     ProminentButton {
         id: button
 

@@ -6,15 +6,22 @@ import Ferrin.Settings
 
 // How to reach the vendor.
 SettingsSectionView {
+    id: root
+
+    readonly property bool hasAddress: Links.supportMail !== ""
+
     heading: "Contact us"
 
     SettingsText {
         width: parent.width
-        text: "Do you have any problem or question? Send us an email."
+        text: root.hasAddress
+            ? "Do you have any problem or question? Send us an email."
+            : "This build of Ferrin has no support address. Please ask whoever you got it from."
         lineHeight: 1.15
     }
 
     LinkView {
+        visible: root.hasAddress
         label: "Send Mail"
         symbol: "envelope"
         address: Links.supportMail

@@ -15,7 +15,8 @@ namespace ferrin {
 
 class LinkOpener;
 
-/// What the settings window's views lead to outside of the application. A child of the engine.
+/// The settings window's links to the outside: the page of frequently asked questions and the mail to
+/// the support, the latter empty when there is no address. A child of the engine.
 class Links final : public QObject
 {
     Q_OBJECT
@@ -34,7 +35,7 @@ public:
     [[nodiscard]] QString faq() const;
     [[nodiscard]] QString supportMail() const;
 
-    /// A text that is no valid link opens nothing.
+    /// Text that is not a valid link is ignored.
     Q_INVOKABLE void open(const QString &link);
 
 private:

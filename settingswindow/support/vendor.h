@@ -7,12 +7,12 @@
 
 namespace ferrin {
 
-/// Where users turn to with their questions. The application knows; the views only offer it.
+/// Where users turn to with their questions. The application provides it.
 struct Vendor
 {
     /// The page of frequently asked questions, on the web or on this machine.
     QUrl faq;
-    /// Opens a new mail to the support.
+    /// Opens a new mail to the support; empty: there is no support address.
     QUrl supportMail;
 };
 

@@ -107,7 +107,7 @@ class ByKeys(WithSettings):
         menu = [*PAGES, "Quit Ferrin"]
         of_page = {"General": ["Launch at login", "System",
                                "Open System Settings battery section"],
-                   "Support": ["Ferrin FAQ", "Send Mail"], "About": ["Acknowledgements"]}
+                   "Support": ["Ferrin FAQ"], "About": ["Acknowledgements"]}
         for page, controls in of_page.items():
             with self.subTest(page):
                 self.turn_to(page)
@@ -153,7 +153,7 @@ class ByKeys(WithSettings):
 
 class ToAScreenReader(WithSettings):
     def test_everything_has_a_name_and_a_role_and_lies_within_the_window(self):
-        for page in ("General", "Support", "About"):
+        for page in ("Menu bar icon", "General", "Support", "About"):
             self.window.select(page)
             root = self.window.root()
             for each in root.everything():
@@ -172,6 +172,17 @@ class ToAScreenReader(WithSettings):
         expected = ["App start", "Launch at login", "Color theme", "Pick a theme", "System", "Light",
                     "Dark", "System Settings", "Open System Settings battery section"]
         self.assertEqual([name for name in told if name in expected], expected)
+
+    def test_the_page_of_the_icon_tells_its_descriptions_captions_and_notes(self):
+        told = self.window.told()
+        lead = "Choose menu bar icon appearance when power adapter is "
+        for text in (lead + "disconnected and battery is discharging.",
+                     lead + "connected and battery is charging.",
+                     lead + "connected and battery is fully charged.",
+                     "Preview 37% and 4:29 to empty", "Preview 78% and 0:52 to full",
+                     "Preview 100% fully charged"):
+            self.assertIn(text, told)
+        self.assertEqual(told.count("At least one element must be selected"), 3)
 
     def test_the_note_is_told_as_one_text(self):
         self.window.select("Support")

@@ -37,12 +37,20 @@ inline std::unique_ptr<SettingsData> newSettings(DefaultsStore &store)
                  { QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.0") } }));
 }
 
+inline Vendor someVendor()
+{
+    return { .faq = QUrl(QStringLiteral("file:///faq.html")),
+             .supportMail = QUrl(QStringLiteral("mailto:support@example.org")) };
+}
+
 /// The settings window's views in a window, on settings that the test decides.
 class SettingsStage : public SceneStage
 {
 public:
-    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop)
+    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop,
+                           Vendor addresses = someVendor())
         : SceneStage({ "Ferrin.Settings" }, popovers)
+        , vendor(std::move(addresses))
     {
     }
     ~SettingsStage() { item.reset(); }
@@ -61,11 +69,9 @@ public:
     FakeLoginItem loginItem;
     LaunchAtLogin launchAtLogin { loginItem, LaunchAtLoginObservable::shared(), &engine };
 
+    Vendor vendor;
     FakeLinkOpener opener;
-    Links links { opener,
-                  { .faq = QUrl(QStringLiteral("file:///faq.html")),
-                    .supportMail = QUrl(QStringLiteral("mailto:support@example.org")) },
-                  &engine };
+    Links links { opener, vendor, &engine };
 
     FakeUpdatePlatform updatePlatform;
     Updater updater { updatePlatform.parts(store) };

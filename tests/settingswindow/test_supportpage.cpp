@@ -114,6 +114,18 @@ private Q_SLOTS:
         QCOMPARE(symbols, (QStringList { u"link"_s, u"envelope"_s }));
     }
 
+    void saysSoWhereThereIsNoAddressToWriteTo()
+    {
+        Vendor vendor = test::someVendor();
+        vendor.supportMail.clear();
+        test::SettingsStage stage(test::SceneStage::plainDesktop, vendor);
+        QQuickItem *const view = stage.show("ContactUsView { width: 460 }");
+        QCOMPARE(test::textsOf(view),
+                 (QStringList { u"Contact us"_s,
+                                u"This build of Ferrin has no support address. Please ask whoever "
+                                "you got it from."_s }));
+    }
+
     void isWorkedByTheKeyboardAlone()
     {
         Page f;
