@@ -9,6 +9,7 @@
 #include "state/shareddefaults.h"
 
 #include <QCoreApplication>
+#include <QStandardPaths>
 
 namespace ferrin {
 
@@ -17,7 +18,8 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus, const QStrin
     , m_statusArea(sessionBus)
     , m_presses(makePressWatcher())
     , m_popovers(makePopoverDesktop())
-    , m_links(m_programs, currentDesktopNames())
+    , m_links(m_programs, currentDesktopNames(),
+              QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
     , m_loginItem(identifier, QCoreApplication::applicationFilePath())
 {
     m_statusArea.setStore(sharedDefaults());

@@ -7,17 +7,17 @@ class QUrl;
 
 namespace ferrin {
 
-/// Opens links outside of the application: web pages, mails to write, local pages, and the
-/// desktop's own settings by "x-apple.systempreferences:" and a pane's identifier. The platform
-/// implements it.
+/// Opens links outside of the application: web pages, mails to write, local pages, and a pane of
+/// the desktop's own settings by "x-apple.systempreferences:" and the pane's identifier. The
+/// platform implements it.
 class LinkOpener
 {
 public:
     virtual ~LinkOpener() = default;
 
-    /// Does not wait for the program that shows the link. A link that cannot be opened costs one
-    /// log line; one that is invalid does nothing.
-    virtual void open(const QUrl &link) = 0;
+    /// Starts the program that shows the link and does not wait for it. An invalid link is ignored.
+    /// False if nothing on this desktop shows the link, which is logged in one line.
+    virtual bool open(const QUrl &link) = 0;
 };
 
 } // namespace ferrin

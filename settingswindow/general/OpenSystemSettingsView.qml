@@ -5,12 +5,15 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// Leads to the battery pane of the desktop's own settings, and closes the window behind it.
+// Opens the battery pane of the desktop's own settings and closes the window, or, where the desktop
+// has none, says so.
 MakeBackgroundRectangle {
     id: root
 
     property string scheme: "x-apple.systempreferences"
     property string pane: "com.apple.preference.battery"
+    // It was asked for and nothing could be opened.
+    property bool isMissing: false
 
     title: "System Settings"
 
@@ -26,8 +29,9 @@ MakeBackgroundRectangle {
             spokenName: label.text
 
             onPressed: {
-                Links.open(`${root.scheme}:${root.pane}`);
-                Settings.dismissRequested();
+                root.isMissing = !Links.open(`${root.scheme}:${root.pane}`);
+                if (!root.isMissing)
+                    Settings.dismissRequested();
             }
 
             Rectangle {
@@ -73,7 +77,8 @@ MakeBackgroundRectangle {
                 anchors { left: tile.right; leftMargin: 10; right: parent.right }
                 height: parent.height
                 verticalAlignment: Text.AlignVCenter
-                text: "Open System Settings battery section"
+                text: root.isMissing ? "This desktop has no battery settings that Ferrin can open."
+                                     : "Open System Settings battery section"
                 textFormat: Text.PlainText
                 font: Fonts.regular13
                 color: Colours.primaryText

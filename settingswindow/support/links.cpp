@@ -32,11 +32,11 @@ QString Links::supportMail() const
     return m_vendor.supportMail.toString(QUrl::FullyEncoded);
 }
 
-void Links::open(const QString &link)
+bool Links::open(const QString &link)
 {
     const QUrl url(link, QUrl::StrictMode);
-    if (url.isValid() && !url.isRelative())
-        m_opener.open(url);
+    const bool isLink = url.isValid() && !url.isRelative();
+    return !isLink || m_opener.open(url);
 }
 
 } // namespace ferrin

@@ -15,8 +15,8 @@ namespace ferrin {
 
 class LinkOpener;
 
-/// The settings window's links to the outside: the page of frequently asked questions and the mail to
-/// the support, the latter empty when there is no address. A child of the engine.
+/// The settings window's links to the outside: the page of frequently asked questions and the mail
+/// to the support, the latter empty when there is no address. A child of the engine.
 class Links final : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,8 @@ public:
     [[nodiscard]] QString supportMail() const;
 
     /// Text that is not a valid link is ignored.
-    Q_INVOKABLE void open(const QString &link);
+    /// False if nothing on this desktop shows the link.
+    Q_INVOKABLE bool open(const QString &link);
 
 private:
     LinkOpener &m_opener;

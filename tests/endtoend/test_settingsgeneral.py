@@ -14,6 +14,7 @@ from harness.standins import StandIns
 
 SWITCH = "Launch at login"
 ROW = "Open System Settings battery section"
+NO_SETTINGS = "This desktop has no battery settings that Ferrin can open."
 
 
 class LaunchAtLogin(WithSettings):
@@ -196,16 +197,17 @@ class TheBatterysOwnPage(WithSettings):
                 eventually(lambda: self.stand_ins.started()[number:] == [page], page)
                 self.assertTrue(self.dashboard.program.is_running())
 
-    def test_where_there_is_none_one_line_tells_and_the_window_closes(self):
+    def test_where_there_is_none_the_window_stays_and_says_so(self):
         lines = {"sway:wlroots": "Unable to open the battery settings: no power page is known for "
                                  '"sway:wlroots"',
                  "Unity": "Unable to open the battery settings: cannot start unity-control-center"}
         for names, line in lines.items():
             with self.subTest(names):
                 nowhere = os.path.join(self.session.folder, "nowhere")
-                self.begin_anew({"XDG_CURRENT_DESKTOP": names, "PATH": nowhere})
+                self.begin_anew({"XDG_CURRENT_DESKTOP": names, "PATH": nowhere,
+                                 "XDG_DATA_DIRS": nowhere})
                 self.window.click(ROW)
-                self.window.has_closed()
+                eventually(lambda: NO_SETTINGS in self.window.told(), "the window says so")
                 eventually(lambda: line in self.dashboard.program.log(), line)
                 self.assertEqual(self.dashboard.program.log().count("Unable to open"), 1)
                 self.assertEqual(self.stand_ins.started(), [])

@@ -14,8 +14,13 @@ namespace ferrin::test {
 class FakeLinkOpener final : public LinkOpener
 {
 public:
-    void open(const QUrl &link) override { opened.append(link); }
+    bool open(const QUrl &link) override
+    {
+        opened.append(link);
+        return canOpen;
+    }
 
+    bool canOpen = true;
     QList<QUrl> opened;
 };
 

@@ -74,18 +74,17 @@ private Q_SLOTS:
         const Page f;
         const QString version
             = u"Version %1 (%2)"_s.arg(Bundle::main().shortVersion(), Bundle::main().buildNumber());
-        QCOMPARE(test::textsOf(f.page),
-                 (QStringList { u"Ferrin"_s, version, u"Credits & Acknowledgements"_s,
-                                u"Sparkle: Sparkle Project"_s,
-                                u"MenuBarExtraAccess: The Ferrin developers"_s,
-                                u"LaunchAtLogin: The Ferrin developers"_s,
-                                u"Qt: The Qt Company and contributors"_s,
-                                u"UPower: David Zeuthen, Richard Hughes"_s,
-                                u"libudev, libsystemd: the systemd developers"_s,
-                                u"libxcb: the XCB contributors"_s, u"Acknowledgements"_s,
-                                u"The Ferrin developers"_s, u"Copyright © 2010–2025"_s,
-                                u"All rights reserved, except as granted by the GNU GPL, version 3 "
-                                "or later."_s }));
+        QCOMPARE(
+            test::textsOf(f.page),
+            (QStringList {
+                u"Ferrin"_s, version, u"Credits & Acknowledgements"_s,
+                u"Sparkle: Sparkle Project"_s, u"MenuBarExtraAccess: The Ferrin developers"_s,
+                u"LaunchAtLogin: The Ferrin developers"_s, u"Qt: The Qt Company and contributors"_s,
+                u"UPower: David Zeuthen, Richard Hughes"_s,
+                u"libudev, libsystemd: the systemd developers"_s, u"libxcb: the XCB contributors"_s,
+                u"Acknowledgements"_s, u"The Ferrin developers"_s, u"Copyright © 2010–2025"_s,
+                u"All rights reserved, except as granted by the GNU GPL, version 3 "
+                "or later."_s }));
         QCOMPARE(f.page->height(), 500);
     }
 

@@ -164,6 +164,23 @@ private Q_SLOTS:
         QCOMPARE(dismissals.count(), 1);
     }
 
+    void staysOpenAndSaysSoWhereNothingCouldBeOpened()
+    {
+        Page f;
+        const QSignalSpy dismissals(&f.stage.settings, &Settings::dismissRequested);
+        f.stage.opener.canOpen = false;
+        f.stage.click(f.row());
+        QCOMPARE(f.stage.opener.opened, QList<QUrl> { batteryPane });
+        QCOMPARE(dismissals.count(), 0);
+        const QString line = u"This desktop has no battery settings that Ferrin can open."_s;
+        QVERIFY(test::textsOf(f.row()).contains(line));
+        QCOMPARE(test::spokenNameOf(f.row()), line);
+        // It may have been installed meanwhile.
+        f.stage.opener.canOpen = true;
+        f.stage.click(f.row());
+        QCOMPARE(dismissals.count(), 1);
+    }
+
     void marksTheRowUnderThePointer()
     {
         Page f;

@@ -348,10 +348,11 @@ private Q_SLOTS:
         IconStage f;
         QCOMPARE(spokenNameOf(f.sections[charging]), u"When charging"_s);
         const QStringList told = spokenTextsIn(f.sections[charging]);
-        for (const QString &text : { u"When charging"_s,
-                                     u"Choose menu bar icon appearance when power adapter is connected and battery is charging."_s,
-                                     u"Preview 78% and 0:52 to full"_s,
-                                     u"At least one element must be selected"_s })
+        for (
+            const QString &text :
+            { u"When charging"_s,
+              u"Choose menu bar icon appearance when power adapter is connected and battery is charging."_s,
+              u"Preview 78% and 0:52 to full"_s, u"At least one element must be selected"_s })
             QVERIFY2(told.contains(text), qPrintable(text));
         QCOMPARE(spokenNameOf(f.switchesOf(charging)[2]), u"Show time to full"_s);
         QCOMPARE(spokenNameOf(f.controlOf(charging)), u"Choose icon"_s);

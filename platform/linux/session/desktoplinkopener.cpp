@@ -4,6 +4,7 @@
 #include "platform/linux/session/desktoplinkopener.h"
 
 #include "base/logging.h"
+#include "platform/linux/session/installedsettings.h"
 #include "platform/linux/session/powerpage.h"
 
 #include <QUrl>
@@ -32,58 +33,58 @@ QList<CommandLine> handlersOf(const QString &link)
 
 } // namespace
 
-DesktopLinkOpener::DesktopLinkOpener(ProgramStarter &starter, QStringList desktops)
+DesktopLinkOpener::DesktopLinkOpener(ProgramStarter &starter, QStringList desktops,
+                                     QStringList dataFolders)
     : m_starter(starter)
     , m_desktops(std::move(desktops))
+    , m_dataFolders(std::move(dataFolders))
 {
 }
 
-void DesktopLinkOpener::open(const QUrl &link)
+bool DesktopLinkOpener::open(const QUrl &link)
 {
     if (!link.isValid())
-        return;
-    if (link.scheme() == settingsScheme)
-        openSettings(link);
-    else
-        openWithHandler(link);
+        return true;
+    return link.scheme() == settingsScheme ? openSettings(link) : openWithHandler(link);
 }
 
-void DesktopLinkOpener::openWithHandler(const QUrl &link)
+bool DesktopLinkOpener::openWithHandler(const QUrl &link)
 {
     const QString text = link.toString(QUrl::FullyEncoded);
     if (!handledSchemes.contains(link.scheme())) {
         qCCritical(logger, "Unable to open %s: not a link to a page or a mail",
                    qUtf8Printable(text));
-        return;
+        return false;
     }
-    startOneOf(handlersOf(text), u"Unable to open %1"_s.arg(text));
+    return startOneOf(handlersOf(text), u"Unable to open %1"_s.arg(text));
 }
 
-void DesktopLinkOpener::openSettings(const QUrl &link)
+bool DesktopLinkOpener::openSettings(const QUrl &link)
 {
     if (link.path() != batteryPane) {
         qCCritical(logger, "Unable to open %s: no such settings", qUtf8Printable(link.toString()));
-        return;
+        return false;
     }
-    const auto pages = powerPagesOf(m_desktops);
+    const auto pages = powerPagesOf(m_desktops) + installedPowerSettings(m_dataFolders, m_desktops);
     if (pages.isEmpty()) {
         qCCritical(logger, "Unable to open the battery settings: no power page is known for \"%s\"",
                    qUtf8Printable(m_desktops.join(u':')));
-        return;
+        return false;
     }
-    startOneOf(pages, u"Unable to open the battery settings"_s);
+    return startOneOf(pages, u"Unable to open the battery settings"_s);
 }
 
-void DesktopLinkOpener::startOneOf(const QList<CommandLine> &commands, const QString &failure)
+bool DesktopLinkOpener::startOneOf(const QList<CommandLine> &commands, const QString &failure)
 {
     QStringList missing;
     for (const CommandLine &command : commands) {
         if (m_starter.isInstalled(command.program) && m_starter.start(command))
-            return;
+            return true;
         missing.append(command.program);
     }
     qCCritical(logger, "%s: cannot start %s", qUtf8Printable(failure),
                qUtf8Printable(missing.join(u", "_s)));
+    return false;
 }
 
 } // namespace ferrin

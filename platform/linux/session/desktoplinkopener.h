@@ -12,24 +12,28 @@
 
 namespace ferrin {
 
-/// Opens links with what the running desktop has for them: web pages, mails and local pages with
-/// its own handler, the pane of the battery settings as its power page. Other schemes are refused.
+/// Opens links with the programs of the running desktop: web pages, mails and local pages with its
+/// handler; the pane of the battery settings as the desktop's power page, or, where none is known,
+/// with an installed program that sets up the battery or the power. Other schemes are refused.
 class DesktopLinkOpener final : public LinkOpener
 {
 public:
-    /// The names as `currentDesktopNames()` returns them. The starter outlives this.
-    DesktopLinkOpener(ProgramStarter &starter, QStringList desktops);
+    /// The names as `currentDesktopNames()` returns them; the folders that hold "applications", the
+    /// most important first. The starter outlives this.
+    DesktopLinkOpener(ProgramStarter &starter, QStringList desktops, QStringList dataFolders);
 
-    void open(const QUrl &link) override;
+    bool open(const QUrl &link) override;
 
 private:
-    void openWithHandler(const QUrl &link);
-    void openSettings(const QUrl &link);
-    /// The first that starts; where none does, one log line that begins with the failure.
-    void startOneOf(const QList<CommandLine> &commands, const QString &failure);
+    [[nodiscard]] bool openWithHandler(const QUrl &link);
+    [[nodiscard]] bool openSettings(const QUrl &link);
+    /// Starts the first that can be started. Where none can, logs one line that begins with the
+    /// failure.
+    [[nodiscard]] bool startOneOf(const QList<CommandLine> &commands, const QString &failure);
 
     ProgramStarter &m_starter;
     QStringList m_desktops;
+    QStringList m_dataFolders;
 };
 
 } // namespace ferrin

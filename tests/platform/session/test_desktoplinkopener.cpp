@@ -6,6 +6,9 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/testmain.h"
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 
@@ -21,8 +24,21 @@ struct Fixture
 {
     FakeProgramStarter starter;
     QStringList desktops;
+    QTemporaryDir data;
 
-    void open(const QUrl &link) { DesktopLinkOpener(starter, desktops).open(link); }
+    bool open(const QUrl &link)
+    {
+        return DesktopLinkOpener(starter, desktops, { data.path() }).open(link);
+    }
+
+    /// Installs a desktop entry with these further lines.
+    void install(const QString &name, const QByteArray &lines)
+    {
+        QDir(data.path()).mkpath(u"applications"_s);
+        QFile file(data.filePath(u"applications/%1.desktop"_s.arg(name)));
+        [[maybe_unused]] const bool isOpen = file.open(QIODevice::WriteOnly);
+        file.write("[Desktop Entry]\nType=Application\n" + lines + '\n');
+    }
 };
 
 } // namespace
@@ -53,7 +69,7 @@ private Q_SLOTS:
         const LogCapture log;
         Fixture f;
         f.starter.installed = { u"gio"_s, u"xdg-open"_s };
-        f.open(QUrl(link));
+        QVERIFY(f.open(QUrl(link)));
         QCOMPARE(f.starter.started, QList<CommandLine>({ { u"xdg-open"_s, { given } } }));
     }
 
@@ -73,7 +89,7 @@ private Q_SLOTS:
     {
         LogCapture log;
         Fixture f;
-        f.open(QUrl(u"https://example.org/100%25"_s));
+        QVERIFY(!f.open(QUrl(u"https://example.org/100%25"_s)));
         QCOMPARE(log.take(),
                  QStringList({ u"error: Unable to open https://example.org/100%25: "
                                "cannot start xdg-open, gio, kde-open, exo-open"_s }));
@@ -147,14 +163,60 @@ private Q_SLOTS:
         QCOMPARE(f.starter.started, QList<CommandLine>({ { words.first(), words.mid(1) } }));
     }
 
+    void opensAnInstalledProgramWhereTheDesktopHasNoKnownPowerPage()
+    {
+        const LogCapture log;
+        Fixture f;
+        f.desktops = { u"COSMIC"_s };
+        f.starter.installed = { u"some-settings"_s, u"other-settings"_s };
+        f.install(u"a-power"_s,
+                  "Exec=other-settings\nCategories=Settings;\nKeywords=Power;Suspend;");
+        f.install(u"b-battery"_s,
+                  "Exec=some-settings --page \"my power\" %u\nCategories=Settings;\n"
+                  "Keywords=Power;Battery;");
+        QVERIFY(f.open(batterySettings));
+        QCOMPARE(f.starter.started,
+                 QList<CommandLine>({ { u"some-settings"_s, { u"--page"_s, u"my power"_s } } }));
+        f.starter.installed.removeFirst();
+        QVERIFY(f.open(batterySettings));
+        QCOMPARE(f.starter.started.last(), (CommandLine { u"other-settings"_s, {} }));
+    }
+
+    void passesOverProgramsThatAreNotForTheBatteryOrNotForTheDesktop_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        const QByteArray good = "Exec=some-settings\nCategories=Settings;\nKeywords=battery;\n";
+        QTest::newRow("another category")
+            << QByteArray("Exec=some-settings\nCategories=Utility;\nKeywords=battery;");
+        QTest::newRow("another subject")
+            << QByteArray("Exec=some-settings\nCategories=Settings;\nKeywords=sound;");
+        QTest::newRow("only for others") << good + "OnlyShowIn=KDE;";
+        QTest::newRow("not for this one") << good + "NotShowIn=GNOME;sway;";
+        QTest::newRow("hidden") << good + "Hidden=true";
+        QTest::newRow("no command") << QByteArray("Categories=Settings;\nKeywords=battery;");
+    }
+
+    void passesOverProgramsThatAreNotForTheBatteryOrNotForTheDesktop()
+    {
+        QFETCH(QByteArray, lines);
+        LogCapture log;
+        log.ignoreRest();
+        Fixture f;
+        f.desktops = { u"sway"_s };
+        f.starter.installed = { u"some-settings"_s };
+        f.install(u"settings"_s, lines);
+        QVERIFY(!f.open(batterySettings));
+        QCOMPARE(f.starter.started, QList<CommandLine>());
+    }
+
     void logsADesktopWithoutAKnownPowerPage()
     {
         LogCapture log;
         Fixture f;
         f.starter.installed = { u"gnome-control-center"_s, u"xdg-open"_s };
-        f.open(batterySettings);
+        QVERIFY(!f.open(batterySettings));
         f.desktops = { u"sway"_s, u"wlroots"_s };
-        f.open(batterySettings);
+        QVERIFY(!f.open(batterySettings));
         QCOMPARE(f.starter.started, QList<CommandLine>());
         QCOMPARE(
             log.take(),
