@@ -13,8 +13,6 @@ Battery::Battery(BatteryData &data, QObject *parent)
     : QObject(parent)
     , m_data(data)
 {
-    // Compiled QML looks the type's enumerations up by its name before it asks for the singleton.
-    qRegisterMetaType<Battery *>();
     connect(&data, &BatteryData::chargeChanged, this, &Battery::chargeChanged);
     connect(&data, &BatteryData::chargeLimitChanged, this, &Battery::chargeLimitChanged);
     connect(&data, &BatteryData::timeRemainingChanged, this, &Battery::timeRemainingChanged);

@@ -14,8 +14,6 @@ Dashboard::Dashboard(AppStatus &status, QObject *parent)
     , m_follower(
           status.bindableDashboardItemSelected().addNotifier([this] { Q_EMIT selectedChanged(); }))
 {
-    // Compiled QML looks the type's enumerations up by its name before it asks for the singleton.
-    qRegisterMetaType<Dashboard *>();
 }
 
 Dashboard *Dashboard::create(QQmlEngine *engine, QJSEngine *)

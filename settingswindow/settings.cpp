@@ -14,8 +14,6 @@ Settings::Settings(AppStatus &status, QObject *parent)
     , m_follower(
           status.bindableSettingsItemSelected().addNotifier([this] { Q_EMIT selectedChanged(); }))
 {
-    // Compiled QML looks the type's enumerations up by its name before it asks for the singleton.
-    qRegisterMetaType<Settings *>();
 }
 
 Settings *Settings::create(QQmlEngine *engine, QJSEngine *)

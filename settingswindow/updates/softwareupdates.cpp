@@ -45,8 +45,6 @@ SoftwareUpdates::SoftwareUpdates(Updater &updater, QObject *parent)
         Q_EMIT noteChanged();
     }))
 {
-    // Compiled QML looks the type's enumerations up by its name before it asks for the singleton.
-    qRegisterMetaType<SoftwareUpdates *>();
     follow();
 }
 
