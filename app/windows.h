@@ -21,7 +21,7 @@ class PopoverDesktop;
 
 /// The windows of the application: the dashboard's popover, the settings window and the window of
 /// updates. They live in a module of their own that is loaded when the first of them opens, so that
-/// the status item, which stands all day, pays for no scene graph.
+/// the status item, which runs all day, does not pay for a scene graph.
 class Windows
 {
 public:
@@ -36,17 +36,17 @@ public:
     /// Opens the window with this identifier; an open one comes to the front.
     virtual void openWindow(const QString &identifier) = 0;
 
-    /// Whether any of them can be seen.
+    /// Whether any of them is visible.
     [[nodiscard]] virtual bool isAnyShown() const = 0;
 
-    /// Called when the dashboard closes by itself: Escape, its own settings item, its screen gone.
-    /// Set before anything is opened, as the others.
+    /// Called when the dashboard closes by itself: on Escape, by its settings entry, or because its
+    /// screen is gone. All callbacks must be set before a window is opened.
     std::function<void()> dashboardClosed;
-    /// Called when the dashboard has lost the focus, which leaves it open.
+    /// Called when the dashboard has lost the focus; it stays open.
     std::function<void()> dashboardLostFocus;
 };
 
-/// What the windows need of the desktop, which outlives them, and of the installation.
+/// What the windows need from the desktop, which outlives them, and from the installation.
 struct WindowsPlatform
 {
     PopoverDesktop &popovers;

@@ -3,8 +3,8 @@
 
 import QtQuick
 
-// The popover's content: the menu of sections and, beside it, the selected one. Its window draws the
-// ground, which is round at the corners.
+// The popover's content: the menu of sections and, beside it, the selected section. The window draws
+// the background with its rounded corners.
 Item {
     id: root
 

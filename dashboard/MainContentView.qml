@@ -5,9 +5,9 @@ import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Theme
 
-// The selected section. Another one slides in from the left while the last one leaves to the right,
-// both fading; the settings have no section here. A section is named by its file, so that only what
-// is shown is loaded.
+// The selected section. A new one slides in from the left while the previous one leaves to the right,
+// both fading; the settings have no section here. Sections are loaded by file name, so that only the
+// one that is shown is loaded.
 Item {
     id: root
 

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Theme
 
-// One row of the dashboard's menu: a symbol, a label, and behind them the mark of its state.
+// One row of the dashboard's menu: a symbol, a label, and the highlight behind them.
 MenuEntry {
     id: root
 

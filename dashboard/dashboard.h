@@ -16,8 +16,8 @@ namespace ferrin {
 
 class AppStatus;
 
-/// What the dashboard's views share beside the battery: which section is selected, and what they
-/// ask of the application, which is told by signals. A child of the engine; the status outlives it.
+/// What the dashboard's views share beside the battery: the selected section, and signals by which
+/// they ask the application for something. A child of the engine; the status outlives it.
 class Dashboard final : public QObject
 {
     Q_OBJECT
@@ -45,11 +45,11 @@ public:
 
 Q_SIGNALS:
     void selectedChanged();
-    /// The popover is to close.
+    /// The popover should close.
     void closeRequested();
-    /// The settings window may soon be asked for: the pointer or the keys have come to its entry.
+    /// The settings window will probably be requested soon: its entry is hovered or has the focus.
     void settingsExpected();
-    /// The settings window is to open, or to come to the front.
+    /// The settings window should open, or come to the front.
     void settingsRequested();
 
 private:

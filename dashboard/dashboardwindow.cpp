@@ -20,7 +20,7 @@ namespace ferrin {
 
 namespace {
 
-// Nobody can have opened the popover and turned to something else in so short a time.
+// No user can have opened the popover and switched to another window in so short a time.
 constexpr std::chrono::milliseconds settlingTime { 400 };
 
 } // namespace
@@ -76,7 +76,7 @@ void DashboardWindow::placeAtItem()
 
 bool DashboardWindow::event(QEvent *event)
 {
-    // Not refused: a window that does not let itself be closed keeps the program from ending.
+    // Not ignored: a window that refuses to close keeps the program from quitting.
     if (event->type() == QEvent::Close)
         Q_EMIT dismissed();
     return FramedWindow::event(event);
@@ -85,7 +85,7 @@ bool DashboardWindow::event(QEvent *event)
 void DashboardWindow::focusOutEvent(QFocusEvent *event)
 {
     FramedWindow::focusOutEvent(event);
-    // A window manager that was busy with another window's end gives its focus on only now.
+    // A window manager that has just closed another window may hand over that one's focus only now.
     if (isVisible() && !m_settling.hasExpired())
         desktop().focus(*this);
     else

@@ -13,8 +13,8 @@ class QScreen;
 
 namespace ferrin {
 
-/// The popover at the status item. Made when it opens and dropped when it closes. It says when it
-/// ought to close and leaves that to its owner.
+/// The popover at the status item. Created when it opens and destroyed when it closes. It signals
+/// when it should close and leaves that to its owner.
 class DashboardWindow final : public FramedWindow
 {
     Q_OBJECT

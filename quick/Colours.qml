@@ -17,7 +17,7 @@ QtObject {
     readonly property color greyIcon: Theme.isDark ? "#4a4d52" : "#d4d6da"
     readonly property color unknownColor: Theme.isDark ? "#a5a9b0" : "#62666d"
 
-    // The charge and capacity rings, from empty to full, on what of them is empty.
+    // The charge and capacity rings, from empty to full, and their empty part.
     readonly property color gaugeRed: Theme.isDark ? "#ff6259" : "#dc3a2e"
     readonly property color gaugeOrange: Theme.isDark ? "#ff9f43" : "#ee7b1c"
     readonly property color gaugeYellow: Theme.isDark ? "#f2cf4a" : "#e3b20c"
@@ -30,27 +30,27 @@ QtObject {
     readonly property color cardTextColor: Theme.isDark ? "#f0f1f3" : "#1d1f22"
     readonly property color menuSelected: Theme.isDark ? "#3d4a5c" : "#d3e2f7"
     readonly property color menuHovered: Theme.isDark ? "#32353a" : "#e5e7ea"
-    // Behind a button on a card that the pointer is on.
+    // Behind a card's button while it is hovered.
     readonly property color cardButton: Theme.isDark ? "#474b52" : "#e5e7ea"
-    // The menu's own words and symbols, on any of its grounds.
+    // The menu's texts and symbols, on any of its backgrounds.
     readonly property color menuText: cardTextColor
     readonly property color focusRing: blueIcon
 
     readonly property color primaryText: cardTextColor
-    // Both a ground for white and seen on any ground of a window.
+    // Has contrast with white text on it and with every window background.
     readonly property color accent: Theme.isDark ? "#2d75d6" : "#1b63c6"
     readonly property color accentText: "#ffffff"
 
     readonly property color secondaryText: cardTitleColor
     readonly property color link: blueIcon
     readonly property color linkHovered: Theme.isDark ? "#a3ceff" : "#134a96"
-    // Behind the segments of a picker, and behind the one that the pointer is on.
+    // Behind the segments of a picker, and behind the hovered one.
     readonly property color segmentTrack: Theme.isDark ? "#1d1f22" : "#e3e5e9"
     readonly property color segmentHovered: Theme.isDark ? "#393d43" : "#d3d6db"
     readonly property color switchOff: Theme.isDark ? "#7b8088" : "#85898f"
     readonly property color switchKnob: "#ffffff"
 
-    // Behind the white symbols of the settings window, at 0.7 of their strength, too.
+    // Behind the white symbols of the settings window; the contrast holds at opacity 0.7, too.
     readonly property color systemOrange: Theme.isDark ? "#c2640a" : "#b85c00"
     readonly property color systemBlue: Theme.isDark ? "#2a72d4" : "#1b63c6"
     readonly property color systemGray: Theme.isDark ? "#70757d" : "#5f636a"
@@ -66,7 +66,7 @@ QtObject {
     readonly property color settingsRectangle: Theme.isDark ? "#2b2e32" : "#fafbfc"
     readonly property color settingsRectBorder: greyIcon
     readonly property color settingsRectTextTitle: cardTextColor
-    // Behind the icon that is chosen or pointed at, and the icons themselves.
+    // Behind the selected or hovered icon, and the icons themselves.
     readonly property color settingsIconOptions: menuSelected
     readonly property color settingsPopoverIcon: cardTextColor
     readonly property color settingsPopBorder: Theme.isDark ? "#555a61" : "#c4c7cc"

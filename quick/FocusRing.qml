@@ -4,8 +4,7 @@
 import QtQuick
 import Ferrin.Theme
 
-// Marks what the keyboard acts on: an outline around its parent, shown while the owner has the
-// focus and got it by a key.
+// An outline around its parent, shown while the owner has the focus and the user works by keyboard.
 Rectangle {
     required property Item owner
 

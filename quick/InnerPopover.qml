@@ -4,8 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// A popover inside the window of what it belongs to, for what is worked with. The content is made
-// when it opens and dropped when it closes. A press beside it closes it and goes no further.
+// An interactive popover inside the window of its anchor. The content is created when it opens and
+// destroyed when it closes. A press beside it closes it and is swallowed.
 Overlay {
     id: root
 

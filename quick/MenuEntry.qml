@@ -4,24 +4,24 @@
 import QtQuick
 import Ferrin.Quick
 
-// One row of a window's menu: what it answers to. How it looks is added by whoever derives from it.
+// One row of a window's menu: its behaviour. Derived types draw it.
 Pressable {
     id: root
 
     required property int button
     required property string text
-    // What a tap does instead of selecting the row; absent for most.
+    // Called instead of selecting the row; undefined for most rows.
     property var customOnTap
-    // Absent: a row without a state of its own shows as hovered.
+    // A ButtonState; a row without one (undefined) is shown as hovered.
     required property var buttonState
 
     readonly property bool isSelected: buttonState === ButtonState.Selected
-    // The row is becoming the selected one by a tap.
+    // The row is being selected by a tap.
     property bool isTapping: false
 
-    // The pointer came or went.
+    // The pointer entered or left.
     signal hovered(inside: bool)
-    // The row becomes the selected one.
+    // The row should become the selected one.
     signal selected
 
     spokenName: text

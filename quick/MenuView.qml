@@ -8,15 +8,15 @@ import Ferrin.Quick
 FocusScope {
     id: root
 
-    // In their order, in which their buttons are numbered, too.
+    // In the order of their buttons' numbers.
     required property list<MenuEntry> items
-    // The state of each row, by its button; every row may reset the others.
+    // The ButtonState of each row by its button; selecting a row resets the others.
     property var states: ({})
 
     Accessible.role: Accessible.PageTabList
 
-    // Marks one row as the selected one and all others as neither selected nor hovered. The keys go
-    // on from there.
+    // Marks one row as selected and all others as neither selected nor hovered. The selected row gets
+    // the focus within the menu.
     function select(button: int) {
         const marked = {};
         for (let i = 0; i < items.length; ++i)

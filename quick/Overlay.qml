@@ -3,22 +3,22 @@
 
 import QtQuick
 
-// What lies over a window's content for a while and is worked with first: it has the focus, and
-// what lies behind it rests until it closes. It closes at Escape and with its window; the focus then
-// goes back to what it belongs to. What is on it is added by whoever derives from it.
+// A modal layer over a window's content: it takes the focus, and the content is disabled until it
+// closes. It closes on Escape and with its window; the focus then returns to the anchor. Derived types
+// add its content.
 FocusScope {
     id: root
 
     required property Item anchor
-    // Told to those who do not see what it belongs to.
+    // The accessible name.
     required property string title
-    // Written by open() and close() alone.
+    // Written only by open() and close().
     property bool shown: false
 
-    // What rests while it is shown.
+    // The item that is disabled while it is shown.
     property Item background: null
 
-    // A press beside all that is on it.
+    // A press beside its content.
     signal pressedBeside
 
     z: 1
@@ -36,7 +36,7 @@ FocusScope {
             background.enabled = true;
     }
 
-    // Does nothing while it is shown, and without an anchor in a window.
+    // Does nothing if it is shown already or the anchor is in no window.
     function open() {
         const scene = anchor.Window.contentItem;
         if (shown || !scene)

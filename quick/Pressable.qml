@@ -3,12 +3,11 @@
 
 import QtQuick
 
-// What can be pressed, by pointer, key or screen reader. How it looks is added by whoever derives
-// from it.
+// The base of everything that can be pressed, by pointer, key or screen reader. It draws nothing.
 Item {
     id: root
 
-    // In words, for those who hear it.
+    // The accessible name.
     required property string spokenName
     readonly property alias isHovered: hover.hovered
     readonly property alias isDown: tap.pressed

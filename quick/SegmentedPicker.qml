@@ -4,18 +4,18 @@
 import QtQuick
 import Ferrin.Quick
 
-// One of a few texts, side by side. It shows what holds and asks to have it changed: `selected` is
-// bound by whoever uses it and is never written here. To the keyboard it is one stop, in which the
-// arrow keys pick the neighbour.
+// A choice between a few texts, side by side. It never writes `selected`, which its user binds to the
+// actual choice; it signals the change that is wanted. It is one stop of the Tab key; the arrow keys
+// pick the neighbour.
 FocusScope {
     id: root
 
     required property var texts
     required property string selected
-    // What is picked, in words, for those who do not see what stands beside it.
+    // The accessible name: what is chosen.
     required property string label
 
-    // The user wants another one.
+    // The user wants this text.
     signal picked(text: string)
 
     implicitWidth: 280
@@ -63,7 +63,7 @@ FocusScope {
                 width: parent.width / segments.count
                 height: parent.height
                 spokenName: modelData
-                // What has the focus has to be one of its stops.
+                // A focused item must stay in the tab order, or Tab gets stuck.
                 activeFocusOnTab: isSelected || activeFocus
                 focus: isSelected
                 onPressed: {

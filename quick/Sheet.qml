@@ -4,8 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// A sheet over the whole of a window, whose content is dimmed meanwhile. What is on the sheet is
-// made when it opens and dropped when it closes.
+// A modal sheet over a window, whose content is dimmed meanwhile. The sheet's content is created when
+// it opens and destroyed when it closes.
 Overlay {
     id: root
 

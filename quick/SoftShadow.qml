@@ -3,19 +3,19 @@
 
 import QtQuick
 
-// The soft shadow of a rounded rectangle that fills it: black, as strong as said where it begins,
-// and gone at its reach. Layers make it, since the windows are painted without shaders.
+// The soft shadow of a rounded rectangle of the same geometry: black, fading from `strength` to
+// nothing within `reach` pixels. Made of layers, because the windows are painted without shaders.
 Item {
     id: root
 
-    // Of the rectangle that throws it.
+    // Of the rectangle.
     property real radius: 0
     property real strength: 0.33
     property int reach: 4
     // How far below the rectangle it lies.
     property real drop: 1
 
-    // Of the whole shadow, what one of its layers makes: the less, the farther it reaches.
+    // The share of one layer in the whole shadow; it decreases with the layer's reach.
     function shareOf(layer: int): real {
         return 2 * (reach - layer) / (reach * (reach + 1));
     }

@@ -5,15 +5,15 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Theme
 
-// A switch behind its label. It shows what holds and asks to have it changed: `isOn` is bound by
-// whoever uses it and is never written here.
+// A label with a switch. It never writes `isOn`, which its user binds to the actual state; it signals
+// the change that is wanted.
 Pressable {
     id: root
 
     required property string label
     required property bool isOn
 
-    // The user wants the switch to be this.
+    // The user wants to turn the switch on or off.
     signal flipped(on: bool)
 
     spokenName: label

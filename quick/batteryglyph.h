@@ -8,13 +8,13 @@
 
 namespace ferrin {
 
-/// The lying battery of the menu bar as a picture in a window, in one colour and a fifth larger
-/// than it is there. Decoration: it is nothing to a screen reader.
+/// The menu bar item's horizontal battery glyph inside a window, in one colour and 1.2 times as
+/// large. Invisible to screen readers.
 class BatteryGlyph : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// The charge inside, 0 to 100.
+    /// The charge that fills it, 0 to 100 percent.
     Q_PROPERTY(qreal percent READ percent WRITE setPercent NOTIFY percentChanged)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 

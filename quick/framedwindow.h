@@ -16,8 +16,8 @@ class PopoverDesktop;
 class PopoverFrame;
 class QuickEngine;
 
-/// A window that is a popover: a frame with round corners and a shadow around one item, which
-/// decides the size. Its owner says where it stands. It never closes by itself.
+/// The window of a popover: a frame with rounded corners and a shadow around one item, which
+/// determines the size. Its owner places it and closes it.
 class FramedWindow : public QQuickWindow
 {
     Q_OBJECT
@@ -36,12 +36,12 @@ public:
     enum class ArrowUse { Without, With };
     void place(const PopoverSpot &spot, ArrowUse arrowUse);
 
-    /// The popover as it is seen, in the desktop's pixels.
+    /// The popover without its shadow, in the desktop's logical pixels.
     [[nodiscard]] const QRect &frame() const noexcept { return m_frameRect; }
 
 Q_SIGNALS:
     void contentSizeChanged();
-    /// Something of it is on the screen.
+    /// The first frame is on the screen.
     void firstFrameShown();
 
 private:

@@ -23,7 +23,7 @@ constexpr qreal emptyEnd = 225;
 constexpr qreal sweep = 270;
 constexpr qreal bottom = 270;
 
-/// Starts in the middle of the gap, so that the round ends have the colours of the arc's own.
+/// Starts in the middle of the gap, so that the round caps have the colours of the arc's ends.
 QBrush gradientOf(const QList<QColor> &colors, const QPointF &centre)
 {
     constexpr qreal gap = (360 - sweep) / 2 / 360;

@@ -10,14 +10,14 @@ namespace ferrin {
 
 /// A share of a whole as an open ring: three quarters of a circle, its gap at the bottom, that fill
 /// clockwise. The filled part shows as much of the gradient as it covers; the rest is a faint
-/// track. Decoration: whoever shows it also says the figure.
+/// track. Invisible to screen readers: its user also gives the figure as text.
 class Gauge : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// 0 to 1; what lies beyond is taken for the nearer of the two.
+    /// 0 to 1; clamped.
     Q_PROPERTY(qreal value READ value WRITE setValue NOTIFY valueChanged)
-    /// Of the gradient, evenly from the empty end to the full one; at least two.
+    /// The gradient's colours, evenly spaced from the empty end to the full one; at least two.
     Q_PROPERTY(QList<QColor> colors READ colors WRITE setColors NOTIFY colorsChanged)
     Q_PROPERTY(QColor trackColor READ trackColor WRITE setTrackColor NOTIFY trackColorChanged)
 

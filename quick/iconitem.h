@@ -8,13 +8,13 @@
 
 namespace ferrin {
 
-/// An icon of the menu bar as a picture in a window. Decoration: it is nothing to a screen reader.
-// The base by its full name, or QML's tools do not find it.
+/// An icon of the menu bar item inside a window. Invisible to screen readers.
+// The base class is qualified because Qt's QML type registrar does not find it otherwise.
 class IconItem : public ferrin::ViewItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(IconView)
-    /// The icon's raw value. Any other text: nothing is shown.
+    /// The icon's raw value; nothing is shown for any other text.
     Q_PROPERTY(QString icon READ icon WRITE setIcon NOTIFY changed)
     /// Percent, 0 to 100.
     Q_PROPERTY(double charge READ charge WRITE setCharge NOTIFY changed)

@@ -14,9 +14,8 @@
 
 namespace ferrin {
 
-/// What a popover is drawn on: its ground with round corners, an arrow if it has one, a border that
-/// is seen on any wallpaper, and the shadow around it. Its window says how it is framed; its
-/// colours are bound in QML.
+/// A popover's background: rounded corners, an optional arrow, a border that is visible on any
+/// wallpaper, and the shadow around it. Its window sets the geometry; QML binds the colours.
 class PopoverFrame : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -45,16 +44,16 @@ public:
     [[nodiscard]] bool isDark() const noexcept { return m_isDark; }
     void setDark(bool isDark);
 
-    /// How much of the item lies around the frame. Without blending there is no shadow, and no
-    /// half-transparent pixel either.
+    /// The margins of the item around the frame, for shadow and arrow, in logical pixels. Without
+    /// blending there is no shadow and no translucent pixel.
     void setFraming(const QMargins &margins, const std::optional<Arrow> &arrow, bool isBlended);
 
-    /// Stands beside a part of its own scene, with an arrow to it and wholly inside `within`, and
-    /// answers where content of this size goes, in the item's pixels.
+    /// Places the frame beside a part of its own scene, with an arrow to it and wholly inside
+    /// `within`. Returns the position for content of this size, in item coordinates.
     Q_INVOKABLE QPointF standBeside(const QRectF &part, const QSizeF &content,
                                     const QRectF &within);
 
-    /// The border's outer edge, in the item's pixels.
+    /// The border's outer edge, in item coordinates.
     [[nodiscard]] QPainterPath outline() const { return outline(0); }
 
     void paint(QPainter *painter) override;

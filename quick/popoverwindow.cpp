@@ -65,8 +65,8 @@ void PopoverWindow::open()
     if (m_window || !m_content || !engine || !parent || !parent->isVisible())
         return;
     auto window = std::make_unique<FramedWindow>(*engine);
-    // On X11 a tool tip has all of these; were they not said, its window would be made anew when it
-    // is shown, and lose its outline.
+    // All the flags that a tool tip has on X11: if one were missing, Qt would create the native
+    // window again when it is shown, without its outline.
     window->setFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
                      | Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus);
     window->setTitle(m_title);

@@ -13,12 +13,13 @@ namespace ferrin {
 
 class FramedWindow;
 
-/// A popover that explains a part of a popover: a window of its own, because it is larger than what
-/// it explains. It has an arrow to the part, takes no focus, and one at a time is open. The content
-/// is made when it opens and dropped when it closes; its width is its own, its height follows.
+/// An explanation beside a part of the dashboard, with an arrow to it: a window of its own, because
+/// it may be larger than the dashboard. It takes no focus, and only one is open at a time. The
+/// content is created when it opens and destroyed when it closes; it has a fixed width and any
+/// height.
 ///
-/// It closes at Escape, at a press on the window of its anchor (which the press still reaches),
-/// when the anchor is hidden, and with the anchor's window.
+/// It closes on Escape, on a press in the anchor's window (which still receives the press), when
+/// the anchor is hidden, and with the anchor's window.
 class PopoverWindow : public QObject
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ class PopoverWindow : public QObject
     Q_CLASSINFO("DefaultProperty", "content")
     Q_PROPERTY(QQuickItem *anchor READ anchor WRITE setAnchor NOTIFY anchorChanged)
     Q_PROPERTY(QQmlComponent *content READ content WRITE setContent NOTIFY contentChanged)
-    /// Told to those who do not see which part the arrow points to.
+    /// The window's accessible title: what is explained.
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
 
@@ -55,8 +56,8 @@ Q_SIGNALS:
     void shownChanged();
     void opened();
     void closed();
-    /// It is about to close because of a press beside it in the anchor's window; the item under the
-    /// pointer hears of the press after this.
+    /// It is about to close because of a press in the anchor's window. Emitted before the item
+    /// under the pointer receives the press.
     void pressedElsewhere();
 
 private:

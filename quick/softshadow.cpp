@@ -15,7 +15,7 @@ namespace ferrin {
 
 namespace {
 
-// A shadow this soft has no detail that a fourth of its pixels would not show.
+// A quarter of the pixels is enough for a shadow this soft.
 constexpr int reduction = 4;
 
 // A box blur of one line of pixels that lie `step` bytes apart.
@@ -57,7 +57,7 @@ QImage softShadow(const QPainterPath &outline, const QSize &size, qreal softness
         painter.scale(1.0 / reduction, 1.0 / reduction);
         painter.fillPath(outline, QColor(0, 0, 0, darkness));
     }
-    // Three boxes are as good as a bell.
+    // Three box blurs approximate a Gaussian.
     const int radius = std::max(1, int(std::lround(softness / reduction / 3)));
     for (int pass = 0; pass < 3; ++pass)
         blur(mask, radius);

@@ -11,9 +11,8 @@ class QSize;
 
 namespace ferrin {
 
-/// The soft shadow of a filled outline within this size, both in logical pixels. The picture has
-/// half as many pixels each way and is to be drawn over the whole size: a shadow's softness hides
-/// that.
+/// The soft shadow of a filled outline within this size, both in logical pixels. The image has half
+/// the resolution in each direction and must be scaled up to the size, which the blur hides.
 [[nodiscard]] QImage softShadow(const QPainterPath &outline, const QSize &size, qreal softness,
                                 int darkness);
 

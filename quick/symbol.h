@@ -9,13 +9,13 @@
 namespace ferrin {
 
 /// A symbol of the application's own artwork, in one colour. Its implicit height is `size`, and its
-/// implicit width follows from the artwork; in a larger frame it stands in the middle. Decoration:
-/// it is nothing to a screen reader.
+/// implicit width follows from the artwork; in a larger item it is centred. Invisible to screen
+/// readers.
 class Symbol : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// The artwork's name. Empty, or a name without artwork: nothing is shown.
+    /// The artwork's name; nothing is shown if it is empty or unknown.
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
     /// Logical pixels, the height of the artwork.
     Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY changed)

@@ -10,15 +10,16 @@
 
 namespace ferrin {
 
-/// A view of the menu bar as a picture in a window: the very view, painted in the middle of its
-/// frame for the pixels that it lands on. Which view it is, is the business of whoever derives from
-/// it; colours and font are bound in QML. Its implicit size is the view's own in whole pixels.
+/// A view of the menu bar item inside a window, painted by the item's own code in the middle of
+/// this item and aligned with the device's pixels. Derived classes choose the view; QML binds the
+/// colours and the font. The implicit size is the view's ideal size, rounded up to whole logical
+/// pixels.
 class ViewItem : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor NOTIFY contextChanged)
-    /// Of a low battery.
+    /// The colour of a low battery.
     Q_PROPERTY(QColor redColor READ redColor WRITE setRedColor NOTIFY contextChanged)
     Q_PROPERTY(QString fontFamily READ fontFamily WRITE setFontFamily NOTIFY contextChanged)
 

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// The selected page. A page is named by its file, so that only what is shown is loaded.
+// The selected page. Pages are loaded by file name, so that only the one that is shown is loaded.
 Rectangle {
     id: root
 

@@ -5,8 +5,8 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// The settings window's content: the menu of pages and, beside it, the selected one. What lies over
-// it meanwhile, such as the question whether to quit, takes its keys.
+// The settings window's content: the menu of pages and, beside it, the selected page. An overlay, such
+// as the question whether to quit, gets Escape first.
 FocusScope {
     id: root
 

@@ -16,9 +16,8 @@ namespace ferrin {
 
 class AppStatus;
 
-/// What the settings window's views share beside the settings: which page is selected, and what
-/// they ask of the application, which is told by signals. A child of the engine; the status
-/// outlives it.
+/// What the settings window's views share beside the settings: the selected page, and signals by
+/// which they ask the application for something. A child of the engine; the status outlives it.
 class Settings final : public QObject
 {
     Q_OBJECT
@@ -47,9 +46,9 @@ public:
 
 Q_SIGNALS:
     void selectedChanged();
-    /// The window is to close.
+    /// The window should close.
     void dismissRequested();
-    /// The program is to end; the user has confirmed it.
+    /// The program should quit; the user has confirmed it.
     void quitRequested();
 
 private:

@@ -33,7 +33,7 @@ SettingsWindow::SettingsWindow(QQmlEngine &engine)
     QRect frame(QPoint(), size());
     frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
     setPosition(frame.topLeft());
-    // The lists of windows can wait for it, and the first frame does not have to.
+    // Only window lists show the icon, so the first frame does not wait for it.
     connect(
         this, &QQuickWindow::frameSwapped, this,
         [this] { setIcon(QIcon(QStringLiteral(":/icons/org.ferrin.Ferrin.svg"))); },

@@ -7,8 +7,8 @@
 
 namespace ferrin {
 
-/// The window "Ferrin Settings". A single instance, as large as its content, first placed at the
-/// centre of the screen.
+/// The window "Ferrin Settings": a single instance of the size of its content, placed at the centre
+/// of the primary screen at first.
 class SettingsWindow final : public QQuickView
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     /// The engine outlives it.
     explicit SettingsWindow(QQmlEngine &engine);
 
-    /// The name by which the window is asked for.
+    /// The identifier that opens the window.
     [[nodiscard]] static QString identifier();
 
     /// Shows the window, or brings the open one to the front.

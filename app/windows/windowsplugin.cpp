@@ -33,7 +33,7 @@ namespace ferrin {
 
 namespace {
 
-/// All windows on one engine, each made when it is first opened.
+/// All windows on one engine, each created when it is first opened.
 class QuickWindows final : public Windows
 {
 public:
@@ -53,7 +53,7 @@ public:
     {
         QObject::connect(&m_dashboardState, &Dashboard::closeRequested, &m_engine,
                          [this] { dashboardClosed(); });
-        // Between coming to the entry and clicking it lies more time than the window takes.
+        // Creating the window takes less time than moving from hovering its entry to clicking it.
         m_preparation.setSingleShot(true);
         m_preparation.setInterval(litEntry);
         QObject::connect(&m_dashboardState, &Dashboard::settingsExpected, &m_preparation,
@@ -73,7 +73,7 @@ public:
                          [this] { dashboardClosed(); });
         QObject::connect(m_dashboard.get(), &DashboardWindow::focusLost, &m_engine,
                          [this] { dashboardLostFocus(); });
-        // The report tool takes its time, and whoever opened the dashboard sees it first.
+        // The report tool blocks, so it runs only after the first frame.
         QObject::connect(m_dashboard.get(), &DashboardWindow::firstFrameShown,
                          &BatteryDataProvider::shared(), &BatteryDataProvider::updateStaticData);
         m_dashboard->openAt(place);
@@ -83,7 +83,7 @@ public:
     {
         if (!m_dashboard)
             return;
-        // The window may be in the middle of telling that it closed.
+        // The window may be emitting its own closing signal.
         DashboardWindow *const window = m_dashboard.release();
         window->disconnect(&m_engine);
         window->hide();
@@ -114,7 +114,7 @@ public:
     }
 
 private:
-    /// First the entry is lit by which the window is expected.
+    /// Lets the hovered entry be painted first.
     static constexpr std::chrono::milliseconds litEntry { 30 };
 
     SettingsWindow &settings()
@@ -124,7 +124,8 @@ private:
         return *m_settings;
     }
 
-    // The engine goes last, and nothing of a scene outlives what it was bound to.
+    // Destroyed in reverse order: the windows before the objects that they are bound to, the engine
+    // last.
     QuickEngine m_engine;
     Battery m_battery;
     Adapter m_adapter;

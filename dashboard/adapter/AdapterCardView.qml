@@ -4,21 +4,21 @@
 import QtQuick
 import Ferrin.Dashboard
 
-// A card of the last adapter that was seen: its value, or in words why there is none. Without a
-// known power source nothing is said of an adapter.
+// A card about the last adapter that was seen: its value, or the reason why there is none. While the
+// power source is unknown, so is the card.
 CardView {
     id: root
 
     required property int powerSource
-    // What the card shows is stored...
+    // The value is stored...
     required property bool isPresent
-    // ...but says nothing.
+    // ...but zero or empty.
     required property bool isEmpty
-    // Both of a value that says something.
+    // The value as shown and as spoken.
     required property Item valueView
     required property string valueInWords
 
-    // In place of the value; empty where there is one.
+    // Shown instead of the value; empty if there is one.
     readonly property string status: {
         if (!isPresent)
             return powerSource === Battery.PowerSource.External ? "Getting info..."

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Quick
 
-// The mark of a maker whose mark we have, a badge for all others.
+// The maker's logo if there is artwork for it, else a badge.
 Symbol {
     required property string manufacturer
     readonly property bool isApple: Adapter.isApple(manufacturer)

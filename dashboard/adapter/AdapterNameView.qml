@@ -3,7 +3,7 @@
 
 import QtQuick
 
-// The card of what the adapter calls itself.
+// The card of the adapter's name.
 AdapterCardView {
     id: root
 

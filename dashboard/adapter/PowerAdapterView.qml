@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Dashboard
 
-// The power-adapter section: what is known of the last adapter that was seen.
+// The power-adapter section: what is known about the last adapter that was seen.
 Column {
     spacing: 10
 

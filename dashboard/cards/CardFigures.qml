@@ -4,13 +4,12 @@
 import QtQuick
 import Ferrin.Quick
 
-// A card's figures and their units in a row on the card's ground line, smaller where they would
-// not fit.
+// A card's figures and their units in a row on the card's baseline, scaled down if they do not fit.
 Item {
     id: root
 
     default property alias figures: row.data
-    // How far above the ground line the row stands.
+    // The distance of the row above the baseline.
     property real raised: 0
 
     FontMetrics {

@@ -4,8 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// The style of a card's text on the card's ground line: two lines of it fit, and where there is
-// more it is smaller instead of being cut.
+// The style of a card's text on the card's baseline: two lines fit; longer text is scaled down
+// instead of being cut.
 Text {
     leftPadding: 5
     rightPadding: 5
@@ -14,7 +14,7 @@ Text {
     font: Fonts.cardVerdict
     horizontalAlignment: Text.AlignHCenter
     verticalAlignment: Text.AlignBottom
-    // A word so long would be too small to read in one piece.
+    // A very long word is broken, or it would be too small to read.
     wrapMode: /\S{16}/.test(text) ? Text.Wrap : Text.WordWrap
     fontSizeMode: Text.Fit
     minimumPixelSize: 1

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// What stands small beside a number on a card.
+// A unit beside a number on a card.
 Text {
     textFormat: Text.PlainText
     font: Fonts.cardUnit

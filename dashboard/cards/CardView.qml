@@ -4,29 +4,29 @@
 import QtQuick
 import Ferrin.Quick
 
-// The tile of one value: a title, an image and a short text on the same lines on every card, and,
-// where there is more to say, a button for the popover that says it.
+// The tile of one value: a title, an image and a short text, aligned in the same way on every card,
+// and, if there is an explanation, a button for the popover that shows it.
 Item {
     id: root
 
     required property string title
-    // In words, for those who hear the card.
+    // The value in words, for screen readers.
     required property string value
     required property Item imageView
     required property Item textView
-    // Without a value to show the card says so instead.
+    // Without a known value the card shows "Unknown".
     property bool isKnown: true
-    // Absent: there is nothing more to say. Of an unknown value there never is.
+    // The content of the popover; null if there is none. Never shown for an unknown value.
     property Component moreInfoView: null
     readonly property bool hasMoreInfo: isKnown && moreInfoView !== null
 
     // The pointer is over the card.
     property bool cardHovered: false
-    // The popover is wanted.
+    // The popover was requested.
     property bool showPopover: false
     // The popover is presented.
     property bool isPopoverShown: false
-    // A press has just closed the popover; the click that it begins opens nothing.
+    // A press has just closed the popover; its click must not open it again.
     property bool justTapped: false
 
     implicitWidth: 100
@@ -127,7 +127,7 @@ Item {
         sourceComponent: UnknownTextView {}
     }
 
-    // Most cards have nothing more to say, and half of what a card costs is its button.
+    // Most cards have no explanation, and the button is half of a card's cost.
     Loader {
         x: 80
         y: 38

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// The small button of a card that opens its popover and, while that is shown, closes it.
+// The small button of a card that opens its popover, and closes it while it is shown.
 Item {
     id: root
 
@@ -12,13 +12,13 @@ Item {
     required property string title
     required property bool cardHovered
     required property bool isPopoverShown
-    // The click under way began on an open popover, which the press may have closed already.
+    // The current click's press has just closed the popover.
     required property bool justTapped
 
-    // Whether the pointer was over the card when the popover opened: while it is shown, the card
-    // does not hear of every move.
+    // Whether the pointer was over the card when the popover opened: while it is shown, the card does
+    // not receive all hover events.
     property bool lastCardHover: false
-    // The pointer is over the card, as far as is known.
+    // Whether the pointer is over the card, as far as is known.
     readonly property bool cardHoverEntered: isPopoverShown ? lastCardHover : cardHovered
 
     signal openRequested
@@ -83,7 +83,7 @@ Item {
 
         property bool closes: false
 
-        // A small target may be missed by a little.
+        // Tolerates a slight miss of the small target.
         margin: 4
         onPressedChanged: {
             if (pressed)

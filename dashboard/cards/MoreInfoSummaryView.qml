@@ -4,8 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// The content of an explanatory popover: a header, a verdict in one text or two, and a summary of
-// what it is about. The texts are markdown.
+// The content of an explanation: a header, a verdict in one or two texts, and a summary. The texts are
+// Markdown.
 Column {
     id: root
 
@@ -47,7 +47,12 @@ Column {
         Rectangle {
             id: divider
 
-            anchors { left: parent.left; right: parent.right; margins: 10; verticalCenter: parent.verticalCenter }
+            anchors {
+                left: parent.left
+                right: parent.right
+                verticalCenter: parent.verticalCenter
+                margins: 10
+            }
             height: 1
             color: Colours.greyIcon
         }

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// A paragraph or more of an explanatory popover, in markdown. Nothing at all while it is empty.
+// One or more paragraphs of an explanation, in Markdown. Takes no space while it is empty.
 Text {
     width: parent?.width ?? 0
     padding: 10
@@ -15,6 +15,6 @@ Text {
     visible: text !== ""
 
     Accessible.role: Accessible.StaticText
-    // Without the markers of bold spans; one that has no partner is shown, and read, as typed.
+    // Without the markers of bold spans; a marker without a partner is shown and read as typed.
     Accessible.name: text.replace(/\*\*([^*]+)\*\*/g, "$1")
 }

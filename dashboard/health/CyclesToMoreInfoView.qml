@@ -16,7 +16,7 @@ MoreInfoSummaryView {
         + `**design cycles**.\n\nOnce the cycle count ${designCycles} is reached, a replacement `
         + "battery is recommended to maintain performance.\n\nYou can use your battery after it reaches "
         + `${designCycles} cycle count, but you might notice a reduction in your battery life.`
-    // Of too many cycles the last marker has no partner and is shown.
+    // In the text for too many cycles the last marker has no partner, so it is shown.
     readonly property string text2: "Your battery has gone through "
         + `**${currentCycles} charge cycles**, `
         + (designCycles >= currentCycles

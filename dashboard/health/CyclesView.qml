@@ -3,7 +3,7 @@
 
 import QtQuick
 
-// The card of how often the battery was charged, and how often it is designed to be.
+// The card of the charge cycles: done, and designed for.
 CardView {
     id: root
 

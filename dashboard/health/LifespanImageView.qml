@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Dashboard
 
-// The mark of the verdict over the battery's age. Nothing while there is none.
+// The image of the lifespan verdict; nothing while it is unknown.
 VerdictImage {
     required property int lifespan
 

@@ -3,7 +3,7 @@
 
 import QtQuick
 
-// What the verdict over the battery's age rests on.
+// The explanation of the lifespan verdict.
 MoreInfoSummaryView {
     width: 400
 }

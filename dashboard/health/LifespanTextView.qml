@@ -3,5 +3,5 @@
 
 import QtQuick
 
-// The verdict over the battery's age in a word.
+// The lifespan verdict in one word.
 GenericTextView {}

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Quick
 
-// The card of the verdict over the battery's age. Too many cycles alone leave it good.
+// The card of the lifespan verdict. Too many cycles alone leave it good.
 CardView {
     id: root
 
@@ -17,7 +17,7 @@ CardView {
     readonly property bool isGood: lifespan === Battery.Lifespan.Good
         || lifespan === Battery.Lifespan.ReducedCycles
 
-    // What the popover says.
+    // The contents of the popover.
     readonly property string text: isKnown ? textOf(lifespan) : ""
     readonly property string summary: "All rechargeable batteries are consumables and have a "
         + "limited lifespan. Knowing how many charge cycles your battery has and how many are left "

@@ -3,7 +3,7 @@
 
 import QtQuick
 
-// The card of how much charge the battery can hold beside a new one.
+// The card of the maximum capacity compared with a new battery's.
 CardView {
     id: root
 

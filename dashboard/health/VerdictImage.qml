@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// The mark of a verdict: a check, with a warning where attention is due.
+// The image of a verdict: a check mark, with a warning badge if attention is needed.
 Symbol {
     required property bool isGood
 

@@ -5,12 +5,12 @@ import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Quick
 
-// The card of where the power comes from.
+// The card of the power source.
 CardView {
     id: root
 
     required property int powerSource
-    // Of the battery in the picture, percent; undefined while unknown.
+    // The charge of the battery glyph, percent; undefined while unknown.
     property var charge
     readonly property bool isExternal: powerSource === Battery.PowerSource.External
 

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Dashboard
 
-// The status section: the charge, the time left, what the battery does, where the power comes from.
+// The status section: the charge, the time left, the battery's state and the power source.
 Column {
     spacing: 10
 

@@ -4,8 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// The card of the time to empty or to full. On a battery that is full, or held, it is the time that
-// the charge would last, which takes an explanation.
+// The card of the time to empty or to full. For a full or held battery it is the time that the charge
+// would last, which has an explanation.
 CardView {
     id: root
 

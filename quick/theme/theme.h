@@ -13,8 +13,7 @@ class QQmlEngine;
 
 namespace ferrin {
 
-/// How the application looks, as QML reads it: what `Colours` and `Fonts` choose by. It follows the
-/// application's appearance and decides nothing.
+/// The application's appearance as QML reads it; `Colours` and `Fonts` depend on it.
 class Theme final : public QObject
 {
     Q_OBJECT
@@ -27,7 +26,7 @@ class Theme final : public QObject
                    bindableReducesMotion)
 
 public:
-    /// Follows the application's appearance, if there is one.
+    /// Follows the application's appearance; without one it keeps the defaults.
     explicit Theme(QObject *parent = nullptr);
 
     static Theme *create(QQmlEngine *engine, QJSEngine *);
@@ -36,7 +35,7 @@ public:
     [[nodiscard]] QBindable<bool> bindableIsDark() { return &m_isDark; }
     [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
     [[nodiscard]] QBindable<QString> bindableFontFamily() { return &m_fontFamily; }
-    /// Nothing may move: the desktop asks for it.
+    /// The desktop asks for no animations.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
     [[nodiscard]] QBindable<bool> bindableReducesMotion() { return &m_reducesMotion; }
 

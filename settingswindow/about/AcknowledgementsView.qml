@@ -5,8 +5,8 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// The acknowledgement texts of the parts that have one. Whatever has the focus on it, the keys that
-// page and scroll move the texts.
+// The acknowledgement texts of the components. The arrow and page keys scroll them wherever the focus
+// is on the sheet.
 FocusScope {
     id: root
 
@@ -14,7 +14,7 @@ FocusScope {
     readonly property string textAckLaunchAtLogin: BundleInformation.text("AckLaunchAtLogin")
     readonly property string textAckMenuBarExtraAcces: BundleInformation.text("AckMenuBarExtraAcces")
 
-    // It has been read.
+    // The sheet should close.
     signal done
 
     implicitWidth: 600
@@ -79,7 +79,7 @@ FocusScope {
         }
     }
 
-    // How far the texts have been scrolled.
+    // The scroll indicator.
     Rectangle {
         x: view.width - 9
         y: view.y + 3 + view.visibleArea.yPosition * (view.height - 6)

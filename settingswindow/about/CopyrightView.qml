@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// The maker's notice.
+// The copyright notice.
 Column {
     spacing: 3
 

@@ -4,11 +4,11 @@
 import QtQuick
 import Ferrin.Quick
 
-// Who made the parts of the program, and the way to the texts that acknowledge it.
+// The components' makers, and the button for the acknowledgement texts.
 SettingsSectionView {
     id: root
 
-    // The acknowledgements are presented.
+    // The acknowledgements are shown.
     property bool showSheet: false
 
     heading: "Credits & Acknowledgements"
@@ -40,7 +40,7 @@ SettingsSectionView {
         }
     }
 
-    // What the program runs on.
+    // The components that the program uses here.
     Grid {
         width: parent.width
         columns: 2

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// What the program is: its icon, its name, and which one of its kind.
+// The program's icon, name and version.
 Column {
     readonly property string appVersion: BundleInformation.appVersion
     readonly property string buildNumber: BundleInformation.buildNumber
@@ -18,7 +18,7 @@ Column {
         height: 96
         sourceSize { width: 96; height: 96 }
         source: "qrc:/icons/org.ferrin.Ferrin.svg"
-        // The name beside it tells.
+        // The name below it says the same.
         Accessible.ignored: true
     }
 

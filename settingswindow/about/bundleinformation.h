@@ -12,8 +12,8 @@ class QQmlEngine;
 
 namespace ferrin {
 
-/// What the program knows of itself, as the settings window tells it. Read once; a bundle without
-/// one of the three stops the process, as `Bundle` says.
+/// The application's name, version and build number, read once from the bundle. A missing one is a
+/// programming error and stops the process.
 class BundleInformation final : public QObject
 {
     Q_OBJECT
@@ -26,11 +26,11 @@ class BundleInformation final : public QObject
 public:
     explicit BundleInformation(QObject *parent = nullptr);
 
-    /// Made by whoever asks first.
+    /// Created on first use and owned by the engine.
     static BundleInformation *create(QQmlEngine *engine, QJSEngine *);
 
     /// A text that is compiled in, by the name of its resource; empty when it cannot be read, which
-    /// nobody is told.
+    /// is not logged.
     Q_INVOKABLE [[nodiscard]] QString text(const QString &resource) const;
 
 private:

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// A panel of a page: rounded, with a border, and a title above what it holds. It is as high as that.
+// A panel of a page: rounded, with a border and a title above its content, as high as these.
 Rectangle {
     id: root
 

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// A part of a page: a heading above a panel, which is as high as what stands on it.
+// A section of a page: a heading above a panel, which is as high as its content.
 Column {
     id: root
 

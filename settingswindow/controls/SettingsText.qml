@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// Words of a page that are read, by eye or by ear, and nothing else.
+// Plain text of a page, also for screen readers.
 Text {
     textFormat: Text.PlainText
     wrapMode: Text.WordWrap

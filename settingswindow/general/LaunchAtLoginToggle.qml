@@ -5,8 +5,8 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// The switch of `LaunchAtLogin`: it shows what the session says, also after a change that failed
-// and after one that was made elsewhere while its window lay behind.
+// The switch of `LaunchAtLogin`. It always shows the session's actual state, also after a failed
+// change and after one that another program made while the window was in the background.
 SwitchView {
     id: root
 

@@ -12,7 +12,7 @@ MakeBackgroundRectangle {
 
     property string scheme: "x-apple.systempreferences"
     property string pane: "com.apple.preference.battery"
-    // It was asked for and nothing could be opened.
+    // The last attempt could not open anything.
     property bool isMissing: false
 
     title: "System Settings"

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// Which colours the whole application wears.
+// The choice of the application's colour scheme.
 MakeBackgroundRectangle {
     id: root
 
@@ -31,7 +31,7 @@ MakeBackgroundRectangle {
                 color: Colours.primaryText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 9
-                // The picker is told by it.
+                // It is the picker's accessible name.
                 Accessible.ignored: true
             }
 

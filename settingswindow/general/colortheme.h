@@ -15,9 +15,8 @@ namespace ferrin {
 
 class AppColor;
 
-/// The user's choice of a colour scheme, as the settings window offers it: by the schemes' texts. A
-/// scheme that is chosen is stored and applied to the whole application at once. A child of the
-/// engine.
+/// The user's choice of a colour scheme, by the schemes' texts. A chosen scheme is stored and
+/// applied to the whole application at once. A child of the engine.
 class ColorTheme final : public QObject
 {
     Q_OBJECT
@@ -37,7 +36,7 @@ public:
 
     [[nodiscard]] QStringList schemes() const;
     [[nodiscard]] QString selectedScheme() const;
-    /// Of a text that names none of the schemes nothing comes.
+    /// Ignores text that is not a scheme's.
     void setSelectedScheme(const QString &scheme);
 
 Q_SIGNALS:

@@ -12,7 +12,7 @@ namespace ferrin {
 
 namespace {
 
-// The component's own subsystem and category, which whoever keeps the log tells apart.
+// The component logs under a subsystem and category of its own.
 Q_LOGGING_CATEGORY(launchAtLoginLogger, "org.ferrin.LaunchAtLogin/main")
 
 } // namespace
@@ -43,7 +43,7 @@ bool LaunchAtLogin::isEnabled() const
 void LaunchAtLogin::setIsEnabled(bool enabled)
 {
     Q_EMIT m_observable.willChange();
-    // A session that lists the item already takes a new program only from a new registration.
+    // An item that the session already lists is refreshed only by registering it again.
     if (enabled && isEnabled())
         static_cast<void>(m_item.unregisterItem());
     if (const auto error = enabled ? m_item.registerItem() : m_item.unregisterItem()) {

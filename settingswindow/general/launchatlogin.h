@@ -13,25 +13,25 @@ namespace ferrin {
 
 class LoginItem;
 
-/// Announces that whether the application starts at login is about to be set, by whomever.
+/// Announces that something is about to set whether the application starts at login.
 class LaunchAtLoginObservable final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The process's.
+    /// The one instance of the process.
     [[nodiscard]] static LaunchAtLoginObservable &shared();
 
     using QObject::QObject;
 
 Q_SIGNALS:
-    /// Nothing has changed yet.
+    /// Emitted before the change.
     void willChange();
 };
 
-/// Whether the application starts when the user logs in. The answer lives in the session alone and
-/// is asked for at each reading, so it cannot go out of step. A change that fails is logged and
-/// shown to nobody: whoever reads again sees what holds. In QML the engine's child.
+/// Whether the application starts when the user logs in. Nothing is stored here: each read asks the
+/// session's login item, so the value cannot go stale. A change that fails is logged and not shown;
+/// reading again gives the actual state. A child of the QML engine.
 class LaunchAtLogin final : public QObject
 {
     Q_OBJECT
@@ -50,14 +50,14 @@ public:
     static LaunchAtLogin *create(QQmlEngine *engine, QJSEngine *);
 
     [[nodiscard]] bool isEnabled() const;
-    /// Turning on what is on already registers the item anew.
+    /// Turning it on while it is on registers the item again.
     void setIsEnabled(bool enabled);
 
-    /// Has everybody read again: the session's own tools may have changed it.
+    /// Notifies all readers: the desktop's own tools may have changed the item.
     Q_INVOKABLE void readAgain();
 
 Q_SIGNALS:
-    /// It has been set, perhaps without success, or may have been changed elsewhere: read again.
+    /// It was set, possibly without success, or may have been changed elsewhere.
     void isEnabledChanged();
 
 private:

@@ -4,14 +4,14 @@
 import QtQuick
 import Ferrin.Quick
 
-// Asks before the program ends. Shown in a popover of the settings window.
+// Asks before the program quits. Shown in a popover of the settings window.
 FocusScope {
     id: root
 
-    // Whether the popover that holds this view is shown; "No" takes it back.
+    // Whether the popover with this view is shown; "No" sets it to false.
     property bool isShown: true
 
-    // The user wants the program to end, at once.
+    // The program should quit at once.
     signal quitConfirmed
 
     implicitWidth: 180
@@ -21,7 +21,12 @@ FocusScope {
     Accessible.name: question.text
 
     Column {
-        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: 10 }
+        anchors {
+            left: parent.left
+            right: parent.right
+            verticalCenter: parent.verticalCenter
+            margins: 10
+        }
         spacing: 10
 
         Text {

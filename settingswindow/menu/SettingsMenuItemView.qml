@@ -4,14 +4,14 @@
 import QtQuick
 import Ferrin.Quick
 
-// One row of the settings window's menu: a symbol on a coloured tile, a label, and behind them the
-// mark of its state.
+// One row of the settings window's menu: a symbol on a coloured tile, a label, and the highlight behind
+// them.
 MenuEntry {
     id: root
 
     required property string image
     required property color color
-    // The states of all rows, by their buttons.
+    // The ButtonState of every row by its button.
     required property var control
 
     buttonState: control[button]

@@ -5,11 +5,11 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// The settings window's menu of pages, and the way to end the program.
+// The settings window's menu of pages, with the entry that quits the program.
 MenuView {
     id: root
 
-    // The question whether to quit is presented.
+    // The question whether to quit is shown.
     property bool quitPopoverShown: false
 
     items: [general, icon, support, about, quit]
@@ -28,7 +28,7 @@ MenuView {
             quitPopover.close();
     }
 
-    // Another one may have turned the page.
+    // The page may be selected elsewhere.
     Connections {
         target: Settings
 

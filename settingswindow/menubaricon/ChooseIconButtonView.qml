@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Settings
 
-// The control that opens the icons to choose from, or the same space without it.
+// The button that opens the icons to choose from, or an empty space of the same size.
 Item {
     id: root
 

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// Icons of one kind, headed by what they are.
+// Icons of one kind below their heading.
 Column {
     id: root
 
@@ -14,12 +14,12 @@ Column {
     required property string caption
     required property list<string> icons
     property int columns: 6
-    // The states of all buttons, by their icons.
+    // The ButtonState of every button by its icon.
     required property var control
 
-    // The pointer came to one of them or went.
+    // The pointer entered or left one of them.
     signal hovered(icon: string, inside: bool)
-    // The user wants to go on from this one to another.
+    // The user wants to move the focus from this button, by one step in one direction.
     signal moved(from: Item, across: int, down: int)
 
     width: 230
@@ -72,7 +72,7 @@ Column {
                     onHovered: inside => root.hovered(icon, inside)
                     onPressed: root.choices.icon = icon
 
-                    // The keys begin at the selected one.
+                    // The selected icon has the focus first.
                     focus: icon === root.choices.icon
 
                     Keys.onLeftPressed: root.moved(this, -1, 0)

@@ -5,18 +5,18 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// The icons to choose from for one battery state, in one group or two. It owns the states of their
-// buttons, which start afresh each time that it is made.
+// The icons to choose from for one battery state, in one or two groups. It owns the states of their
+// buttons.
 FocusScope {
     id: root
 
     required property StateChoices choices
-    // Absent: there is no such group.
+    // Empty if there is no such group.
     property list<string> dynamicIcons
     property int dynamicColumns: 6
     required property list<string> staticIcons
     required property string staticCaption
-    // The state of each button, by its icon.
+    // The ButtonState of each button by its icon.
     property var iconButtons: ({})
 
     implicitWidth: 260
@@ -67,7 +67,7 @@ FocusScope {
         }
     }
 
-    // Marks one button as the selected one and all others as neither selected nor hovered.
+    // Marks one button as selected and all others as neither selected nor hovered.
     function mark(icon: string) {
         const marked = {};
         const all = choices.icons;
@@ -84,7 +84,8 @@ FocusScope {
         root.iconButtons = Object.assign({}, iconButtons, { [icon]: state });
     }
 
-    // To the nearest button in this direction: in its row for a step aside, else in the next row.
+    // Moves the focus to the nearest button in this direction: within the row for a horizontal step,
+    // else in the next row.
     function moveFocus(from: Item, across: int, down: int) {
         const start = root.mapFromItem(from, 0, 0);
         let nearest = null;

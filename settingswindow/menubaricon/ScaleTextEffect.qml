@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Theme
 
-// Makes its content swell and sink back once, about its centre, at each change of the trigger.
+// Scales its content up and down once, about its centre, at each change of the trigger.
 Item {
     id: root
 
@@ -25,8 +25,8 @@ Item {
         anchors.fill: parent
     }
 
-    // A change in the middle goes on from where the content is, so that a trigger that is soon
-    // taken back makes one pulse and not two.
+    // A change during the animation continues from the present scale, so that a trigger that is soon
+    // reset causes one pulse, not two.
     SequentialAnimation {
         id: pulse
 

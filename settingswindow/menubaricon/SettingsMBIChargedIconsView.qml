@@ -3,8 +3,7 @@
 
 import Ferrin.Settings
 
-// The icons for a battery that is charged: its level does not change any more, so that none of them
-// is dynamic.
+// The icons for a charged battery. Its level no longer changes, so none of them is dynamic.
 IconPage {
     choices: MenuBarIcon.charged
     staticIcons: choices.icons

@@ -3,7 +3,7 @@
 
 import Ferrin.Settings
 
-// The icons for a battery that charges.
+// The icons for a charging battery.
 IconPage {
     choices: MenuBarIcon.charging
     dynamicIcons: choices.glyphs

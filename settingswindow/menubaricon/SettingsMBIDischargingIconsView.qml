@@ -3,7 +3,7 @@
 
 import Ferrin.Settings
 
-// The icons for a battery that discharges.
+// The icons for a discharging battery.
 IconPage {
     choices: MenuBarIcon.discharging
     dynamicIcons: choices.glyphs

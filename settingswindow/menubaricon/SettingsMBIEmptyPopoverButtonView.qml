@@ -3,7 +3,7 @@
 
 import QtQuick
 
-// Stands where the control that opens the icons would be.
+// An empty placeholder for the button that opens the icons.
 Item {
     implicitWidth: 52
     implicitHeight: 28

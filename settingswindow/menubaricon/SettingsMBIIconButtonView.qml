@@ -6,18 +6,18 @@ import Ferrin.Quick
 import Ferrin.Settings
 import Ferrin.Theme
 
-// One icon to choose, and behind it the mark of its state.
+// One icon to choose, and the highlight behind it.
 Pressable {
     id: root
 
     required property string icon
-    // Percent, that the icon is shown at.
+    // The charge that the icon shows, percent.
     required property real charge
-    // The states of all buttons, by their icons.
+    // The ButtonState of every button by its icon.
     required property var control
     readonly property bool isSelected: control[icon] === ButtonState.Selected
 
-    // The pointer came or went.
+    // The pointer entered or left.
     signal hovered(inside: bool)
 
     spokenName: MenuBarIcon.nameOf(icon)

@@ -6,12 +6,12 @@ import Ferrin.Quick
 import Ferrin.Settings
 import Ferrin.Theme
 
-// A piece of a panel with the item in it, as it would look.
+// The preview: a piece of a panel with the item in it.
 Item {
     id: root
 
     required property StateChoices choices
-    // The lower left corner of the sign in the panel that the item stands beside.
+    // The lower left corner of the panel's own symbol beside the item.
     readonly property point anchor: Qt.point(94, 18)
 
     implicitWidth: panel.implicitWidth

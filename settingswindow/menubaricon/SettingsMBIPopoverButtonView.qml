@@ -6,7 +6,7 @@ import Ferrin.Quick
 import Ferrin.Settings
 import Ferrin.Theme
 
-// The selected icon of a battery state. A tap opens the icons that it can be, and closes them.
+// A button with the selected icon of a battery state. It opens and closes the icons to choose from.
 Pressable {
     id: root
 
@@ -56,7 +56,7 @@ Pressable {
         fontFamily: Theme.fontFamily
     }
 
-    // Either is 10 wide.
+    // Both symbols are 10 wide.
     Symbol {
         x: 37
         width: 10

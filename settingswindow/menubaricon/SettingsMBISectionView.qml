@@ -6,14 +6,14 @@ import Ferrin.Quick
 import Ferrin.Settings
 import Ferrin.Theme
 
-// What the item shows in one battery state: switches and icon to choose, and how it will look.
+// What the item shows in one battery state: the switches, the icon and a preview.
 MakeBackgroundRectangle {
     id: root
 
     required property StateChoices choices
     property bool mustNoteBeScaled: false
-    // A switch has just been turned back on; the note stands out where it may not move, and whoever
-    // has the focus on a switch hears it.
+    // A switch has just been turned back on: the note stands out if it may not move, and is the
+    // accessible description of the switches.
     property bool isNoteDue: false
     readonly property bool stressesNote: isNoteDue && Theme.reducesMotion
     readonly property string noteText: "At least one element must be selected"
@@ -60,7 +60,7 @@ MakeBackgroundRectangle {
         width: parent.width
         spacing: 7
 
-        // As high in every font, so that the sections keep to one grid.
+        // The same height in every font, so that the sections stay aligned.
         Text {
             width: parent.width
             height: 30
@@ -105,8 +105,7 @@ MakeBackgroundRectangle {
                 }
             }
 
-            // Left of the preview, so that what it opens leaves the preview in sight; both are
-            // level with the first switch.
+            // Left of the preview, so that its popover does not cover the preview.
             ChooseIconButtonView {
                 anchors { right: preview.left; rightMargin: 10; verticalCenter: preview.verticalCenter }
                 showButton: root.choices.showIcon

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] StateChoices *charged() { return &m_charged; }
     [[nodiscard]] ChargingStatuses::Status status() const;
 
-    /// The icon with this raw value in words; empty for a text that is no icon's.
+    /// The icon with this raw value in words; empty for any other text.
     Q_INVOKABLE QString nameOf(const QString &rawValue) const;
 
 Q_SIGNALS:

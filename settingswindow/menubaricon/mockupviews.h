@@ -7,8 +7,8 @@
 
 namespace ferrin {
 
-/// The seven layouts of the previews are those of the menu bar, and are drawn by them: a preview
-/// that drew for itself would one day show something else than the item.
+/// The seven layouts of the previews. They are the menu bar item's own views, so that the preview
+/// cannot drift from the item.
 using MockupWithTimeView = MenuBarTimeView;
 using MockupWithChargeView = MenuBarChargeView;
 using MockupWithIconView = MenuBarIconView;

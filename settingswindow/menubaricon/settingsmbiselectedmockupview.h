@@ -11,7 +11,7 @@
 namespace ferrin {
 
 /// What the menu bar item would show in one battery state, drawn by the item's own views.
-// The base by its full name, or QML's tools do not find it.
+// The base class is qualified because Qt's QML type registrar does not find it otherwise.
 class SettingsMBISelectedMockupView : public ferrin::ViewItem
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 namespace ferrin {
 
-/// The icon in plain words, for those who hear what others see. No two icons have the same name.
+/// The icon's name for screen readers. No two icons have the same name.
 [[nodiscard]] QString spokenName(Icon icon);
 
 } // namespace ferrin

@@ -99,8 +99,8 @@ QString StateChoices::sentence() const
 void StateChoices::keepOne(DisplaySwitch changed)
 {
     const bool isLast = switchedOnFor(m_sample.state, m_sources.switches) == ItemElements {};
-    // Whoever listens hears of it when the switch is on again. This change is not told here once
-    // more: a notifier is not called while it runs.
+    // Listeners are notified only once the switch is on again. Turning it on does not call this
+    // function again: a notifier is not called while it runs.
     if (isLast)
         m_sources.switches.set(changed, true);
     Q_EMIT switchesChanged();

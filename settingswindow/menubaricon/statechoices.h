@@ -16,10 +16,10 @@
 
 namespace ferrin {
 
-/// What the user chose for one battery state, and what the settings window says of that state. The
-/// choices live in the settings and are followed, whoever changes them. While it lives it keeps at
-/// least one of the state's three switches on: the one that would be the last to go is turned back
-/// on before anybody else has a turn. It is long because each of its many properties has a getter.
+/// The user's choices for one battery state and the texts of the settings window for that state.
+/// The choices are stored in the settings and followed when anything changes them. As long as it
+/// exists, at least one of the state's three switches is on: the last one to be turned off is
+/// turned back on before other listeners see the change.
 class StateChoices final : public QObject
 {
     Q_OBJECT
@@ -40,11 +40,11 @@ class StateChoices final : public QObject
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString description READ description CONSTANT)
     Q_PROPERTY(QString timeLabel READ timeLabel CONSTANT)
-    /// What the item would show, in words.
+    /// What the item would show, in words, for screen readers.
     Q_PROPERTY(QString sentence READ sentence NOTIFY previewChanged)
 
 public:
-    /// All of them outlive what was made of them.
+    /// All of them outlive the choices.
     struct Sources
     {
         BatteryData &data;
@@ -65,7 +65,7 @@ public:
     [[nodiscard]] bool showTime() const;
     void setShowTime(bool on);
     [[nodiscard]] QString icon() const;
-    /// Does nothing for a text that is no icon's.
+    /// Ignores text that is not the raw value of an icon.
     void setIcon(const QString &rawValue);
 
     [[nodiscard]] QStringList icons() const { return glyphs() + symbols(); }
@@ -85,7 +85,7 @@ Q_SIGNALS:
     void switchesChanged();
     void iconChanged();
     void previewChanged();
-    /// A switch was turned back on, because it was the last one.
+    /// The last switch was turned off and has been turned back on.
     void lastOneKept();
 
 private:

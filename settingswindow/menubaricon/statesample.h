@@ -10,7 +10,7 @@
 
 namespace ferrin {
 
-/// What the settings window says and shows of one battery state, apart from what the user chose.
+/// The settings window's texts and sample values for one battery state.
 struct StateSample
 {
     ItemState state = ItemState::discharging;
@@ -18,13 +18,13 @@ struct StateSample
     BatteryChargingStatus status = BatteryChargingStatus::discharging;
     /// Percent.
     int charge = 0;
-    /// "4:29"; empty where no time is ever shown.
+    /// Hours and minutes, such as "4:29"; empty for a state that never shows a time.
     QString time = {};
     /// Of the preview.
     QString caption = {};
     QString title = {};
     QString description = {};
-    /// Of the switch of the time; empty where there is none to be seen.
+    /// The label of the switch for the time; empty for a state that has no such switch.
     QString timeLabel = {};
 };
 

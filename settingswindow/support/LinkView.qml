@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
 
-// A link that leads out of the application: a symbol and a label.
+// A link that opens outside of the application: a symbol and a label.
 Pressable {
     id: root
 

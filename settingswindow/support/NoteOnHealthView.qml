@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Settings
 
-// Where the texts on a battery's health come from.
+// The note on the source of the texts about battery health.
 SettingsSectionView {
     id: root
 

@@ -4,7 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 
-// The page for those who have a question.
+// The support page.
 Rectangle {
     implicitWidth: 500
     implicitHeight: 500
