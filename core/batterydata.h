@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "base/variantcast.h"
 #include "core/batterytime.h"
 #include "core/batterytypes.h"
 
