@@ -34,7 +34,7 @@ class Desktops:
 
     def __init__(self, number, machines_build, hosts=False):
         self._release = RELEASES[number]
-        self._hosts = ["hosts", f"hosts-{self._release}"] if hosts else []
+        self._hosts = ["hosts", "hosts-further", f"hosts-{self._release}"] if hosts else []
         # What was built on the same release runs in its root.
         self._is_built = self._release == release_of_this_machine()
         self.build = machines_build if self._is_built \
