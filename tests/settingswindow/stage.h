@@ -47,8 +47,7 @@ inline Vendor someVendor()
 class SettingsStage : public SceneStage
 {
 public:
-    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop,
-                           Vendor addresses = someVendor())
+    explicit SettingsStage(PopoverDesktop &popovers = plainDesktop, Vendor addresses = someVendor())
         : SceneStage({ "Ferrin.Settings" }, popovers)
         , vendor(std::move(addresses))
     {
