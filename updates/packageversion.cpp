@@ -76,7 +76,7 @@ int debianRank(QStringView text, qsizetype index)
 std::strong_ordering compareDebianWords(QStringView left, QStringView right)
 {
     for (qsizetype i = 0; i < std::max(left.size(), right.size()); ++i) {
-        if (const auto order = debianRank(left, i) <=> debianRank(right, i); order != 0)
+        if (const auto order = debianRank(left, i) <=> debianRank(right, i); std::is_neq(order))
             return order;
     }
     return std::strong_ordering::equal;
@@ -88,10 +88,10 @@ std::strong_ordering compareDebian(QStringView left, QStringView right)
     const auto isWord = [](QChar character) { return !isDigit(character); };
     while (!left.isEmpty() || !right.isEmpty()) {
         if (const auto order = compareDebianWords(take(left, isWord), take(right, isWord));
-            order != 0)
+            std::is_neq(order))
             return order;
         if (const auto order = compareNumbers(take(left, isDigit), take(right, isDigit));
-            order != 0)
+            std::is_neq(order))
             return order;
     }
     return std::strong_ordering::equal;
@@ -128,14 +128,14 @@ std::strong_ordering compareRpm(QStringView left, QStringView right)
     while (true) {
         take(left, isSeparator);
         take(right, isSeparator);
-        if (const auto order = rpmRank(left) <=> rpmRank(right); order != 0)
+        if (const auto order = rpmRank(left) <=> rpmRank(right); std::is_neq(order))
             return order;
         if (left.isEmpty())
             return std::strong_ordering::equal;
         if (rpmRank(left) != plain) {
             left = left.sliced(1);
             right = right.sliced(1);
-        } else if (const auto order = compareRpmSegments(left, right); order != 0) {
+        } else if (const auto order = compareRpmSegments(left, right); std::is_neq(order)) {
             return order;
         }
     }
@@ -144,9 +144,9 @@ std::strong_ordering compareRpm(QStringView left, QStringView right)
 template <typename Compare>
 std::strong_ordering compareParts(const Parts &left, const Parts &right, Compare compare)
 {
-    if (const auto order = compareNumbers(left.epoch, right.epoch); order != 0)
+    if (const auto order = compareNumbers(left.epoch, right.epoch); std::is_neq(order))
         return order;
-    if (const auto order = compare(left.upstream, right.upstream); order != 0)
+    if (const auto order = compare(left.upstream, right.upstream); std::is_neq(order))
         return order;
     return compare(left.revision, right.revision);
 }

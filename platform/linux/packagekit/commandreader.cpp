@@ -36,7 +36,7 @@ QByteArray outputOf(QProcess &process)
 } // namespace
 
 void readCommand(QObject *context, const QString &program, const QStringList &arguments,
-                 std::function<void(const QByteArray &)> answer)
+                 const std::function<void(const QByteArray &)> &answer)
 {
     auto *const process = new QProcess(context);
     process->setProcessEnvironment(plainEnvironment());

@@ -16,10 +16,10 @@ namespace ferrin {
 /// no such program, or it fails, prints too much or takes too long. Tests hand in another.
 using CommandReader
     = std::function<void(QObject *context, const QString &program, const QStringList &arguments,
-                         std::function<void(const QByteArray &)> answer)>;
+                         const std::function<void(const QByteArray &)> &answer)>;
 
 /// The one that starts processes, which end with the context.
 void readCommand(QObject *context, const QString &program, const QStringList &arguments,
-                 std::function<void(const QByteArray &)> answer);
+                 const std::function<void(const QByteArray &)> &answer);
 
 } // namespace ferrin
