@@ -44,6 +44,9 @@ private Q_SLOTS:
         tellLaptop({ u"plug"_s });
         QTRY_COMPARE(m_data->powerSource(), PowerSource::external);
         QTRY_COMPARE(m_data->chargingStatus(), BatteryChargingStatus::charging);
+        // What it can give it tells some seconds later.
+        tellLaptop({ u"adapter-details"_s });
+        QTRY_COMPARE(m_data->adapterWatts(), 65);
         tellLaptop({ u"unplug"_s });
         QTRY_COMPARE(m_data->powerSource(), PowerSource::battery);
     }

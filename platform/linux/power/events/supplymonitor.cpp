@@ -37,12 +37,17 @@ std::string_view valueOf(udev_device *device, const char *property, const char *
 
 std::optional<QString> stateOf(udev_device *device, SupplyType type)
 {
-    const std::string_view value = type == SupplyType::Battery
-        ? valueOf(device, "POWER_SUPPLY_STATUS", "status")
-        : valueOf(device, "POWER_SUPPLY_ONLINE", "online");
+    const bool isBattery = type == SupplyType::Battery;
+    const std::string_view value = isBattery ? valueOf(device, "POWER_SUPPLY_STATUS", "status")
+                                             : valueOf(device, "POWER_SUPPLY_ONLINE", "online");
     if (value.empty())
         return std::nullopt;
-    return QString::fromUtf8(QByteArrayView(value)).left(maxStateLength).trimmed();
+    const QString state = QString::fromUtf8(QByteArrayView(value)).left(maxStateLength).trimmed();
+    if (isBattery)
+        return state;
+    // A USB-C contract is made some seconds after the adapter came online.
+    const std::string_view most = valueOf(device, "POWER_SUPPLY_CURRENT_MAX", "current_max");
+    return state + u' ' + QString::fromUtf8(QByteArrayView(most)).left(maxStateLength).trimmed();
 }
 
 } // namespace
