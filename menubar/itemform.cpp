@@ -134,14 +134,17 @@ Form formOf(ItemForm form, const ItemContent &content, int height, const ViewCon
     Q_UNREACHABLE();
 }
 
-} // namespace
+bool hasChip(ItemForm form, const ItemContent &content, const ViewContext &context)
+{
+    return context.chip && (form != ItemForm::Glyph || content.icon);
+}
 
-QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal scale,
-                 const ViewContext &context)
+/// The form with the air or the chip around it.
+Form framed(ItemForm form, const ItemContent &content, int height, qreal scale,
+            const ViewContext &context)
 {
     Form picture = formOf(form, content, height, context);
-    const bool hasChip = context.chip && (form != ItemForm::Glyph || content.icon);
-    if (hasChip) {
+    if (hasChip(form, content, context)) {
         const QMarginsF margins = chipMargins(form, height, scale);
         picture.view = PaddedView { .content = picture.view, .margins = margins / picture.zoom };
         picture.width += isSquare(form) ? 0 : margins.left() + margins.right();
@@ -150,6 +153,22 @@ QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal sc
             = PaddedView { .content = picture.view, .margins = { sideAir, 0, sideAir, 0 } };
         picture.width += 2 * sideAir * picture.zoom;
     }
+    return picture;
+}
+
+} // namespace
+
+qreal widthNeeded(ItemForm form, const ItemContent &content, int height, const ViewContext &context)
+{
+    return framed(form, content, height, 1, context).width;
+}
+
+QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal scale,
+                 const ViewContext &context, qreal leastWidth)
+{
+    Form picture = framed(form, content, height, scale, context);
+    if (!isSquare(form))
+        picture.width = std::max(picture.width, leastWidth);
     const qreal deviceScale = scale * picture.zoom;
     // Where logical pixels are no whole ones, a glyph may move by half a pixel to stand on the
     // grid.
@@ -163,7 +182,7 @@ QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal sc
     QPainter painter(&image);
     painter.scale(deviceScale, deviceScale);
     const QRectF bounds(QPointF(), QSizeF(pixels) / deviceScale);
-    if (hasChip)
+    if (hasChip(form, content, context))
         paintChip(painter, bounds, *context.chip);
     picture.view.paint(painter, bounds, context);
     painter.end();

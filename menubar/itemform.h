@@ -26,9 +26,14 @@ enum class ItemForm {
 /// One picture of the content: `height` logical pixels high (squares as wide as high, the others as
 /// wide as their content needs), `scale` device pixels a logical one, straight alpha
 /// (Format_ARGB32), device pixel ratio 1 on the image itself. With a chip in the context it stands
-/// on one, which fills the picture.
+/// on one, which fills the picture. A picture that would be narrower than `leastWidth` logical
+/// pixels is made that wide.
 [[nodiscard]] QImage paintForm(ItemForm form, const ItemContent &content, int height, qreal scale,
-                               const ViewContext &context);
+                               const ViewContext &context, qreal leastWidth = 0);
+
+/// The width that the content needs in this form, logical pixels.
+[[nodiscard]] qreal widthNeeded(ItemForm form, const ItemContent &content, int height,
+                                const ViewContext &context);
 
 /// The texts of the content in one line for hosts that draw a label themselves: "37% 4:29". Empty
 /// when the content shows only an icon.

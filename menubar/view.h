@@ -36,6 +36,9 @@ struct ViewContext
     bool operator==(const ViewContext &) const = default;
 };
 
+/// Device pixels to a logical one, from which on a screen is no longer coarse.
+inline constexpr qreal finestCoarseScale = 1.5;
+
 class AnyView;
 
 /// A view that knows its ideal size and paints itself into a rectangle, both in logical pixels.

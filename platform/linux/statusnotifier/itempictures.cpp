@@ -31,6 +31,10 @@ qreal densityFor(const HostProfile &profile, const OfferedPicture &offer, qreal 
     Q_UNREACHABLE();
 }
 
+// Logical pixels. A picture that would be narrower by less stays as wide as it was, so that the
+// item's neighbours stay where they are.
+constexpr qreal toleratedDifference = 10;
+
 // Taller panels have more room than the item needs.
 constexpr int tallestPanel = 64;
 constexpr int lowestPanel = 20;
@@ -50,18 +54,29 @@ std::vector<OfferedPicture> offersFor(const HostProfile &profile, const QList<in
     return offers;
 }
 
-IconPixmapList paintAll(const HostProfile &profile, const ItemContent &content,
-                        const ViewContext &context, const ItemPictures::Surroundings &surroundings)
+} // namespace
+
+qreal ItemPictures::keptWidth(Painted &painted, const OfferedPicture &offer,
+                              const ViewContext &context)
 {
-    constexpr qreal finestCoarseScale = 1.5;
-    ViewContext onScreen = context;
-    onScreen.isCoarse = surroundings.desktopScale < finestCoarseScale;
+    qreal &width = painted.widths[{ offer.form, offer.height }];
+    const qreal needed = widthNeeded(offer.form, painted.content, offer.height, context);
+    if (width < needed || width - needed > toleratedDifference)
+        width = needed;
+    return width;
+}
+
+IconPixmapList ItemPictures::paintAll(const HostProfile &profile, Painted &painted)
+{
+    const Surroundings &surroundings = painted.surroundings;
+    ViewContext context = painted.context;
+    context.isCoarse = surroundings.desktopScale < finestCoarseScale;
     IconPixmapList pictures;
     qsizetype bytes = 0;
     for (const OfferedPicture &offer : offersFor(profile, surroundings.panelHeights)) {
-        const QImage image
-            = paintForm(offer.form, content, offer.height,
-                        densityFor(profile, offer, surroundings.desktopScale), onScreen);
+        const QImage image = paintForm(offer.form, painted.content, offer.height,
+                                       densityFor(profile, offer, surroundings.desktopScale),
+                                       context, keptWidth(painted, offer, context));
         if (bytes + image.sizeInBytes() > byteBudget && !pictures.isEmpty())
             continue;
         bytes += image.sizeInBytes();
@@ -69,8 +84,6 @@ IconPixmapList paintAll(const HostProfile &profile, const ItemContent &content,
     }
     return pictures;
 }
-
-} // namespace
 
 const IconPixmapList &ItemPictures::pictures(const HostProfile &profile, const ItemContent &content,
                                              const ViewContext &context,
@@ -81,10 +94,12 @@ const IconPixmapList &ItemPictures::pictures(const HostProfile &profile, const I
         && painted.context == context;
     if (isCurrent)
         return painted.pictures;
+    if (painted.content.status != content.status || painted.context != context)
+        painted.widths.clear();
     painted.content = content;
     painted.context = context;
     painted.surroundings = surroundings;
-    painted.pictures = paintAll(profile, content, context, surroundings);
+    painted.pictures = paintAll(profile, painted);
     return painted.pictures;
 }
 

@@ -9,10 +9,14 @@
 
 #include <QHash>
 
+#include <map>
+#include <utility>
+
 namespace ferrin {
 
 /// Paints what a host is offered and keeps it, so that a host that reads everything anew costs no
-/// painting. Holds only the pictures of hosts that asked.
+/// painting. A wide picture keeps its width while little changes. Holds only the pictures of hosts
+/// that asked.
 class ItemPictures
 {
 public:
@@ -42,8 +46,14 @@ private:
         ViewContext context;
         /// Of no desktop before the first painting.
         Surroundings surroundings { .desktopScale = 0 };
+        /// Of the forms at their heights, logical pixels; for as long as the battery's state lasts.
+        std::map<std::pair<ItemForm, int>, qreal> widths;
         IconPixmapList pictures;
     };
+
+    static qreal keptWidth(Painted &painted, const OfferedPicture &offer,
+                           const ViewContext &context);
+    static IconPixmapList paintAll(const HostProfile &profile, Painted &painted);
 
     QHash<const HostProfile *, Painted> m_painted;
 };

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void offersAtLeastOnePictureWhateverTheContent();
     void offersMateTheHeightsOfThePanelsThatAreThere();
     void paintsLargerTextOnTallerPanels();
+    void keepsItsWidthWhileTheStateLasts();
     void paintsAgainOnlyWhenSomethingChanged();
 };
 
@@ -160,6 +161,23 @@ void ItemPicturesTest::paintsLargerTextOnTallerPanels()
             = pictures.pictures(mate, usual, context, { .panelHeights = { height } }).constFirst();
         QVERIFY(picture.width > widthBefore);
         widthBefore = picture.width;
+    }
+}
+
+void ItemPicturesTest::keepsItsWidthWhileTheStateLasts()
+{
+    for (const QString &process : { u"notification-ar"_s, u"waybar"_s }) {
+        ItemPictures pictures;
+        const HostProfile &profile = profileFor({ .name = process });
+        const auto widthOf = [&](const ItemContent &content) {
+            return pictures.pictures(profile, content, context, {}).constFirst().width;
+        };
+        const int atFirst = widthOf(dischargingAt(100, u"10:00"_s));
+        QCOMPARE(widthOf(dischargingAt(99, u"10:00"_s)), atFirst);
+        QCOMPARE(widthOf(dischargingAt(100, u"9:59"_s)), atFirst);
+        ItemContent charging = dischargingAt(99, u"9:59"_s);
+        charging.status = BatteryChargingStatus::charging;
+        QVERIFY(widthOf(charging) < atFirst);
     }
 }
 
