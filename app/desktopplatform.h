@@ -42,7 +42,7 @@ public:
     [[nodiscard]] PressWatcher &presses() noexcept { return *m_presses; }
     [[nodiscard]] WindowsPlatform windows() noexcept
     {
-        return { *m_popovers, m_loginItem, m_links, vendor() };
+        return { *m_popovers, m_statusArea, m_loginItem, m_links, vendor() };
     }
 
     /// What the item's widths are measured with.

@@ -17,6 +17,7 @@ namespace ferrin {
 
 class LinkOpener;
 class LoginItem;
+class PanelAppearanceSource;
 class PopoverDesktop;
 
 /// The windows of the application: the dashboard's popover, the settings window and the window of
@@ -50,6 +51,7 @@ public:
 struct WindowsPlatform
 {
     PopoverDesktop &popovers;
+    PanelAppearanceSource &panel;
     LoginItem &loginItem;
     LinkOpener &links;
     Vendor vendor;
@@ -65,5 +67,5 @@ public:
 
 } // namespace ferrin
 
-#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/5"
+#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/6"
 Q_DECLARE_INTERFACE(ferrin::WindowsFactory, FerrinWindowsFactory_iid)

@@ -80,7 +80,8 @@ private:
 
     void paintIconAndText(const ItemContent &content)
     {
-        if (content.charge && isUprightBattery(*content.icon)) {
+        // Three figures would be too small at its side.
+        if (content.charge && content.charge->size() < 3 && isUprightBattery(*content.icon)) {
             placeUpright(*content.icon, *content.charge, QRect(0, part(3), part(8), part(16)));
             return;
         }

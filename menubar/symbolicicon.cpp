@@ -65,7 +65,11 @@ QString rectElement(const QRectF &rect, qreal opacity, bool isError)
 /// The elements, drawn for this size, in the middle of the image.
 QString centred(const QString &elements, const QSizeF &size)
 {
-    const qreal zoom = std::min({ 1.0, side / size.width(), side / size.height() });
+    // As large as themes draw their own icons.
+    constexpr qreal largestHeight = 18;
+    constexpr qreal largestZoom = 1.25;
+    const qreal zoom
+        = std::min({ largestZoom, side / size.width(), largestHeight / size.height() });
     return u"<g transform=\"translate(%1 %2) scale(%3)\">%4</g>"_s
         .arg((side - size.width() * zoom) / 2)
         .arg((side - size.height() * zoom) / 2)

@@ -46,7 +46,7 @@ public:
         , m_launchAtLogin(platform.loginItem, LaunchAtLoginObservable::shared(), &m_engine)
         , m_links(platform.links, platform.vendor, &m_engine)
         , m_menuBarIcon({ *BatteryDataProvider::shared().data(), SettingsData::shared(),
-                          DisplaySwitches::shared() },
+                          DisplaySwitches::shared(), &platform.panel },
                         &m_engine)
         , m_settingsState(AppStatus::shared(), &m_engine)
         , m_updates(*AppUpdater::shared().controller()->updater(), &m_engine)

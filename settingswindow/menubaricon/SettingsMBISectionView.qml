@@ -135,6 +135,28 @@ MakeBackgroundRectangle {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
+
+            // As the desktop's own panel shows it. It may reach down beside the note, which is short.
+            PanelPreview {
+                id: inPanel
+
+                anchors { right: parent.right; top: caption.bottom; topMargin: 2 }
+                visible: isKnown
+                choices: root.choices
+                Accessible.role: Accessible.Graphic
+                Accessible.name: "In your panel"
+                Accessible.description: root.choices.sentence
+            }
+
+            Text {
+                anchors { left: preview.left; verticalCenter: inPanel.verticalCenter }
+                visible: inPanel.isKnown
+                text: "In your panel"
+                textFormat: Text.PlainText
+                font: Fonts.regular10
+                color: Colours.secondaryText
+                Accessible.ignored: true
+            }
         }
 
         ScaleTextEffect {

@@ -38,6 +38,9 @@ StateChoices::StateChoices(ItemState state, const Sources &sources, QObject *par
         Q_EMIT iconChanged();
     });
     m_preview.setBinding([this] { return computePreview(); });
+    if (sources.panel)
+        connect(sources.panel, &PanelAppearanceSource::panelAppearanceChanged, this,
+                &StateChoices::panelChanged);
 }
 
 bool StateChoices::showIcon() const
@@ -89,6 +92,11 @@ QStringList StateChoices::glyphs() const
 QStringList StateChoices::symbols() const
 {
     return rawValues(availableIcons(m_sample.state), false);
+}
+
+std::optional<PanelAppearance> StateChoices::panel() const
+{
+    return m_sources.panel ? m_sources.panel->panelAppearance() : std::nullopt;
 }
 
 QString StateChoices::sentence() const

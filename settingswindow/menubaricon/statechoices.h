@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "menubar/itemcontent.h"
+#include "menubar/panelappearance.h"
 #include "quick/chargingstatuses.h"
 #include "settingswindow/menubaricon/statesample.h"
 
@@ -50,6 +50,8 @@ public:
         BatteryData &data;
         SettingsData &settings;
         DisplaySwitches &switches;
+        /// Null where there is no panel to preview.
+        PanelAppearanceSource *panel = nullptr;
     };
 
     StateChoices(ItemState state, const Sources &sources, QObject *parent = nullptr);
@@ -80,11 +82,14 @@ public:
     /// What the item would show at the sample's charge and time, its icon as the battery is now.
     [[nodiscard]] ItemContent preview() const { return m_preview.value(); }
     [[nodiscard]] QString sentence() const;
+    /// How the present panel would show it; absent where none shows the item.
+    [[nodiscard]] std::optional<PanelAppearance> panel() const;
 
 Q_SIGNALS:
     void switchesChanged();
     void iconChanged();
     void previewChanged();
+    void panelChanged();
     /// The last switch was turned off and has been turned back on.
     void lastOneKept();
 

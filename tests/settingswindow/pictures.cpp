@@ -26,6 +26,9 @@ public:
         m_stage.appearance.setAppearance(appearance);
         m_stage.appearance.setFontFamily(font);
         m_stage.battery.setChargingStatus(BatteryChargingStatus::discharging);
+        m_stage.panel.setPresent(
+            PanelAppearance { .context = { .text = Qt::white, .red = Qt::red, .fontFamily = font },
+                              .ground = QColor(0x2b, 0x2b, 0x2e) });
         m_view = m_stage.show("SettingsView { focus: true }");
     }
 

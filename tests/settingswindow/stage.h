@@ -17,6 +17,7 @@
 #include "tests/quick/stage.h"
 #include "tests/settingswindow/fakelinkopener.h"
 #include "tests/settingswindow/fakeloginitem.h"
+#include "tests/settingswindow/fakepanelappearance.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/memorydefaultsstore.h"
 #include "tests/updates/fakeplatform.h"
@@ -59,7 +60,8 @@ public:
     MemoryDefaultsStore store;
     std::unique_ptr<SettingsData> settingsData = newSettings(store);
     DisplaySwitches switches { store };
-    MenuBarIcon menuBarIcon { { battery, *settingsData, switches }, &engine };
+    FakePanelAppearance panel;
+    MenuBarIcon menuBarIcon { { battery, *settingsData, switches, &panel }, &engine };
     Settings settings { status, &engine };
 
     AppColor color { store };

@@ -4,6 +4,7 @@
 #include "platform/linux/statusarea/statusareachooser.h"
 
 #include "base/logging.h"
+#include "menubar/contrast.h"
 #include "platform/linux/ownbar/ownbar.h"
 #include "platform/linux/statusnotifier/statusnotifierbar.h"
 #include "platform/linux/xembed/traycolors.h"
@@ -23,13 +24,20 @@ namespace {
 // A panel that has both kinds of status area takes the tray a moment before or after the other.
 constexpr std::chrono::milliseconds timeoutWithTray = 500ms;
 
+// Of a preview. What the panel's own ground is like is not known, only what reads on it.
+QColor groundFor(const QColor &text)
+{
+    return QColor::fromRgb(isLight(text) ? 0xff2b2b2e : 0xfff4f4f6);
+}
+
 } // namespace
 
 StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *parent)
-    : QObject(parent)
+    : PanelAppearanceSource(parent)
     , m_trayOwner(std::make_unique<TrayOwner>())
     , m_trayColors(std::make_unique<TrayColors>(*m_trayOwner))
 {
+    connect(&m_colors, &PanelColors::changed, this, &StatusAreaChooser::panelAppearanceChanged);
     readTrayColors();
     connect(m_trayColors.get(), &TrayColors::changed, this, &StatusAreaChooser::readTrayColors);
     followHosts();
@@ -37,6 +45,8 @@ StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *pa
         m_notifierBar = std::make_unique<StatusNotifierBar>(session, m_colors);
         connect(&m_notifierBar->resolver(), &HostResolver::found, this,
                 &StatusAreaChooser::hostFound);
+        connect(m_notifierBar.get(), &StatusNotifierBar::readersChanged, this,
+                &StatusAreaChooser::panelAppearanceChanged);
     }
     m_hostTimer.setSingleShot(true);
     connect(&m_hostTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);
@@ -107,6 +117,20 @@ void StatusAreaChooser::start()
     m_notifierBar->start();
     waitForHost();
     Q_EMIT itemAvailable(item());
+}
+
+std::optional<PanelAppearance> StatusAreaChooser::panelAppearance() const
+{
+    std::optional<PanelAppearance> result;
+    if (m_trayBar)
+        result = PanelAppearance { .context = m_trayBar->item()->context() };
+    else if (m_ownBar)
+        result = PanelAppearance { .form = ItemForm::Wide, .context = m_colors.contextForOwnBar() };
+    else if (m_notifierBar)
+        result = m_notifierBar->panelAppearance();
+    if (result)
+        result->ground = groundFor(result->context.text);
+    return result;
 }
 
 StatusBar *StatusAreaChooser::bar() const
@@ -213,6 +237,7 @@ void StatusAreaChooser::useStatusNotifier()
 void StatusAreaChooser::announceItem(StatusBar *former)
 {
     Q_EMIT itemAvailable(item());
+    Q_EMIT panelAppearanceChanged();
     // Its users have let go of the former bar's item only now.
     if (former)
         former->deleteLater();

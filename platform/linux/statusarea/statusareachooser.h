@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "menubar/panelappearance.h"
 #include "platform/linux/panelcolors/barcolors.h"
 #include "platform/linux/panelcolors/lxqtcolors.h"
 #include "platform/linux/panelcolors/panelcolors.h"
@@ -35,7 +36,7 @@ class TrayOwner;
 /// offered to the desktop all the time; another place is taken when no host has appeared within the
 /// timeout, and given up as soon as one does. Where there is no place at all, the log says so once.
 /// Owned by the application; never touches what the item shows.
-class StatusAreaChooser : public QObject
+class StatusAreaChooser : public PanelAppearanceSource
 {
     Q_OBJECT
 
@@ -56,6 +57,8 @@ public:
 
     /// Offers the item to the desktop and announces it at once by `itemAvailable`.
     void start();
+
+    [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const override;
 
     /// The bar in use, from `start` on.
     [[nodiscard]] StatusBar *bar() const;

@@ -30,6 +30,8 @@ StatusNotifierBar::StatusNotifierBar(const QDBusConnection &connection, const Pa
     , m_item(connection, m_resolver, colors)
     , m_registration(connection)
 {
+    connect(&m_item, &StatusNotifierStatusItem::readersChanged, this,
+            &StatusNotifierBar::readersChanged);
 }
 
 StatusNotifierBar::~StatusNotifierBar()

@@ -26,8 +26,17 @@ public:
 
     [[nodiscard]] qreal thickness() const override { return 22; }
     [[nodiscard]] StatusItem *item() override { return &m_item; }
+    /// As the last host shows the item that has read it.
+    [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const
+    {
+        return m_item.panelAppearance();
+    }
+
     [[nodiscard]] const HostResolver &resolver() const noexcept { return m_resolver; }
     [[nodiscard]] const ItemRegistration &registration() const noexcept { return m_registration; }
+
+Q_SIGNALS:
+    void readersChanged();
 
 private:
     QDBusConnection m_connection;

@@ -97,6 +97,21 @@ void StatusNotifierItem::setContent(const ItemContent &content)
     scheduleUpdate();
 }
 
+std::optional<PanelAppearance> StatusNotifierItem::panelAppearance() const
+{
+    if (!m_lastHost)
+        return {};
+    PanelAppearance result { .form = ItemForm::Glyph,
+                             .height = 16,
+                             .context = m_colors.contextFor(m_lastHost->panel()),
+                             .hasLabel = m_lastHost->label };
+    if (!m_lastHost->pictures.empty()) {
+        result.form = m_lastHost->pictures.front().form;
+        result.height = m_lastHost->pictures.front().height;
+    }
+    return result;
+}
+
 void StatusNotifierItem::setToolTipEnabled(bool isEnabled)
 {
     if (std::exchange(m_isToolTipEnabled, isEnabled) != isEnabled)
@@ -199,6 +214,8 @@ void StatusNotifierItem::remember(const QString &caller, const HostProfile &prof
     if (m_readers.contains(caller))
         return;
     m_readers.insert(caller, &profile);
+    m_lastHost = &profile;
+    Q_EMIT readersChanged();
     // GNOME's extension takes the label from its signal alone since version 58, and misses signals
     // until it has drawn the item.
     constexpr int repeats = 6;
@@ -213,6 +230,9 @@ void StatusNotifierItem::forget(const QString &caller)
         = std::find(m_readers.cbegin(), m_readers.cend(), profile) != m_readers.cend();
     if (!profile || hasOtherReader)
         return;
+    if (m_lastHost == profile)
+        m_lastHost = m_readers.isEmpty() ? nullptr : *m_readers.cbegin();
+    Q_EMIT readersChanged();
     m_seen.remove(profile);
     m_pictures.forget(*profile);
 }

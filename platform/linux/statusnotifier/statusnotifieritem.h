@@ -4,6 +4,7 @@
 #pragma once
 
 #include "menubar/itemcontent.h"
+#include "menubar/panelappearance.h"
 #include "platform/linux/statusnotifier/busobject.h"
 #include "platform/linux/statusnotifier/iconfiles.h"
 #include "platform/linux/statusnotifier/itempictures.h"
@@ -36,6 +37,9 @@ public:
     /// Signals what has changed on the next turn of the event loop, once for all the values that a
     /// refresh has changed.
     void setContent(const ItemContent &content);
+    /// As the last host shows the item that has read it; absent while none has.
+    [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const;
+
     /// Whether the item has a tool tip. Has one by default.
     void setToolTipEnabled(bool isEnabled);
 
@@ -44,6 +48,8 @@ public:
     void setLabelRepeatDelay(std::chrono::milliseconds delay) { m_labelRepeatDelay = delay; }
 
 Q_SIGNALS:
+    /// A host has read the item for the first time, or left.
+    void readersChanged();
     /// The host's own coordinates; null from a host whose coordinates are not the screen's.
     void activateRequested(QPoint position);
     void contextMenuRequested(QPoint position);
@@ -85,6 +91,8 @@ private:
     ItemPictures m_pictures;
     /// The readers that are on the bus, by unique name.
     QHash<QString, const HostProfile *> m_readers;
+    /// The profile of the last reader that draws; null for none.
+    const HostProfile *m_lastHost = nullptr;
     QHash<const HostProfile *, Seen> m_seen;
     QString m_seenToolTip;
     bool m_isToolTipEnabled = true;

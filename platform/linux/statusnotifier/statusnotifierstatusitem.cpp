@@ -47,6 +47,8 @@ StatusNotifierStatusItem::StatusNotifierStatusItem(const QDBusConnection &connec
 {
     connect(&m_item, &StatusNotifierItem::activateRequested, this,
             &StatusNotifierStatusItem::activateAt);
+    connect(&m_item, &StatusNotifierItem::readersChanged, this,
+            &StatusNotifierStatusItem::readersChanged);
     connect(&m_item, &StatusNotifierItem::contextMenuRequested, this,
             &StatusNotifierStatusItem::popUpMenu);
     connect(&m_menu, &DBusMenu::triggered, this, &StatusItem::menuEntryTriggered);

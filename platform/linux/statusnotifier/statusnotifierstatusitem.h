@@ -38,6 +38,14 @@ public:
     void setHighlighted(bool highlighted) override;
     [[nodiscard]] ItemPlace place() const override { return m_place; }
 
+    [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const
+    {
+        return m_item.panelAppearance();
+    }
+
+Q_SIGNALS:
+    void readersChanged();
+
 private:
     void showContent();
     void activateAt(QPoint reported);

@@ -134,13 +134,20 @@ void TrayItem::setHighlighted(bool highlighted)
     paint();
 }
 
+ViewContext TrayItem::context() const
+{
+    if (!m_window)
+        return m_colors.contextForTray({});
+    return m_colors.contextForTray(
+        { .ground = m_window->ground(), .isI3Bar = m_window->panelClass() == "i3bar" });
+}
+
 void TrayItem::paint()
 {
     const QSize size = m_window ? m_window->size() : QSize();
     if (size.isEmpty())
         return;
-    const ViewContext context = m_colors.contextForTray(
-        { .ground = m_window->ground(), .isI3Bar = m_window->panelClass() == "i3bar" });
+    const ViewContext context = this->context();
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);

@@ -32,6 +32,9 @@ public:
     /// takes it out of the one that it is in.
     void dockInto(quint32 tray);
 
+    /// What the item is painted with in its tray.
+    [[nodiscard]] ViewContext context() const;
+
     void setLength(qreal length) override { m_length = length; }
     [[nodiscard]] qreal length() const override { return m_length; }
     [[nodiscard]] bool hasButton() const override { return true; }
