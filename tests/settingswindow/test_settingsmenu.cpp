@@ -81,7 +81,8 @@ private Q_SLOTS:
             return picture.pixelColor(tile->mapToScene(QPointF(4, y)).toPoint()).lightness();
         };
         QVERIFY(lightness(5) > lightness(10));
-        QCOMPARE(lightness(16), lightness(22));
+        // Software painting rounds the transparent half by one.
+        QVERIFY(qAbs(lightness(16) - lightness(22)) <= 1);
     }
 
     void beginsAtTheIconsPage() { QCOMPARE(Menu().marked(), QStringList { u"Menu bar icon"_s }); }
