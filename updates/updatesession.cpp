@@ -194,8 +194,8 @@ void UpdateSession::takeInstallation()
 
 void UpdateSession::fail(const UpdateTrouble &trouble)
 {
-    qCWarning(logger, "The update failed (%s): %s", qUtf8Printable(logName(trouble.failure)),
-              qUtf8Printable(trouble.detail));
+    qCCritical(logger, "The update failed (%s): %s", qUtf8Printable(logName(trouble.failure)),
+               qUtf8Printable(trouble.detail));
     if (isBackground()) {
         end();
         m_trouble = plainWords(trouble.failure);

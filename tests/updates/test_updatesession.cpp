@@ -118,7 +118,7 @@ void UpdateSessionTest::tellsAFailureInPlainWords()
     QCOMPARE(m_bench->session.failure(), plainWords(UpdateFailure::notTrusted));
     QCOMPARE(m_bench->session.trouble(), QString());
     QCOMPARE(m_bench->log.take(),
-             QStringList { u"warning: The update failed (notTrusted): for a reason"_s });
+             QStringList { u"error: The update failed (notTrusted): for a reason"_s });
     m_bench->session.later();
     QCOMPARE(m_bench->session.failure(), QString());
 }

@@ -38,14 +38,15 @@ QByteArray outputOf(QProcess &process)
 void readCommand(QObject *context, const QString &program, const QStringList &arguments,
                  const std::function<void(const QByteArray &)> &answer)
 {
-    auto *const process = new QProcess(context);
+    // No child of the context: a process that is destroyed while it runs is waited for.
+    auto *const process = new QProcess;
+    QObject::connect(context, &QObject::destroyed, process, &QProcess::kill);
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
     process->setProcessEnvironment(plainEnvironment());
     process->setStandardErrorFile(QProcess::nullDevice());
     process->setStandardInputFile(QProcess::nullDevice());
-    QObject::connect(process, &QProcess::finished, context, [process, answer] {
-        process->deleteLater();
-        answer(outputOf(*process));
-    });
+    QObject::connect(process, &QProcess::finished, context,
+                     [process, answer] { answer(outputOf(*process)); });
     QObject::connect(process, &QProcess::errorOccurred, context,
                      [process, answer](QProcess::ProcessError error) {
                          if (error != QProcess::FailedToStart)

@@ -81,6 +81,7 @@ private:
 
 void TrayDockingTest::init()
 {
+    qRegisterMetaType<StatusItem *>();
     m_tray = std::make_unique<FakeTray>(barGround);
 }
 

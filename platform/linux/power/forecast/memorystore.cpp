@@ -102,8 +102,8 @@ void MemoryStore::complain(const QString &trouble)
     if (m_complained)
         return;
     m_complained = true;
-    qCWarning(logger, "What is known of the batteries cannot be kept in %ls: %ls",
-              qUtf16Printable(m_path), qUtf16Printable(trouble));
+    qCCritical(logger, "What is known of the batteries cannot be kept in %ls: %ls",
+               qUtf16Printable(m_path), qUtf16Printable(trouble));
 }
 
 } // namespace ferrin
