@@ -20,7 +20,7 @@ MenuEntry {
 
         anchors.fill: parent
         radius: 5
-        color: root.isSelected ? Colours.menuSelected : Colours.menuHovered
+        color: root.isSelected ? Colors.menuSelected : Colors.menuHovered
         opacity: root.buttonState === ButtonState.None ? 0 : 1
 
         Behavior on opacity {
@@ -46,7 +46,7 @@ MenuEntry {
         height: parent.height
         name: root.image
         size: 11 + root.sizeAdjust
-        color: Colours.menuText
+        color: Colors.menuText
         opacity: root.isSelected ? 1 : 0.7
     }
 
@@ -61,7 +61,7 @@ MenuEntry {
         text: root.text
         textFormat: Text.PlainText
         font: Fonts.menuItem
-        color: Colours.menuText
+        color: Colors.menuText
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 6
     }

@@ -10,6 +10,6 @@ Rectangle {
 
     anchors.fill: parent
     color: "transparent"
-    border { width: 2; color: Colours.focusRing }
+    border { width: 2; color: Colors.focusRing }
     visible: owner.activeFocus && KeyboardFocus.isVisible
 }

@@ -6,6 +6,6 @@ import Ferrin.Theme
 
 // The frame of a popover in the application's colours.
 PopoverFrame {
-    ground: Colours.dashboardColor
+    ground: Colors.dashboardColor
     isDark: Theme.isDark
 }

@@ -6,6 +6,6 @@ import Ferrin.Quick
 
 // A push button in the accent colour, for a view's main action.
 PushButton {
-    groundColor: isDown ? Qt.darker(Colours.accent, 1.2) : Colours.accent
-    textColor: Colours.accentText
+    groundColor: isDown ? Qt.darker(Colors.accent, 1.2) : Colors.accent
+    textColor: Colors.accentText
 }

@@ -34,7 +34,7 @@ Pressable {
         anchors.fill: parent
         radius: 5
         color: root.groundColor
-        border { width: root.borderWidth; color: Colours.settingsPopBorder }
+        border { width: root.borderWidth; color: Colors.settingsPopBorder }
     }
 
     FocusRing {

@@ -42,7 +42,7 @@ FocusScope {
 
         anchors.fill: parent
         radius: 7
-        color: Colours.segmentTrack
+        color: Colors.segmentTrack
     }
 
     Row {
@@ -81,7 +81,7 @@ FocusScope {
 
                     anchors.fill: parent
                     radius: 5
-                    color: segment.isSelected ? Colours.accent : Colours.segmentHovered
+                    color: segment.isSelected ? Colors.accent : Colors.segmentHovered
                     visible: segment.isSelected || segment.isHovered
                 }
 
@@ -98,7 +98,7 @@ FocusScope {
                     text: segment.modelData
                     textFormat: Text.PlainText
                     font: Fonts.regular12
-                    color: segment.isSelected ? Colours.accentText : Colours.primaryText
+                    color: segment.isSelected ? Colors.accentText : Colors.primaryText
                     fontSizeMode: Text.HorizontalFit
                     minimumPixelSize: 9
                 }

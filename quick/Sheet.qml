@@ -30,8 +30,8 @@ Overlay {
         width: loader.width
         height: loader.height
         radius: 10
-        color: Colours.settingsBackground
-        border { width: 1; color: Colours.settingsPopBorder }
+        color: Colors.settingsBackground
+        border { width: 1; color: Colors.settingsPopBorder }
 
         Loader {
             id: loader

@@ -37,7 +37,7 @@ Pressable {
         text: root.label
         textFormat: Text.PlainText
         font: Fonts.regular13
-        color: Colours.primaryText
+        color: Colors.primaryText
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 9
     }
@@ -49,7 +49,7 @@ Pressable {
         width: 32
         height: 18
         radius: height / 2
-        color: root.isOn ? Colours.accent : Colours.switchOff
+        color: root.isOn ? Colors.accent : Colors.switchOff
 
         Rectangle {
             id: knob
@@ -59,7 +59,7 @@ Pressable {
             width: 14
             height: 14
             radius: height / 2
-            color: Colours.switchKnob
+            color: Colors.switchKnob
 
             Behavior on x {
                 enabled: !Theme.reducesMotion

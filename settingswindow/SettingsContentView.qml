@@ -13,7 +13,7 @@ Rectangle {
 
     implicitWidth: 500
     implicitHeight: 500
-    color: Colours.settingsBackground
+    color: Colors.settingsBackground
 
     Loader {
         anchors.fill: parent

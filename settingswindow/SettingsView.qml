@@ -48,7 +48,7 @@ FocusScope {
         anchors.left: menu.right
         width: 1
         height: parent.height
-        color: Colours.settingsDivider
+        color: Colors.settingsDivider
     }
 
     SettingsContentView {

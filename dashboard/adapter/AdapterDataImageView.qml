@@ -8,5 +8,5 @@ import Ferrin.Quick
 Symbol {
     name: "waveform"
     size: 18
-    color: Colours.blueIcon
+    color: Colors.blueIcon
 }

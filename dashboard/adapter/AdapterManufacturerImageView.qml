@@ -12,5 +12,5 @@ Symbol {
 
     name: isApple ? "apple.logo" : "person.text.rectangle"
     size: isApple ? 20 : 16
-    color: Colours.cardTitleColor
+    color: Colors.cardTitleColor
 }

@@ -8,5 +8,5 @@ import Ferrin.Quick
 Symbol {
     name: "text.bubble"
     size: 18
-    color: Colours.greenIcon
+    color: Colors.greenIcon
 }

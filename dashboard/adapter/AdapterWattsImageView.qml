@@ -8,5 +8,5 @@ import Ferrin.Quick
 Symbol {
     name: "bolt.circle"
     size: 19
-    color: Colours.yellowIcon
+    color: Colors.yellowIcon
 }

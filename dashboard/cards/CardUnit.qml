@@ -8,6 +8,6 @@ import Ferrin.Quick
 Text {
     textFormat: Text.PlainText
     font: Fonts.cardUnit
-    color: Colours.cardTextColor
+    color: Colors.cardTextColor
     Accessible.ignored: true
 }

@@ -71,8 +71,8 @@ Item {
 
         anchors.fill: parent
         radius: 10
-        color: Colours.cardColor
-        border { width: 2; color: Colours.greyIcon }
+        color: Colors.cardColor
+        border { width: 2; color: Colors.greyIcon }
     }
 
     FocusRing {
@@ -89,7 +89,7 @@ Item {
         text: root.title
         textFormat: Text.PlainText
         font: Fonts.cardTitle
-        color: Colours.cardTitleColor
+        color: Colors.cardTitleColor
         horizontalAlignment: Text.AlignHCenter
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 6

@@ -6,5 +6,5 @@ import Ferrin.Quick
 
 // A plain card text, such as a name.
 CardTextCommonStyle {
-    color: Colours.cardTextColor
+    color: Colors.cardTextColor
 }

@@ -56,7 +56,7 @@ Item {
 
         anchors.fill: parent
         radius: width / 2
-        color: Colours.cardButton
+        color: Colors.cardButton
         visible: hover.hovered || root.isPopoverShown
     }
 
@@ -70,8 +70,8 @@ Item {
         anchors.fill: parent
         name: root.isPopoverShown ? "xmark" : "chevron.down"
         size: 10
-        color: root.cardHoverEntered || root.isPopoverShown ? Colours.cardTextColor
-                                                            : Colours.unknownColor
+        color: root.cardHoverEntered || root.isPopoverShown ? Colors.cardTextColor
+                                                            : Colors.unknownColor
     }
 
     HoverHandler {

@@ -33,7 +33,7 @@ Column {
             text: "YOUR BATTERY"
             textFormat: Text.PlainText
             font: Fonts.header
-            color: Colours.cardTextColor
+            color: Colors.cardTextColor
             verticalAlignment: Text.AlignVCenter
             Accessible.role: Accessible.Heading
             Accessible.name: text
@@ -54,7 +54,7 @@ Column {
                 margins: 10
             }
             height: 1
-            color: Colours.greyIcon
+            color: Colors.greyIcon
         }
     }
 

@@ -10,7 +10,7 @@ Text {
     padding: 10
     textFormat: Text.MarkdownText
     font: Fonts.regular12
-    color: Colours.cardTextColor
+    color: Colors.cardTextColor
     wrapMode: Text.Wrap
     visible: text !== ""
 

@@ -9,6 +9,6 @@ Gauge {
     required property real percent
 
     value: percent / 100
-    colors: [Colours.gaugeRed, Colours.gaugeOrange, Colours.gaugeYellow, Colours.gaugeGreen]
-    trackColor: Colours.gaugeTrack
+    colors: [Colors.gaugeRed, Colors.gaugeOrange, Colors.gaugeYellow, Colors.gaugeGreen]
+    trackColor: Colors.gaugeTrack
 }

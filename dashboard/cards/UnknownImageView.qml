@@ -8,5 +8,5 @@ import Ferrin.Quick
 Symbol {
     name: "questionmark.circle"
     size: 18
-    color: Colours.unknownColor
+    color: Colors.unknownColor
 }

@@ -7,5 +7,5 @@ import Ferrin.Quick
 // The text of a card whose value is not known.
 CardTextCommonStyle {
     text: "Unknown"
-    color: Colours.unknownColor
+    color: Colors.unknownColor
 }

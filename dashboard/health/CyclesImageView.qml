@@ -8,5 +8,5 @@ import Ferrin.Quick
 Symbol {
     name: "arrow.clockwise"
     size: 21
-    color: Colours.yellowIcon
+    color: Colors.yellowIcon
 }

@@ -25,7 +25,7 @@ MoreInfoSummaryView {
 
     width: 400
     imageName: "arrow.clockwise"
-    imageColor: Colours.yellowIcon
+    imageColor: Colors.yellowIcon
     text: text1
     secondText: text2
     summary: "When you use your laptop, its battery goes through **charge cycles**. A charge cycle "

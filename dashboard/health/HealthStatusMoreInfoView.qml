@@ -11,7 +11,7 @@ MoreInfoSummaryView {
 
     width: 300
     imageName: imageOf(status)
-    imageColor: status === Battery.Health.Normal ? Colours.greenIcon : Colours.redIcon
+    imageColor: status === Battery.Health.Normal ? Colors.greenIcon : Colors.redIcon
     text: textOf(status)
     summary: "You may see any of the following conditions:\n\n**Normal**: The battery is "
         + "functioning normally.\n\n**Service recommended**: The battery is performing normally, "

@@ -28,7 +28,7 @@ CardView {
         + "Your battery maximum capacity is below 80%."
     readonly property string imageName: !isKnown ? ""
                                       : isGood ? "checkmark.circle" : "exclamationmark.triangle"
-    readonly property color imageColor: isKnown && isGood ? Colours.greenIcon : Colours.redIcon
+    readonly property color imageColor: isKnown && isGood ? Colors.greenIcon : Colors.redIcon
 
     title: "Lifespan"
     isKnown: lifespan !== Battery.Lifespan.Unknown

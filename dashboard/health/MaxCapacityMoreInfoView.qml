@@ -10,7 +10,7 @@ MoreInfoSummaryView {
 
     width: 300
     imageName: "bolt.circle"
-    imageColor: Colours.greenIcon
+    imageColor: Colors.greenIcon
     text: `Your battery has a **${percent}% maximum capacity**, meaning that it can retain `
         + `${percent}% of charge compared to when it was new.`
     summary: "As lithium-ion batteries chemically age, the amount of charge they can hold "

@@ -10,5 +10,5 @@ Symbol {
 
     name: isGood ? "checkmark.circle" : "checkmark.circle.trianglebadge.exclamationmark"
     size: isGood ? 18 : 17
-    color: isGood ? Colours.greenIcon : Colours.redIcon
+    color: isGood ? Colors.greenIcon : Colors.redIcon
 }

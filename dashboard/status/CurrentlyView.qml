@@ -18,7 +18,7 @@ CardView {
     imageView: Symbol {
         name: root.symbolOf(root.status)
         size: 18
-        color: root.status === ChargingStatus.Discharging ? Colours.redIcon : Colours.greenIcon
+        color: root.status === ChargingStatus.Discharging ? Colors.redIcon : Colors.greenIcon
     }
     textView: GenericTextView { text: root.value }
 

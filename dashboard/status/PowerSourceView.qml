@@ -23,14 +23,14 @@ CardView {
             visible: root.isExternal
             name: "bolt.fill"
             size: 18
-            color: Colours.blueIcon
+            color: Colors.blueIcon
         }
 
         BatteryGlyph {
             anchors.centerIn: parent
             visible: !root.isExternal
             percent: root.charge ?? 50
-            color: Colours.blueIcon
+            color: Colors.blueIcon
         }
     }
     textView: GenericTextView { text: root.value }

@@ -8,5 +8,5 @@ import Ferrin.Quick
 Symbol {
     name: "clock"
     size: 20
-    color: Colours.yellowIcon
+    color: Colors.yellowIcon
 }

@@ -11,7 +11,7 @@ Text {
     text: "Time you can use your laptop approximately if the power adapter is unplugged."
     textFormat: Text.PlainText
     font: Fonts.regular12
-    color: Colours.cardTextColor
+    color: Colors.cardTextColor
     wrapMode: Text.Wrap
 
     Accessible.role: Accessible.StaticText

@@ -13,7 +13,7 @@ class QQmlEngine;
 
 namespace ferrin {
 
-/// The application's appearance as QML reads it; `Colours` and `Fonts` depend on it.
+/// The application's appearance as QML reads it; `Colors` and `Fonts` depend on it.
 class Theme final : public QObject
 {
     Q_OBJECT

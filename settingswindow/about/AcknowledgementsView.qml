@@ -86,7 +86,7 @@ FocusScope {
         width: 6
         height: Math.max(20, view.visibleArea.heightRatio * (view.height - 6))
         radius: 3
-        color: Colours.switchOff
+        color: Colors.switchOff
         visible: view.visibleArea.heightRatio < 1
     }
 
@@ -95,7 +95,7 @@ FocusScope {
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: 51 }
         height: 1
-        color: Colours.settingsDivider
+        color: Colors.settingsDivider
     }
 
     ProminentButton {

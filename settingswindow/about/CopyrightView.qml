@@ -13,7 +13,7 @@ Column {
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.NoWrap
         font: Fonts.regular10
-        color: Colours.secondaryText
+        color: Colors.secondaryText
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 8
     }
@@ -21,7 +21,7 @@ Column {
     Line {
         text: "The Ferrin developers"
         font: Fonts.semibold10
-        color: Colours.settingsAck
+        color: Colors.settingsAck
     }
 
     Line {

@@ -57,7 +57,7 @@ SettingsSectionView {
                 width: parent.width / 2
                 text: modelData
                 font: Fonts.regular10
-                color: Colours.secondaryText
+                color: Colors.secondaryText
             }
             // qmllint enable unqualified
         }

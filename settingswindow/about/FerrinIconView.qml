@@ -28,7 +28,7 @@ Column {
         text: BundleInformation.name
         textFormat: Text.PlainText
         font: Fonts.title
-        color: Colours.primaryText
+        color: Colors.primaryText
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }
@@ -37,6 +37,6 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         text: `Version ${parent.appVersion} (${parent.buildNumber})`
         font: Fonts.regular12
-        color: Colours.secondaryText
+        color: Colors.secondaryText
     }
 }

@@ -13,8 +13,8 @@ Rectangle {
 
     implicitHeight: heading.height + body.childrenRect.height + 12
     radius: 8
-    color: Colours.settingsRectangle
-    border { width: 1; color: Colours.settingsRectBorder }
+    color: Colors.settingsRectangle
+    border { width: 1; color: Colors.settingsRectBorder }
 
     Text {
         id: heading
@@ -24,7 +24,7 @@ Rectangle {
         text: root.title
         textFormat: Text.PlainText
         font: Fonts.bold14
-        color: Colours.settingsRectTextTitle
+        color: Colors.settingsRectTextTitle
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 10
         Accessible.role: Accessible.Heading

@@ -6,7 +6,7 @@ import Ferrin.Quick
 
 // A push button for an action beside the view's main one.
 PushButton {
-    groundColor: isDown || isHovered ? Colours.settingsMenuSelected : Colours.settingsRectangle
-    textColor: Colours.primaryText
+    groundColor: isDown || isHovered ? Colors.settingsMenuSelected : Colors.settingsRectangle
+    textColor: Colors.primaryText
     borderWidth: 1
 }

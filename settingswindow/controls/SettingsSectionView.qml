@@ -19,7 +19,7 @@ Column {
         text: root.heading
         textFormat: Text.PlainText
         font: Fonts.regular12
-        color: Colours.secondaryText
+        color: Colors.secondaryText
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 9
         Accessible.role: Accessible.Heading
@@ -30,8 +30,8 @@ Column {
         width: parent.width
         height: body.height + 24
         radius: 8
-        color: Colours.settingsRectangle
-        border { width: 1; color: Colours.settingsRectBorder }
+        color: Colors.settingsRectangle
+        border { width: 1; color: Colors.settingsRectBorder }
 
         Column {
             id: body

@@ -9,7 +9,7 @@ Text {
     textFormat: Text.PlainText
     wrapMode: Text.WordWrap
     font: Fonts.regular13
-    color: Colours.primaryText
+    color: Colors.primaryText
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 }

@@ -39,7 +39,7 @@ MakeBackgroundRectangle {
 
                 anchors { fill: parent; margins: -5 }
                 radius: 6
-                color: Colours.settingsMenuSelected
+                color: Colors.settingsMenuSelected
                 opacity: row.isDown ? 1 : 0.7
                 visible: row.isHovered
             }
@@ -61,13 +61,13 @@ MakeBackgroundRectangle {
                 width: 28
                 height: 28
                 radius: 6
-                color: Colours.systemGreen
+                color: Colors.systemGreen
 
                 Symbol {
                     anchors.fill: parent
                     name: "battery.100"
                     size: 14
-                    color: Colours.tileSymbol
+                    color: Colors.tileSymbol
                 }
             }
 
@@ -81,7 +81,7 @@ MakeBackgroundRectangle {
                                      : "Open System Settings battery section"
                 textFormat: Text.PlainText
                 font: Fonts.regular13
-                color: Colours.primaryText
+                color: Colors.primaryText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 9
             }

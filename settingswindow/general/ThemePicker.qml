@@ -28,7 +28,7 @@ MakeBackgroundRectangle {
                 text: picker.label
                 textFormat: Text.PlainText
                 font: Fonts.regular13
-                color: Colours.primaryText
+                color: Colors.primaryText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 9
                 // It is the picker's accessible name.

@@ -36,7 +36,7 @@ FocusScope {
             text: "Do you want quit Ferrin?"
             textFormat: Text.PlainText
             font: Fonts.regular12
-            color: Colours.primaryText
+            color: Colors.primaryText
             horizontalAlignment: Text.AlignLeft
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 9

@@ -22,7 +22,7 @@ MenuEntry {
 
         anchors { fill: parent; margins: 2 }
         radius: 5
-        color: Colours.settingsMenuSelected
+        color: Colors.settingsMenuSelected
         opacity: root.buttonState === ButtonState.None ? 0 : 1
     }
 
@@ -52,7 +52,7 @@ MenuEntry {
         text: root.text
         textFormat: Text.PlainText
         font: Fonts.regular13
-        color: Colours.primaryText
+        color: Colors.primaryText
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 9
     }

@@ -54,7 +54,7 @@ MenuView {
 
     Rectangle {
         anchors.fill: parent
-        color: Colours.settingsMenu
+        color: Colors.settingsMenu
     }
 
     Column {
@@ -65,7 +65,7 @@ MenuView {
 
             button: Settings.MenuButton.General
             image: "gearshape.fill"
-            color: Colours.systemOrange
+            color: Colors.systemOrange
             text: "General"
         }
 
@@ -74,7 +74,7 @@ MenuView {
 
             button: Settings.MenuButton.Icon
             image: "battery.75"
-            color: Colours.systemBlue
+            color: Colors.systemBlue
             text: "Menu bar icon"
         }
 
@@ -83,7 +83,7 @@ MenuView {
 
             button: Settings.MenuButton.Support
             image: "questionmark.circle.fill"
-            color: Colours.systemGray
+            color: Colors.systemGray
             text: "Support"
         }
 
@@ -92,7 +92,7 @@ MenuView {
 
             button: Settings.MenuButton.About
             image: "info.circle.fill"
-            color: Colours.systemBrown
+            color: Colors.systemBrown
             text: "About"
         }
 
@@ -101,7 +101,7 @@ MenuView {
 
             button: Settings.MenuButton.Quit
             image: "xmark.circle"
-            color: Colours.systemRed
+            color: Colors.systemRed
             text: "Quit Ferrin"
             customOnTap: () => { root.quitPopoverShown = true; }
         }

@@ -28,7 +28,7 @@ Item {
         radius: 6
         opacity: 0.33
         gradient: Gradient {
-            GradientStop { position: 0; color: Colours.tileSymbol }
+            GradientStop { position: 0; color: Colors.tileSymbol }
             GradientStop { position: 0.5; color: "transparent" }
         }
     }
@@ -37,6 +37,6 @@ Item {
         anchors.fill: parent
         name: root.symbol
         size: 14
-        color: Colours.tileSymbol
+        color: Colors.tileSymbol
     }
 }

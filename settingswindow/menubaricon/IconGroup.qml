@@ -33,7 +33,7 @@ Column {
         text: root.heading
         textFormat: Text.PlainText
         font: Fonts.header
-        color: Colours.primaryText
+        color: Colors.primaryText
     }
 
     Text {
@@ -43,7 +43,7 @@ Column {
         textFormat: Text.PlainText
         wrapMode: Text.WordWrap
         font: Fonts.regular10
-        color: Colours.secondaryText
+        color: Colors.secondaryText
     }
 
     MakeBackgroundChoseIcons {

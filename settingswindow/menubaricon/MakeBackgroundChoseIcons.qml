@@ -7,9 +7,9 @@ import Ferrin.Quick
 // The panel behind the icons to choose from.
 Rectangle {
     radius: 8
-    border { width: 1; color: Colours.settingsPopBorder }
+    border { width: 1; color: Colors.settingsPopBorder }
     gradient: Gradient {
-        GradientStop { position: 0; color: Colours.settingsPopBckg1 }
-        GradientStop { position: 1; color: Colours.settingsPopBckg2 }
+        GradientStop { position: 0; color: Colors.settingsPopBckg1 }
+        GradientStop { position: 1; color: Colors.settingsPopBckg2 }
     }
 }

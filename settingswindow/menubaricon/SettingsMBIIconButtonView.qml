@@ -35,8 +35,8 @@ Pressable {
 
         anchors.fill: parent
         radius: 6
-        color: Colours.settingsIconOptions
-        border { width: root.isSelected ? 1 : 0; color: Colours.focusRing }
+        color: Colors.settingsIconOptions
+        border { width: root.isSelected ? 1 : 0; color: Colors.focusRing }
         opacity: root.control[root.icon] === ButtonState.None ? 0 : 1
     }
 
@@ -51,8 +51,8 @@ Pressable {
         icon: root.icon
         charge: root.charge
         status: MenuBarIcon.status
-        textColor: Colours.settingsPopoverIcon
-        redColor: Colours.redIcon
+        textColor: Colors.settingsPopoverIcon
+        redColor: Colors.redIcon
         fontFamily: Theme.fontFamily
     }
 }

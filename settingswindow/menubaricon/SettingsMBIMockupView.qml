@@ -33,8 +33,8 @@ Item {
         y: root.anchor.y - 7 - height / 2
         height: panel.implicitHeight
         choices: root.choices
-        textColor: Colours.settingsPopoverIcon
-        redColor: Colours.redIcon
+        textColor: Colors.settingsPopoverIcon
+        redColor: Colors.redIcon
         fontFamily: Theme.fontFamily
     }
 }

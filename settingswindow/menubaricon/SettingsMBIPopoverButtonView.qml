@@ -34,7 +34,7 @@ Pressable {
     Rectangle {
         anchors { fill: parent; margins: 1 }
         radius: 4
-        color: Colours.settingsIconOptions
+        color: Colors.settingsIconOptions
         opacity: root.isDown || root.popoverShown ? 1 : root.isHovered ? 0.5 : 0
     }
 
@@ -51,8 +51,8 @@ Pressable {
         icon: root.choices.icon
         charge: root.choices.charge
         status: MenuBarIcon.status
-        textColor: Colours.settingsPopoverIcon
-        redColor: Colours.redIcon
+        textColor: Colors.settingsPopoverIcon
+        redColor: Colors.redIcon
         fontFamily: Theme.fontFamily
     }
 
@@ -63,7 +63,7 @@ Pressable {
         height: parent.height
         name: root.popoverShown ? "xmark" : "chevron.down"
         size: root.popoverShown ? 10.3125 : 11.25
-        color: Colours.secondaryText
+        color: Colors.secondaryText
     }
 
     InnerPopover {

@@ -70,7 +70,7 @@ MakeBackgroundRectangle {
             lineHeightMode: Text.FixedHeight
             lineHeight: 15
             font: Fonts.regular12
-            color: Colours.secondaryText
+            color: Colors.secondaryText
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
@@ -129,7 +129,7 @@ MakeBackgroundRectangle {
                 text: root.choices.caption
                 textFormat: Text.PlainText
                 font: Fonts.regular10
-                color: Colours.secondaryText
+                color: Colors.secondaryText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 8
                 Accessible.role: Accessible.StaticText
@@ -154,7 +154,7 @@ MakeBackgroundRectangle {
                 text: "In your panel"
                 textFormat: Text.PlainText
                 font: Fonts.regular10
-                color: Colours.secondaryText
+                color: Colors.secondaryText
                 Accessible.ignored: true
             }
         }
@@ -168,7 +168,7 @@ MakeBackgroundRectangle {
                 text: root.noteText
                 textFormat: Text.PlainText
                 font: root.stressesNote ? Fonts.semibold10 : Fonts.regular10
-                color: root.stressesNote ? Colours.redIcon : Colours.secondaryText
+                color: root.stressesNote ? Colors.redIcon : Colors.secondaryText
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }

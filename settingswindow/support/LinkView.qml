@@ -58,7 +58,7 @@ Pressable {
                 pixelSize: Fonts.regular13.pixelSize
                 underline: true
             }
-            color: root.isHovered ? Colours.linkHovered : Colours.link
+            color: root.isHovered ? Colors.linkHovered : Colors.link
         }
     }
 }

@@ -8,7 +8,7 @@ import Ferrin.Quick
 Rectangle {
     implicitWidth: 500
     implicitHeight: 500
-    color: Colours.settingsBackground
+    color: Colors.settingsBackground
 
     Column {
         anchors { fill: parent; margins: 20 }

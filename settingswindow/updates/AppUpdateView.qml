@@ -29,7 +29,7 @@ MakeBackgroundRectangle {
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             font: Fonts.regular12
-            color: Colours.secondaryText
+            color: Colors.secondaryText
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }

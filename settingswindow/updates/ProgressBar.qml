@@ -15,7 +15,7 @@ Rectangle {
 
     implicitHeight: 6
     radius: height / 2
-    color: Colours.gaugeTrack
+    color: Colors.gaugeTrack
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: spokenName
@@ -25,6 +25,6 @@ Rectangle {
         width: root.value > 0 ? Math.max(parent.height, parent.width * root.value) : 0
         height: parent.height
         radius: parent.radius
-        color: Colours.accent
+        color: Colors.accent
     }
 }

@@ -15,8 +15,8 @@ Rectangle {
 
     implicitHeight: Math.min(words.height + 20, maximumHeight)
     radius: 8
-    color: Colours.settingsRectangle
-    border { width: 1; color: Colours.settingsRectBorder }
+    color: Colors.settingsRectangle
+    border { width: 1; color: Colors.settingsRectBorder }
     activeFocusOnTab: isScrollable
 
     Accessible.role: Accessible.Paragraph
@@ -64,7 +64,7 @@ Rectangle {
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             font: Fonts.regular12
-            color: Colours.primaryText
+            color: Colors.primaryText
             Accessible.ignored: true
         }
     }
@@ -77,6 +77,6 @@ Rectangle {
         width: 4
         height: view.height * view.visibleArea.heightRatio
         radius: 2
-        color: Colours.switchOff
+        color: Colors.switchOff
     }
 }

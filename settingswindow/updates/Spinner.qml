@@ -38,7 +38,7 @@ Item {
             width: 3
             height: 3
             radius: 1.5
-            color: Colours.secondaryText
+            color: Colors.secondaryText
             opacity: Theme.reducesMotion ? 0.7 : 1 - behind * 0.11
         }
         // qmllint enable unqualified

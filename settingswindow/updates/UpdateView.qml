@@ -135,7 +135,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Colours.settingsBackground
+        color: Colors.settingsBackground
     }
 
     // Has the focus until the user moves it.
@@ -168,7 +168,7 @@ FocusScope {
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             font: Fonts.bold14
-            color: Colours.primaryText
+            color: Colors.primaryText
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
@@ -199,7 +199,7 @@ FocusScope {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 font: Fonts.regular12
-                color: Colours.secondaryText
+                color: Colors.secondaryText
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }

@@ -22,7 +22,7 @@ private Q_SLOTS:
     void keepsItsPartsApart();
     void hasItsImageInTheMiddle_data();
     void hasItsImageInTheMiddle();
-    void looksTheSameInDarkWithOtherColours();
+    void looksTheSameInDarkWithOtherColors();
 
 private:
     void show(const QByteArray &section);
@@ -68,7 +68,7 @@ QRectF CardPixelsTest::inkIn(const QQuickItem &card, const QRectF &part)
     const QImage image = m_stage.picture();
     const qreal scale = m_stage.window.effectiveDevicePixelRatio();
     const QPointF corner = card.mapToScene(QPointF()) * scale;
-    const QRgb ground = QColor(m_stage.colour("cardColor")).rgb();
+    const QRgb ground = QColor(m_stage.colorNamed("cardColor")).rgb();
     QRect ink;
     for (int y = qRound(part.top() * scale); y < qRound(part.bottom() * scale); ++y) {
         for (int x = qRound(part.left() * scale); x < qRound(part.right() * scale); ++x) {
@@ -92,8 +92,8 @@ void CardPixelsTest::hasASharpOutlineTwoPixelsWide()
     show("StatusView {}");
     const QImage image = m_stage.picture();
     const int scale = int(m_stage.window.effectiveDevicePixelRatio());
-    const QColor outline(m_stage.colour("greyIcon"));
-    const QColor ground(m_stage.colour("cardColor"));
+    const QColor outline(m_stage.colorNamed("greyIcon"));
+    const QColor ground(m_stage.colorNamed("cardColor"));
     for (int i = 0; i < 2 * scale; ++i) {
         QCOMPARE(image.pixelColor(i, 50 * scale), outline);
         QCOMPARE(image.pixelColor(50 * scale, i), outline);
@@ -146,14 +146,14 @@ void CardPixelsTest::hasItsImageInTheMiddle()
     }
 }
 
-void CardPixelsTest::looksTheSameInDarkWithOtherColours()
+void CardPixelsTest::looksTheSameInDarkWithOtherColors()
 {
     show("HealthView {}");
     const QQuickItem *const tile = card(m_stage.item.get(), "CyclesView");
     const QRectF light = inkIn(*tile, QRectF(4, 4, 92, 92));
     m_stage.appearance.setAppearance(Appearance::dark);
     QTest::qWait(0);
-    QCOMPARE(m_stage.picture().pixelColor(10, 50), QColor(m_stage.colour("cardColor")));
+    QCOMPARE(m_stage.picture().pixelColor(10, 50), QColor(m_stage.colorNamed("cardColor")));
     const QRectF dark = inkIn(*tile, QRectF(4, 4, 92, 92));
     QVERIFY(!light.isEmpty());
     QVERIFY(qAbs(dark.width() - light.width()) <= 1 && qAbs(dark.height() - light.height()) <= 1);

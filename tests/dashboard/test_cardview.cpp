@@ -92,10 +92,10 @@ void CardViewTest::isATileOfAHundredPixels()
     QCOMPARE(QSizeF(tile->width(), tile->height()), QSizeF(100, 100));
     const QQuickItem *const ground = tile->childItems().constFirst();
     QCOMPARE(ground->property("radius").toReal(), 10);
-    QCOMPARE(ground->property("color").value<QColor>().name(), m_stage->colour("cardColor"));
+    QCOMPARE(ground->property("color").value<QColor>().name(), m_stage->colorNamed("cardColor"));
     const auto *const border = ground->property("border").value<QObject *>();
     QCOMPARE(border->property("width").toReal(), 2);
-    QCOMPARE(border->property("color").value<QColor>().name(), m_stage->colour("greyIcon"));
+    QCOMPARE(border->property("color").value<QColor>().name(), m_stage->colorNamed("greyIcon"));
 }
 
 void CardViewTest::hasItsTitleInTheTitleFont()
@@ -107,7 +107,7 @@ void CardViewTest::hasItsTitleInTheTitleFont()
     QCOMPARE(font.weight(), QFont::DemiBold);
     QCOMPARE(font.letterSpacing(), 0.5);
     QCOMPARE(title->property("topPadding").toReal(), 10);
-    QCOMPARE(title->property("color").value<QColor>().name(), m_stage->colour("cardTitleColor"));
+    QCOMPARE(title->property("color").value<QColor>().name(), m_stage->colorNamed("cardTitleColor"));
 }
 
 void CardViewTest::putsEveryTextOnTheSameLines()
@@ -241,13 +241,13 @@ void CardViewTest::knowsWhetherThePointerIsOverIt()
     QQuickItem *const tile = cardOf("CyclesView");
     const QQuickItem *const symbol
         = itemsOfType(buttonOf("CyclesView"), "ferrin::Symbol").constFirst();
-    const auto colour = [symbol] { return symbol->property("color").value<QColor>().name(); };
+    const auto color = [symbol] { return symbol->property("color").value<QColor>().name(); };
     QTest::mouseMove(&m_stage->window, QPoint(20, 20));
     QVERIFY(!is(tile, "cardHovered"));
-    QCOMPARE(colour(), m_stage->colour("unknownColor"));
+    QCOMPARE(color(), m_stage->colorNamed("unknownColor"));
     QTest::mouseMove(&m_stage->window, centreOf(tile));
     QTRY_VERIFY(is(tile, "cardHovered"));
-    QCOMPARE(colour(), m_stage->colour("cardTextColor"));
+    QCOMPARE(color(), m_stage->colorNamed("cardTextColor"));
     QTest::mouseMove(&m_stage->window, QPoint(20, 20));
     QTRY_VERIFY(!is(tile, "cardHovered"));
 }

@@ -65,7 +65,7 @@ bool HealthViewTest::isUnknown(const char *type)
     QQuickItem *const tile = cardOf(type);
     return textsOf(tile).mid(1) == QStringList { u"Unknown"_s }
     && imagesOf(tile)
-        == QStringList { u"questionmark.circle 18 "_s + m_stage->colour("unknownColor") }
+        == QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") }
     && !moreInfoButton(tile);
 }
 
@@ -101,7 +101,7 @@ void HealthViewTest::showsTheCyclesBesideThoseOfTheDesign()
     QQuickItem *const tile = cardOf("CyclesView");
     QCOMPARE(textsOf(tile), QStringList({ u"Charge cycles"_s, u"312"_s, u"/"_s, u"1000"_s }));
     QCOMPARE(imagesOf(tile),
-             QStringList { u"arrow.clockwise 21 "_s + m_stage->colour("yellowIcon") });
+             QStringList { u"arrow.clockwise 21 "_s + m_stage->colorNamed("yellowIcon") });
     QVERIFY(moreInfoButton(tile));
     m_stage->data.setChargeCycles({});
     QVERIFY(isUnknown("CyclesView"));
@@ -119,7 +119,7 @@ void HealthViewTest::saysTheConditionInAWord_data()
 {
     QTest::addColumn<BatteryHealth>("health");
     QTest::addColumn<QString>("symbol");
-    QTest::addColumn<QByteArray>("colour");
+    QTest::addColumn<QByteArray>("color");
     QTest::addColumn<QString>("text");
     QTest::newRow("normal") << BatteryHealth::normal << u"checkmark.circle 18 "_s
                             << QByteArray("greenIcon") << u"Normal"_s;
@@ -132,12 +132,12 @@ void HealthViewTest::saysTheConditionInAWord()
 {
     QFETCH(BatteryHealth, health);
     QFETCH(QString, symbol);
-    QFETCH(QByteArray, colour);
+    QFETCH(QByteArray, color);
     QFETCH(QString, text);
     m_stage->data.setHealth(health);
     QQuickItem *const tile = cardOf("HealthStatusView");
     QCOMPARE(textsOf(tile), QStringList({ u"Health"_s, text }));
-    QCOMPARE(imagesOf(tile), QStringList { symbol + m_stage->colour(colour) });
+    QCOMPARE(imagesOf(tile), QStringList { symbol + m_stage->colorNamed(color) });
     QVERIFY(moreInfoButton(tile));
 }
 
@@ -157,7 +157,7 @@ void HealthViewTest::reducesTheLifespanForCapacityBelow80()
     QCOMPARE(textsOf(tile), QStringList({ u"Lifespan"_s, u"Reduced"_s }));
     QCOMPARE(imagesOf(tile),
              QStringList { u"checkmark.circle.trianglebadge.exclamationmark 17 "_s
-                           + m_stage->colour("redIcon") });
+                           + m_stage->colorNamed("redIcon") });
     QCOMPARE(
         tile->property("text").toString(),
         u"As you have done less than 1000 charge cycles but your maximum capacity is 79% (less "
@@ -171,7 +171,7 @@ void HealthViewTest::keepsTheLifespanGoodForTooManyCyclesAlone()
     QQuickItem *const tile = cardOf("LifespanView");
     QCOMPARE(textsOf(tile), QStringList({ u"Lifespan"_s, u"Good"_s }));
     QCOMPARE(imagesOf(tile),
-             QStringList { u"checkmark.circle 18 "_s + m_stage->colour("greenIcon") });
+             QStringList { u"checkmark.circle 18 "_s + m_stage->colorNamed("greenIcon") });
     QCOMPARE(
         tile->property("text").toString(),
         u"As your maximum capacity is still 80% and you have done more than 1000 charge cycles, "
@@ -222,7 +222,7 @@ void HealthViewTest::hasAnUnknownLifespanForEachMissingValue()
     QCOMPARE(cardOf("LifespanView")->property("text").toString(), QString());
     QCOMPARE(cardOf("LifespanView")->property("imageName").toString(), QString());
     QCOMPARE(cardOf("LifespanView")->property("imageColor").value<QColor>().name(),
-             m_stage->colour("redIcon"));
+             m_stage->colorNamed("redIcon"));
     setBattery(91, 312, 1000);
     m_stage->data.setChargeCycles({});
     QVERIFY(isUnknown("LifespanView"));

@@ -28,15 +28,15 @@ struct Menu
     /// The colour behind each item; invalid where nothing is.
     [[nodiscard]] QList<QColor> marks() const
     {
-        QList<QColor> colours;
+        QList<QColor> colors;
         for (const QQuickItem *item : items)
-            colours.append(mark(*item)->opacity() > 0
+            colors.append(mark(*item)->opacity() > 0
                                ? mark(*item)->property("color").value<QColor>()
                                : QColor());
-        return colours;
+        return colors;
     }
 
-    [[nodiscard]] QColor colour(const char *name) { return test::namedColour(stage.engine, name); }
+    [[nodiscard]] QColor color(const char *name) { return test::namedColor(stage.engine, name); }
 
     void point(int index) { QTest::mouseMove(&stage.window, middle(index)); }
     void pointElsewhere() { QTest::mouseMove(&stage.window, QPoint(70, 205)); }
@@ -85,7 +85,7 @@ private Q_SLOTS:
     void marksTheSelectedSectionAndNoOther()
     {
         Menu f;
-        const QColor selected = f.colour("menuSelected");
+        const QColor selected = f.color("menuSelected");
         QVERIFY(selected.isValid());
         QCOMPARE(f.marks(), (QList<QColor> { selected, {}, {}, {} }));
     }
@@ -97,7 +97,7 @@ private Q_SLOTS:
         f.menu = f.stage.show("MainMenuView {}");
         f.items = test::itemsOfType(f.menu, "MenuItemView");
         QCOMPARE(f.stage.status.dashboardItemSelected(), DashboardMenuButton::health);
-        QCOMPARE(f.marks(), (QList<QColor> { {}, f.colour("menuSelected"), {}, {} }));
+        QCOMPARE(f.marks(), (QList<QColor> { {}, f.color("menuSelected"), {}, {} }));
     }
 
     void marksAnItemWhileThePointerIsOnIt()
@@ -105,9 +105,9 @@ private Q_SLOTS:
         Menu f;
         f.point(adapter);
         QTRY_COMPARE(f.marks(),
-                     (QList<QColor> { f.colour("menuSelected"), {}, f.colour("menuHovered"), {} }));
+                     (QList<QColor> { f.color("menuSelected"), {}, f.color("menuHovered"), {} }));
         f.pointElsewhere();
-        QTRY_COMPARE(f.marks(), (QList<QColor> { f.colour("menuSelected"), {}, {}, {} }));
+        QTRY_COMPARE(f.marks(), (QList<QColor> { f.color("menuSelected"), {}, {}, {} }));
     }
 
     void keepsTheSelectedItemSelectedUnderThePointer()
@@ -129,7 +129,7 @@ private Q_SLOTS:
         Menu f;
         f.click(adapter);
         QCOMPARE(f.stage.status.dashboardItemSelected(), DashboardMenuButton::adapter);
-        QTRY_COMPARE(f.marks(), (QList<QColor> { {}, {}, f.colour("menuSelected"), {} }));
+        QTRY_COMPARE(f.marks(), (QList<QColor> { {}, {}, f.color("menuSelected"), {} }));
     }
 
     void wakesNobodyWhenTheSelectedSectionIsTapped()

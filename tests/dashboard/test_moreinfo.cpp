@@ -112,7 +112,7 @@ void MoreInfoTest::explainsTheMaximumCapacity()
     QCOMPARE(
         contentOf("MaxCapacityView"),
         QStringList(
-            { u"bolt.circle 16 "_s + m_stage->colour("greenIcon"), u"300"_s, u"YOUR BATTERY"_s,
+            { u"bolt.circle 16 "_s + m_stage->colorNamed("greenIcon"), u"300"_s, u"YOUR BATTERY"_s,
               u"Your battery has a **91% maximum capacity**, meaning that it can retain 91% of charge compared to when it was new."_s,
               u"As lithium-ion batteries chemically age, the amount of charge they can hold diminishes, resulting in shorter amounts of time before a device needs to be recharged.\n\nThis can be referred to as the battery’s **maximum capacity** — the measure of battery capacity relative to when it was new."_s }));
 }
@@ -122,7 +122,7 @@ void MoreInfoTest::explainsTheCycles()
     QCOMPARE(
         contentOf("CyclesView"),
         QStringList(
-            { u"arrow.clockwise 16 "_s + m_stage->colour("yellowIcon"), u"400"_s, u"YOUR BATTERY"_s,
+            { u"arrow.clockwise 16 "_s + m_stage->colorNamed("yellowIcon"), u"400"_s, u"YOUR BATTERY"_s,
               u"Your battery has a limited amount of 1000 charge cycles before their performance is expected to diminish. This value is known as **design cycles**.\n\nOnce the cycle count 1000 is reached, a replacement battery is recommended to maintain performance.\n\nYou can use your battery after it reaches 1000 cycle count, but you might notice a reduction in your battery life."_s,
               u"Your battery has gone through **312 charge cycles**, of a total amount of **1000 design cycles**."_s,
               u"When you use your laptop, its battery goes through **charge cycles**. A charge cycle happens when you use all of the battery’s power—but that doesn’t necessarily mean in a single charge.\n\nFor example, you could use half of your laptop's charge in one day, and then recharge it fully. If you did the same thing the next day, it would count as one charge cycle, not two. In this example, it might take several days to complete a cycle."_s }));
@@ -148,7 +148,7 @@ void MoreInfoTest::explainsTheCondition_data()
 {
     QTest::addColumn<BatteryHealth>("health");
     QTest::addColumn<QString>("symbol");
-    QTest::addColumn<QByteArray>("colour");
+    QTest::addColumn<QByteArray>("color");
     QTest::addColumn<QString>("text");
     QTest::newRow("normal") << BatteryHealth::normal << u"checkmark.circle 16 "_s
                             << QByteArray("greenIcon")
@@ -162,13 +162,13 @@ void MoreInfoTest::explainsTheCondition()
 {
     QFETCH(BatteryHealth, health);
     QFETCH(QString, symbol);
-    QFETCH(QByteArray, colour);
+    QFETCH(QByteArray, color);
     QFETCH(QString, text);
     m_stage->data.setHealth(health);
     QCOMPARE(
         contentOf("HealthStatusView"),
         QStringList(
-            { symbol + m_stage->colour(colour), u"300"_s, u"YOUR BATTERY"_s, text,
+            { symbol + m_stage->colorNamed(color), u"300"_s, u"YOUR BATTERY"_s, text,
               u"You may see any of the following conditions:\n\n**Normal**: The battery is functioning normally.\n\n**Service recommended**: The battery is performing normally, but its ability to hold a charge is less than when it was new. You may want to consider replacing the battery."_s }));
 }
 
@@ -178,14 +178,14 @@ void MoreInfoTest::isEmptyForAnUnknownCondition()
         = m_stage->show("HealthStatusMoreInfoView { status: Battery.Health.Unknown }");
     QCOMPARE(view->property("text").toString(), QString());
     QCOMPARE(view->property("imageName").toString(), QString());
-    QCOMPARE(view->property("imageColor").value<QColor>().name(), m_stage->colour("redIcon"));
+    QCOMPARE(view->property("imageColor").value<QColor>().name(), m_stage->colorNamed("redIcon"));
 }
 
 void MoreInfoTest::explainsTheLifespan_data()
 {
     QTest::addColumn<QList<qint64>>("battery");
     QTest::addColumn<QString>("symbol");
-    QTest::addColumn<QByteArray>("colour");
+    QTest::addColumn<QByteArray>("color");
     QTest::addColumn<QString>("text");
     const QString check = u"checkmark.circle 16 "_s;
     const QString warning = u"exclamationmark.triangle 16 "_s;
@@ -210,13 +210,13 @@ void MoreInfoTest::explainsTheLifespan()
 {
     QFETCH(QList<qint64>, battery);
     QFETCH(QString, symbol);
-    QFETCH(QByteArray, colour);
+    QFETCH(QByteArray, color);
     QFETCH(QString, text);
     setBattery(battery[0], battery[1], battery[2]);
     QCOMPARE(
         contentOf("LifespanView"),
         QStringList(
-            { symbol + m_stage->colour(colour), u"400"_s, u"YOUR BATTERY"_s, text,
+            { symbol + m_stage->colorNamed(color), u"400"_s, u"YOUR BATTERY"_s, text,
               u"All rechargeable batteries are consumables and have a limited lifespan. Knowing how many charge cycles your battery has and how many are left can help you determine when a battery replacement is required.\n\nYour battery is designed to retain up to 80% of its original charge capacity and up to 1000 charge cycles.\n\nYou may see any of the following conditions:\n\n**Good**: Your battery maximum capacity is equal or above 80%.\n        \n**Reduced**: Your battery maximum capacity is below 80%."_s }));
 }
 

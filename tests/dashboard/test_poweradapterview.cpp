@@ -78,7 +78,7 @@ void PowerAdapterViewTest::hasUnknownCardsForAnUnknownSource()
                            u"Description"_s, u"Unknown"_s, u"Manufacturer"_s, u"Unknown"_s }));
     for (const char *type : cardTypes)
         QCOMPARE(imagesOf(cardOf(type)),
-                 QStringList { u"questionmark.circle 18 "_s + m_stage->colour("unknownColor") });
+                 QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") });
 }
 
 void PowerAdapterViewTest::readsNotConnectedBeforeAnyAdapterWasSeen()
@@ -131,15 +131,15 @@ void PowerAdapterViewTest::showsWhatTheAdapterSaysOfItself()
     plugIn();
     QCOMPARE(textsOf(cardOf("AdapterWattsView")), QStringList({ u"Power"_s, u"65"_s, u"watts"_s }));
     QCOMPARE(imagesOf(cardOf("AdapterWattsView")),
-             QStringList { u"bolt.circle 19 "_s + m_stage->colour("yellowIcon") });
+             QStringList { u"bolt.circle 19 "_s + m_stage->colorNamed("yellowIcon") });
     QCOMPARE(textsOf(cardOf("AdapterDataView")),
              QStringList({ u"Volts & amps"_s, u"20"_s, u"volts"_s, u"3.25"_s, u"amps"_s }));
     QCOMPARE(imagesOf(cardOf("AdapterDataView")),
-             QStringList { u"waveform 18 "_s + m_stage->colour("blueIcon") });
+             QStringList { u"waveform 18 "_s + m_stage->colorNamed("blueIcon") });
     QCOMPARE(textsOf(cardOf("AdapterNameView")),
              QStringList({ u"Description"_s, u"65W USB-C Power Adapter"_s }));
     QCOMPARE(imagesOf(cardOf("AdapterNameView")),
-             QStringList { u"text.bubble 18 "_s + m_stage->colour("greenIcon") });
+             QStringList { u"text.bubble 18 "_s + m_stage->colorNamed("greenIcon") });
     QCOMPARE(textsOf(cardOf("AdapterManufacturerView")),
              QStringList({ u"Manufacturer"_s, u"Apple Inc."_s }));
 }

@@ -99,7 +99,7 @@ void StatusViewTest::hasAnUnknownCardForAnUnknownCharge()
     QQuickItem *const tile = cardOf("ChargeNowView");
     QCOMPARE(textsOf(tile), QStringList({ u"Charge now"_s, u"Unknown"_s }));
     QCOMPARE(imagesOf(tile),
-             QStringList { u"questionmark.circle 18 "_s + m_stage->colour("unknownColor") });
+             QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") });
     QVERIFY(!moreInfoButton(tile));
 }
 
@@ -109,7 +109,7 @@ void StatusViewTest::showsTheTimeToEmptyWithoutAPopover()
     m_stage->data.setTimeRemaining({ 4, 29 });
     QQuickItem *const tile = cardOf("TimeToView");
     QCOMPARE(textsOf(tile), QStringList({ u"Time to empty"_s, u"4"_s, u"h"_s, u"29"_s, u"m"_s }));
-    QCOMPARE(imagesOf(tile), QStringList { u"clock 20 "_s + m_stage->colour("yellowIcon") });
+    QCOMPARE(imagesOf(tile), QStringList { u"clock 20 "_s + m_stage->colorNamed("yellowIcon") });
     QVERIFY(!moreInfoButton(tile));
 }
 
@@ -171,7 +171,7 @@ void StatusViewTest::hasAnUnknownCardTitledTimeForAnUnknownTime()
             QCOMPARE(textsOf(tile), QStringList({ u"Time"_s, u"Unknown"_s }));
             QCOMPARE(
                 imagesOf(tile),
-                QStringList { u"questionmark.circle 18 "_s + m_stage->colour("unknownColor") });
+                QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") });
             QVERIFY(!moreInfoButton(tile));
         }
     }
@@ -187,7 +187,7 @@ void StatusViewTest::saysWhatTheBatteryIsDoing_data()
 {
     QTest::addColumn<BatteryChargingStatus>("status");
     QTest::addColumn<QString>("symbol");
-    QTest::addColumn<QByteArray>("colour");
+    QTest::addColumn<QByteArray>("color");
     QTest::addColumn<QString>("text");
     QTest::newRow("discharging") << BatteryChargingStatus::discharging << u"arrow.down"_s
                                  << QByteArray("redIcon") << u"Discharging"_s;
@@ -207,12 +207,12 @@ void StatusViewTest::saysWhatTheBatteryIsDoing()
 {
     QFETCH(BatteryChargingStatus, status);
     QFETCH(QString, symbol);
-    QFETCH(QByteArray, colour);
+    QFETCH(QByteArray, color);
     QFETCH(QString, text);
     m_stage->data.setChargingStatus(status);
     QQuickItem *const tile = cardOf("CurrentlyView");
     QCOMPARE(textsOf(tile), QStringList({ u"Battery is"_s, text }));
-    QCOMPARE(imagesOf(tile), QStringList { symbol + u" 18 "_s + m_stage->colour(colour) });
+    QCOMPARE(imagesOf(tile), QStringList { symbol + u" 18 "_s + m_stage->colorNamed(color) });
     QVERIFY(!moreInfoButton(tile));
 }
 
@@ -235,7 +235,7 @@ void StatusViewTest::readsChargedOnAFullBattery()
     m_stage->data.setTimeRemaining({ 9, 30 });
     QCOMPARE(textsOf(cardOf("CurrentlyView")), QStringList({ u"Battery is"_s, u"Charged"_s }));
     QCOMPARE(imagesOf(cardOf("CurrentlyView")),
-             QStringList { u"arrow.up.to.line 18 "_s + m_stage->colour("greenIcon") });
+             QStringList { u"arrow.up.to.line 18 "_s + m_stage->colorNamed("greenIcon") });
     QCOMPARE(textsOf(cardOf("TimeToView")).constFirst(), u"Time available"_s);
 }
 
@@ -244,7 +244,7 @@ void StatusViewTest::showsTheAdapterAsABolt()
     m_stage->data.setPowerSource(PowerSource::external);
     QCOMPARE(textsOf(cardOf("PowerSourceView")), QStringList({ u"Power source"_s, u"AC Power"_s }));
     QCOMPARE(imagesOf(cardOf("PowerSourceView")),
-             QStringList { u"bolt.fill 18 "_s + m_stage->colour("blueIcon") });
+             QStringList { u"bolt.fill 18 "_s + m_stage->colorNamed("blueIcon") });
 }
 
 void StatusViewTest::showsTheBatteryWithItsCharge()
@@ -266,7 +266,7 @@ void StatusViewTest::hasAnUnknownCardForAnUnknownSource()
     m_stage->data.setCharge(37);
     QCOMPARE(textsOf(cardOf("PowerSourceView")), QStringList({ u"Power source"_s, u"Unknown"_s }));
     QCOMPARE(imagesOf(cardOf("PowerSourceView")),
-             QStringList { u"questionmark.circle 18 "_s + m_stage->colour("unknownColor") });
+             QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") });
 }
 
 void StatusViewTest::saysEachCardInWords()

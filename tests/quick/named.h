@@ -28,9 +28,9 @@ inline QVariant singletonValue(QQmlEngine &engine, const QByteArray &singleton, 
     return made->property("singleton").value<QObject *>()->property(name);
 }
 
-inline QColor namedColour(QQmlEngine &engine, const char *name)
+inline QColor namedColor(QQmlEngine &engine, const char *name)
 {
-    return singletonValue(engine, "Colours", name).value<QColor>();
+    return singletonValue(engine, "Colors", name).value<QColor>();
 }
 
 inline QFont namedFont(QQmlEngine &engine, const char *name)

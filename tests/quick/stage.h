@@ -67,7 +67,7 @@ public:
     }
 
     /// The named colour, as it is now.
-    [[nodiscard]] QString colour(const char *name) { return namedColour(engine, name).name(); }
+    [[nodiscard]] QString colorNamed(const char *name) { return namedColor(engine, name).name(); }
 
     void click(const QQuickItem *at)
     {

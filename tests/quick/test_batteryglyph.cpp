@@ -44,7 +44,7 @@ class BatteryGlyphTest final : public QObject
 
 private Q_SLOTS:
     void isAFifthLargerThanInTheMenuBar();
-    void isPaintedInItsColourAlone();
+    void isPaintedInItsColorAlone();
     void fillsWithTheCharge();
     void staysInsideItsFrame();
 };
@@ -56,14 +56,14 @@ void BatteryGlyphTest::isAFifthLargerThanInTheMenuBar()
     QCOMPARE(QSizeF(glyph.implicitWidth(), glyph.implicitHeight()), small * 1.2);
 }
 
-void BatteryGlyphTest::isPaintedInItsColourAlone()
+void BatteryGlyphTest::isPaintedInItsColorAlone()
 {
     const QImage image = paintedGlyph(50, 2);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            const QColor colour = image.pixelColor(x, y);
-            QCOMPARE(colour.red(), 0);
-            QCOMPARE(colour.green(), 0);
+            const QColor color = image.pixelColor(x, y);
+            QCOMPARE(color.red(), 0);
+            QCOMPARE(color.green(), 0);
         }
     }
 }

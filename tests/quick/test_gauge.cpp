@@ -30,7 +30,7 @@ QImage painted(qreal value, qreal scale)
 }
 
 /// The colour of the ring's middle line so many degrees clockwise from the bottom.
-QColor colourAt(const QImage &image, qreal degrees)
+QColor colorAt(const QImage &image, qreal degrees)
 {
     const qreal scale = image.width() / Gauge::frame;
     const QPointF centre(Gauge::frame / 2, Gauge::frame / 2);
@@ -41,14 +41,14 @@ QColor colourAt(const QImage &image, qreal degrees)
 
 bool isFilledAt(const QImage &image, qreal degrees)
 {
-    const QColor colour = colourAt(image, degrees);
-    return colour.alpha() > 200 && colour.blue() < 60;
+    const QColor color = colorAt(image, degrees);
+    return color.alpha() > 200 && color.blue() < 60;
 }
 
 bool isTrackAt(const QImage &image, qreal degrees)
 {
-    const QColor colour = colourAt(image, degrees);
-    return colour.alpha() > 200 && colour.blue() > 200;
+    const QColor color = colorAt(image, degrees);
+    return color.alpha() > 200 && color.blue() > 200;
 }
 
 /// Half of the round end: as many degrees as half a stroke takes of the ring, and a pixel.
@@ -64,7 +64,7 @@ private Q_SLOTS:
     void fillsClockwiseAsFarAsTheValue_data();
     void fillsClockwiseAsFarAsTheValue();
     void leavesItsGapAtTheBottomEmpty();
-    void runsFromTheFirstColourToTheLast();
+    void runsFromTheFirstColorToTheLast();
     void showsOnlyThePartOfTheGradientThatIsCovered();
     void takesValuesBeyondItsEndsForTheEnds();
     void fillsItsFrameToWholePixels_data();
@@ -105,19 +105,19 @@ void GaugeTest::leavesItsGapAtTheBottomEmpty()
     for (const qreal value : { 0.0, 1.0 }) {
         const QImage image = painted(value, 2);
         for (qreal degrees = -45 + slack; degrees <= 45 - slack; degrees += 1)
-            QCOMPARE(colourAt(image, degrees).alpha(), 0);
+            QCOMPARE(colorAt(image, degrees).alpha(), 0);
     }
 }
 
-void GaugeTest::runsFromTheFirstColourToTheLast()
+void GaugeTest::runsFromTheFirstColorToTheLast()
 {
     const QImage image = painted(1, 2);
-    QVERIFY(colourAt(image, 46).red() > 240);
-    QVERIFY(colourAt(image, 46).green() < 15);
-    QVERIFY(qAbs(colourAt(image, 180).red() - 127) < 15);
-    QVERIFY(qAbs(colourAt(image, 180).green() - 127) < 15);
-    QVERIFY(colourAt(image, 314).green() > 240);
-    QVERIFY(colourAt(image, 314).red() < 15);
+    QVERIFY(colorAt(image, 46).red() > 240);
+    QVERIFY(colorAt(image, 46).green() < 15);
+    QVERIFY(qAbs(colorAt(image, 180).red() - 127) < 15);
+    QVERIFY(qAbs(colorAt(image, 180).green() - 127) < 15);
+    QVERIFY(colorAt(image, 314).green() > 240);
+    QVERIFY(colorAt(image, 314).red() < 15);
 }
 
 void GaugeTest::showsOnlyThePartOfTheGradientThatIsCovered()
@@ -125,7 +125,7 @@ void GaugeTest::showsOnlyThePartOfTheGradientThatIsCovered()
     const QImage part = painted(0.37, 2);
     const QImage whole = painted(1, 2);
     for (qreal degrees = 46; degrees < 45 + 270 * 0.37 - 2; degrees += 4)
-        QCOMPARE(colourAt(part, degrees), colourAt(whole, degrees));
+        QCOMPARE(colorAt(part, degrees), colorAt(whole, degrees));
 }
 
 void GaugeTest::takesValuesBeyondItsEndsForTheEnds()

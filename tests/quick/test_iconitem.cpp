@@ -85,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(!isRed());
     }
 
-    void isInkedInItsTextColour()
+    void isInkedInItsTextColor()
     {
         Picture f("icon: 'bolt.square.fill'");
         const auto middle = [&f] {

@@ -40,15 +40,15 @@ QImage rendered(const QString &path, int size)
     return image.convertToFormat(QImage::Format_ARGB32);
 }
 
-bool isGreen(const QColor &colour)
+bool isGreen(const QColor &color)
 {
-    return colour.alpha() > 200 && colour.green() > colour.red() + 30
-        && colour.green() > colour.blue() + 10;
+    return color.alpha() > 200 && color.green() > color.red() + 30
+        && color.green() > color.blue() + 10;
 }
 
-bool isNearWhite(const QColor &colour)
+bool isNearWhite(const QColor &color)
 {
-    return colour.alpha() > 200 && std::min({ colour.red(), colour.green(), colour.blue() }) > 215;
+    return color.alpha() > 200 && std::min({ color.red(), color.green(), color.blue() }) > 215;
 }
 
 /// The part of the picture's pixels for which something holds.
@@ -133,13 +133,13 @@ private Q_SLOTS:
         QCOMPARE(compiled.readAll(), installed.readAll());
     }
 
-    void hasASymbolicFormOfOneColour()
+    void hasASymbolicFormOfOneColor()
     {
         const QImage image
             = rendered(themePath(u"symbolic"_s, u"org.ferrin.Ferrin-symbolic.svg"_s), 16);
-        const auto inked = [](const QColor &colour) { return colour.alpha() > 0; };
+        const auto inked = [](const QColor &color) { return color.alpha() > 0; };
         const auto tinted
-            = [](const QColor &colour) { return colour.alpha() > 0 && colour.value() > 0; };
+            = [](const QColor &color) { return color.alpha() > 0 && color.value() > 0; };
         QVERIFY(share(image, inked) > 0.2);
         QVERIFY(share(image, inked) < 0.6);
         QCOMPARE(share(image, tinted), 0.0);

@@ -68,7 +68,7 @@ private Q_SLOTS:
         Page f;
         QCOMPARE(f.page->size(), QSizeF(500, 500));
         QCOMPARE(f.stage.picture().pixelColor(250, 490).name(),
-                 f.stage.colour("settingsBackground"));
+                 f.stage.colorNamed("settingsBackground"));
         qreal y = 20;
         for (const char *section :
              { "LauchAtLoginView", "ThemePicker", "OpenSystemSettingsView", "AppUpdateView" }) {
@@ -187,7 +187,7 @@ private Q_SLOTS:
         const QPoint besideTheTile = f.row()->mapToScene(QPointF(33, 2)).toPoint();
         QTest::mouseMove(&f.stage.window, QPoint(250, 490));
         const QColor atRest = f.stage.picture().pixelColor(besideTheTile);
-        QCOMPARE(atRest.name(), f.stage.colour("settingsRectangle"));
+        QCOMPARE(atRest.name(), f.stage.colorNamed("settingsRectangle"));
         QTest::mouseMove(&f.stage.window, test::centreOf(f.row()));
         QTRY_VERIFY(f.stage.picture().pixelColor(besideTheTile) != atRest);
         QTest::mouseMove(&f.stage.window, QPoint(250, 490));
@@ -200,12 +200,12 @@ private Q_SLOTS:
         QQuickItem *const symbol = test::itemsOfType(f.row(), "ferrin::Symbol").constFirst();
         QCOMPARE(symbol->property("name").toString(), u"battery.100"_s);
         QCOMPARE(symbol->property("size").toReal(), 14);
-        QCOMPARE(symbol->property("color").value<QColor>().name(), f.stage.colour("tileSymbol"));
+        QCOMPARE(symbol->property("color").value<QColor>().name(), f.stage.colorNamed("tileSymbol"));
         const QQuickItem *const tile = symbol->parentItem();
         QCOMPARE(tile->size(), QSizeF(28, 28));
         QCOMPARE(tile->opacity(), 1);
         QCOMPARE(tile->property("radius").toReal(), 6);
-        QCOMPARE(tile->property("color").value<QColor>().name(), f.stage.colour("systemGreen"));
+        QCOMPARE(tile->property("color").value<QColor>().name(), f.stage.colorNamed("systemGreen"));
         // Something of its shadow lies below it, and nothing far away.
         const QPoint foot = tile->mapToScene(QPointF(14, 29)).toPoint();
         const QImage picture = f.stage.picture();

@@ -215,15 +215,15 @@ private Q_SLOTS:
     {
         IconStage f;
         const QQuickItem *const words = noteIn(f.sections[discharging]);
-        const auto colour = [words] { return words->property("color").value<QColor>().name(); };
+        const auto color = [words] { return words->property("color").value<QColor>().name(); };
         for (QQuickItem *const each : f.switchesOf(discharging))
             f.click(each);
-        QCOMPARE(colour(), f.colour("secondaryText"));
+        QCOMPARE(color(), f.colorNamed("secondaryText"));
         f.appearance.setReducesMotion(true);
-        QCOMPARE(colour(), f.colour("redIcon"));
+        QCOMPARE(color(), f.colorNamed("redIcon"));
         QCOMPARE(noteIn(f.sections[charging])->property("color").value<QColor>().name(),
-                 f.colour("secondaryText"));
-        QTRY_COMPARE(colour(), f.colour("secondaryText"));
+                 f.colorNamed("secondaryText"));
+        QTRY_COMPARE(color(), f.colorNamed("secondaryText"));
     }
 
     void aSwitchThatIsTurnedBackOnSaysWhy()
@@ -313,14 +313,14 @@ private Q_SLOTS:
         QCOMPARE(host.content().charge, u"64"_s);
     }
 
-    void showsItsColoursOnEitherGround_data()
+    void showsItsColorsOnEitherGround_data()
     {
         QTest::addColumn<Appearance>("appearance");
         QTest::newRow("light") << Appearance::light;
         QTest::newRow("dark") << Appearance::dark;
     }
 
-    void showsItsColoursOnEitherGround()
+    void showsItsColorsOnEitherGround()
     {
         QFETCH(Appearance, appearance);
         IconStage f;

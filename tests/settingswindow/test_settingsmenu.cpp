@@ -64,11 +64,11 @@ private Q_SLOTS:
             tiles.append(tile->property("symbol").toString() + u' '
                          + tile->property("color").value<QColor>().name());
         QCOMPARE(tiles,
-                 (QStringList { u"gearshape.fill "_s + f.stage.colour("systemOrange"),
-                                u"battery.75 "_s + f.stage.colour("systemBlue"),
-                                u"questionmark.circle.fill "_s + f.stage.colour("systemGray"),
-                                u"info.circle.fill "_s + f.stage.colour("systemBrown"),
-                                u"xmark.circle "_s + f.stage.colour("systemRed") }));
+                 (QStringList { u"gearshape.fill "_s + f.stage.colorNamed("systemOrange"),
+                                u"battery.75 "_s + f.stage.colorNamed("systemBlue"),
+                                u"questionmark.circle.fill "_s + f.stage.colorNamed("systemGray"),
+                                u"info.circle.fill "_s + f.stage.colorNamed("systemBrown"),
+                                u"xmark.circle "_s + f.stage.colorNamed("systemRed") }));
         QCOMPARE(f.menu->size(), QSizeF(200, 500));
     }
 

@@ -145,12 +145,12 @@ private Q_SLOTS:
         Page f;
         QQuickItem *const label = test::itemsOfType(f.links[0], "QQuickText").constFirst();
         QVERIFY(label->property("font").value<QFont>().underline());
-        QCOMPARE(label->property("color").value<QColor>().name(), f.stage.colour("link"));
+        QCOMPARE(label->property("color").value<QColor>().name(), f.stage.colorNamed("link"));
         QTest::mouseMove(&f.stage.window, test::centreOf(f.links[0]));
         QTRY_COMPARE(label->property("color").value<QColor>().name(),
-                     f.stage.colour("linkHovered"));
+                     f.stage.colorNamed("linkHovered"));
         QTest::mouseMove(&f.stage.window, QPoint(490, 490));
-        QTRY_COMPARE(label->property("color").value<QColor>().name(), f.stage.colour("link"));
+        QTRY_COMPARE(label->property("color").value<QColor>().name(), f.stage.colorNamed("link"));
     }
 
     void tellsItselfToAScreenReader()

@@ -30,7 +30,7 @@ struct Picker
         for (QQuickItem *const segment : segments) {
             for (const QQuickItem *const part : segment->childItems()) {
                 if (part->isVisible()
-                    && part->property("color").value<QColor>().name() == stage.colour("accent"))
+                    && part->property("color").value<QColor>().name() == stage.colorNamed("accent"))
                     texts += test::textsOf(segment);
             }
         }
@@ -102,12 +102,12 @@ private Q_SLOTS:
         QCOMPARE(f.stage.appearance.forced, Appearance::light);
     }
 
-    void repaintsTheOpenWindowInTheColoursChosen()
+    void repaintsTheOpenWindowInTheColorsChosen()
     {
         Picker f;
         const QString before = f.stage.picture().pixelColor(230, 10).name();
         f.stage.click(f.segments[dark]);
-        const QString ground = f.stage.colour("settingsRectangle");
+        const QString ground = f.stage.colorNamed("settingsRectangle");
         QVERIFY(ground != before);
         QTRY_COMPARE(f.stage.picture().pixelColor(230, 10).name(), ground);
     }

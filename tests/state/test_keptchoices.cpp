@@ -43,7 +43,7 @@ public:
         : m_store(FileDefaultsStore::open(folder, u"org.ferrin.Test"_s))
         , m_switches(*m_store)
         , m_settings(*m_store, Bundle::main())
-        , m_colour(*m_store)
+        , m_color(*m_store)
     {
     }
 
@@ -58,7 +58,7 @@ public:
         else if (which == switchCount + 2)
             m_settings.setChargedIconSelected(one(icons().charged, random));
         else
-            m_colour.setScheme(std::array { AppColorScheme::system, AppColorScheme::light,
+            m_color.setScheme(std::array { AppColorScheme::system, AppColorScheme::light,
                                             AppColorScheme::dark }[random % 3]);
     }
 
@@ -72,7 +72,7 @@ public:
             return rawValue(m_settings.chargingIconSelected());
         if (which == switchCount + 2)
             return rawValue(m_settings.chargedIconSelected());
-        return rawValue(m_colour.scheme());
+        return rawValue(m_color.scheme());
     }
 
     [[nodiscard]] QStringList all()
@@ -93,7 +93,7 @@ private:
     std::unique_ptr<FileDefaultsStore> m_store;
     DisplaySwitches m_switches;
     SettingsData m_settings;
-    AppColor m_colour;
+    AppColor m_color;
 };
 
 void say(const QString &line)

@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(lastWords([&] { startWith({ all.discharging, all.charging, {} }); }), words);
     }
 
-    void includeAColourSchemeBeforeTheApplicationHasStarted()
+    void includeAColorSchemeBeforeTheApplicationHasStarted()
     {
         QCOMPARE(lastWords([] { AppColorSchemeProvider().apply(AppColorScheme::dark); }),
                  u"A colour scheme was applied before the application had started"_s);

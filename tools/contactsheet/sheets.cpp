@@ -34,9 +34,9 @@ void drawLabel(QPainter &painter, const QRect &rect, const QString &text, const 
     QFont font(theme.fontFamily);
     font.setPixelSize(10);
     painter.setFont(font);
-    QColor colour = theme.text;
-    colour.setAlphaF(0.7f);
-    painter.setPen(colour);
+    QColor color = theme.text;
+    color.setAlphaF(0.7f);
+    painter.setPen(color);
     painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter, text);
 }
 

@@ -17,20 +17,20 @@ using namespace ferrin::test;
 
 namespace {
 
-QColor over(const QColor &ground, const QColor &colour, double opacity)
+QColor over(const QColor &ground, const QColor &color, double opacity)
 {
     const auto mixed = [opacity](float top, float below) {
         return float(opacity * top + (1 - opacity) * below);
     };
-    return QColor::fromRgbF(mixed(colour.redF(), ground.redF()),
-                            mixed(colour.greenF(), ground.greenF()),
-                            mixed(colour.blueF(), ground.blueF()));
+    return QColor::fromRgbF(mixed(color.redF(), ground.redF()),
+                            mixed(color.greenF(), ground.greenF()),
+                            mixed(color.blueF(), ground.blueF()));
 }
 
 } // namespace
 
 /// Every pairing of both windows, in both appearances.
-class ColoursTest final : public QObject
+class ColorsTest final : public QObject
 {
     Q_OBJECT
 
@@ -48,16 +48,16 @@ private Q_SLOTS:
     void gaugesStandOutFromTheirTracks();
     void panelsStandOutFromTheirWindow_data();
     void panelsStandOutFromTheirWindow();
-    void everyNameHasAColour();
+    void everyNameHasAColor();
     void followTheAppearance();
 
 private:
     [[nodiscard]] QColor named(const QByteArray &name)
     {
-        const QColor colour = namedColour(m_engine, name.constData());
-        if (!colour.isValid())
+        const QColor color = namedColor(m_engine, name.constData());
+        if (!color.isValid())
             qWarning("There is no colour %s.", name.constData());
-        return colour;
+        return color;
     }
 
     void addPairs(const QList<std::pair<QByteArray, QByteArray>> &pairs)
@@ -77,14 +77,14 @@ private:
     QuickEngine m_engine;
 };
 
-void ColoursTest::measuresContrastAsAgreed()
+void ColorsTest::measuresContrastAsAgreed()
 {
     QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
     QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
     QVERIFY(std::abs(contrast(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.01);
 }
 
-void ColoursTest::textsReadOnTheirGrounds_data()
+void ColorsTest::textsReadOnTheirGrounds_data()
 {
     addPairs({ { "cardTitleColor", "cardColor" },
                { "cardTextColor", "cardColor" },
@@ -112,7 +112,7 @@ void ColoursTest::textsReadOnTheirGrounds_data()
                { "settingsAck", "settingsBackground" } });
 }
 
-void ColoursTest::textsReadOnTheirGrounds()
+void ColorsTest::textsReadOnTheirGrounds()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -122,7 +122,7 @@ void ColoursTest::textsReadOnTheirGrounds()
     QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
 }
 
-void ColoursTest::symbolsStandOutFromTheirGrounds_data()
+void ColorsTest::symbolsStandOutFromTheirGrounds_data()
 {
     addPairs({ { "greenIcon", "cardColor" },
                { "redIcon", "cardColor" },
@@ -159,7 +159,7 @@ void ColoursTest::symbolsStandOutFromTheirGrounds_data()
                { "secondaryText", "settingsIconOptions" } });
 }
 
-void ColoursTest::symbolsStandOutFromTheirGrounds()
+void ColorsTest::symbolsStandOutFromTheirGrounds()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -169,12 +169,12 @@ void ColoursTest::symbolsStandOutFromTheirGrounds()
     QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
 }
 
-void ColoursTest::menuSymbolsStandOutAlthoughTheyAreFaint_data()
+void ColorsTest::menuSymbolsStandOutAlthoughTheyAreFaint_data()
 {
     addPairs({ { "menuText", "dashboardColor" }, { "menuText", "menuHovered" } });
 }
 
-void ColoursTest::menuSymbolsStandOutAlthoughTheyAreFaint()
+void ColorsTest::menuSymbolsStandOutAlthoughTheyAreFaint()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -184,7 +184,7 @@ void ColoursTest::menuSymbolsStandOutAlthoughTheyAreFaint()
     QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
 }
 
-void ColoursTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
+void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
 {
     QList<std::pair<QByteArray, QByteArray>> pairs;
     for (const char *tile :
@@ -195,7 +195,7 @@ void ColoursTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
     addPairs(pairs);
 }
 
-void ColoursTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint()
+void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -208,14 +208,14 @@ void ColoursTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint()
     QVERIFY2(contrast(named("tileSymbol"), tile.lighter(112)) >= 3, qPrintable(tile.name()));
 }
 
-void ColoursTest::gaugesStandOutFromTheirTracks_data()
+void ColorsTest::gaugesStandOutFromTheirTracks_data()
 {
     addPairs({ { "gaugeRed", "gaugeTrack" },
                { "gaugeOrange", "gaugeTrack" },
                { "gaugeGreen", "gaugeTrack" } });
 }
 
-void ColoursTest::gaugesStandOutFromTheirTracks()
+void ColorsTest::gaugesStandOutFromTheirTracks()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -225,14 +225,14 @@ void ColoursTest::gaugesStandOutFromTheirTracks()
     QVERIFY2(ratio >= 2, qPrintable(QString::number(ratio)));
 }
 
-void ColoursTest::panelsStandOutFromTheirWindow_data()
+void ColorsTest::panelsStandOutFromTheirWindow_data()
 {
     addPairs({ { "greyIcon", "cardColor" },
                { "greyIcon", "dashboardColor" },
                { "settingsRectBorder", "settingsBackground" } });
 }
 
-void ColoursTest::panelsStandOutFromTheirWindow()
+void ColorsTest::panelsStandOutFromTheirWindow()
 {
     QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
@@ -242,7 +242,7 @@ void ColoursTest::panelsStandOutFromTheirWindow()
     QVERIFY2(ratio >= 1.25, qPrintable(QString::number(ratio)));
 }
 
-void ColoursTest::everyNameHasAColour()
+void ColorsTest::everyNameHasAColor()
 {
     for (const char *name : { "greenIcon",
                               "redIcon",
@@ -268,12 +268,12 @@ void ColoursTest::everyNameHasAColour()
                               "settingsPopBckg1",
                               "settingsPopBckg2",
                               "settingsAck" }) {
-        const QColor colour = named(name);
-        QVERIFY2(colour.isValid() && colour.alpha() == 255, name);
+        const QColor color = named(name);
+        QVERIFY2(color.isValid() && color.alpha() == 255, name);
     }
 }
 
-void ColoursTest::followTheAppearance()
+void ColorsTest::followTheAppearance()
 {
     m_appearance.setAppearance(Appearance::light);
     const QColor light = named("cardColor");
@@ -283,5 +283,5 @@ void ColoursTest::followTheAppearance()
     QCOMPARE(named("cardColor"), light);
 }
 
-FERRIN_TEST(QGuiApplication, ColoursTest)
-#include "test_colours.moc"
+FERRIN_TEST(QGuiApplication, ColorsTest)
+#include "test_colors.moc"
