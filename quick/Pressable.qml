@@ -19,6 +19,8 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: spokenName
     Accessible.focusable: true
+    // Qt tells screen readers of hidden items as well.
+    Accessible.ignored: !visible
     Accessible.onPressAction: root.pressed()
 
     Keys.onReturnPressed: root.pressed()

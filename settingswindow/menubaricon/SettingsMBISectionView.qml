@@ -144,6 +144,7 @@ MakeBackgroundRectangle {
                 visible: isKnown
                 choices: root.choices
                 Accessible.role: Accessible.Graphic
+                Accessible.ignored: !visible
                 Accessible.name: "In your panel"
                 Accessible.description: root.choices.sentence
             }

@@ -209,7 +209,9 @@ std::optional<QImage> DockedWindow::groundPicture() const
     if (!reply || format == QImage::Format_Invalid
         || xcb_get_image_data_length(reply.get()) != expected)
         return {};
+    // Copied: an image in the same format would go on using the reply's memory.
     return QImage(xcb_get_image_data(reply.get()), m_size.width(), m_size.height(), format)
+        .copy()
         .convertToFormat(QImage::Format_RGB32);
 }
 
