@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """traces.py REPLAY [--picture FILE.svg]: how right and how calm the shown times are on real recordings.
 
-Plays the recordings of tests/traces/ with REPLAY (bench/replay of a build) and prints, for each run of at
-least 45 minutes to empty or 30 minutes to full, against the usual rule (what is left, or missing, by the
-present rate):
+Plays the recordings of tests/traces/ with REPLAY (bench/replay of a build) and prints, for each run
+of at least 45 minutes to empty or 30 minutes to full, against the usual rule (what is left, or
+missing, by the present rate):
   error   median of |ln(shown / true)|: 0.10 is about 10 %
   motion  hours that the shown end moves to and fro in an hour
 With --picture it draws one discharge and one charge instead, into the file and into the FAQ.
@@ -24,21 +24,24 @@ SLEEP = 600
 
 def rows_of(path):
     with open(path, newline="") as lines:
-        return [{"t": float(r["t_s"]), "percent": float(r["percent"]), "full": float(r["energy_full_wh"]),
+        return [{"t": float(r["t_s"]), "percent": float(r["percent"]),
+                 "full": float(r["energy_full_wh"]),
                  "power": float(r["power_w"] or 0), "status": r["status"]}
                 for r in csv.DictReader(lines) if r["percent"]]
 
 
 def shown_by(replay, path):
-    lines = subprocess.run([replay, path], capture_output=True, text=True, check=True).stdout.splitlines()
-    return {float(t): float(m) if m else None for t, _, m in (line.partition(",") for line in lines)}
+    run = subprocess.run([replay, path], capture_output=True, text=True, check=True)
+    rows = (line.partition(",") for line in run.stdout.splitlines())
+    return {float(t): float(m) if m else None for t, _, m in rows}
 
 
 def runs_of(rows, status):
     run, sign = [], 1 if status == "Charging" else -1
     for row in [*rows, {"status": ""}]:
-        if row["status"] == status and (not run or (row["t"] - run[-1]["t"] <= SLEEP
-                                                    and sign * (row["percent"] - run[-1]["percent"]) > -1.01)):
+        if row["status"] == status and (
+                not run or (row["t"] - run[-1]["t"] <= SLEEP
+                            and sign * (row["percent"] - run[-1]["percent"]) > -1.01)):
             run.append(row)
             continue
         if run and is_long(run, sign):
@@ -104,7 +107,8 @@ def print_table(replay):
         print(f"{title}, {len(found['Ferrin'])} runs" + f"{'error':>12}{'worst tenth':>14}{'motion':>9}")
         for name, results in found.items():
             errors = sorted(e for e, _ in results)
-            print(f"  {name:24}{statistics.median(errors):>10.3f}{errors[int(0.9 * (len(errors) - 1))]:>14.3f}"
+            ninetieth = errors[int(0.9 * (len(errors) - 1))]
+            print(f"  {name:24}{statistics.median(errors):>10.3f}{ninetieth:>14.3f}"
                   f"{statistics.median(m for _, m in results):>9.2f}")
 
 
@@ -141,7 +145,8 @@ def panel(x, title, run, shown):
                 parts.append(points)
                 points = []
             else:
-                points.append(f"{x + (t - start) / span * width:.1f},{60 + height * (1 - min(m, most) / most):.1f}")
+                y = 60 + height * (1 - min(m, most) / most)
+                points.append(f"{x + (t - start) / span * width:.1f},{y:.1f}")
         return "".join(f'<polyline class="{name}" points="{" ".join(p)}"/>' for p in parts if len(p) > 1)
 
     step = 60 if most > 150 else 30
@@ -150,24 +155,27 @@ def panel(x, title, run, shown):
         f' y2="{60 + height * (1 - m / most):.1f}"/><text x="{x - 8}" text-anchor="end"'
         f' y="{64 + height * (1 - m / most):.1f}">{m // 60}:{m % 60:02}</text>'
         for m in range(0, int(most) + 1, step))
-    hours = "".join(f'<text x="{x + h * 3600 / span * width:.1f}" y="{60 + height + 20}" text-anchor="middle">{h} h'
-                    "</text>" for h in range(0, int(span / 3600) + 1))
+    hours = "".join(
+        f'<text x="{x + h * 3600 / span * width:.1f}" y="{60 + height + 20}"'
+        f' text-anchor="middle">{h} h</text>' for h in range(0, int(span / 3600) + 1))
     return (f'<text class="title" x="{x}" y="44">{title}</text>{grid}{hours}'
             + line("usual", usual_times(run)) + line("true", true) + line("ours", shown))
 
 
 def draw(replay, target):
     discharge, charge = TRACES / "yoga530-new-video.csv", TRACES / "yoga530-new-charge.csv"
-    legend = "".join(f'<line class="key {name}" x1="{x}" x2="{x + 28}" y1="16" y2="16"/><text x="{x + 36}" y="21">{text}'
-                     "</text>" for name, x, text in (("ours", 60, "Ferrin"), ("usual", 160, "the usual rule"),
-                                                     ("true", 310, "the true time")))
+    keys = (("ours", 60, "Ferrin"), ("usual", 160, "the usual rule"), ("true", 310, "the true time"))
+    legend = "".join(f'<line class="key {name}" x1="{x}" x2="{x + 28}" y1="16" y2="16"/>'
+                     f'<text x="{x + 36}" y="21">{text}</text>' for name, x, text in keys)
     body = panel(60, "Shown time to empty", next(runs_of(rows_of(discharge), "Discharging")),
                  shown_by(replay, discharge))
-    body += panel(500, "Shown time to full", next(runs_of(rows_of(charge), "Charging")), shown_by(replay, charge))
+    body += panel(500, "Shown time to full", next(runs_of(rows_of(charge), "Charging")),
+                  shown_by(replay, charge))
     attributes = ('class="times" viewBox="0 0 880 340" role="img"'
                   ' aria-label="The shown times of one discharge and one charge, against the true ones"')
     pathlib.Path(target).write_text(
-        f'<svg xmlns="http://www.w3.org/2000/svg" {attributes}><style>{STYLE}</style>{legend}{body}</svg>\n')
+        f'<svg xmlns="http://www.w3.org/2000/svg" {attributes}><style>{STYLE}</style>'
+        f"{legend}{body}</svg>\n")
     picture = f"<svg {attributes}><style>{STYLE}</style>{legend}{body}</svg>\n"
     FAQ.write_text(FIGURE.sub(lambda found: found[1] + picture + found[2], FAQ.read_text()))
 

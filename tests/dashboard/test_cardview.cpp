@@ -107,7 +107,8 @@ void CardViewTest::hasItsTitleInTheTitleFont()
     QCOMPARE(font.weight(), QFont::DemiBold);
     QCOMPARE(font.letterSpacing(), 0.5);
     QCOMPARE(title->property("topPadding").toReal(), 10);
-    QCOMPARE(title->property("color").value<QColor>().name(), m_stage->colorNamed("cardTitleColor"));
+    QCOMPARE(title->property("color").value<QColor>().name(),
+             m_stage->colorNamed("cardTitleColor"));
 }
 
 void CardViewTest::putsEveryTextOnTheSameLines()

@@ -31,8 +31,8 @@ struct Menu
         QList<QColor> colors;
         for (const QQuickItem *item : items)
             colors.append(mark(*item)->opacity() > 0
-                               ? mark(*item)->property("color").value<QColor>()
-                               : QColor());
+                              ? mark(*item)->property("color").value<QColor>()
+                              : QColor());
         return colors;
     }
 

@@ -122,7 +122,8 @@ void MoreInfoTest::explainsTheCycles()
     QCOMPARE(
         contentOf("CyclesView"),
         QStringList(
-            { u"arrow.clockwise 16 "_s + m_stage->colorNamed("yellowIcon"), u"400"_s, u"YOUR BATTERY"_s,
+            { u"arrow.clockwise 16 "_s + m_stage->colorNamed("yellowIcon"), u"400"_s,
+              u"YOUR BATTERY"_s,
               u"Your battery has a limited amount of 1000 charge cycles before their performance is expected to diminish. This value is known as **design cycles**.\n\nOnce the cycle count 1000 is reached, a replacement battery is recommended to maintain performance.\n\nYou can use your battery after it reaches 1000 cycle count, but you might notice a reduction in your battery life."_s,
               u"Your battery has gone through **312 charge cycles**, of a total amount of **1000 design cycles**."_s,
               u"When you use your laptop, its battery goes through **charge cycles**. A charge cycle happens when you use all of the battery’s power—but that doesn’t necessarily mean in a single charge.\n\nFor example, you could use half of your laptop's charge in one day, and then recharge it fully. If you did the same thing the next day, it would count as one charge cycle, not two. In this example, it might take several days to complete a cycle."_s }));

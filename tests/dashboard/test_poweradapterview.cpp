@@ -77,8 +77,9 @@ void PowerAdapterViewTest::hasUnknownCardsForAnUnknownSource()
              QStringList({ u"Power"_s, u"Unknown"_s, u"Volts & amps"_s, u"Unknown"_s,
                            u"Description"_s, u"Unknown"_s, u"Manufacturer"_s, u"Unknown"_s }));
     for (const char *type : cardTypes)
-        QCOMPARE(imagesOf(cardOf(type)),
-                 QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") });
+        QCOMPARE(
+            imagesOf(cardOf(type)),
+            QStringList { u"questionmark.circle 18 "_s + m_stage->colorNamed("unknownColor") });
 }
 
 void PowerAdapterViewTest::readsNotConnectedBeforeAnyAdapterWasSeen()

@@ -6,6 +6,8 @@ pointer.
     test_traybars.py HOST    one host, by the name of its class below
 """
 
+import re
+
 from harness import traybars
 from harness.case import AT_START, OnADesktop, main
 from harness.picture import is_red
@@ -28,11 +30,11 @@ class InATrayBar:
         return window and self.session.box_of(window)
 
     def says(self, words):
-        """Waits until the docked window goes by these words, and returns the picture in it."""
+        """Waits until the docked window's title matches these words, and returns the picture in it."""
         def said():
             window = self.session.docked_window(self.program.pid)
             return window and self.session.title_of(window)
-        eventually(lambda: said() == words, words)
+        eventually(lambda: re.fullmatch(words, said() or ""), words)
         return self.pixels()
 
     def pixels(self):

@@ -114,7 +114,8 @@ private Q_SLOTS:
             QCOMPARE(font.pixelSize(), 10);
             QCOMPARE(font.weight(), line == lines[0] ? QFont::DemiBold : QFont::Normal);
         }
-        QCOMPARE(lines[0]->property("color").value<QColor>().name(), f.stage.colorNamed("settingsAck"));
+        QCOMPARE(lines[0]->property("color").value<QColor>().name(),
+                 f.stage.colorNamed("settingsAck"));
     }
 
     void presentsTheAcknowledgementsOnASheet()

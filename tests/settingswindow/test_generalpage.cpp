@@ -200,7 +200,8 @@ private Q_SLOTS:
         QQuickItem *const symbol = test::itemsOfType(f.row(), "ferrin::Symbol").constFirst();
         QCOMPARE(symbol->property("name").toString(), u"battery.100"_s);
         QCOMPARE(symbol->property("size").toReal(), 14);
-        QCOMPARE(symbol->property("color").value<QColor>().name(), f.stage.colorNamed("tileSymbol"));
+        QCOMPARE(symbol->property("color").value<QColor>().name(),
+                 f.stage.colorNamed("tileSymbol"));
         const QQuickItem *const tile = symbol->parentItem();
         QCOMPARE(tile->size(), QSizeF(28, 28));
         QCOMPARE(tile->opacity(), 1);

@@ -59,7 +59,7 @@ public:
             m_settings.setChargedIconSelected(one(icons().charged, random));
         else
             m_color.setScheme(std::array { AppColorScheme::system, AppColorScheme::light,
-                                            AppColorScheme::dark }[random % 3]);
+                                           AppColorScheme::dark }[random % 3]);
     }
 
     [[nodiscard]] QString value(int which)

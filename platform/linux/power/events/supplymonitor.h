@@ -19,9 +19,10 @@ namespace ferrin {
 
 /// Listens to the kernel's events for the power supplies of the machine itself and reports when one
 /// was added, removed, or changed its state: `online` or `current_max` of an adapter, `status` of a
-/// battery. Everything else is ignored, above all measurements and what SupplyReader does not read either:
-/// the supplies of peripherals, and UPSs. Owned by PowerEvents. It sleeps until the kernel sends an
-/// event, and reads files only at start, for a new supply, and for an event that lacks the value.
+/// battery. Everything else is ignored, above all measurements and what SupplyReader does not read
+/// either: the supplies of peripherals, and UPSs. Owned by PowerEvents. It sleeps until the kernel
+/// sends an event, and reads files only at start, for a new supply, and for an event that lacks the
+/// value.
 class SupplyMonitor final : public QObject
 {
     Q_OBJECT
