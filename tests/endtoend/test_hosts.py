@@ -14,7 +14,7 @@ from harness.processes import a_moment, eventually
 from harness.recognition import Look, Shown, read, recognised
 
 DISCHARGING = Shown("discharging", percent=37, charge="37", time="2:47")
-CHARGING = Shown("charging", percent=78, charge="78", time="1:06")
+CHARGING = Shown("charging", percent=78, charge="78", time="0:48")
 CHARGED = Shown("charged", percent=100, charge="100")
 LOW = Shown("discharging", percent=8, charge="8", time="0:36")
 FAULT = Shown("unknown", icon="fault", charge="100")
@@ -64,7 +64,7 @@ class InAHost:
         self.shows(DISCHARGING)
         self.laptop.send("plug")
         self.laptop.send("charge", "BAT0", 78)
-        self.program.says(r"78%, 1:0\d to full")
+        self.program.says(r"78%, 0:4\d to full")
         self.shows(CHARGING)
         self.laptop.send("charge", "BAT0", 100)
         self.program.says("100%")

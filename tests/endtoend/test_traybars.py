@@ -61,7 +61,7 @@ class InATrayBar:
         pictures = [self.says(AT_START)]
         self.laptop.send("plug")
         self.laptop.send("charge", "BAT0", 78)
-        pictures.append(self.says(r"78%, 1:0\d to full"))
+        pictures.append(self.says(r"78%, 0:4\d to full"))
         self.laptop.send("charge", "BAT0", 100)
         pictures.append(self.says("100%"))
         self.assertEqual(sum(map(is_red, pictures[-1])), 0)

@@ -4,12 +4,11 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusVariant>
 #include <QHash>
 #include <QObject>
 #include <QString>
 #include <QVariant>
-
-class QDBusVariant;
 
 namespace ferrin {
 
