@@ -37,7 +37,7 @@ SettingsPortal::SettingsPortal(const QDBusConnection &session, QObject *parent)
     if (!m_session.isConnected())
         return;
     m_session.connect(service, path, interface, u"SettingChanged"_s, this,
-                      SLOT(settingChanged(QString, QString, QDBusVariant)));
+                      SLOT(settingChanged(QDBusMessage)));
     const auto *const watcher = new QDBusServiceWatcher(
         service, m_session, QDBusServiceWatcher::WatchForRegistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &SettingsPortal::readAll);
@@ -68,11 +68,15 @@ void SettingsPortal::read(const QString &group, const QString &key)
     });
 }
 
-void SettingsPortal::settingChanged(const QString &group, const QString &key,
-                                    const QDBusVariant &value)
+void SettingsPortal::settingChanged(const QDBusMessage &message)
 {
+    if (message.signature() != u"ssv")
+        return;
+    const QVariantList arguments = message.arguments();
+    const QString group = arguments[0].toString();
+    const QString key = arguments[1].toString();
     if (m_watched.contains(group, key))
-        Q_EMIT valueChanged(group, key, unwrapped(value.variant()));
+        Q_EMIT valueChanged(group, key, unwrapped(arguments[2]));
 }
 
 } // namespace ferrin

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QHash>
 #include <QObject>
 #include <QString>
@@ -31,7 +31,8 @@ Q_SIGNALS:
 private:
     void read(const QString &group, const QString &key);
     void readAll();
-    Q_SLOT void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+    // Takes the message whole: with QDBusVariant for a parameter the program was never called.
+    Q_SLOT void settingChanged(const QDBusMessage &message);
 
     QDBusConnection m_session;
     QMultiHash<QString, QString> m_watched;
