@@ -17,7 +17,7 @@ DISCHARGING = Shown("discharging", percent=37, charge="37", time="2:47")
 CHARGING = Shown("charging", percent=78, charge="78", time="0:48")
 CHARGED = Shown("charged", percent=100, charge="100")
 LOW = Shown("discharging", percent=8, charge="8", time="0:36")
-FAULT = Shown("unknown", icon="fault", charge="100")
+FAULT = Shown("unknown", icon="fault", charge="??")
 # A standing battery, which is the default, is as wide in a cell of 16 pixels.
 GLYPH_WIDTH = 8
 CROSS_WIDTH = 16
