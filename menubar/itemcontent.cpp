@@ -27,13 +27,10 @@ QString textOf(std::optional<qint64> charge)
 /// neither state nor charge is known nothing is claimed.
 QString restingChargeText(BatteryChargingStatus status, const BatteryData &data)
 {
-    const auto full = u"100"_s;
     if (status == BatteryChargingStatus::held)
         return textOf(data.charge());
-    if (status != BatteryChargingStatus::unknown)
-        return full;
-    const auto charge = data.charge();
-    return charge ? full : textOf(charge);
+    const bool isKnown = status != BatteryChargingStatus::unknown || data.charge().has_value();
+    return isKnown ? u"100"_s : textOf(std::nullopt);
 }
 
 QString timeTextOf(const BatteryData &data)
