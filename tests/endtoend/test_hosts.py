@@ -20,7 +20,6 @@ LOW = Shown("discharging", percent=8, charge="8", time="0:36")
 FAULT = Shown("unknown", icon="fault", charge="??")
 # A standing battery, which is the default, is as wide in a cell of 16 pixels.
 GLYPH_WIDTH = 8
-CROSS_WIDTH = 16
 
 
 # From the item's cell to its dashboard, at the most: the rest of a thick panel, and a little air.
@@ -193,10 +192,12 @@ class GNOME(InAHost, OnADesktop):
             and self.label(shown) == " ".join(filter(None, texts))
 
     def label(self, shown):
-        """What stands beside the glyph, as it is read from the screen."""
+        """What stands beside the glyph, as it is read from the screen. Readers of print know no
+        "??%" and make letters of it: the shell is asked for that one."""
+        if shown.icon == "fault":
+            return self.session.item_label()
         box = self.session.item_box(self.before)
-        glyph = CROSS_WIDTH if shown.icon == "fault" else GLYPH_WIDTH
-        beside = Box(box.left + glyph, box.top - 4, box.right + 4, box.bottom + 4)
+        beside = Box(box.left + GLYPH_WIDTH, box.top - 4, box.right + 4, box.bottom + 4)
         return " ".join(line for line, _ in read(self.session.picture(), beside))
 
     def glyph(self):

@@ -77,7 +77,8 @@ class Shell:
 
 def xapp_watcher():
     """The status area of Linux Mint's desktops, a process that their sessions start."""
-    return glob.glob("/usr/lib*/**/xapp-sn-watcher", recursive=True)[0]
+    places = ("/usr/libexec/xapps/sn-watcher", "/usr/lib/*/xapps")
+    return next(path for place in places for path in glob.glob(f"{place}/xapp-sn-watcher"))
 
 
 class CinnamonScreen(Shell, Screen):
@@ -163,6 +164,13 @@ class GnomeScreen(Shell, Screen):
         return self._evaluate("global.get_window_actors().map(actor => actor.meta_window).filter("
                               f"window => window.get_pid() == {process_id})"
                               ".map(window => window.get_title())")
+
+    def item_label(self):
+        """The text that the shell draws beside the glyph of the only item; None without one."""
+        return self._evaluate(
+            "Object.entries(Main.panel.statusArea).filter(([role, button]) =>"
+            " role.startsWith('appindicator-') && button._label?.is_mapped()"
+            ").map(([role, button]) => button._label.get_text())[0] ?? null")
 
     def _evaluate(self, script):
         """What a script answers that the shell runs."""
