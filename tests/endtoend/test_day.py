@@ -57,7 +57,7 @@ class ADay(OnADesktop):
         program.says(r"8%, \d+:\d\d to full")
         eventually(lambda: self.red_pixels(before) == 0, "a charging battery is never red")
 
-    def test_plugging_in_is_seen_by_an_event(self):
+    def test_plugging_in_and_out_is_followed(self):
         program = self.start()
         program.says(AT_START)
         for _ in range(3):

@@ -30,6 +30,13 @@ class WithoutUPower(OnADesktop):
         self.laptop.send("upower", "start")
         self.laptop.send("drain", "BAT0", 20)
         program.says(r"20%, 1:[23]\d to empty")
+        self.laptop.send("upower", "stop")
+        self.laptop.send("drain", "BAT0", 15)
+        program.says(r"15%, 1:\d\d to empty")
+        lines = program.log().splitlines()
+        self.assertEqual(sum("UPower" in line and "error" in line for line in lines), 2, lines)
+        self.assertEqual(sum("Connection to UPower" in line for line in lines), 1, lines)
+        self.assertFalse([line for line in lines if "IOPSCopy" in line])
 
 
 class WithAnUnreliableUPower(OnADesktop):

@@ -137,6 +137,16 @@ class TheRunningLaptop(OnALaptop):
         self.assertEqual(self.read("AC", "online"), "0\n")
         self.assertEqual(self.laptop.supply("BAT0")["status"], "Discharging")
 
+    def test_details_of_an_adapter_without_a_type_are_told(self):
+        self.laptop.send("remove", PORT)
+        self.laptop.send("remove", "AC")
+        with self.assertRaises(CommandRefused):
+            self.laptop.send("adapter-details")
+        self.laptop.send("add", "odd", json.dumps({"online": 1}))
+        self.laptop.send("unset", "odd", "type")
+        self.laptop.send("adapter-details")
+        self.assertEqual(self.read("odd", "manufacturer"), "Acme\n")
+
     def test_a_full_battery_is_full(self):
         self.laptop.send("plug")
         self.laptop.send("charge", "BAT0", 100)

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void saysNothingOfAnIdlePort();
     void takesTheGreatestFixedOfferOfThePartner();
     void ignoresAPortThatGivesPower();
+    void doesNotCreditABarrelPlugWithAPortsOffer();
     void livesWithoutOffers();
     // sentinels and dirty text
     void cleansNamesOfGarbage();
@@ -146,6 +147,21 @@ void QuirksOfAdaptersTest::ignoresAPortThatGivesPower()
     QVERIFY(laptop.adapter().isEmpty());
     laptop.sysfs.write(u"class/typec/port0/power_role"_s, "source [sink]");
     QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 8);
+}
+
+void QuirksOfAdaptersTest::doesNotCreditABarrelPlugWithAPortsOffer()
+{
+    Laptop laptop;
+    laptop.sysfs.supply(u"AC"_s, { { "type", "Mains" }, { "online", "1" } });
+    laptop.sysfs.supply(u"ucsi"_s, { { "type", "USB" }, { "online", "0" }, { "scope", "System" } });
+    const QString partner = u"class/typec/port0-partner/"_s;
+    const QString offer = partner + u"usb_power_delivery/source-capabilities/1:fixed_supply/"_s;
+    laptop.sysfs.write(offer + u"voltage"_s, "5000mV");
+    laptop.sysfs.write(offer + u"maximum_current"_s, "3000mA");
+    laptop.sysfs.write(u"class/typec/port0/power_role"_s, "source [sink]");
+    QVERIFY(laptop.adapter().isEmpty());
+    laptop.sysfs.set(u"ucsi"_s, u"online"_s, "1");
+    QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 15);
 }
 
 void QuirksOfAdaptersTest::livesWithoutOffers()
