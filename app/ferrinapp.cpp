@@ -71,6 +71,7 @@ void FerrinApp::showOrHideDashboard()
 
 void FerrinApp::openSettings()
 {
+    setDashboardShown(false);
     openWindow(QStringLiteral("FerrinSettings"));
 }
 

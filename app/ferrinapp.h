@@ -54,7 +54,7 @@ public:
     void setDashboardShown(bool shown) { m_isDashboardShown = shown; }
     [[nodiscard]] QBindable<bool> bindableIsDashboardShown() { return &m_isDashboardShown; }
 
-    /// Opens the settings window, or brings it to the front.
+    /// Opens the settings window, or brings it to the front; the dashboard closes.
     void openSettings();
 
     /// The user looks at one of the windows.

@@ -109,6 +109,9 @@ int runApplication(const Bundle &bundle, const QString &path)
     });
     QObject::connect(&instance, &SingleInstance::activated, &ferrin,
                      [&] { ferrin.setDashboardShown(true); });
+    QObject::connect(&instance, &SingleInstance::settingsRequested, &ferrin,
+                     &FerrinApp::openSettings);
+    QObject::connect(&instance, &SingleInstance::quitRequested, qApp, &QCoreApplication::quit);
     QObject::connect(&desktop, &DesktopPlatform::itemAvailable, &ferrin,
                      [&] { ferrin.useStatusBar(desktop.statusBar()); });
     desktop.start();

@@ -27,7 +27,7 @@ battery is, how it ages and what the power adapter delivers.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "default-dbus-session-bus | dbus-session-bus, \
 qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "upower, qt6-wayland, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libglib2.0-bin, upower, qt6-wayland, xdg-utils")
 # Without them the system's package manager keeps Ferrin current all the same.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "packagekit, appstream")
 

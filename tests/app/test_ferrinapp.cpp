@@ -72,6 +72,7 @@ private Q_SLOTS:
     void isTrueExactlyWhileTheDashboardIsShown();
     void staysClosedWhenTheWindowsAreMissing();
     void opensTheSettingsWindowByItsIdentifier();
+    void closesTheDashboardForTheSettings();
     void startsTheUpdaterWhileItIsConstructed();
     void opensTheWindowOfUpdatesWhenTheUpdaterWantsIt();
     void isInUseWhileAnyWindowIsShown();
@@ -205,6 +206,16 @@ void FerrinAppTest::opensTheSettingsWindowByItsIdentifier()
     Stage stage;
     stage.app.openSettings();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"FerrinSettings"_s }));
+}
+
+void FerrinAppTest::closesTheDashboardForTheSettings()
+{
+    Stage stage;
+    stage.app.setDashboardShown(true);
+    stage.log.clear();
+    stage.app.openSettings();
+    QCOMPARE(stage.log, QStringList({ u"hide"_s, u"FerrinSettings"_s }));
+    QVERIFY(!stage.app.isDashboardShown());
 }
 
 void FerrinAppTest::startsTheUpdaterWhileItIsConstructed()

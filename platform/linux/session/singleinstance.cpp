@@ -73,9 +73,26 @@ void SingleInstance::activateOther()
 
 void SingleInstance::Activate(const QVariantMap &platformData)
 {
+    keepActivationToken(platformData);
+    Q_EMIT activated();
+}
+
+void SingleInstance::ActivateAction(const QString &name, const QVariantList &,
+                                    const QVariantMap &platformData)
+{
+    keepActivationToken(platformData);
+    if (name == u"settings")
+        Q_EMIT settingsRequested();
+    else if (name == u"quit")
+        Q_EMIT quitRequested();
+    else
+        qCCritical(logger, "There is no action \"%s\"", qUtf8Printable(name));
+}
+
+void SingleInstance::keepActivationToken(const QVariantMap &platformData)
+{
     if (const QString token = platformData.value(tokenKey).toString(); !token.isEmpty())
         qputenv(tokenVariable, token.toUtf8());
-    Q_EMIT activated();
 }
 
 } // namespace ferrin

@@ -6,13 +6,15 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 #include <QVariantMap>
 
 namespace ferrin {
 
 /// Whether this is the session's only run of the program, told by a name on the session bus, and
-/// how a second start calls the first. The name is held as long as the connection. On the bus it is
-/// org.freedesktop.Application, as desktops call it.
+/// how second starts and the actions of the desktop entry reach that run. The name is held as long
+/// as the connection. On the bus it is org.freedesktop.Application, as desktops call it.
+/// https://specifications.freedesktop.org/desktop-entry-spec/1.5/#dbus
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -29,14 +31,22 @@ public:
     /// Asks the run that has the name to show itself, and waits until it has heard of it.
     void activateOther();
 
-    /// The bus' own way to `activated`; public because only then the bus may call it.
+    // The bus' own way to the signals; public because only then the bus may call it.
     Q_SCRIPTABLE Q_INVOKABLE void Activate(const QVariantMap &platformData);
+    /// The actions are "settings" and "quit"; any other costs a log line.
+    Q_SCRIPTABLE Q_INVOKABLE void ActivateAction(const QString &name, const QVariantList &parameter,
+                                                 const QVariantMap &platformData);
 
 Q_SIGNALS:
     /// Another start asks this run to show itself.
     void activated();
+    /// An action of the desktop entry was chosen.
+    void settingsRequested();
+    void quitRequested();
 
 private:
+    static void keepActivationToken(const QVariantMap &platformData);
+
     QDBusConnection m_session;
     QString m_name;
     QString m_path;

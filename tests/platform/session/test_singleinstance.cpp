@@ -25,6 +25,19 @@ QString firstRun(PrivateBus &bus)
     return SingleInstance(connection, name).acquire() ? connection.name() : QString();
 }
 
+QDBusMessage callOf(const QString &method, const QVariantList &arguments)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(name, u"/org/ferrin/Test"_s,
+                                                       u"org.freedesktop.Application"_s, method);
+    call.setArguments(arguments);
+    return call;
+}
+
+QDBusMessage callOfAction(const QString &action)
+{
+    return callOf(u"ActivateAction"_s, { action, QVariantList {}, QVariantMap {} });
+}
+
 } // namespace
 
 class SingleInstanceTest : public QObject
@@ -78,19 +91,57 @@ private Q_SLOTS:
         QTRY_COMPARE(activations.size(), 1);
     }
 
+    void takesOverWhatLetsItsWindowComeToTheFront_data()
+    {
+        QTest::addColumn<QString>("method");
+        QTest::addColumn<QVariantList>("arguments");
+        QTest::newRow("a second start") << u"Activate"_s << QVariantList {};
+        QTest::newRow("an action")
+            << u"ActivateAction"_s << QVariantList { u"settings"_s, QVariantList {} };
+    }
+
     void takesOverWhatLetsItsWindowComeToTheFront()
+    {
+        QFETCH(QString, method);
+        QFETCH(QVariantList, arguments);
+        const LogCapture log;
+        PrivateBus bus;
+        SingleInstance first(bus.connect(), name);
+        QVERIFY(first.acquire());
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        arguments.append(QVariantMap { { u"activation-token"_s, u"a token"_s } });
+        QVERIFY(bus.connect().send(callOf(method, arguments)));
+        QTRY_COMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "a token");
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+    }
+
+    void tellsOfTheActionsOfTheDesktopEntry()
     {
         const LogCapture log;
         PrivateBus bus;
         SingleInstance first(bus.connect(), name);
         QVERIFY(first.acquire());
-        QDBusMessage call = QDBusMessage::createMethodCall(
-            name, u"/org/ferrin/Test"_s, u"org.freedesktop.Application"_s, u"Activate"_s);
-        call.setArguments({ QVariantMap { { u"activation-token"_s, u"a token"_s } } });
-        qunsetenv("XDG_ACTIVATION_TOKEN");
-        QVERIFY(bus.connect().send(call));
-        QTRY_COMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "a token");
-        qunsetenv("XDG_ACTIVATION_TOKEN");
+        const QSignalSpy settings(&first, &SingleInstance::settingsRequested);
+        const QSignalSpy quit(&first, &SingleInstance::quitRequested);
+        const QDBusConnection desktop = bus.connect();
+        QVERIFY(desktop.send(callOfAction(u"settings"_s)));
+        QTRY_COMPARE(settings.size(), 1);
+        QCOMPARE(quit.size(), 0);
+        QVERIFY(desktop.send(callOfAction(u"quit"_s)));
+        QTRY_COMPARE(quit.size(), 1);
+        QCOMPARE(settings.size(), 1);
+    }
+
+    void logsAnActionThatItDoesNotKnow()
+    {
+        LogCapture log;
+        PrivateBus bus;
+        SingleInstance first(bus.connect(), name);
+        QVERIFY(first.acquire());
+        QVERIFY(bus.connect().send(callOfAction(u"dance"_s)));
+        QStringList lines;
+        QTRY_VERIFY((lines += log.take(), !lines.isEmpty()));
+        QCOMPARE(lines, QStringList(u"error: There is no action \"dance\""_s));
     }
 
     void aSecondStartIsNotHeldUpByAFirstThatHasJustEnded()
