@@ -12,6 +12,7 @@ from harness.readwindow import TAB, ReadWindow
 
 SECTIONS = ["STATUS", "HEALTH", "POWER ADAPTER", "SETTINGS"]
 CARD = "label"
+# Pixels at a scale of one.
 LARGEST_CELL = 40
 
 
@@ -32,7 +33,7 @@ class Dashboard(ReadWindow):
     def _drawn(self, before):
         # The panel shows an empty cell first, and may draw the whole of itself anew.
         box = self._session.item_box(before)
-        is_cell = box and max(box.width, box.height) <= LARGEST_CELL
+        is_cell = box and max(box.width, box.height) <= LARGEST_CELL * self._session.scale
         return box if is_cell and len(set(self._session.picture().pixels(box))) > 8 else None
 
     def __enter__(self):
