@@ -10,6 +10,7 @@
 #include "updates/appupdater.h"
 
 #include <QTest>
+#include <QTimeZone>
 
 using namespace ferrin;
 using namespace ferrin::test;
@@ -49,7 +50,7 @@ struct Bench
     FakeNotice notice;
     FakeNetwork network;
     BatteryReserve battery { 80, true };
-    QDateTime now { QDate(2026, 5, 1), QTime(12, 0), Qt::UTC };
+    QDateTime now { QDate(2026, 5, 1), QTime(12, 0), QTimeZone::utc() };
     std::optional<Updater> updater;
     LogCapture log;
 };

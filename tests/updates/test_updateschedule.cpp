@@ -5,6 +5,7 @@
 #include "updates/updateschedule.h"
 
 #include <QTest>
+#include <QTimeZone>
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
@@ -23,7 +24,7 @@ private Q_SLOTS:
     void waitsUntilItIsDue();
 
 private:
-    const QDateTime m_now { QDate(2026, 5, 1), QTime(12, 0), Qt::UTC };
+    const QDateTime m_now { QDate(2026, 5, 1), QTime(12, 0), QTimeZone::utc() };
 };
 
 void UpdateScheduleTest::isDueADayAfterTheLastCheck()

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QStringList>
+#include <QTimeZone>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -50,7 +51,7 @@ std::optional<QDate> dateOf(const QXmlStreamAttributes &attributes)
         return date;
     bool isNumber = false;
     const qint64 seconds = attributes.value("timestamp"_L1).toLongLong(&isNumber);
-    return isNumber ? std::optional(QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).date())
+    return isNumber ? std::optional(QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc()).date())
                     : std::nullopt;
 }
 
