@@ -5,12 +5,12 @@
 //
 //   item_picture PROCESS SCALE GROUND TEXT HEIGHT CONTENT...
 //
-// What a host of that process name is offered at that desktop scale: the picture of that height in
-// device pixels, or the largest one brought to HEIGHT where that is "scaled:HEIGHT". It stands on a
-// ground of one colour, in the colour that the host is known to write in. A content is
-// STATUS,ICON,PERCENT,CHARGE,TIME, each of the last four "-" for absent, and ICON "fault" for the
-// crossed-out battery. For each content it writes the width, the height and the grey values, row by
-// row, as one line of numbers.
+// What a host of that process name is offered at that scale, on the desktop that the environment
+// variable XDG_CURRENT_DESKTOP names: the picture of that height in device pixels, or the largest
+// one brought to HEIGHT where that is "scaled:HEIGHT". It stands on a ground of one colour, in the
+// colour that the host is known to write in. A content is STATUS,ICON,PERCENT,CHARGE,TIME, each of
+// the last four "-" for absent, and ICON "fault" for the crossed-out battery. For each content it
+// writes the width, the height and the grey values, row by row, as one line of numbers.
 
 #include "platform/linux/panelcolors/panelcolors.h"
 #include "platform/linux/statusnotifier/itempictures.h"
@@ -116,7 +116,9 @@ int main(int argc, char **argv)
     const QStringList words = QGuiApplication::arguments();
     if (words.size() < 7)
         qFatal("item_picture PROCESS SCALE GROUND TEXT HEIGHT CONTENT...");
-    const HostProfile &profile = profileFor({ .name = words[1] }, { u"X-Cinnamon"_s });
+    const HostProcess process { .name = words[1] };
+    const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
+    const HostProfile &profile = profileFor(process, desktops);
     PanelColors colors;
     colors.setPanelText(profile.name, QColor(words[4]));
     const ViewContext context = colors.contextFor(profile.panel());

@@ -163,7 +163,7 @@ class MATE(InAnX11Host, OnADesktop):
 
 
 class Cinnamon(InAnX11Host, OnADesktop):
-    look = Look("xapp-sn-watcher", "scaled:24")
+    look = Look("xapp-sn-watcher", "scaled:24", desktop="X-Cinnamon")
 
     def make_session(self):
         return shells.CinnamonScreen()
@@ -201,8 +201,9 @@ class GNOME(InAHost, OnADesktop):
         return " ".join(line for line, _ in read(self.session.picture(), beside))
 
     def glyph(self):
+        """Where a click's pointer covers nothing of the menu."""
         box = self.cell()
-        return box.left + GLYPH_WIDTH // 2, box.centre[1]
+        return box.left + GLYPH_WIDTH // 2, box.top // 2
 
     def open_menu(self):
         """Opens it with a click, and gives its lines and their places."""
@@ -211,7 +212,10 @@ class GNOME(InAHost, OnADesktop):
         self.session.click(self.glyph())
         eventually(lambda: self.beside(cell, before), "the menu is open")
         a_moment()
-        return dict(read(self.session.picture(), self.beside(cell, before)))
+        menu = self.beside(cell, before)
+        # Its edges look like strokes of letters.
+        inside = Box(menu.left + 20, menu.top + 4, menu.right - 20, menu.bottom - 4)
+        return dict(read(self.session.picture(), inside))
 
     def test_a_click_opens_the_dashboard_and_another_closes_it(self):
         """By way of the menu, since no click reaches the item."""

@@ -24,6 +24,9 @@ namespace {
 // Reserves the width of the longest label, so that the panel does not jitter.
 const QString labelGuide = u"100% 00:00"_s;
 
+// Draws nothing; makes a label another text than the one that a host has read.
+constexpr QChar unseenMark(0x200e);
+
 qreal desktopScale()
 {
     return qGuiApp ? qGuiApp->devicePixelRatio() : 1;
@@ -66,7 +69,7 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection &connection, HostRe
     m_update.setInterval(0ms);
     connect(&m_update, &QTimer::timeout, this, &StatusNotifierItem::sendUpdate);
     m_tokenExpiry.setSingleShot(true);
-    m_tokenExpiry.setInterval(tokenLifetime);
+    setTokenLifetime(tokenLifetime);
     connect(&m_tokenExpiry, &QTimer::timeout, this, &forgetActivationToken);
     connect(&resolver, &HostResolver::left, this, &StatusNotifierItem::forget);
     connect(&m_colors, &PanelColors::changed, this, &StatusNotifierItem::scheduleUpdate);
@@ -147,15 +150,13 @@ void StatusNotifierItem::sendUpdate()
         sendSignal(u"NewToolTip"_s);
     for (auto [reader, profile] : m_readers.asKeyValueRange()) {
         if (newLabels.contains(profile))
-            sendLabelTo(reader);
+            sendLabelTo(reader, m_seen[profile].label);
     }
 }
 
-void StatusNotifierItem::sendLabelTo(const QString &reader)
+void StatusNotifierItem::sendLabelTo(const QString &reader, const QString &label)
 {
-    const HostProfile *const profile = m_readers.value(reader);
-    if (profile)
-        sendSignalTo(reader, u"XAyatanaNewLabel"_s, { m_seen[profile].label, labelGuide });
+    sendSignalTo(reader, u"XAyatanaNewLabel"_s, { label, labelGuide });
 }
 
 void StatusNotifierItem::repeatLabel(const QString &reader, int repeatsLeft,
@@ -164,9 +165,11 @@ void StatusNotifierItem::repeatLabel(const QString &reader, int repeatsLeft,
     if (repeatsLeft == 0)
         return;
     QTimer::singleShot(delay, this, [this, reader, repeatsLeft, delay] {
-        if (!m_readers.contains(reader))
+        const HostProfile *const profile = m_readers.value(reader);
+        if (!profile)
             return;
-        sendLabelTo(reader);
+        if (const QString &label = m_seen[profile].label; !label.isEmpty())
+            sendLabelTo(reader, label + unseenMark);
         repeatLabel(reader, repeatsLeft - 1, 2 * delay);
     });
 }
@@ -216,8 +219,8 @@ void StatusNotifierItem::remember(const QString &caller, const HostProfile &prof
     m_readers.insert(caller, &profile);
     m_lastHost = &profile;
     Q_EMIT readersChanged();
-    // GNOME's extension takes the label from its signal alone since version 58, and misses signals
-    // until it has drawn the item.
+    // GNOME's extension draws its item before it knows the label that it has read since version 58.
+    // It misses signals until then, and later ignores one that brings what it has read.
     constexpr int repeats = 6;
     if (profile.label)
         repeatLabel(caller, repeats, m_labelRepeatDelay);

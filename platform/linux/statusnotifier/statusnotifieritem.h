@@ -46,6 +46,8 @@ public:
     /// How long after its first reading a host that draws labels is sent the label again; each
     /// further time twice as long, six times in all.
     void setLabelRepeatDelay(std::chrono::milliseconds delay) { m_labelRepeatDelay = delay; }
+    /// How long a host's activation token is kept for the window that its click opens.
+    void setTokenLifetime(std::chrono::milliseconds time) { m_tokenExpiry.setInterval(time); }
 
 Q_SIGNALS:
     /// A host has read the item for the first time, or left.
@@ -83,7 +85,7 @@ private:
     void forget(const QString &caller);
     void scheduleUpdate();
     void sendUpdate();
-    void sendLabelTo(const QString &reader);
+    void sendLabelTo(const QString &reader, const QString &label);
     void repeatLabel(const QString &reader, int repeatsLeft, std::chrono::milliseconds delay);
 
     const PanelColors &m_colors;

@@ -52,11 +52,12 @@ class Shown:
 class Look:
     """How a host shows its items: by the name of its process, the height in device pixels of the
     picture that it takes, or "scaled:HEIGHT" where it brings the largest one to its own; the
-    desktop's scale."""
+    desktop's scale, and its names where they matter."""
 
     process: str
     height: int | str
     scale: int = 1
+    desktop: str = ""
 
 
 def likenesses(look, picture, box, contents):
@@ -72,8 +73,8 @@ def likenesses(look, picture, box, contents):
     told = subprocess.run(
         [os.environ["FERRIN_ITEM_PICTURE"], look.process, str(look.scale), under, text,
          str(look.height), *(content.words() for content in contents)],
-        env=os.environ | {"QT_QPA_PLATFORM": "offscreen"}, capture_output=True, text=True,
-        check=True)
+        env=os.environ | {"QT_QPA_PLATFORM": "offscreen", "XDG_CURRENT_DESKTOP": look.desktop},
+        capture_output=True, text=True, check=True)
     return [_best(rows, line) for line in told.stdout.splitlines()]
 
 

@@ -142,6 +142,8 @@ class GnomeScreen(Shell, Screen):
             "org/gnome/shell": {"enabled-extensions": f"['{APPINDICATOR}']",
                                 "welcome-dialog-last-shown-version": "'99'"},
             "org/gnome/desktop/interface": {"enable-animations": "false"},
+            # Of the screen that cannot be locked, and others about a session without a login.
+            "org/gnome/desktop/notifications": {"show-banners": "false"},
             # Else it tells in a message that the screen cannot be locked.
             "org/gnome/desktop/lockdown": {"disable-lock-screen": "true"},
         })

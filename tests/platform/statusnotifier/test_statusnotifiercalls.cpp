@@ -14,6 +14,7 @@
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class StatusNotifierCallsTest : public ItemOnTheBus
 {
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void passesTheMenuCallOn();
     void takesNoNotice_data();
     void takesNoNotice();
+    void keepsATokenForTheWindowOfItsClickAlone();
     void survivesMalformedCalls_data();
     void survivesMalformedCalls();
     void cannotBeWritten();
@@ -72,6 +74,21 @@ void StatusNotifierCallsTest::takesNoNotice()
     QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
     QCOMPARE(clicks.size(), 0);
     qunsetenv("XDG_ACTIVATION_TOKEN");
+}
+
+void StatusNotifierCallsTest::keepsATokenForTheWindowOfItsClickAlone()
+{
+    BusPeer *const host = newHost(u"plasmashell"_s);
+    const auto provide = [&](const QString &token) {
+        host->ask(m_service, itemPath, itemInterface, u"ProvideXdgActivationToken"_s, { token });
+    };
+    m_item->setTokenLifetime(1h);
+    provide(u"first"_s);
+    provide(u"second"_s);
+    QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), QByteArray("second"));
+    m_item->setTokenLifetime(1ms);
+    provide(u"third"_s);
+    QTRY_VERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 
 void StatusNotifierCallsTest::survivesMalformedCalls_data()

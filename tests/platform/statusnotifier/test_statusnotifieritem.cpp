@@ -10,9 +10,16 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QFile>
+#include <QGuiApplication>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QXmlStreamReader>
+#include <qpa/qplatformscreen.h>
+#include <qpa/qwindowsysteminterface.h>
+
+#include <private/qhighdpiscaling_p.h>
 
 using namespace ferrin;
 using namespace ferrin::test;
@@ -31,6 +38,16 @@ QString signatureOf(const QVariant &value)
     return value.metaType() == QMetaType::fromType<QDBusArgument>()
         ? value.value<QDBusArgument>().currentSignature()
         : QString::fromLatin1(QDBusMetaType::typeToSignature(value.metaType()));
+}
+
+/// As a desktop does while the program runs: the size in logical pixels changes too.
+void scaleScreen(int scale)
+{
+    QScreen *const screen = QGuiApplication::primaryScreen();
+    QHighDpiScaling::setScreenFactor(screen, scale);
+    const QRect bounds = screen->handle()->geometry().adjusted(0, 0, scale - 1, 0);
+    QWindowSystemInterface::handleScreenGeometryChange(screen, bounds, bounds);
+    QWindowSystemInterface::flushWindowSystemEvents();
 }
 
 } // namespace
@@ -60,6 +77,7 @@ private Q_SLOTS:
     void sparesHostsThatLabelTheToolTip();
     void hasNoToolTipWhileItIsDisabled();
     void tellsOfNewColors();
+    void paintsAnewAtAnotherScale();
     void tellsTheOthersOfWhatOneIsAboutToSee();
     void forgetsReadersThatLeave();
     void tellsTheLabelToItsHostsAlone();
@@ -268,7 +286,10 @@ void StatusNotifierItemTest::repeatsTheLabelToAHostThatHasJustRead()
     gnome->allProperties(m_service, itemPath, itemInterface);
     QStringList heard;
     QTRY_COMPARE((heard += gnome->takeSignals()).count(u"XAyatanaNewLabel"_s), 6);
-    QCOMPARE(gnome->lastArguments(), (QVariantList { u"37% 4:29"_s, u"100% 00:00"_s }));
+    QString news = gnome->lastArguments()[0].toString();
+    QCOMPARE_NE(news, read(gnome, u"XAyatanaLabel"_s).toString());
+    QCOMPARE(news.remove(QChar(0x200e)), u"37% 4:29"_s);
+    QCOMPARE(gnome->lastArguments()[1], QVariant(u"100% 00:00"_s));
 }
 
 void StatusNotifierItemTest::givesIndicatorServicesAnIconByItsName()
@@ -318,6 +339,18 @@ void StatusNotifierItemTest::tellsOfNewColors()
     m_colors->setTrayText(Qt::white);
     settle(*host);
     QCOMPARE(host->takeSignals(), QStringList { u"NewIcon"_s });
+}
+
+void StatusNotifierItemTest::paintsAnewAtAnotherScale()
+{
+    BusPeer *const host = newHost(u"plasmashell"_s);
+    const auto height = [&] { return as<IconPixmapList>(read(host, u"IconPixmap"_s))[0].height; };
+    QCOMPARE(height(), 22);
+    const auto restore = qScopeGuard([] { scaleScreen(1); });
+    scaleScreen(2);
+    settle(*host);
+    QCOMPARE(host->takeSignals(), QStringList(u"NewIcon"_s));
+    QCOMPARE(height(), 44);
 }
 
 void StatusNotifierItemTest::tellsTheOthersOfWhatOneIsAboutToSee()
