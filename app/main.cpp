@@ -22,6 +22,7 @@
 
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QStandardPaths>
 
 #include <utility>
@@ -130,7 +131,7 @@ int main(int argc, char **argv)
     {
         const QGuiApplication application(argc, argv);
         describe(bundle);
-        logMissingWaylandPlugin();
+        logMissingWaylandPlugin(QLibraryInfo::path(QLibraryInfo::PluginsPath));
         path = QCoreApplication::applicationFilePath();
         ended = runApplication(bundle, path);
     }

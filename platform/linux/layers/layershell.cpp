@@ -227,7 +227,7 @@ void LayerShell::bind()
     wl_proxy_wrapper_destroy(wrapper);
     wl_registry_add_listener(registry, &registryListener, &m_shell);
     if (!roundTrip())
-        qCWarning(logger, "The Wayland compositor does not answer");
+        qCCritical(logger, "The Wayland compositor does not answer");
     wl_registry_destroy(registry);
 }
 

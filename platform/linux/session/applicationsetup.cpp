@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QGuiApplication>
-#include <QLibraryInfo>
 #include <QProcessEnvironment>
 
 using namespace Qt::StringLiterals;
@@ -34,13 +33,13 @@ void setUpApplication()
     qputenv(positionsVariable, "1");
 }
 
-void logMissingWaylandPlugin()
+void logMissingWaylandPlugin(const QString &pluginFolder)
 {
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + u"/platforms"_s);
+    const QDir plugins(pluginFolder + u"/platforms"_s);
     if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         || !plugins.entryList({ u"libqwayland*"_s }).isEmpty())
         return;
-    qCWarning(
+    qCCritical(
         logger,
         "Qt's plugin for Wayland is missing (package qt6-wayland): windows cannot open at the "
         "item");

@@ -4,6 +4,7 @@
 #pragma once
 
 class QProcessEnvironment;
+class QString;
 
 namespace ferrin {
 
@@ -13,9 +14,9 @@ namespace ferrin {
 /// that are to show in the desktop's layers.
 void setUpApplication();
 
-/// Says in the log when Qt runs on X11 in a Wayland session for want of its plugin. Call once the
-/// application object is made.
-void logMissingWaylandPlugin();
+/// Says in the log when Qt runs on X11 in a Wayland session because its plugin is not among
+/// Qt's plugins. Call once the application object is made.
+void logMissingWaylandPlugin(const QString &pluginFolder);
 
 /// The environment for another program, which has nothing to do with how this one is set up.
 void withoutSetUp(QProcessEnvironment &environment);

@@ -48,6 +48,7 @@ private Q_SLOTS:
 
     void standsAtTheTopRightOfTheScreen();
     void isAsWideAsItsLength();
+    void keepsToTheRightHandEndOfAStrip();
     void keepsToItsContentWhenTheLengthIsAbsurd_data();
     void keepsToItsContentWhenTheLengthIsAbsurd();
     void tellsOfAClick();
@@ -62,6 +63,8 @@ private Q_SLOTS:
 
 private:
     void drag(QPoint by);
+    /// Where the bar at a place of the screen shows anything but its ground, from its left.
+    [[nodiscard]] QList<int> inkedColumns(const QRect &bar) const;
 
     MemoryDefaultsStore m_store;
     std::unique_ptr<PanelColors> m_colors;
@@ -101,6 +104,26 @@ void OwnBarTest::isAsWideAsItsLength()
     QCOMPARE(m_item->length(), before - 18 + 6.0);
     QCOMPARE(m_item->place().item.right(),
              QGuiApplication::primaryScreen()->availableGeometry().right());
+}
+
+void OwnBarTest::keepsToTheRightHandEndOfAStrip()
+{
+    // i3 gives a dock the whole width of the screen.
+    const QSize ideal = m_window->size();
+    m_window->setMaximumSize({ 780, ideal.height() });
+    m_window->setGeometry(10, 0, 780, ideal.height());
+    QTRY_COMPARE(m_window->width(), 780);
+    const QRect strip = m_window->geometry();
+    QCOMPARE(m_item->place().item,
+             QRect(QPoint(strip.right() - ideal.width() + 1, strip.top()), ideal));
+    QCOMPARE(m_item->place().panel, strip);
+    QCOMPARE(m_window->accessibleRoot()->child(0)->rect(), m_item->place().item);
+
+    const auto isInkedThereAlone = [&] {
+        const QList<int> inked = inkedColumns(strip);
+        return inked.size() > 10 && strip.left() + inked.first() >= m_item->place().item.left();
+    };
+    QTRY_VERIFY(isInkedThereAlone());
 }
 
 void OwnBarTest::keepsToItsContentWhenTheLengthIsAbsurd_data()
@@ -167,6 +190,23 @@ void OwnBarTest::isAButtonToAScreenReader()
     const QSignalSpy clicks(m_item, &StatusItem::activated);
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(clicks.size(), 1);
+}
+
+QList<int> OwnBarTest::inkedColumns(const QRect &bar) const
+{
+    const QImage shown
+        = m_window->screen()->grabWindow(0, bar.x(), bar.y(), bar.width(), bar.height()).toImage();
+    constexpr int border = 1;
+    QList<int> columns;
+    for (int x = border; x < shown.width() - border; ++x) {
+        for (int y = border; y < shown.height() - border; ++y) {
+            if (shown.pixel(x, y) != shown.pixel(border, border)) {
+                columns.append(x);
+                break;
+            }
+        }
+    }
+    return columns;
 }
 
 void OwnBarTest::drag(QPoint by)

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void saysNothingWhereThereIsNone();
     void registersAgainAHundredTimes();
     void registersAgainWhenAHostComesLate();
+    void believesNobodyButTheWatcherOfAHost();
     void keepsTheHostThatItHasAtASecondOne();
     void noticesAHostThatGoes();
     void takesNoNonsenseForAHost();
@@ -146,6 +147,27 @@ void ItemRegistrationTest::noticesAHostThatGoes()
     m_watcher->setHost(false);
     QTRY_VERIFY(!m_registration->isHostPresent());
     m_watcher->setHost(true);
+    QTRY_VERIFY(m_registration->isHostPresent());
+}
+
+void ItemRegistrationTest::believesNobodyButTheWatcherOfAHost()
+{
+    m_watcher->haveHost(false);
+    m_watcher->appear();
+    const QSignalSpy registrations(m_registration.get(), &ItemRegistration::registered);
+    m_registration->start(itemName);
+    QTRY_COMPARE(registrations.size(), 1);
+    settle(*m_peer);
+    // The watcher has a host from now on, but it is somebody else who says so.
+    m_watcher->haveHost(true);
+    m_peer->connection().send(QDBusMessage::createSignal(u"/StatusNotifierWatcher"_s,
+                                                         u"org.kde.StatusNotifierWatcher"_s,
+                                                         u"StatusNotifierHostRegistered"_s));
+    settle(*m_peer);
+    QCOMPARE(registrations.size(), 1);
+    QVERIFY(!m_registration->isHostPresent());
+    m_watcher->setHost(true);
+    QTRY_COMPARE(registrations.size(), 2);
     QTRY_VERIFY(m_registration->isHostPresent());
 }
 

@@ -5,6 +5,8 @@
 
 #include "platform/linux/x11/x11connection.h"
 
+#include <QImage>
+
 #include <array>
 #include <cstring>
 
@@ -14,13 +16,39 @@ namespace {
 
 constexpr quint8 fromAProgram = 0x80;
 
+/// How the server keeps pixels of that depth.
+QImage::Format formatOf(int depth)
+{
+    switch (depth) {
+    case 15:
+        return QImage::Format_RGB555;
+    case 16:
+        return QImage::Format_RGB16;
+    case 30:
+        return QImage::Format_RGB30;
+    case 32:
+        return QImage::Format_ARGB32_Premultiplied;
+    default:
+        return QImage::Format_RGB32;
+    }
+}
+
+quint32 pixelOf(const QColor &color, int depth)
+{
+    QImage image(1, 1, formatOf(depth));
+    image.fill(color);
+    quint32 pixel = 0;
+    std::memcpy(&pixel, image.constBits(), size_t(image.depth()) / 8);
+    return pixel;
+}
+
 } // namespace
 
 FakeTray::FakeTray(const QColor &ground)
     : m_connection(xcb_connect(nullptr, nullptr))
     , m_bar(xcb_generate_id(m_connection))
 {
-    const std::array<quint32, 1> values { ground.rgb() & 0xffffff };
+    const std::array<quint32, 1> values { pixelOf(ground, screen().root_depth) };
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_bar, screen().root, 0, 0, 400, 30, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL,
                       values.data());
@@ -152,6 +180,18 @@ void FakeTray::release(xcb_window_t icon, int button, QPoint at)
     sendButton(XCB_BUTTON_RELEASE, icon, button, at);
 }
 
+void FakeTray::enter(xcb_window_t icon, xcb_notify_mode_t mode)
+{
+    xcb_enter_notify_event_t event {};
+    event.response_type = XCB_ENTER_NOTIFY;
+    event.root = screen().root;
+    event.event = icon;
+    event.mode = mode;
+    xcb_send_event(m_connection, 0, icon, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char *>(&event));
+    xcb_flush(m_connection);
+}
+
 QColor FakeTray::pixel(xcb_window_t icon, QPoint at) const
 {
     const XcbReply<xcb_get_image_reply_t> reply(
@@ -161,9 +201,7 @@ QColor FakeTray::pixel(xcb_window_t icon, QPoint at) const
                             nullptr));
     if (!reply)
         return {};
-    quint32 pixel = 0;
-    std::memcpy(&pixel, xcb_get_image_data(reply.get()), sizeof pixel);
-    return reply->depth == 32 ? QColor::fromRgba(pixel) : QColor::fromRgb(pixel);
+    return QImage(xcb_get_image_data(reply.get()), 1, 1, formatOf(reply->depth)).pixelColor(0, 0);
 }
 
 int FakeTray::depthOf(xcb_window_t icon) const
@@ -171,6 +209,21 @@ int FakeTray::depthOf(xcb_window_t icon) const
     const XcbReply<xcb_get_geometry_reply_t> reply(
         xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, icon), nullptr));
     return reply ? reply->depth : 0;
+}
+
+QSize FakeTray::leastSizeOf(xcb_window_t icon) const
+{
+    constexpr int words = 18;
+    constexpr quint32 leastSizeIsGiven = 1U << 4;
+    const XcbReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection,
+                               xcb_get_property(m_connection, 0, icon, XCB_ATOM_WM_NORMAL_HINTS,
+                                                XCB_ATOM_WM_SIZE_HINTS, 0, words),
+                               nullptr));
+    if (!reply || xcb_get_property_value_length(reply.get()) != words * int(sizeof(quint32)))
+        return {};
+    const auto *const hints = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return hints[0] & leastSizeIsGiven ? QSize(int(hints[5]), int(hints[6])) : QSize();
 }
 
 bool FakeTray::isThere(xcb_window_t icon) const

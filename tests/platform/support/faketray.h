@@ -38,10 +38,14 @@ public:
     /// Sends what a button over the window would.
     void press(xcb_window_t icon, int button);
     void release(xcb_window_t icon, int button, QPoint at = { 3, 3 });
+    /// Sends what a pointer that comes over the window would, or a grab under it that ends.
+    void enter(xcb_window_t icon, xcb_notify_mode_t mode = XCB_NOTIFY_MODE_NORMAL);
 
     [[nodiscard]] xcb_window_t window() const { return m_bar; }
     [[nodiscard]] QColor pixel(xcb_window_t icon, QPoint at) const;
     [[nodiscard]] int depthOf(xcb_window_t icon) const;
+    /// The least size that the window asks for; empty for none.
+    [[nodiscard]] QSize leastSizeOf(xcb_window_t icon) const;
     [[nodiscard]] bool isThere(xcb_window_t icon) const;
 
 private:

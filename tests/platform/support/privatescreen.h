@@ -11,17 +11,18 @@
 namespace ferrin::test {
 
 /// An X server of the test's own that nobody sees; it ends with this object, and with the test
-/// whatever happens. To be made before the application object, which then runs on it.
+/// whatever happens. To be made before the application object, which then runs on it. Its depth is
+/// in bits a pixel.
 class PrivateScreen
 {
 public:
-    PrivateScreen()
+    explicit PrivateScreen(int depth = 24)
     {
         PrivateBus::endWithTest(&m_server);
         m_server.start(QStringLiteral("Xvfb"),
                        { QStringLiteral("-displayfd"), QStringLiteral("1"),
                          QStringLiteral("-screen"), QStringLiteral("0"),
-                         QStringLiteral("800x600x24"), QStringLiteral("-nolisten"),
+                         QStringLiteral("800x600x%1").arg(depth), QStringLiteral("-nolisten"),
                          QStringLiteral("tcp"), QStringLiteral("-noreset") });
         if (!m_server.waitForReadyRead())
             qFatal("There is no X server for the test");
