@@ -16,6 +16,15 @@ SWITCH = "Launch at login"
 ROW = "Open System Settings battery section"
 NO_SETTINGS = "This desktop has no battery settings that Ferrin can open."
 
+INSTALLED = """[Desktop Entry]
+Type=Application
+Name=Some settings
+Exec=some-settings --battery %U
+TryExec=some-settings
+Categories=GTK;Settings;HardwareSettings;
+Keywords=sleep;battery;
+"""
+
 
 class LaunchAtLogin(WithSettings):
     page = "General"
@@ -177,11 +186,13 @@ class TheBatterysOwnPage(WithSettings):
     pages = {"GNOME": "gnome-control-center power",
              "KDE": "systemsettings kcm_powerdevilprofilesconfig",
              "XFCE": "xfce4-power-manager-settings", "MATE": "mate-power-preferences",
-             "X-Cinnamon": "cinnamon-settings power", "LXQt": "lxqt-config-powermanagement"}
+             "X-Cinnamon": "cinnamon-settings power", "LXQt": "lxqt-config-powermanagement",
+             "COSMIC": "cosmic-settings power", "Pantheon": "io.elementary.settings settings://power",
+             "Deepin": "dde-control-center -s -p power"}
 
     def prepare(self):
         programs = [page.split()[0] for page in self.pages.values()]
-        self.stand_ins = StandIns(self.session, *programs)
+        self.stand_ins = StandIns(self.session, *programs, "some-settings")
         self.environment = self.on("GNOME")
 
     def on(self, name):
@@ -196,6 +207,17 @@ class TheBatterysOwnPage(WithSettings):
                 self.window.has_closed()
                 eventually(lambda: self.stand_ins.started()[number:] == [page], page)
                 self.assertTrue(self.dashboard.program.is_running())
+
+    def test_on_other_desktops_an_installed_program_for_it_opens(self):
+        self.session.write("data/applications/org.example.Some.desktop", INSTALLED)
+        nowhere = os.path.join(self.session.folder, "nowhere")
+        for number, names in enumerate(("sway:wlroots", "Hyprland", "Somewhere else")):
+            with self.subTest(names):
+                self.begin_anew(self.on(names) | {"XDG_DATA_DIRS": nowhere})
+                self.window.click(ROW)
+                self.window.has_closed()
+                eventually(lambda: self.stand_ins.started()[number:] == ["some-settings --battery"],
+                           "the program opens")
 
     def test_where_there_is_none_the_window_stays_and_says_so(self):
         lines = {"sway:wlroots": "Unable to open the battery settings: no power page is known for "

@@ -159,24 +159,38 @@ QString execOfProgram(const QString &path)
     return needsQuotes ? u'"' + exec + u'"' : exec;
 }
 
+QStringList wordsOfExec(const QString &exec)
+{
+    QStringList words;
+    // Absent between two words; a quoted one may be empty.
+    std::optional<QString> word;
+    bool isQuoted = false;
+    const auto endWord = [&] {
+        if (word)
+            words.append(*word);
+        word.reset();
+    };
+    for (qsizetype i = 0; i < exec.size(); ++i) {
+        if (exec[i] == u'"') {
+            isQuoted = !isQuoted;
+            word = word.value_or(QString());
+        } else if (!isQuoted && exec[i].isSpace()) {
+            endWord();
+        } else if (exec[i] == u'%' && i + 1 < exec.size() && exec[i + 1] != u'%') {
+            ++i;
+        } else {
+            if ((exec[i] == u'%' || exec[i] == u'\\') && i + 1 < exec.size())
+                ++i;
+            word = word.value_or(QString()) + exec[i];
+        }
+    }
+    endWord();
+    return words;
+}
+
 QString programOfExec(const QString &exec)
 {
-    const QString text = exec.trimmed();
-    QString program;
-    bool isQuoted = false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'"') {
-            isQuoted = !isQuoted;
-            continue;
-        }
-        if (!isQuoted && text[i].isSpace())
-            break;
-        const bool isEscape = text[i] == u'\\' || text.mid(i, 2) == u"%%"_s;
-        if (isEscape && i + 1 < text.size())
-            ++i;
-        program += text[i];
-    }
-    return program;
+    return wordsOfExec(exec).value(0);
 }
 
 } // namespace ferrin

@@ -49,8 +49,11 @@ private:
 /// The value of the key Exec that starts this program without arguments.
 [[nodiscard]] QString execOfProgram(const QString &path);
 
-/// The program that a value of the key Exec starts, as it is written there; empty when there is
-/// none.
+/// The program that a value of the key Exec starts, as it is written there, and its arguments, for
+/// a start without files: the field codes stand for nothing. Empty when there is none.
+[[nodiscard]] QStringList wordsOfExec(const QString &exec);
+
+/// The first of these words; empty when there is none.
 [[nodiscard]] QString programOfExec(const QString &exec);
 
 } // namespace ferrin

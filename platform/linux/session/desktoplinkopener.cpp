@@ -65,7 +65,8 @@ bool DesktopLinkOpener::openSettings(const QUrl &link)
         qCCritical(logger, "Unable to open %s: no such settings", qUtf8Printable(link.toString()));
         return false;
     }
-    const auto pages = powerPagesOf(m_desktops) + installedPowerSettings(m_dataFolders, m_desktops);
+    const auto pages
+        = powerPagesOf(m_desktops) + installedPowerSettings(m_dataFolders, m_desktops, m_starter);
     if (pages.isEmpty()) {
         qCCritical(logger, "Unable to open the battery settings: no power page is known for \"%s\"",
                    qUtf8Printable(m_desktops.join(u':')));

@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSet>
 
 #include <algorithm>
@@ -39,20 +38,25 @@ bool hasKeyword(const DesktopEntry &entry, const QString &word)
     return entry.list(u"Keywords"_s).contains(word, Qt::CaseInsensitive);
 }
 
-/// Without the field codes, of which there is nothing to hand over; no program for a broken line.
+bool canBeStarted(const DesktopEntry &entry, const ProgramStarter &starter)
+{
+    const QString required = entry.value(u"TryExec"_s).value_or(QString());
+    return !entry.flag(u"Terminal"_s).value_or(false)
+        && (required.isEmpty() || starter.isInstalled(required));
+}
+
+/// No program for a line without one.
 CommandLine commandOf(const DesktopEntry &entry)
 {
-    QStringList words = QProcess::splitCommand(entry.value(u"Exec"_s).value_or(QString()));
-    words.removeIf([](const QString &word) { return word.size() == 2 && word[0] == u'%'; });
-    if (words.isEmpty())
-        return {};
-    return { words.first(), words.mid(1) };
+    const QStringList words = wordsOfExec(entry.value(u"Exec"_s).value_or(QString()));
+    return { words.value(0), words.mid(1) };
 }
 
 } // namespace
 
 QList<CommandLine> installedPowerSettings(const QStringList &dataFolders,
-                                          const QStringList &desktops)
+                                          const QStringList &desktops,
+                                          const ProgramStarter &starter)
 {
     QList<CommandLine> ofTheBattery;
     QList<CommandLine> ofThePower;
@@ -67,7 +71,8 @@ QList<CommandLine> installedPowerSettings(const QStringList &dataFolders,
                 continue;
             seen.insert(name);
             const DesktopEntry entry(file.readAll());
-            if (!entry.list(u"Categories"_s).contains(u"Settings"_s) || !isShownOn(entry, desktops))
+            if (!entry.list(u"Categories"_s).contains(u"Settings"_s) || !isShownOn(entry, desktops)
+                || !canBeStarted(entry, starter))
                 continue;
             if (hasKeyword(entry, u"battery"_s))
                 ofTheBattery.append(commandOf(entry));

@@ -12,10 +12,12 @@ namespace ferrin {
 
 /// The installed programs that set up the power or the battery on one of these desktops: those
 /// whose desktop entries have the category "Settings" and the keyword "battery" or "power", with
-/// "battery" first, each of these in the order of the folders and of the names in them. The folders
-/// are those that hold "applications", such as "/usr/share"; an entry in an earlier one hides its
-/// namesakes.
+/// "battery" first, each of these in the order of the folders and of the names in them. Programs
+/// that need a terminal are none. The folders are those that hold "applications", such as
+/// "/usr/share"; an entry in an earlier one hides its namesakes. The starter knows what is
+/// installed.
 [[nodiscard]] QList<CommandLine> installedPowerSettings(const QStringList &dataFolders,
-                                                        const QStringList &desktops);
+                                                        const QStringList &desktops,
+                                                        const ProgramStarter &starter);
 
 } // namespace ferrin

@@ -13,14 +13,17 @@ struct Page
 {
     const char *desktop;
     const char *program;
-    /// Null where the program shows nothing else.
-    const char *argument;
+    /// With blanks between them; null where the program shows nothing else.
+    const char *arguments;
 };
 
 // Of one desktop, the newer program first.
 constexpr Page pages[] = {
     { "Budgie", "budgie-control-center", "power" },
     { "Budgie", "gnome-control-center", "power" },
+    { "COSMIC", "cosmic-settings", "power" },
+    { "DDE", "dde-control-center", "-s -p power" },
+    { "Deepin", "dde-control-center", "-s -p power" },
     { "GNOME", "gnome-control-center", "power" },
     { "KDE", "systemsettings", "kcm_powerdevilprofilesconfig" },
     { "KDE", "systemsettings5", "powerdevilprofilesconfig" },
@@ -28,6 +31,8 @@ constexpr Page pages[] = {
     { "KDE", "kcmshell5", "kcm_powerdevilprofilesconfig" },
     { "LXQt", "lxqt-config-powermanagement", nullptr },
     { "MATE", "mate-power-preferences", nullptr },
+    { "Pantheon", "io.elementary.settings", "settings://power" },
+    { "Pantheon", "io.elementary.switchboard", "settings://power" },
     { "Unity", "unity-control-center", "power" },
     { "Unity", "gnome-control-center", "power" },
     { "X-Cinnamon", "cinnamon-settings", "power" },
@@ -43,9 +48,10 @@ QList<CommandLine> powerPagesOf(const QStringList &desktops)
         for (const Page &page : pages) {
             if (desktop.compare(QLatin1String(page.desktop), Qt::CaseInsensitive) != 0)
                 continue;
-            CommandLine command { QString::fromLatin1(page.program), {} };
-            if (page.argument)
-                command.arguments.append(QString::fromLatin1(page.argument));
+            const CommandLine command {
+                QString::fromLatin1(page.program),
+                QString::fromLatin1(page.arguments).split(u' ', Qt::SkipEmptyParts)
+            };
             if (!programs.contains(command))
                 programs.append(command);
         }

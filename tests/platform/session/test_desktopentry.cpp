@@ -153,6 +153,31 @@ private Q_SLOTS:
         QCOMPARE(programOfExec(exec), program);
     }
 
+    void findsTheWordsOfAnExec_data()
+    {
+        QTest::addColumn<QString>("exec");
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("plain") << u"settings  power\t-v "_s
+                               << QStringList { u"settings"_s, u"power"_s, u"-v"_s };
+        QTest::newRow("quoted") << u"settings \"my \\\"page\\\"\" --at=\"a b\""_s
+                                << QStringList { u"settings"_s, u"my \"page\""_s, u"--at=a b"_s };
+        QTest::newRow("empty in quotes")
+            << u"settings \"\" x"_s << QStringList { u"settings"_s, u""_s, u"x"_s };
+        QTest::newRow("field codes")
+            << u"settings %U -x %i --url=%u 100%%"_s
+            << QStringList { u"settings"_s, u"-x"_s, u"--url="_s, u"100%"_s };
+        QTest::newRow("a percent at the end")
+            << u"settings %"_s << QStringList { u"settings"_s, u"%"_s };
+        QTest::newRow("nothing") << u" "_s << QStringList();
+    }
+
+    void findsTheWordsOfAnExec()
+    {
+        QFETCH(QString, exec);
+        QFETCH(QStringList, words);
+        QCOMPARE(wordsOfExec(exec), words);
+    }
+
     void quotesAProgramOnlyWhereItMust()
     {
         QCOMPARE(execOfProgram(u"/usr/bin/ferrin"_s), u"/usr/bin/ferrin"_s);

@@ -148,6 +148,12 @@ private Q_SLOTS:
         row("MATE", { u"mate-power-preferences"_s }, gnome.first(1));
         row("X-Cinnamon", { u"cinnamon-settings"_s, u"power"_s }, gnome.first(1));
         row("LXQt", { u"lxqt-config-powermanagement"_s });
+        row("COSMIC", { u"cosmic-settings"_s, u"power"_s }, gnome.first(1));
+        row("Pantheon", { u"io.elementary.settings"_s, u"settings://power"_s });
+        row("pantheon", { u"io.elementary.switchboard"_s, u"settings://power"_s });
+        const QStringList deepin { u"dde-control-center"_s, u"-s"_s, u"-p"_s, u"power"_s };
+        row("Deepin", deepin);
+        row("DDE", deepin);
     }
 
     void opensTheDesktopsPowerPage()
@@ -167,7 +173,7 @@ private Q_SLOTS:
     {
         const LogCapture log;
         Fixture f;
-        f.desktops = { u"COSMIC"_s };
+        f.desktops = { u"Hyprland"_s };
         f.starter.installed = { u"some-settings"_s, u"other-settings"_s };
         f.install(u"a-power"_s,
                   "Exec=other-settings\nCategories=Settings;\nKeywords=Power;Suspend;");
@@ -193,6 +199,8 @@ private Q_SLOTS:
         QTest::newRow("only for others") << good + "OnlyShowIn=KDE;";
         QTest::newRow("not for this one") << good + "NotShowIn=GNOME;sway;";
         QTest::newRow("hidden") << good + "Hidden=true";
+        QTest::newRow("in a terminal") << good + "Terminal=true";
+        QTest::newRow("for a program that is missing") << good + "TryExec=another";
         QTest::newRow("no command") << QByteArray("Categories=Settings;\nKeywords=battery;");
     }
 
