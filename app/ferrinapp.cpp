@@ -64,8 +64,7 @@ void FerrinApp::showOrHideDashboard()
         setDashboardShown(false);
         return;
     }
-    const StatusItem *const item = m_statusBar ? m_statusBar->item() : nullptr;
-    m_windows->showDashboard(item ? item->place() : ItemPlace());
+    m_windows->showDashboard(itemPlace());
     m_dismissal.popoverShown();
 }
 
@@ -83,7 +82,13 @@ bool FerrinApp::isInUse() const
 void FerrinApp::openWindow(const QString &identifier)
 {
     if (Windows *const all = windows())
-        all->openWindow(identifier);
+        all->openWindow(identifier, itemPlace());
+}
+
+ItemPlace FerrinApp::itemPlace() const
+{
+    const StatusItem *const item = m_statusBar ? m_statusBar->item() : nullptr;
+    return item ? item->place() : ItemPlace();
 }
 
 Windows *FerrinApp::windows()

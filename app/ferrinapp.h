@@ -67,6 +67,7 @@ private:
     void takeStatusItem(StatusItem &item);
     void showOrHideDashboard();
     void openWindow(const QString &identifier);
+    [[nodiscard]] ItemPlace itemPlace() const;
     [[nodiscard]] Windows *windows();
 
     Parts m_parts;

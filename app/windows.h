@@ -34,8 +34,8 @@ public:
     /// Whether this is the dashboard, or a window that belongs to it.
     [[nodiscard]] virtual bool isOfDashboard(const QWindow &window) const = 0;
 
-    /// Opens the window with this identifier; an open one comes to the front.
-    virtual void openWindow(const QString &identifier) = 0;
+    /// Opens the window with this identifier on the item's screen; an open one comes to the front.
+    virtual void openWindow(const QString &identifier, const ItemPlace &place) = 0;
 
     /// Whether any of them is visible.
     [[nodiscard]] virtual bool isAnyShown() const = 0;
@@ -67,5 +67,5 @@ public:
 
 } // namespace ferrin
 
-#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/6"
+#define FerrinWindowsFactory_iid "org.ferrin.Ferrin.WindowsFactory/7"
 Q_DECLARE_INTERFACE(ferrin::WindowsFactory, FerrinWindowsFactory_iid)

@@ -4,6 +4,7 @@
 #include "dashboard/dashboardwindow.h"
 
 #include "base/logging.h"
+#include "popover/itemscreen.h"
 #include "popover/popoverdesktop.h"
 #include "quick/quickengine.h"
 
@@ -42,8 +43,7 @@ DashboardWindow::DashboardWindow(QuickEngine &engine)
 void DashboardWindow::openAt(const ItemPlace &place)
 {
     m_item = place;
-    QScreen *const under = QGuiApplication::screenAt(place.item.center());
-    m_screen = under && !place.item.isEmpty() ? under : QGuiApplication::primaryScreen();
+    m_screen = screenOf(place);
     followScreen();
     placeAtItem();
     desktop().prepare(*this);

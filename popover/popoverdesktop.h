@@ -11,9 +11,9 @@ class QWindow;
 
 namespace ferrin {
 
-/// What a popover needs of the desktop beyond what QWindow offers. This base suits platforms that
-/// always blend windows and list them by their type; other platforms derive from it. Outlives the
-/// windows that it has prepared.
+/// What a popover, and the other windows, need of the desktop beyond what QWindow offers. This base
+/// suits platforms that always blend windows and list them by their type; other platforms derive
+/// from it. Outlives the windows that it has prepared.
 class PopoverDesktop
 {
 public:
@@ -23,6 +23,9 @@ public:
 
     /// Whether a half-transparent pixel shows what is behind the window.
     [[nodiscard]] virtual bool blends() const { return true; }
+
+    /// Whether a place that an ordinary window asks for is where it then stands.
+    [[nodiscard]] virtual bool placesWindows() const { return true; }
 
     /// Call for every place that the window gets; in the desktop's logical pixels.
     virtual void place(QWindow &window, const QRect &frame);

@@ -3,10 +3,13 @@
 
 #include "settingswindow/settingswindow.h"
 
+#include "popover/popoverdesktop.h"
 #include "quick/quickengine.h"
 #include "settingswindow/settings.h"
+#include "settingswindow/windowplace.h"
+#include "state/defaultsstore.h"
 
-#include <QGuiApplication>
+#include <QCloseEvent>
 #include <QIcon>
 #include <QScreen>
 
@@ -15,13 +18,21 @@ FERRIN_USE_QML_FILES(ferrin_settingswindow)
 
 namespace ferrin {
 
+namespace {
+
+const QString placeKey = QStringLiteral("settingsWindowPlace");
+
+} // namespace
+
 QString SettingsWindow::identifier()
 {
     return QStringLiteral("FerrinSettings");
 }
 
-SettingsWindow::SettingsWindow(QQmlEngine &engine)
+SettingsWindow::SettingsWindow(QuickEngine &engine, DefaultsStore &store)
     : QQuickView(&engine, nullptr)
+    , m_store(store)
+    , m_canBePlaced(engine.popovers().placesWindows())
 {
     setObjectName(identifier());
     setTitle(QStringLiteral("Ferrin Settings"));
@@ -30,9 +41,6 @@ SettingsWindow::SettingsWindow(QQmlEngine &engine)
     setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/SettingsView.qml")));
     setMinimumSize(size());
     setMaximumSize(size());
-    QRect frame(QPoint(), size());
-    frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
-    setPosition(frame.topLeft());
     // Only window lists show the icon, so the first frame does not wait for it.
     connect(
         this, &QQuickWindow::frameSwapped, this,
@@ -40,11 +48,39 @@ SettingsWindow::SettingsWindow(QQmlEngine &engine)
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-void SettingsWindow::open()
+void SettingsWindow::open(QScreen *screen)
 {
+    if (screen && !isVisible())
+        place(*screen);
     show();
     raise();
     requestActivate();
+}
+
+void SettingsWindow::place(QScreen &screen)
+{
+    setScreen(&screen);
+    const auto kept = windowPlaceIn(m_store.string(placeKey).value_or(QString()));
+    if (m_canBePlaced && kept && kept->screen == screen.name())
+        setFramePosition(keptWithin(screen.geometry().topLeft() + kept->corner, size(),
+                                    screen.availableGeometry()));
+    else
+        setPosition(centredIn(screen.availableGeometry(), size()));
+}
+
+void SettingsWindow::closeEvent(QCloseEvent *event)
+{
+    rememberPlace();
+    QQuickView::closeEvent(event);
+}
+
+void SettingsWindow::rememberPlace()
+{
+    if (!m_canBePlaced || !isVisible())
+        return;
+    const WindowPlace place { .screen = screen()->name(),
+                              .corner = framePosition() - screen()->geometry().topLeft() };
+    m_store.setObject(placeKey, toText(place));
 }
 
 } // namespace ferrin

@@ -5,23 +5,40 @@
 
 #include <QQuickView>
 
+class QScreen;
+
 namespace ferrin {
 
-/// The window "Ferrin Settings": a single instance of the size of its content, placed at the centre
-/// of the primary screen at first.
+class DefaultsStore;
+class QuickEngine;
+
+/// The window "Ferrin Settings": a single instance of the size of its content. Where the desktop
+/// lets windows be placed, the window is remembered where the user has left it on a screen, also by
+/// the next start.
 class SettingsWindow final : public QQuickView
 {
     Q_OBJECT
 
 public:
-    /// The engine outlives it.
-    explicit SettingsWindow(QQmlEngine &engine);
+    /// The engine and the store outlive it.
+    SettingsWindow(QuickEngine &engine, DefaultsStore &store);
 
     /// The identifier that opens the window.
     [[nodiscard]] static QString identifier();
 
-    /// Shows the window, or brings the open one to the front.
-    void open();
+    /// Shows the window on this screen, where it last stood there, else in the middle, or brings
+    /// the open one to the front. Without a screen the desktop places it.
+    void open(QScreen *screen);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void place(QScreen &screen);
+    void rememberPlace();
+
+    DefaultsStore &m_store;
+    bool m_canBePlaced;
 };
 
 } // namespace ferrin

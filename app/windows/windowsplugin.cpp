@@ -8,6 +8,7 @@
 #include "dashboard/battery.h"
 #include "dashboard/dashboard.h"
 #include "dashboard/dashboardwindow.h"
+#include "popover/itemscreen.h"
 #include "quick/quickengine.h"
 #include "settingswindow/general/colortheme.h"
 #include "settingswindow/general/launchatlogin.h"
@@ -21,6 +22,7 @@
 #include "state/appstatus.h"
 #include "state/displayswitches.h"
 #include "state/settingsdata.h"
+#include "state/shareddefaults.h"
 #include "updates/appupdater.h"
 
 #include <QCoreApplication>
@@ -60,7 +62,7 @@ public:
                          qOverload<>(&QTimer::start));
         QObject::connect(&m_preparation, &QTimer::timeout, &m_engine, [this] { settings(); });
         QObject::connect(&m_dashboardState, &Dashboard::settingsRequested, &m_engine,
-                         [this] { openWindow(SettingsWindow::identifier()); });
+                         [this] { openWindow(SettingsWindow::identifier(), m_item); });
         QObject::connect(&m_settingsState, &Settings::dismissRequested, &m_engine,
                          [this] { m_settings->close(); });
         QObject::connect(&m_settingsState, &Settings::quitRequested, qApp, &QCoreApplication::quit);
@@ -68,6 +70,7 @@ public:
 
     void showDashboard(const ItemPlace &place) override
     {
+        m_item = place;
         m_dashboard = std::make_unique<DashboardWindow>(m_engine);
         QObject::connect(m_dashboard.get(), &DashboardWindow::dismissed, &m_engine,
                          [this] { dashboardClosed(); });
@@ -95,15 +98,16 @@ public:
         return m_dashboard && (&window == m_dashboard.get() || m_dashboard->isAncestorOf(&window));
     }
 
-    void openWindow(const QString &identifier) override
+    void openWindow(const QString &identifier, const ItemPlace &place) override
     {
+        QScreen *const screen = screenOf(place);
         if (identifier == SettingsWindow::identifier()) {
-            settings().open();
+            settings().open(screen);
         } else if (identifier == UpdateWindow::identifier()) {
             if (!m_updateWindow)
                 m_updateWindow = std::make_unique<UpdateWindow>(m_engine, m_updates);
-            m_updateWindow->open(m_settings && m_settings->isVisible() ? m_settings.get()
-                                                                       : nullptr);
+            m_updateWindow->open(
+                screen, m_settings && m_settings->isVisible() ? m_settings.get() : nullptr);
         }
     }
 
@@ -120,7 +124,7 @@ private:
     SettingsWindow &settings()
     {
         if (!m_settings)
-            m_settings = std::make_unique<SettingsWindow>(m_engine);
+            m_settings = std::make_unique<SettingsWindow>(m_engine, sharedDefaults());
         return *m_settings;
     }
 
@@ -136,6 +140,8 @@ private:
     MenuBarIcon m_menuBarIcon;
     Settings m_settingsState;
     SoftwareUpdates m_updates;
+    /// Where the dashboard was last opened.
+    ItemPlace m_item;
     std::unique_ptr<DashboardWindow> m_dashboard;
     std::unique_ptr<SettingsWindow> m_settings;
     std::unique_ptr<UpdateWindow> m_updateWindow;

@@ -5,9 +5,9 @@
 
 #include "quick/quickengine.h"
 #include "settingswindow/updates/softwareupdates.h"
+#include "settingswindow/windowplace.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QQuickItem>
 #include <QScreen>
@@ -41,25 +41,24 @@ UpdateWindow::UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates)
     });
 }
 
-void UpdateWindow::open(const QWindow *beside)
+void UpdateWindow::open(QScreen *screen, const QWindow *beside)
 {
     if (m_updates.stage() == SoftwareUpdates::Stage::Idle)
         return;
     fit();
     if (!isVisible())
-        place(beside);
+        place(screen, beside);
     show();
     raise();
     requestActivate();
 }
 
-void UpdateWindow::place(const QWindow *beside)
+void UpdateWindow::place(QScreen *screen, const QWindow *beside)
 {
-    QScreen *const wanted = beside ? beside->screen() : QGuiApplication::primaryScreen();
-    setScreen(wanted);
-    QRect frame(QPoint(), size());
-    frame.moveCenter(beside ? beside->geometry().center() : wanted->availableGeometry().center());
-    setPosition(frame.topLeft());
+    if (!screen && !beside)
+        return;
+    setScreen(beside ? beside->screen() : screen);
+    setPosition(centredIn(beside ? beside->geometry() : screen->availableGeometry(), size()));
 }
 
 void UpdateWindow::closeEvent(QCloseEvent *event)

@@ -5,6 +5,8 @@
 
 #include <QQuickView>
 
+class QScreen;
+
 namespace ferrin {
 
 class SoftwareUpdates;
@@ -24,15 +26,16 @@ public:
     [[nodiscard]] static QString identifier();
 
     /// Shows the window, or brings the open one to the front. Without a session nothing opens. A
-    /// new one is centred over `beside`, or on the first screen without that.
-    void open(const QWindow *beside = nullptr);
+    /// new one is centred over `beside`, or on the screen without that, or placed by the desktop
+    /// without either.
+    void open(QScreen *screen, const QWindow *beside = nullptr);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
     void fit();
-    void place(const QWindow *beside);
+    void place(QScreen *screen, const QWindow *beside);
 
     SoftwareUpdates &m_updates;
 };

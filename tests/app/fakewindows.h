@@ -25,7 +25,11 @@ public:
     }
     [[nodiscard]] bool isOfDashboard(const QWindow &) const override { return false; }
     void hideDashboard() override { m_log.append(QStringLiteral("hide")); }
-    void openWindow(const QString &identifier) override { m_log.append(identifier); }
+    void openWindow(const QString &identifier, const ItemPlace &place) override
+    {
+        m_log.append(identifier);
+        shownAt = place;
+    }
     [[nodiscard]] bool isAnyShown() const override { return areShown; }
 
     ItemPlace shownAt;

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void isTrueExactlyWhileTheDashboardIsShown();
     void staysClosedWhenTheWindowsAreMissing();
     void opensTheSettingsWindowByItsIdentifier();
+    void opensWindowsWhereTheItemStands();
     void closesTheDashboardForTheSettings();
     void startsTheUpdaterWhileItIsConstructed();
     void opensTheWindowOfUpdatesWhenTheUpdaterWantsIt();
@@ -206,6 +207,22 @@ void FerrinAppTest::opensTheSettingsWindowByItsIdentifier()
     Stage stage;
     stage.app.openSettings();
     QCOMPARE(stage.log, QStringList({ u"load"_s, u"FerrinSettings"_s }));
+}
+
+void FerrinAppTest::opensWindowsWhereTheItemStands()
+{
+    test::FakeStatusItem item;
+    item.stands = { .item { 700, 10, 1, 1 } };
+    test::FakeStatusBar bar;
+    bar.onlyItem = &item;
+    QStringList log;
+    auto windows = std::make_unique<test::FakeWindows>(log);
+    const test::FakeWindows *const fake = windows.get();
+    FerrinApp app({ .loadWindows = [&windows] { return std::move(windows); },
+                    .fillStatusItem = [](StatusItem &) {} });
+    app.useStatusBar(bar);
+    app.openSettings();
+    QCOMPARE(fake->shownAt, item.stands);
 }
 
 void FerrinAppTest::closesTheDashboardForTheSettings()

@@ -44,12 +44,15 @@ class WindowsTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void cleanup();
 
     void showsOneWindowWhenTheSettingsAreOpenedTwice();
     void opensNothingByAnotherIdentifier();
     void showsTheWindowOfUpdatesWhileThereIsSomethingToShow();
     void letsNobodyResizeTheSettings();
     void placesTheSettingsInTheMiddleOfTheScreen();
+    void placesTheSettingsWhereTheyWereLeft();
+    void asksNoPlaceWhereTheDesktopGivesNone();
     void showsTheProgramsIconInTheListsOfWindows();
     void makesTheSettingsReadyWhenThePointerComesToTheirEntry();
     void dropsTheDashboardWhenItCloses();
@@ -77,25 +80,33 @@ void WindowsTest::initTestCase()
     AppUpdater::setParts(m_updates.parts(sharedDefaults()));
 }
 
+void WindowsTest::cleanup()
+{
+    m_windows.reset();
+    m_platform.popovers.places = true;
+    sharedDefaults().removeObject(u"settingsWindowPlace"_s);
+}
+
 void WindowsTest::init()
 {
     QPluginLoader loader(QStringLiteral(FERRIN_WINDOWS_MODULE));
     auto *const factory = qobject_cast<WindowsFactory *>(loader.instance());
     QVERIFY2(factory, qPrintable(loader.errorString()));
+    m_windows.reset();
     m_windows = factory->create(m_platform.all());
     m_windows->dashboardClosed = m_windows->dashboardLostFocus = [] {};
 }
 
 void WindowsTest::showsOneWindowWhenTheSettingsAreOpenedTwice()
 {
-    m_windows->openWindow(u"FerrinSettings"_s);
-    m_windows->openWindow(u"FerrinSettings"_s);
+    m_windows->openWindow(u"FerrinSettings"_s, {});
+    m_windows->openWindow(u"FerrinSettings"_s, {});
     QCOMPARE(visibleWindows(u"Ferrin Settings"_s).size(), 1);
 }
 
 void WindowsTest::opensNothingByAnotherIdentifier()
 {
-    m_windows->openWindow(u"FerrinSetting"_s);
+    m_windows->openWindow(u"FerrinSetting"_s, {});
     QVERIFY(visibleWindows(u"Ferrin Settings"_s).isEmpty());
 }
 
@@ -103,7 +114,7 @@ void WindowsTest::showsTheWindowOfUpdatesWhileThereIsSomethingToShow()
 {
     Updater &updater = *AppUpdater::shared().controller()->updater();
     updater.checkForUpdates();
-    m_windows->openWindow(u"FerrinUpdate"_s);
+    m_windows->openWindow(u"FerrinUpdate"_s, {});
     QCOMPARE(visibleWindows(u"Software Update"_s).size(), 1);
     updater.session().cancel();
     QVERIFY(visibleWindows(u"Software Update"_s).isEmpty());
@@ -111,7 +122,7 @@ void WindowsTest::showsTheWindowOfUpdatesWhileThereIsSomethingToShow()
 
 void WindowsTest::letsNobodyResizeTheSettings()
 {
-    m_windows->openWindow(u"FerrinSettings"_s);
+    m_windows->openWindow(u"FerrinSettings"_s, {});
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
     QCOMPARE(window->minimumSize(), window->size());
     QCOMPARE(window->maximumSize(), window->size());
@@ -120,15 +131,40 @@ void WindowsTest::letsNobodyResizeTheSettings()
 
 void WindowsTest::placesTheSettingsInTheMiddleOfTheScreen()
 {
-    m_windows->openWindow(u"FerrinSettings"_s);
+    m_windows->openWindow(u"FerrinSettings"_s, {});
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
     QCOMPARE(window->geometry().center(),
              QGuiApplication::primaryScreen()->availableGeometry().center());
 }
 
+void WindowsTest::placesTheSettingsWhereTheyWereLeft()
+{
+    m_windows->openWindow(u"FerrinSettings"_s, {});
+    QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
+    window->setPosition(41, 52);
+    QVERIFY(window->close());
+    m_windows->openWindow(u"FerrinSettings"_s, {});
+    QCOMPARE(window->position(), QPoint(41, 52));
+    QVERIFY(window->close());
+    // As the next start does.
+    init();
+    m_windows->openWindow(u"FerrinSettings"_s, {});
+    QCOMPARE(visibleWindows(u"Ferrin Settings"_s).first()->position(), QPoint(41, 52));
+}
+
+void WindowsTest::asksNoPlaceWhereTheDesktopGivesNone()
+{
+    m_platform.popovers.places = false;
+    init();
+    m_windows->openWindow(u"FerrinSettings"_s, {});
+    visibleWindows(u"Ferrin Settings"_s).first()->setPosition(41, 52);
+    QVERIFY(visibleWindows(u"Ferrin Settings"_s).first()->close());
+    QVERIFY(!sharedDefaults().string(u"settingsWindowPlace"_s));
+}
+
 void WindowsTest::showsTheProgramsIconInTheListsOfWindows()
 {
-    m_windows->openWindow(u"FerrinSettings"_s);
+    m_windows->openWindow(u"FerrinSettings"_s, {});
     const QWindow *const window = visibleWindows(u"Ferrin Settings"_s).first();
     QTRY_VERIFY(!window->icon().pixmap(32).isNull());
 }

@@ -11,12 +11,20 @@
 
 namespace ferrin::test {
 
+/// A desktop on which windows stand where they ask to, or where it likes.
+struct FakePopoverDesktop final : PopoverDesktop
+{
+    [[nodiscard]] bool placesWindows() const override { return places; }
+
+    bool places = true;
+};
+
 /// A desktop for the windows of which the test decides everything.
 struct FakeWindowsPlatform
 {
     [[nodiscard]] WindowsPlatform all() { return { popovers, panel, loginItem, links, {} }; }
 
-    PopoverDesktop popovers;
+    FakePopoverDesktop popovers;
     FakePanelAppearance panel;
     FakeLoginItem loginItem;
     FakeLinkOpener links;

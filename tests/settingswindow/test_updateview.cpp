@@ -277,10 +277,10 @@ private Q_SLOTS:
     {
         test::UpdateScenes f;
         UpdateWindow window(f.stage.engine, f.stage.updates);
-        window.open();
+        window.open(nullptr);
         QVERIFY(!window.isVisible());
         f.check();
-        window.open();
+        window.open(nullptr);
         QVERIFY(window.isVisible());
         QCOMPARE(window.title(), u"Software Update"_s);
         const int height = window.height();
@@ -298,7 +298,7 @@ private Q_SLOTS:
         settings.setGeometry(300, 200, 400, 300);
         UpdateWindow window(f.stage.engine, f.stage.updates);
         f.check();
-        window.open(&settings);
+        window.open(QGuiApplication::primaryScreen(), &settings);
         QCOMPARE(window.screen(), settings.screen());
         const QPoint apart = window.geometry().center() - settings.geometry().center();
         QVERIFY2(apart.manhattanLength() <= 2, qPrintable(QString::number(apart.x())));
@@ -310,7 +310,7 @@ private Q_SLOTS:
         UpdateWindow window(f.stage.engine, f.stage.updates);
         f.offer();
         f.stage.updates.download();
-        window.open();
+        window.open(nullptr);
         QVERIFY(window.close());
         QCOMPARE(f.stage.updater.session().stage(), Stage::idle);
         QCOMPARE(f.stage.updatePlatform.engine.cancels, 1);

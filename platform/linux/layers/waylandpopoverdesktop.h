@@ -14,6 +14,8 @@ namespace ferrin {
 class WaylandPopoverDesktop final : public PopoverDesktop
 {
 public:
+    /// Only the compositor knows where they stand.
+    [[nodiscard]] bool placesWindows() const override { return false; }
     void place(QWindow &window, const QRect &frame) override;
     void prepare(QWindow &window) override;
     void setOutline(QWindow &window, const QPainterPath &outline) override;

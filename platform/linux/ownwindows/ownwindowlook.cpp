@@ -4,8 +4,8 @@
 #include "platform/linux/ownwindows/ownwindowlook.h"
 
 #include "platform/linux/panelcolors/panelcolors.h"
+#include "popover/itemscreen.h"
 
-#include <QGuiApplication>
 #include <QScreen>
 
 namespace ferrin {
@@ -17,11 +17,9 @@ OwnWindowColors colorsFor(bool isDark)
     return { 0xfffafafa, 0xffc4c4c8, 0xff1d1d1f, 0xffe2e2e6 };
 }
 
-std::optional<ScreenArea> screenOf(const ItemPlace &place)
+std::optional<ScreenArea> screenAreaOf(const ItemPlace &place)
 {
-    const QScreen *screen = QGuiApplication::screenAt(place.item.center());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
+    const QScreen *const screen = screenOf(place);
     if (!screen)
         return {};
     return ScreenArea { .whole = screen->geometry(), .available = screen->availableGeometry() };

@@ -31,9 +31,8 @@ struct OwnWindowColors
 };
 
 [[nodiscard]] OwnWindowColors colorsFor(bool isDark);
-/// The screen of an item, or the primary one for an item whose place is not known. Absent where
-/// there is no screen.
-[[nodiscard]] std::optional<ScreenArea> screenOf(const ItemPlace &place);
+/// The screen of an item, as `screenOf` finds it; absent where there is none.
+[[nodiscard]] std::optional<ScreenArea> screenAreaOf(const ItemPlace &place);
 
 [[nodiscard]] OwnWindowLook ownWindowLook(const PanelColors &colors);
 

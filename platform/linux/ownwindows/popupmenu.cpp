@@ -42,7 +42,7 @@ PopupMenu::PopupMenu()
 void PopupMenu::popUp(const std::vector<MenuEntry> &entries, const ItemPlace &place,
                       const OwnWindowLook &look)
 {
-    const std::optional<ScreenArea> screen = screenOf(place);
+    const std::optional<ScreenArea> screen = screenAreaOf(place);
     if (entries.empty() || !screen)
         return;
     m_entries = entries;

@@ -99,7 +99,7 @@ const QWindow *ToolTip::window() const
 
 void ToolTip::show()
 {
-    const std::optional<ScreenArea> screen = screenOf(m_place);
+    const std::optional<ScreenArea> screen = screenAreaOf(m_place);
     if (m_text.isEmpty() || m_place.item.isEmpty() || !screen)
         return;
     m_window = std::make_unique<Window>(m_text, m_look);

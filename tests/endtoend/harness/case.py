@@ -51,7 +51,10 @@ class WithADashboard(OnADesktop):
         """What happens to the laptop before the program starts."""
 
     def start_dashboard(self, environment=None):
-        return self.enterContext(Dashboard(self.session, self.laptop, self.says, environment))
+        return self.enterContext(self.make_dashboard(environment))
+
+    def make_dashboard(self, environment):
+        return Dashboard(self.session, self.laptop, self.says, environment)
 
 
 class WithSettings(WithADashboard):

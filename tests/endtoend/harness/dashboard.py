@@ -24,13 +24,17 @@ class Dashboard(ReadWindow):
         ScreenReader.prepare(session)
         before = session.picture()
         self.program = Program(session, laptop, ENVIRONMENT | (environment or {}))
-        self.program.item()
+        self.await_item()
         self.program.says(said)
         self.reader = ScreenReader(session, self.program.pid)
-        self.item_box = eventually(lambda: self._drawn(before), "the item is on the screen")
+        self.item_box = eventually(lambda: self.drawn(before), "the item is on the screen")
         self.item = self.item_box.centre
 
-    def _drawn(self, before):
+    def await_item(self):
+        self.program.item()
+
+    def drawn(self, before):
+        """The item's place, given a picture of the screen without it; None until it is drawn."""
         # The panel shows an empty cell first, and may draw the whole of itself anew.
         box = self._session.item_box(before)
         is_cell = box and max(box.width, box.height) <= LARGEST_CELL * self._session.scale
