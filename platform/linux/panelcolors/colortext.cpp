@@ -62,7 +62,8 @@ float opacityIn(const QString &text)
 {
     const float part = text.endsWith(u'%') ? text.chopped(1).toFloat() / 100 : text.toFloat();
     const bool isOf255 = !text.endsWith(u'%') && part > 1;
-    return std::clamp(isOf255 ? part / 255 : part, 0.0f, 1.0f);
+    // A number, which "nan" is not.
+    return part > 0 ? std::min(isOf255 ? part / 255 : part, 1.0f) : 0;
 }
 
 } // namespace ferrin

@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace ferrin {
@@ -20,12 +22,24 @@ namespace {
 // Bytes, and the depth of imports. More is no panel's style sheet.
 constexpr qint64 largestFile = 1 << 18;
 constexpr int deepest = 8;
+// Characters, and the words that one colour is made of, those of its definitions among them.
+constexpr qsizetype longestValue = 1024;
+constexpr int mostWords = 256;
 
-const QRegularExpression &comments()
+/// Without comments, with single spaces, and with nothing after the last rule or statement: the
+/// patterns below would search such a rest again from each of its characters.
+QString readable(const QString &text)
 {
-    static const QRegularExpression pattern(uR"(/\*.*?\*/)"_s,
-                                            QRegularExpression::DotMatchesEverythingOption);
-    return pattern;
+    QString kept;
+    qsizetype end = 0;
+    while (end >= 0) {
+        const qsizetype begin = text.indexOf("/*"_L1, end);
+        kept += QStringView(text).mid(end, begin < 0 ? -1 : begin - end);
+        end = begin < 0 ? -1 : text.indexOf("*/"_L1, begin + 2);
+        end = end < 0 ? -1 : end + 2;
+    }
+    kept = kept.simplified();
+    return kept.left(std::max(kept.lastIndexOf(u';'), kept.lastIndexOf(u'}')) + 1);
 }
 
 /// What a sheet imports, by a path or a "file:" URL.
@@ -52,9 +66,9 @@ void StyleSheet::add(const QString &file, int depth)
         || !source.open(QIODevice::ReadOnly))
         return;
     m_files.append(file);
-    const QString text = QString::fromUtf8(source.read(largestFile)).remove(comments());
+    const QString text = readable(QString::fromUtf8(source.read(largestFile)));
     static const QRegularExpression imports(
-        uR"(@import\s+(?:url\(\s*)?["']?([^"')\s;]+)["']?\s*\)?\s*;)"_s);
+        uR"(@import\s+(?:url\(\s*)?["']?([^"')\s;\x00]+)["']?\s*\)?\s*;)"_s);
     for (auto each = imports.globalMatch(text); each.hasNext();)
         add(importedFile(file, each.next().captured(1)), depth + 1);
     static const QRegularExpression definitions(uR"(@define-color\s+([\w-]+)\s+([^;]+);)"_s);
@@ -62,29 +76,59 @@ void StyleSheet::add(const QString &file, int depth)
         const auto found = each.next();
         m_definitions.insert(found.captured(1), found.captured(2).trimmed());
     }
-    addRules(QString(text).remove(imports).remove(definitions));
+    const QString rules = QString(text).remove(imports).remove(definitions);
+    addRules(rules);
 }
 
-void StyleSheet::addRules(const QString &text)
+void StyleSheet::addRules(QStringView text)
 {
-    static const QRegularExpression rules(uR"(([^{};]+)\{([^{}]*)\})"_s);
-    for (auto each = rules.globalMatch(text); each.hasNext();) {
-        const auto rule = each.next();
-        for (const QString &selector : rule.captured(1).split(u',')) {
-            auto &properties = m_rules[selector.simplified()];
-            for (const QString &declaration : rule.captured(2).split(u';')) {
-                const qsizetype colon = declaration.indexOf(u':');
-                if (colon > 0)
-                    properties.insert(declaration.left(colon).trimmed(),
-                                      declaration.mid(colon + 1).trimmed());
-            }
+    qsizetype begin = 0;
+    qsizetype brace = -1;
+    qsizetype declaration = 0;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text[at] == u'{') {
+            // Within braces: a rule within a condition.
+            begin = brace < 0 ? begin : declaration;
+            brace = at;
+            declaration = at + 1;
+        } else if (text[at] == u'}') {
+            if (brace >= 0)
+                addRule(text.sliced(begin, brace - begin), text.sliced(brace + 1, at - brace - 1));
+            brace = -1;
+            begin = at + 1;
+        } else if (text[at] == u';') {
+            (brace < 0 ? begin : declaration) = at + 1;
         }
     }
 }
 
+void StyleSheet::addRule(QStringView selectors, QStringView declarations)
+{
+    Rule rule { {}, declarations.toString() };
+    for (const QStringView selector : selectors.split(u','))
+        rule.selectors.append(selector.toString().simplified());
+    m_rules.append(rule);
+}
+
+QString StyleSheet::valueOf(const QString &selector, const QString &property) const
+{
+    for (auto rule = m_rules.crbegin(); rule != m_rules.crend(); ++rule) {
+        if (!rule->selectors.contains(selector))
+            continue;
+        const QList<QStringView> declarations = QStringView(rule->declarations).split(u';');
+        for (auto each = declarations.crbegin(); each != declarations.crend(); ++each) {
+            const qsizetype colon = each->indexOf(u':');
+            if (colon > 0 && each->first(colon).trimmed() == property)
+                return each->sliced(colon + 1).trimmed().toString();
+        }
+    }
+    return {};
+}
+
 std::optional<QColor> StyleSheet::color(const QString &selector, const QString &property) const
 {
-    return colorIn(m_rules.value(selector).value(property));
+    int wordsLeft = mostWords;
+    return colorIn(valueOf(selector, property), wordsLeft);
 }
 
 std::optional<QColor> StyleSheet::firstColor(const QStringList &selectors) const
@@ -102,22 +146,23 @@ std::optional<QColor> StyleSheet::ground(const QString &selector) const
     return exact ? exact : color(selector, u"background"_s);
 }
 
-std::optional<QColor> StyleSheet::colorOf(const QString &word, int depth) const
+std::optional<QColor> StyleSheet::colorOf(const QString &word, int &wordsLeft) const
 {
     if (word.startsWith(u'@'))
-        return colorIn(m_definitions.value(word.sliced(1)), depth + 1);
+        return colorIn(m_definitions.value(word.sliced(1)), wordsLeft);
     return ferrin::colorIn(word);
 }
 
-std::optional<QColor> StyleSheet::colorIn(const QString &value, int depth) const
+std::optional<QColor> StyleSheet::colorIn(const QString &value, int &wordsLeft) const
 {
-    if (depth > deepest || value.contains("url("_L1) || value.contains("palette("_L1))
+    if (value.size() > longestValue || value.contains("url("_L1) || value.contains("palette("_L1))
         return {};
     static const QRegularExpression words(uR"(@[\w-]+|#[0-9a-fA-F]+|rgba?\([^)]*\)|[a-zA-Z]+)"_s);
     float red = 0, green = 0, blue = 0, alpha = 0;
     int count = 0;
-    for (auto each = words.globalMatch(value); each.hasNext();) {
-        const auto found = colorOf(each.next().captured(), depth);
+    for (auto each = words.globalMatch(value); each.hasNext() && wordsLeft > 0;) {
+        --wordsLeft;
+        const auto found = colorOf(each.next().captured(), wordsLeft);
         if (!found)
             continue;
         ++count;

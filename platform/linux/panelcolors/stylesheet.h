@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -13,7 +14,8 @@
 namespace ferrin {
 
 /// The colours in a panel's style sheet, of GTK's dialect or of Qt's: enough of either to learn
-/// what a panel looks like, and no more. Whatever is not understood is absent.
+/// what a panel looks like, and no more. Whatever is not understood is absent. Reading takes time
+/// in proportion to the size of the sheet, whatever is in it.
 class StyleSheet
 {
 public:
@@ -33,13 +35,22 @@ public:
     [[nodiscard]] const QStringList &files() const noexcept { return m_files; }
 
 private:
-    void add(const QString &file, int depth);
-    void addRules(const QString &text);
-    [[nodiscard]] std::optional<QColor> colorIn(const QString &value, int depth = 0) const;
-    [[nodiscard]] std::optional<QColor> colorOf(const QString &word, int depth) const;
+    struct Rule
+    {
+        QStringList selectors;
+        /// What stands between the braces.
+        QString declarations;
+    };
 
-    /// By selector and property.
-    QHash<QString, QHash<QString, QString>> m_rules;
+    void add(const QString &file, int depth);
+    void addRules(QStringView text);
+    void addRule(QStringView selectors, QStringView declarations);
+    [[nodiscard]] QString valueOf(const QString &selector, const QString &property) const;
+    [[nodiscard]] std::optional<QColor> colorIn(const QString &value, int &wordsLeft) const;
+    [[nodiscard]] std::optional<QColor> colorOf(const QString &word, int &wordsLeft) const;
+
+    /// In their order. They are taken apart when they are asked for, since few ever are.
+    QList<Rule> m_rules;
     /// By name.
     QHash<QString, QString> m_definitions;
     QStringList m_files;

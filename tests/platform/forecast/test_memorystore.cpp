@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using namespace ferrin;
 using namespace std::chrono_literals;
 
@@ -42,6 +44,16 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.size() < 300);
         QVERIFY(!file.readAll().toLower().contains("serial"));
+    }
+
+    void doesNotWaitForAPipeInThePlaceOfItsFile()
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path()).path()));
+        QCOMPARE(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+        test::LogCapture log;
+        const MemoryStore store(path());
+        QVERIFY(!store.find("a").draw);
+        QCOMPARE(log.take().size(), 1);
     }
 
     void writesAtMostOnceInTenMinutes()

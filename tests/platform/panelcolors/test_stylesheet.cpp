@@ -27,6 +27,7 @@ private Q_SLOTS:
         QTest::addRow("percent") << QByteArray("rgba(0, 0, 0, 100%)") << QColor(0, 0, 0);
         QTest::addRow("part") << QByteArray("rgba(0, 0, 0, 0.2)") << QColor(0, 0, 0, 51);
         QTest::addRow("of 255") << QByteArray("rgba(0, 0, 0, 51)") << QColor(0, 0, 0, 51);
+        QTest::addRow("no part") << QByteArray("rgba(0, 0, 0, nan)") << QColor(0, 0, 0, 0);
         QTest::addRow("name") << QByteArray("white") << QColor(Qt::white);
         QTest::addRow("defined") << QByteArray("@base") << QColor(30, 30, 46);
         QTest::addRow("defined twice over") << QByteArray("@bar") << QColor(30, 30, 46);
@@ -74,6 +75,45 @@ private Q_SLOTS:
         QCOMPARE(sheet().color(u"#clock"_s, u"color"_s), QColor(Qt::red));
         QCOMPARE(sheet().ground(u"#tray"_s), QColor(Qt::white));
         QVERIFY(!sheet().color(u"#battery"_s, u"color"_s));
+    }
+
+    void importsNothingByANameThatIsNone()
+    {
+        // Qt warns of a name with a NUL, which fails the test.
+        write("panel.css", QByteArray("@import \"/a\0b\"; * { color: white }", 34));
+        QCOMPARE(sheet().color(u"*"_s, u"color"_s), QColor(Qt::white));
+        QCOMPARE(sheet().files().size(), 1);
+    }
+
+    void readsRulesWithinConditions()
+    {
+        write(
+            "panel.css",
+            "@media (x) { @y 1; #tray { color: red } #clock { color: blue } } * { color: white }");
+        QCOMPARE(sheet().color(u"#tray"_s, u"color"_s), QColor(Qt::red));
+        QCOMPARE(sheet().color(u"#clock"_s, u"color"_s), QColor(Qt::blue));
+        QCOMPARE(sheet().color(u"*"_s, u"color"_s), QColor(Qt::white));
+    }
+
+    void isNotHeldUpByAnySheet_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        constexpr int many = 250'000;
+        QTest::addRow("spaces") << "@import a" + QByteArray(many, ' ') + "b;";
+        QTest::addRow("open colours")
+            << "#tray{color:" + QByteArray("rgb(").repeated(many / 4) + "}";
+        QTest::addRow("selectors and declarations") << QByteArray("a,").repeated(many / 2)
+                + "#tray{" + QByteArray("b:c;").repeated(many / 4) + "}";
+        QTest::addRow("a definition of itself")
+            << "@define-color a" + QByteArray(" @a").repeated(100) + ";#tray{color:@a}";
+    }
+
+    void isNotHeldUpByAnySheet()
+    {
+        // What grows with the square of a sheet's size, or faster, takes minutes or does not end.
+        QFETCH(QByteArray, text);
+        write("panel.css", text);
+        QVERIFY(!sheet().color(u"#tray"_s, u"color"_s));
     }
 
     void readsWhatIsImported()

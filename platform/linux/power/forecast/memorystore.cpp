@@ -86,6 +86,9 @@ void MemoryStore::load()
     QFile file(m_path);
     if (m_path.isEmpty() || !file.exists())
         return;
+    // Opening a pipe would block until its other end is opened.
+    if (!QFileInfo(m_path).isFile())
+        return complain(u"Not a file"_s);
     if (!file.open(QIODevice::ReadOnly))
         return complain(file.errorString());
     QJsonParseError error {};
