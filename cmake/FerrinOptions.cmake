@@ -3,6 +3,7 @@
 
 option(BUILD_TESTING "Build the tests" ON)
 option(FERRIN_BUILD_BENCH "Build the benchmarks" OFF)
+option(FERRIN_BUILD_FUZZERS "Build the fuzzers; needs clang" OFF)
 set(FERRIN_SANITIZERS "" CACHE STRING "Sanitizers to build with: address,undefined or thread")
 option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
 set(FERRIN_FAQ_URL "" CACHE STRING
@@ -37,4 +38,9 @@ if(FERRIN_SANITIZERS)
     add_compile_options(-fsanitize=${FERRIN_SANITIZERS} -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${FERRIN_SANITIZERS})
+endif()
+if(FERRIN_BUILD_FUZZERS)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    # The system's Qt is built without sanitizers and by another compiler, whose types have no such records.
+    add_compile_options(-fno-sanitize=vptr,function)
 endif()

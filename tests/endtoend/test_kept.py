@@ -3,36 +3,10 @@
 """The item is kept, once, whatever happens to the status area and the screens, and leaves nothing
 behind."""
 
-import re
-
 from harness import desktop, traybars
 from harness.case import OnADesktop, main
+from harness.holdings import Holdings
 from harness.processes import a_moment, eventually
-
-# What a hundred of anything may leave to the program alone, in kB: less than 10 each.
-SPARE_KILOBYTES = 1000
-
-
-class Holdings:
-    """What the program holds of the system."""
-
-    def __init__(self, session, program):
-        self.files = program.open_files()
-        self.windows = session.all_windows().count(b'"ferrin")')
-        with open(f"/proc/{program.pid}/smaps_rollup", encoding="ascii") as file:
-            told = file.read()
-        self.kilobytes = int(re.search(r"Private_Dirty: +(\d+)", told).group(1))
-
-    def exceed(self, other):
-        """What there is more of than before, in words; empty for nothing."""
-        more = []
-        if self.files > other.files:
-            more.append(f"{self.files} files instead of {other.files}")
-        if self.windows > other.windows:
-            more.append(f"{self.windows} windows instead of {other.windows}")
-        if self.kilobytes > other.kilobytes + SPARE_KILOBYTES:
-            more.append(f"{self.kilobytes} kB instead of {other.kilobytes}")
-        return more
 
 
 class KeptThroughAHundred:

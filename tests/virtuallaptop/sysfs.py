@@ -6,7 +6,9 @@ Every change goes through the attribute files and the `uevent` file of its suppl
 replaced atomically, so that a reader never meets half a value. Needs umockdev's preload library.
 """
 
+import glob
 import os
+import select
 import shutil
 import socket
 
@@ -19,6 +21,8 @@ import machine as machines  # noqa: E402
 
 # Never part of a real supply's uevent.
 NOT_IN_UEVENT = {"alarm"}
+# A listener that hangs never has room.
+LISTENER_PATIENCE_SECONDS = 2
 FAULTS = ("eio", "enxio", "gone", "directory", "garbage", "huge", "empty", "hang")
 
 
@@ -51,7 +55,7 @@ class Sysfs:
         if name in self.supplies:
             raise ValueError(f"{name} is there already")
         self._create(name, attributes)
-        self._testbed.uevent(self._path(name), "add")
+        self._send(name, "add")
 
     def remove(self, name):
         """Removes a supply: first its attributes, then the event is sent, then the device."""
@@ -60,7 +64,7 @@ class Sysfs:
         for entry in os.scandir(folder):
             if entry.name not in ("uevent", "subsystem"):
                 self._clear(entry.path)
-        self._testbed.uevent(self._path(name), "remove")
+        self._send(name, "remove")
         self._testbed.remove_device(self._path(name))
         shutil.rmtree(folder, ignore_errors=True)
         for key in [key for key in self._faults if key[0] == name]:
@@ -82,7 +86,7 @@ class Sysfs:
 
     def uevent(self, name, action="change"):
         self._known(name)
-        self._testbed.uevent(self._path(name), action)
+        self._send(name, action)
 
     def fault(self, name, attribute, kind):
         self._known(name)
@@ -105,6 +109,11 @@ class Sysfs:
             for name, value in entries.items():
                 if isinstance(value, dict) and name.startswith(port):
                     self._write_tree(f"{base}/{name}", value)
+
+    def _send(self, name, action):
+        for listener in glob.glob(os.path.join(glob.escape(self._root), "event*")):
+            _wait_for_room(listener)
+        self._testbed.uevent(self._path(name), action)
 
     def _create(self, name, attributes):
         self.supplies[name] = {}
@@ -218,3 +227,15 @@ def _bind(listener, path):
         listener.bind(f"/proc/self/fd/{folder}/{os.path.basename(path)}")
     finally:
         os.close(folder)
+
+
+def _wait_for_room(listener):
+    """Until the listener can take another event: umockdev ends the process when it cannot."""
+    with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as sender:
+        try:
+            sender.connect(listener)
+        except OSError:
+            # It has gone.
+            return
+        if not select.select([], [sender], [], LISTENER_PATIENCE_SECONDS)[1]:
+            raise ValueError("a listener has stopped reading events")
