@@ -4,6 +4,7 @@
 #include "platform/linux/session/singleinstance.h"
 
 #include "base/logging.h"
+#include "platform/linux/dbus/activationtoken.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -73,26 +74,26 @@ void SingleInstance::activateOther()
 
 void SingleInstance::Activate(const QVariantMap &platformData)
 {
-    keepActivationToken(platformData);
+    keepToken(platformData);
     Q_EMIT activated();
 }
 
 void SingleInstance::ActivateAction(const QString &name, const QVariantList &,
                                     const QVariantMap &platformData)
 {
-    keepActivationToken(platformData);
+    keepToken(platformData);
     if (name == u"settings")
         Q_EMIT settingsRequested();
     else if (name == u"quit")
         Q_EMIT quitRequested();
-    else
-        qCCritical(logger, "There is no action \"%s\"", qUtf8Printable(name));
+    else if (!std::exchange(m_hasRefusedAnAction, true))
+        qCCritical(logger, "There is no action \"%s\"", qUtf8Printable(name.left(64)));
 }
 
-void SingleInstance::keepActivationToken(const QVariantMap &platformData)
+void SingleInstance::keepToken(const QVariantMap &platformData)
 {
     if (const QString token = platformData.value(tokenKey).toString(); !token.isEmpty())
-        qputenv(tokenVariable, token.toUtf8());
+        keepActivationToken(token);
 }
 
 } // namespace ferrin

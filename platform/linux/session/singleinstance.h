@@ -33,7 +33,7 @@ public:
 
     // The bus' own way to the signals; public because only then the bus may call it.
     Q_SCRIPTABLE Q_INVOKABLE void Activate(const QVariantMap &platformData);
-    /// The actions are "settings" and "quit"; any other costs a log line.
+    /// The actions are "settings" and "quit"; the first other costs a log line.
     Q_SCRIPTABLE Q_INVOKABLE void ActivateAction(const QString &name, const QVariantList &parameter,
                                                  const QVariantMap &platformData);
 
@@ -45,11 +45,13 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
-    static void keepActivationToken(const QVariantMap &platformData);
+    static void keepToken(const QVariantMap &platformData);
 
     QDBusConnection m_session;
     QString m_name;
     QString m_path;
+    /// Anybody may send what is none; the log is not theirs to fill.
+    bool m_hasRefusedAnAction = false;
 };
 
 } // namespace ferrin

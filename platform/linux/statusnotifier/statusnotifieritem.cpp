@@ -3,6 +3,7 @@
 
 #include "platform/linux/statusnotifier/statusnotifieritem.h"
 
+#include "platform/linux/dbus/activationtoken.h"
 #include "platform/linux/panelcolors/panelcolors.h"
 #include "platform/linux/statusnotifier/hostresolver.h"
 #include "platform/linux/x11/x11dock.h"
@@ -38,23 +39,8 @@ QString withoutMarkup(QString text)
     return text.remove(u'<').remove(u'>').remove(u'&');
 }
 
-constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
 // The click that the token belongs to follows it at once.
 constexpr auto tokenLifetime = 5s;
-
-// Qt hands the token to the next window that asks for activation.
-bool keepActivationToken(const QString &token)
-{
-    constexpr qsizetype longestToken = 1024;
-    if (token.size() > longestToken || token.contains(QChar::Null))
-        return false;
-    return qputenv(tokenVariable, token.toUtf8());
-}
-
-void forgetActivationToken()
-{
-    qunsetenv(tokenVariable);
-}
 
 } // namespace
 

@@ -132,6 +132,20 @@ private Q_SLOTS:
         QCOMPARE(settings.size(), 1);
     }
 
+    void keepsNothingThatCanBeNoToken()
+    {
+        const LogCapture log;
+        PrivateBus bus;
+        SingleInstance first(bus.connect(), name);
+        QVERIFY(first.acquire());
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        const QSignalSpy activations(&first, &SingleInstance::activated);
+        const QVariantMap data { { u"activation-token"_s, QString(100'000, u'x') } };
+        QVERIFY(bus.connect().send(callOf(u"Activate"_s, { data })));
+        QTRY_COMPARE(activations.size(), 1);
+        QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+    }
+
     void logsAnActionThatItDoesNotKnow()
     {
         LogCapture log;
@@ -142,6 +156,24 @@ private Q_SLOTS:
         QStringList lines;
         QTRY_VERIFY((lines += log.take(), !lines.isEmpty()));
         QCOMPARE(lines, QStringList(u"error: There is no action \"dance\""_s));
+    }
+
+    void doesNotLetOthersFillItsLog()
+    {
+        LogCapture log;
+        PrivateBus bus;
+        SingleInstance first(bus.connect(), name);
+        QVERIFY(first.acquire());
+        std::ignore = log.take();
+        const QSignalSpy settings(&first, &SingleInstance::settingsRequested);
+        const QDBusConnection stranger = bus.connect();
+        for (int time = 0; time < 10; ++time)
+            QVERIFY(stranger.send(callOfAction(QString(10'000, u'x'))));
+        QVERIFY(stranger.send(callOfAction(u"settings"_s)));
+        QTRY_COMPARE(settings.size(), 1);
+        const QStringList lines = log.take();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.constFirst().size() < 100);
     }
 
     void aSecondStartIsNotHeldUpByAFirstThatHasJustEnded()

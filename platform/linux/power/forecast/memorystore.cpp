@@ -4,12 +4,13 @@
 #include "platform/linux/power/forecast/memorystore.h"
 
 #include "base/logging.h"
+#include "state/filelock.h"
+#include "state/filereplacement.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 namespace ferrin {
 
@@ -19,6 +20,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr Hours leastPause = 10min;
+// Another session of the user's writes for milliseconds.
+constexpr auto lockTimeout = 1000ms;
 // Far more than the batteries of a life, and far less than would be felt.
 constexpr qint64 largestFile = 65536;
 constexpr std::size_t mostBatteries = 64;
@@ -75,10 +78,11 @@ void MemoryStore::saveNow()
     for (const auto &[key, memory] : m_memories)
         all.insert(QString::fromStdString(key), toJson(memory));
     QDir().mkpath(QFileInfo(m_path).path());
-    QSaveFile file(m_path);
-    const QByteArray content = QJsonDocument(all).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        complain(file.errorString());
+    const FileLock lock(m_path + u".lock"_s, lockTimeout);
+    if (lock.isHeld())
+        removeUnfinishedReplacements(m_path);
+    if (const QString trouble = replaceFile(m_path, QJsonDocument(all).toJson()); !trouble.isNull())
+        complain(trouble);
 }
 
 void MemoryStore::load()

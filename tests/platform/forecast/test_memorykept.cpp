@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+// A process that learns of a battery without end and is killed, and what is kept then.
+
+#include "platform/linux/power/forecast/memorystore.h"
+#include "tests/support/logcapture.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <cstdio>
+
+using namespace ferrin;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// FERRIN_TEST_KILLS=... for more.
+int kills()
+{
+    const int wanted = qEnvironmentVariableIntValue("FERRIN_TEST_KILLS");
+    return wanted > 0 ? wanted : 40;
+}
+
+/// Counts in what is learned, and prints each number that has reached the file.
+[[noreturn]] void learnForEver(const QString &path)
+{
+    MemoryStore store(path);
+    for (int charges = store.find("a").charges % 999 + 1;; charges = charges % 999 + 1) {
+        BatteryMemory &memory = store.change("a");
+        memory.charge = ChargeFit::Charge { { 70, 3 }, 50 };
+        memory.charges = charges;
+        store.saveNow();
+        std::printf("%d\n", charges);
+        std::fflush(stdout);
+    }
+}
+
+int lastLine(QProcess &process)
+{
+    return process.readAllStandardOutput().trimmed().split('\n').last().toInt();
+}
+
+} // namespace
+
+class MemoryKeptTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isTheOldOrTheNewOneAfterAKillAtAnyMoment()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"ferrin/batteries.json"_s);
+        QRandomGenerator random(1);
+        test::LogCapture log;
+        for (int kill = 0; kill < kills(); ++kill) {
+            QProcess process;
+            process.start(QCoreApplication::applicationFilePath(), { u"learn"_s, path });
+            QVERIFY(process.waitForReadyRead());
+            QThread::usleep(random.bounded(5000U));
+            process.kill();
+            QVERIFY(process.waitForFinished());
+
+            const int said = lastLine(process);
+            const int kept = MemoryStore(path).find("a").charges;
+            QVERIFY2(kept == said || kept == said % 999 + 1,
+                     qPrintable(u"said %1, kept %2"_s.arg(said).arg(kept)));
+        }
+        MemoryStore store(path);
+        store.change("a").stop = 80;
+        store.saveNow();
+        QCOMPARE(QDir(folder.filePath(u"ferrin"_s)).entryList(QDir::Files | QDir::Hidden),
+                 QStringList { u"batteries.json"_s });
+        QCOMPARE(log.take(), QStringList());
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"learn"_s)
+        learnForEver(arguments.value(2));
+    MemoryKeptTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_memorykept.moc"
