@@ -28,7 +28,7 @@ class FerrinApp final : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool isDashboardShown READ isDashboardShown WRITE setDashboardShown NOTIFY
-                   isDashboardShownChanged BINDABLE bindableIsDashboardShown)
+                   isDashboardShownChanged)
 
 public:
     struct Parts
@@ -52,7 +52,6 @@ public:
     /// The dashboard is open. Not persisted.
     [[nodiscard]] bool isDashboardShown() const { return m_isDashboardShown; }
     void setDashboardShown(bool shown) { m_isDashboardShown = shown; }
-    [[nodiscard]] QBindable<bool> bindableIsDashboardShown() { return &m_isDashboardShown; }
 
     /// Opens the settings window, or brings it to the front; the dashboard closes.
     void openSettings();

@@ -5,10 +5,11 @@
 
 #include "menubar/itemcontent.h"
 
-#include <QBindable>
 #include <QObject>
 #include <QProperty>
 #include <QSizeF>
+
+#include <utility>
 
 namespace ferrin {
 
@@ -19,14 +20,19 @@ namespace ferrin {
 class ItemHostingView : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(
-        ferrin::ItemContent content READ content NOTIFY contentChanged BINDABLE bindableContent)
+    Q_PROPERTY(ferrin::ItemContent content READ content NOTIFY contentChanged)
 
 public:
     using QObject::QObject;
 
     [[nodiscard]] ItemContent content() const { return m_content; }
-    [[nodiscard]] QBindable<ItemContent> bindableContent() { return &m_content; }
+    void setContent(const ItemContent &content) { m_content = content; }
+    /// Shows what the expression comes to, now and whenever a property that it read has changed.
+    template <typename Expression>
+    void bindContent(Expression &&expression)
+    {
+        m_content.setBinding(std::forward<Expression>(expression));
+    }
 
     /// Logical pixels, as last set.
     [[nodiscard]] QSizeF frameSize() const noexcept { return m_frameSize; }

@@ -22,9 +22,9 @@ class MenuBarExtraAccess : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool isMenuPresented READ isMenuPresented WRITE setMenuPresented NOTIFY
-                   isMenuPresentedChanged BINDABLE bindableIsMenuPresented)
+                   isMenuPresentedChanged)
     Q_PROPERTY(bool isStatusItemEnabled READ isStatusItemEnabled WRITE setStatusItemEnabled NOTIFY
-                   isStatusItemEnabledChanged BINDABLE bindableIsStatusItemEnabled)
+                   isStatusItemEnabledChanged)
 
 public:
     using StatusItemIntrospection = std::function<void(StatusItem &)>;
@@ -39,12 +39,10 @@ public:
 
     [[nodiscard]] bool isMenuPresented() const { return m_isMenuPresented; }
     void setMenuPresented(bool presented) { m_isMenuPresented = presented; }
-    [[nodiscard]] QBindable<bool> bindableIsMenuPresented() { return &m_isMenuPresented; }
 
     /// A disabled item takes no clicks.
     [[nodiscard]] bool isStatusItemEnabled() const { return m_isStatusItemEnabled; }
     void setStatusItemEnabled(bool enabled) { m_isStatusItemEnabled = enabled; }
-    [[nodiscard]] QBindable<bool> bindableIsStatusItemEnabled() { return &m_isStatusItemEnabled; }
 
     /// Asked at each click on the item; a click that it answers with false changes nothing.
     void setClickFilter(std::function<bool()> filter) { m_clickFilter = std::move(filter); }

@@ -36,9 +36,9 @@ MenuBarItemSelectedItemView::MenuBarItemSelectedItemView(ItemHostingView &host,
 
     BatteryDataProvider &battery = m_sources.battery;
     const bool connected = battery.batteryIOService().connected();
-    m_host.bindableContent().setBinding(
-        [&data = *battery.data(), &settings = m_sources.settings, &switches = m_sources.switches,
-         connected] { return contentFor(data, switches, settings, connected); });
+    m_host.bindContent([&data = *battery.data(), &settings = m_sources.settings,
+                        &switches = m_sources.switches,
+                        connected] { return contentFor(data, switches, settings, connected); });
     scheduleMeasurement();
 }
 

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QBindable>
+#include "base/bindable.h"
+
 #include <QObject>
 #include <QProperty>
 #include <QString>
@@ -43,8 +44,7 @@ public:
 
     [[nodiscard]] AppColorScheme scheme() const { return m_scheme; }
     void setScheme(AppColorScheme scheme);
-    /// Read-only: the choice is set by `setScheme`.
-    [[nodiscard]] QBindable<AppColorScheme> bindableScheme() const { return &m_scheme; }
+    [[nodiscard]] Bindable<AppColorScheme> bindableScheme() const { return &m_scheme; }
 
 private:
     void readFromStore();

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QBindable>
 #include <QProperty>
 #include <QString>
 
@@ -35,11 +34,6 @@ public:
     [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
     /// Whether the desktop asks for reduced motion.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
-
-    /// All three are read-only.
-    [[nodiscard]] QBindable<bool> bindableIsDark() const { return &m_isDark; }
-    [[nodiscard]] QBindable<QString> bindableFontFamily() const { return &m_fontFamily; }
-    [[nodiscard]] QBindable<bool> bindableReducesMotion() const { return &m_reducesMotion; }
 
 protected:
     QProperty<bool> m_isDark { false };

@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "base/bindable.h"
 #include "state/menubuttons.h"
 
-#include <QBindable>
 #include <QObject>
 #include <QProperty>
 
@@ -25,14 +25,14 @@ public:
 
     [[nodiscard]] DashboardMenuButton dashboardItemSelected() const { return m_dashboardItem; }
     void setDashboardItemSelected(DashboardMenuButton item) { m_dashboardItem = item; }
-    [[nodiscard]] QBindable<DashboardMenuButton> bindableDashboardItemSelected()
+    [[nodiscard]] Bindable<DashboardMenuButton> bindableDashboardItemSelected()
     {
         return &m_dashboardItem;
     }
 
     [[nodiscard]] SettingsMenuButton settingsItemSelected() const { return m_settingsItem; }
     void setSettingsItemSelected(SettingsMenuButton item) { m_settingsItem = item; }
-    [[nodiscard]] QBindable<SettingsMenuButton> bindableSettingsItemSelected()
+    [[nodiscard]] Bindable<SettingsMenuButton> bindableSettingsItemSelected()
     {
         return &m_settingsItem;
     }

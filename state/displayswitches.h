@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QBindable>
+#include "base/bindable.h"
+
 #include <QObject>
 #include <QProperty>
 
@@ -43,11 +44,7 @@ public:
 
     [[nodiscard]] bool isOn(DisplaySwitch which) const { return m_on[index(which)].value(); }
     void set(DisplaySwitch which, bool on);
-    /// Read-only: a switch is set by `set`.
-    [[nodiscard]] QBindable<bool> bindable(DisplaySwitch which) const
-    {
-        return &m_on[index(which)];
-    }
+    [[nodiscard]] Bindable<bool> bindable(DisplaySwitch which) const { return &m_on[index(which)]; }
 
 #define FERRIN_SWITCH(name, Name)                                                                  \
     [[nodiscard]] bool name() const                                                                \
@@ -57,10 +54,6 @@ public:
     void set##Name(bool on)                                                                        \
     {                                                                                              \
         set(DisplaySwitch::name, on);                                                              \
-    }                                                                                              \
-    [[nodiscard]] QBindable<bool> bindable##Name() const                                           \
-    {                                                                                              \
-        return bindable(DisplaySwitch::name);                                                      \
     }
 
     FERRIN_SWITCH(showIconWhenDischarging, ShowIconWhenDischarging)

@@ -27,7 +27,7 @@ ItemSwitches switchesOf(ItemState state)
     Q_UNREACHABLE();
 }
 
-QBindable<Icon> bindableIconSelected(ItemState state, SettingsData &settings)
+Bindable<Icon> bindableIconSelected(ItemState state, SettingsData &settings)
 {
     switch (state) {
     case ItemState::discharging:

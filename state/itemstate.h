@@ -3,10 +3,9 @@
 
 #pragma once
 
+#include "base/bindable.h"
 #include "state/displayswitches.h"
 #include "state/icon.h"
-
-#include <QBindable>
 
 #include <span>
 
@@ -29,7 +28,7 @@ struct ItemSwitches
 [[nodiscard]] ItemSwitches switchesOf(ItemState state);
 
 /// The user's icon for a state. Read-only, and reading it never writes, so a binding may use it.
-[[nodiscard]] QBindable<Icon> bindableIconSelected(ItemState state, SettingsData &settings);
+[[nodiscard]] Bindable<Icon> bindableIconSelected(ItemState state, SettingsData &settings);
 
 void setIconSelected(ItemState state, Icon icon, SettingsData &settings);
 

@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "base/bindable.h"
 #include "state/bundle.h"
 #include "state/defaultsstore.h"
 #include "state/icon.h"
 
-#include <QBindable>
 #include <QObject>
 #include <QProperty>
 #include <QString>
@@ -69,21 +69,20 @@ public:
     void setChargingIconSelectedDefault(Icon icon) { m_chargingDefault = icon; }
     void setChargedIconSelectedDefault(Icon icon) { m_chargedDefault = icon; }
 
-    /// The persistent ones are read-only: a value is set by its setter.
-    [[nodiscard]] QBindable<Icon> bindableDischargingIconSelected() { return &m_discharging; }
-    [[nodiscard]] QBindable<Icon> bindableChargingIconSelected() { return &m_charging; }
-    [[nodiscard]] QBindable<Icon> bindableChargedIconSelected() { return &m_charged; }
-    [[nodiscard]] QBindable<QString> bindableReleaseVersionNumber() { return &m_release; }
-    [[nodiscard]] QBindable<float> bindableStatusItemWidth() { return &m_statusItemWidth; }
-    [[nodiscard]] QBindable<Icon> bindableDischargingIconSelectedDefault()
+    [[nodiscard]] Bindable<Icon> bindableDischargingIconSelected() { return &m_discharging; }
+    [[nodiscard]] Bindable<Icon> bindableChargingIconSelected() { return &m_charging; }
+    [[nodiscard]] Bindable<Icon> bindableChargedIconSelected() { return &m_charged; }
+    [[nodiscard]] Bindable<QString> bindableReleaseVersionNumber() { return &m_release; }
+    [[nodiscard]] Bindable<float> bindableStatusItemWidth() { return &m_statusItemWidth; }
+    [[nodiscard]] Bindable<Icon> bindableDischargingIconSelectedDefault()
     {
         return &m_dischargingDefault;
     }
-    [[nodiscard]] QBindable<Icon> bindableChargingIconSelectedDefault()
+    [[nodiscard]] Bindable<Icon> bindableChargingIconSelectedDefault()
     {
         return &m_chargingDefault;
     }
-    [[nodiscard]] QBindable<Icon> bindableChargedIconSelectedDefault() { return &m_chargedDefault; }
+    [[nodiscard]] Bindable<Icon> bindableChargedIconSelectedDefault() { return &m_chargedDefault; }
 
 private:
     [[nodiscard]] std::optional<Icon> readAndDecode(const QString &key) const;

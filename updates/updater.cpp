@@ -30,7 +30,7 @@ Updater::Updater(const Parts &parts)
     m_follower = m_session.bindableIsBackground().addNotifier([this] { withdrawSeenNotice(); });
     m_canCheck.setBinding([this] {
         return m_support == UpdateSupport::full
-            && m_session.bindableStage().value() != UpdateSession::Stage::checking;
+            && m_session.stage() != UpdateSession::Stage::checking;
     });
     if (!isPackaged())
         return;

@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "base/bindable.h"
 #include "updates/updateconditions.h"
 #include "updates/updatenotice.h"
 #include "updates/updaterecords.h"
 #include "updates/updatesession.h"
 
-#include <QBindable>
 #include <QDateTime>
 #include <QObject>
 #include <QProperty>
@@ -27,11 +27,11 @@ class DefaultsStore;
 class Updater : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates BINDABLE bindableCanCheckForUpdates)
+    Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates)
     Q_PROPERTY(bool automaticallyChecksForUpdates READ automaticallyChecksForUpdates WRITE
-                   setAutomaticallyChecksForUpdates BINDABLE bindableAutomaticallyChecksForUpdates)
+                   setAutomaticallyChecksForUpdates)
     Q_PROPERTY(bool automaticallyDownloadsUpdates READ automaticallyDownloadsUpdates WRITE
-                   setAutomaticallyDownloadsUpdates BINDABLE bindableAutomaticallyDownloadsUpdates)
+                   setAutomaticallyDownloadsUpdates)
 
 public:
     struct Parts
@@ -52,13 +52,13 @@ public:
 
     /// Where it is not full, the user can neither check nor set anything.
     [[nodiscard]] UpdateSupport support() const { return m_support; }
-    [[nodiscard]] QBindable<UpdateSupport> bindableSupport() const { return &m_support; }
+    [[nodiscard]] Bindable<UpdateSupport> bindableSupport() const { return &m_support; }
     /// Looks anew, since the user may have changed the system.
     void refreshSupport() { m_parts.engine.refreshSupport(); }
 
     /// False while a check is running, and without full support.
     [[nodiscard]] bool canCheckForUpdates() const { return m_canCheck; }
-    [[nodiscard]] QBindable<bool> bindableCanCheckForUpdates() const { return &m_canCheck; }
+    [[nodiscard]] Bindable<bool> bindableCanCheckForUpdates() const { return &m_canCheck; }
     /// The user wants to know: a check begins now, on any network and battery, and the session asks
     /// to be shown.
     Q_INVOKABLE void checkForUpdates();
@@ -68,15 +68,6 @@ public:
     void setAutomaticallyChecksForUpdates(bool checks);
     [[nodiscard]] bool automaticallyDownloadsUpdates() const { return m_automaticallyDownloads; }
     void setAutomaticallyDownloadsUpdates(bool downloads);
-    /// Read-only: the switches are set by their setters.
-    [[nodiscard]] QBindable<bool> bindableAutomaticallyChecksForUpdates() const
-    {
-        return &m_automaticallyChecks;
-    }
-    [[nodiscard]] QBindable<bool> bindableAutomaticallyDownloadsUpdates() const
-    {
-        return &m_automaticallyDownloads;
-    }
 
     [[nodiscard]] UpdateSession &session() noexcept { return m_session; }
 

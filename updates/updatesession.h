@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "base/bindable.h"
 #include "updates/release.h"
 #include "updates/updateengine.h"
 #include "updates/updatefailure.h"
 
-#include <QBindable>
 #include <QObject>
 #include <QProperty>
 #include <QString>
@@ -29,7 +29,7 @@ class UpdateRecords;
 class UpdateSession : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(Stage stage READ stage BINDABLE bindableStage NOTIFY stageChanged)
+    Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
 
 public:
     enum class Stage {
@@ -60,13 +60,8 @@ public:
     /// Nobody has asked to see the session yet.
     [[nodiscard]] bool isBackground() const { return m_isBackground; }
 
-    /// Read-only.
-    [[nodiscard]] QBindable<Stage> bindableStage() const { return &m_stage; }
-    [[nodiscard]] QBindable<std::optional<Release>> bindableRelease() const { return &m_release; }
-    [[nodiscard]] QBindable<UpdateProgress> bindableProgress() const { return &m_progress; }
-    [[nodiscard]] QBindable<QString> bindableFailure() const { return &m_failure; }
-    [[nodiscard]] QBindable<QString> bindableTrouble() const { return &m_trouble; }
-    [[nodiscard]] QBindable<bool> bindableIsBackground() const { return &m_isBackground; }
+    [[nodiscard]] Bindable<Stage> bindableStage() const { return &m_stage; }
+    [[nodiscard]] Bindable<bool> bindableIsBackground() const { return &m_isBackground; }
 
     /// Begins anew in place of a session that only waits for the user, and asks to be shown. One
     /// that is at work continues.

@@ -13,9 +13,9 @@ Theme::Theme(QObject *parent)
     const ApplicationAppearance *const appearance = ApplicationAppearance::shared();
     if (!appearance)
         return;
-    bindableIsDark().setBinding(appearance->bindableIsDark().makeBinding());
-    bindableFontFamily().setBinding(appearance->bindableFontFamily().makeBinding());
-    bindableReducesMotion().setBinding(appearance->bindableReducesMotion().makeBinding());
+    m_isDark.setBinding([appearance] { return appearance->isDark(); });
+    m_fontFamily.setBinding([appearance] { return appearance->fontFamily(); });
+    m_reducesMotion.setBinding([appearance] { return appearance->reducesMotion(); });
 }
 
 Theme *Theme::create(QQmlEngine *, QJSEngine *)

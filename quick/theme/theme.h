@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QBindable>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -19,11 +18,9 @@ class Theme final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged BINDABLE bindableIsDark)
-    Q_PROPERTY(
-        QString fontFamily READ fontFamily NOTIFY fontFamilyChanged BINDABLE bindableFontFamily)
-    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged BINDABLE
-                   bindableReducesMotion)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
+    Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY fontFamilyChanged)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
 
 public:
     /// Follows the application's appearance; without one it keeps the defaults.
@@ -32,12 +29,9 @@ public:
     static Theme *create(QQmlEngine *engine, QJSEngine *);
 
     [[nodiscard]] bool isDark() const { return m_isDark; }
-    [[nodiscard]] QBindable<bool> bindableIsDark() { return &m_isDark; }
     [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
-    [[nodiscard]] QBindable<QString> bindableFontFamily() { return &m_fontFamily; }
     /// The desktop asks for no animations.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
-    [[nodiscard]] QBindable<bool> bindableReducesMotion() { return &m_reducesMotion; }
 
 Q_SIGNALS:
     void isDarkChanged();

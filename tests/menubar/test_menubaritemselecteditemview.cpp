@@ -183,7 +183,7 @@ private Q_SLOTS:
         Fixture fixture;
         ItemHostingView host;
         int evaluations = 0;
-        host.bindableContent().setBinding([&] {
+        host.bindContent([&] {
             ++evaluations;
             return contentFor(fixture.data(), *fixture.switches, *fixture.settings, true);
         });

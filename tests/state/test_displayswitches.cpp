@@ -131,13 +131,6 @@ private Q_SLOTS:
         store.setObject(u"showIconWhenDischarging"_s, u"no"_s);
         QVERIFY(shown.value());
     }
-
-    void offersReadOnlyBindables()
-    {
-        MemoryDefaultsStore store;
-        DisplaySwitches switches(store);
-        QVERIFY(switches.bindableShowIconWhenCharged().isReadOnly());
-    }
 };
 
 FERRIN_TEST(QCoreApplication, DisplaySwitchesTest)

@@ -6,7 +6,6 @@
 #include "platform/linux/session/settingsportal.h"
 #include "state/applicationappearance.h"
 
-#include <QBindable>
 #include <QObject>
 #include <QProperty>
 #include <QString>
@@ -35,8 +34,6 @@ public:
     [[nodiscard]] bool isDesktopDark() const { return m_isDesktopDark; }
     /// The same by the desktop's own words; absent while it has none.
     [[nodiscard]] std::optional<bool> desktopPrefersDark() const { return m_desktopPrefersDark; }
-    /// Read-only.
-    [[nodiscard]] QBindable<bool> bindableIsDesktopDark() const { return &m_isDesktopDark; }
 
 Q_SIGNALS:
     /// One of the values above is another.

@@ -82,7 +82,7 @@ void OwnBarTest::init()
     m_item = m_bar->item();
     m_window = &qobject_cast<OwnBarItem *>(m_item)->window();
     auto view = std::make_unique<ItemHostingView>();
-    view->bindableContent().setValue(dischargingAt(37, u"4:29"_s));
+    view->setContent(dischargingAt(37, u"4:29"_s));
     m_item->addContentView(std::move(view));
     m_item->setContextMenu(twoEntries);
     m_bar->show();
@@ -235,7 +235,7 @@ void OwnBarTest::isBackWhereTheUserLeftIt()
     const QRect left = m_item->place().item;
     OwnBar next(*m_colors, &m_store);
     auto view = std::make_unique<ItemHostingView>();
-    view->bindableContent().setValue(dischargingAt(37, u"4:29"_s));
+    view->setContent(dischargingAt(37, u"4:29"_s));
     next.item()->addContentView(std::move(view));
     QVERIFY(left.top() == 0);
     QVERIFY(std::abs(next.item()->place().item.left() - left.left()) <= 1);

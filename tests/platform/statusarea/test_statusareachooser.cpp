@@ -34,7 +34,7 @@ bool isInOwnBar(StatusItem *item)
 std::unique_ptr<ItemHostingView> viewOf(const ItemContent &content)
 {
     auto view = std::make_unique<ItemHostingView>();
-    view->bindableContent().setValue(content);
+    view->setContent(content);
     return view;
 }
 
@@ -203,7 +203,7 @@ void StatusAreaChooserTest::followsTheContentOfItsView()
     QCOMPARE(words(), u"37%, 4:29 to empty"_s);
     m_chooser->item()->addContentView(std::move(view));
     QCOMPARE(words(), u"36%, 4:20 to empty"_s);
-    shown->bindableContent().setValue(dischargingAt(35, u"4:10"_s));
+    shown->setContent(dischargingAt(35, u"4:10"_s));
     QCOMPARE(words(), u"35%, 4:10 to empty"_s);
 }
 

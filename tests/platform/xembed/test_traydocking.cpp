@@ -34,7 +34,7 @@ const QColor barGround(0x20, 0x40, 0x60);
 std::unique_ptr<ItemHostingView> viewOf(const ItemContent &content)
 {
     auto view = std::make_unique<ItemHostingView>();
-    view->bindableContent().setValue(content);
+    view->setContent(content);
     return view;
 }
 
