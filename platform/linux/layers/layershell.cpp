@@ -4,12 +4,13 @@
 #include "platform/linux/layers/layershell.h"
 
 #include "base/logging.h"
+#include "platform/linux/layers/qtsurfaces.h"
 
 #include <QDeadlineTimer>
 #include <QGuiApplication>
+#include <QPlatformSurfaceEvent>
 #include <QScreen>
 #include <QWindow>
-#include <qpa/qplatformnativeinterface.h>
 
 #include <algorithm>
 #include <chrono>
@@ -27,20 +28,6 @@ namespace {
 // The latest version that this is tested with.
 constexpr quint32 knownVersion = 4;
 constexpr Qt::Edges everyEdge = Qt::TopEdge | Qt::BottomEdge | Qt::LeftEdge | Qt::RightEdge;
-
-void bindShell(void *data, wl_registry *registry, quint32 name, const char *interface,
-               quint32 version)
-{
-    if (std::strcmp(interface, zwlr_layer_shell_v1_interface.name) != 0)
-        return;
-    *static_cast<zwlr_layer_shell_v1 **>(data)
-        = static_cast<zwlr_layer_shell_v1 *>(wl_registry_bind(
-            registry, name, &zwlr_layer_shell_v1_interface, std::min(version, knownVersion)));
-}
-
-void forgetGlobal(void *, wl_registry *, quint32) { }
-
-constexpr wl_registry_listener registryListener { bindShell, forgetGlobal };
 
 // A compositor that takes longer hangs; the program must not hang with it.
 constexpr auto answerLimit = 500ms;
@@ -65,20 +52,6 @@ bool readEvents(wl_display *display, wl_event_queue *queue, std::chrono::millise
     }
     return wl_display_read_events(display) == 0
         && wl_display_dispatch_queue_pending(display, queue) >= 0;
-}
-
-wl_surface *surfaceOf(QWindow &window)
-{
-    return static_cast<wl_surface *>(
-        QGuiApplication::platformNativeInterface()->nativeResourceForWindow("surface", &window));
-}
-
-wl_output *outputOf(QScreen *screen)
-{
-    return screen
-        ? static_cast<wl_output *>(
-            QGuiApplication::platformNativeInterface()->nativeResourceForScreen("output", screen))
-        : nullptr;
 }
 
 quint32 anchorsFor(Qt::Edges edges)
@@ -137,15 +110,17 @@ struct LayerSurface::Listener
         // The screen has gone, or the compositor wants it so.
         auto *const self = static_cast<LayerSurface *>(data);
         QMetaObject::invokeMethod(
-            &self->m_context, [self] { self->m_window.close(); }, Qt::QueuedConnection);
+            self, [self] { self->m_window.close(); }, Qt::QueuedConnection);
     }
     static constexpr zwlr_layer_surface_v1_listener callbacks { configure, closed };
 };
 
-LayerSurface::LayerSurface(QWindow &window, zwlr_layer_surface_v1 *surface)
+LayerSurface::LayerSurface(QWindow &window, wl_surface *ofWindow, zwlr_layer_surface_v1 *surface)
     : m_window(window)
+    , m_ofWindow(ofWindow)
     , m_surface(surface)
 {
+    window.installEventFilter(this);
     zwlr_layer_surface_v1_add_listener(m_surface, &Listener::callbacks, this);
 }
 
@@ -167,8 +142,17 @@ void LayerSurface::apply(const LayerPlace &place)
 void LayerSurface::move(const LayerPlace &place)
 {
     apply(place);
-    if (wl_surface *const surface = surfaceOf(m_window))
-        wl_surface_commit(surface);
+    if (m_ofWindow)
+        wl_surface_commit(m_ofWindow);
+}
+
+bool LayerSurface::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() == QEvent::PlatformSurface
+        && static_cast<QPlatformSurfaceEvent *>(event)->surfaceEventType()
+            == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
+        m_ofWindow = nullptr;
+    return false;
 }
 
 std::shared_ptr<LayerShell> LayerShell::shared()
@@ -182,12 +166,29 @@ std::shared_ptr<LayerShell> LayerShell::shared()
     return shell;
 }
 
+struct LayerShell::Registry
+{
+    static void add(void *data, wl_registry *registry, quint32 name, const char *interface,
+                    quint32 version)
+    {
+        auto *const self = static_cast<LayerShell *>(data);
+        self->m_outputs.add(registry, name, interface, version);
+        if (std::strcmp(interface, zwlr_layer_shell_v1_interface.name) == 0)
+            self->m_shell = static_cast<zwlr_layer_shell_v1 *>(wl_registry_bind(
+                registry, name, &zwlr_layer_shell_v1_interface, std::min(version, knownVersion)));
+    }
+    static void remove(void *data, wl_registry *, quint32 name)
+    {
+        static_cast<LayerShell *>(data)->m_outputs.remove(name);
+    }
+    static constexpr wl_registry_listener callbacks { add, remove };
+};
+
 LayerShell::LayerShell()
 {
     if (!QGuiApplication::platformName().startsWith(u"wayland"))
         return;
-    m_display = static_cast<wl_display *>(
-        QGuiApplication::platformNativeInterface()->nativeResourceForIntegration("wl_display"));
+    m_display = qtsurfaces::display();
     if (m_display)
         bind();
 }
@@ -196,6 +197,9 @@ LayerShell::~LayerShell()
 {
     if (m_shell)
         wl_proxy_destroy(reinterpret_cast<wl_proxy *>(m_shell));
+    m_outputs.clear();
+    if (m_registry)
+        wl_registry_destroy(m_registry);
     if (m_queue)
         wl_event_queue_destroy(m_queue);
 }
@@ -223,12 +227,20 @@ void LayerShell::bind()
     m_queue = wl_display_create_queue(m_display);
     auto *const wrapper = static_cast<wl_display *>(wl_proxy_create_wrapper(m_display));
     wl_proxy_set_queue(reinterpret_cast<wl_proxy *>(wrapper), m_queue);
-    wl_registry *const registry = wl_display_get_registry(wrapper);
+    m_registry = wl_display_get_registry(wrapper);
     wl_proxy_wrapper_destroy(wrapper);
-    wl_registry_add_listener(registry, &registryListener, &m_shell);
+    wl_registry_add_listener(m_registry, &Registry::callbacks, this);
     if (!roundTrip())
         qCCritical(logger, "The Wayland compositor does not answer");
-    wl_registry_destroy(registry);
+}
+
+wl_output *LayerShell::outputOf(const QScreen *screen)
+{
+    // Screens may have come and gone since the last time.
+    wl_display_dispatch_queue_pending(m_display, m_queue);
+    if (!screen || (m_outputs.awaitsNames() && !roundTrip()))
+        return nullptr;
+    return m_outputs.named(screen->name());
 }
 
 std::unique_ptr<LayerSurface> LayerShell::createSurface(QWindow &window, const LayerPlace &place,
@@ -238,15 +250,13 @@ std::unique_ptr<LayerSurface> LayerShell::createSurface(QWindow &window, const L
         return {};
     // With the shell integration that the application sets, Qt gives such a window no role.
     window.setFlag(Qt::BypassWindowManagerHint);
-    // Qt recreates the surface of a hidden window only when that is shown, which is too late.
-    if (window.handle() && !surfaceOf(window))
-        window.destroy();
-    window.create();
-    wl_surface *const surface = surfaceOf(window);
+    // Left to itself, Qt makes a surface for a window that was hidden only when it is shown again,
+    // which is too late.
+    wl_surface *const surface = qtsurfaces::recreate(window);
     if (!surface)
         return {};
     std::unique_ptr<LayerSurface> layer(new LayerSurface(
-        window,
+        window, surface,
         zwlr_layer_shell_v1_get_layer_surface(m_shell, surface, outputOf(window.screen()),
                                               layerOf(kind), "ferrin")));
     layer->apply(place);

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/linux/layers/waylandoutputs.h"
+
 #include <QMargins>
 #include <QObject>
 #include <QRect>
@@ -15,6 +17,8 @@ class QScreen;
 class QWindow;
 struct wl_display;
 struct wl_event_queue;
+struct wl_registry;
+struct wl_surface;
 struct zwlr_layer_shell_v1;
 struct zwlr_layer_surface_v1;
 
@@ -36,24 +40,25 @@ struct LayerPlace
 
 /// A window as a surface in the topmost layers of a Wayland desktop. It belongs to the window, and
 /// has to go before the window's platform surface does.
-class LayerSurface
+class LayerSurface : public QObject
 {
 public:
-    ~LayerSurface();
+    ~LayerSurface() override;
     LayerSurface(const LayerSurface &) = delete;
     LayerSurface &operator=(const LayerSurface &) = delete;
 
     void move(const LayerPlace &place);
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     friend class LayerShell;
-    LayerSurface(QWindow &window, zwlr_layer_surface_v1 *surface);
+    LayerSurface(QWindow &window, wl_surface *ofWindow, zwlr_layer_surface_v1 *surface);
     void apply(const LayerPlace &place);
 
     struct Listener;
     QWindow &m_window;
-    /// Drops queued calls once this surface is gone.
-    QObject m_context;
+    /// Null once Qt has destroyed it.
+    wl_surface *m_ofWindow;
     zwlr_layer_surface_v1 *m_surface;
 };
 
@@ -90,9 +95,15 @@ private:
     LayerShell();
     void bind();
     [[nodiscard]] bool roundTrip();
+    /// Null leaves the choice to the compositor.
+    [[nodiscard]] wl_output *outputOf(const QScreen *screen);
+
+    struct Registry;
 
     wl_display *m_display = nullptr;
     wl_event_queue *m_queue = nullptr;
+    wl_registry *m_registry = nullptr;
+    WaylandOutputs m_outputs;
     zwlr_layer_shell_v1 *m_shell = nullptr;
 };
 
