@@ -12,25 +12,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString besideTheProgram(const QString &path)
+QString fromTheProgram(const QString &path)
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../"_s + path);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + path);
 }
 
 } // namespace
 
 QString privateFolder()
 {
-    return besideTheProgram(u"libexec/ferrin"_s);
+    return fromTheProgram(QStringLiteral(FERRIN_LIBEXEC_FROM_BIN));
 }
 
 Vendor vendor()
 {
     const QString faq = QStringLiteral(FERRIN_FAQ_URL);
     const QString email = QStringLiteral(FERRIN_SUPPORT_EMAIL);
-    return { .faq = faq.isEmpty()
-                 ? QUrl::fromLocalFile(besideTheProgram(u"share/ferrin/faq/index.html"_s))
-                 : QUrl(faq),
+    return { .faq = faq.isEmpty() ? QUrl::fromLocalFile(
+                        fromTheProgram(QStringLiteral(FERRIN_DATA_FROM_BIN "/faq/index.html")))
+                                  : QUrl(faq),
              .supportMail = email.isEmpty() ? QUrl() : QUrl(u"mailto:"_s + email) };
 }
 

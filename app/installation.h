@@ -9,8 +9,8 @@
 
 namespace ferrin {
 
-/// Where the program's own parts lie (the report tool, the module of the windows): libexec/ferrin
-/// beside the folder of the executable, in the build tree as in the install tree.
+/// Where the program's own parts lie (the report tool, the module of the windows): where they were
+/// installed, as seen from the folder of the executable, and in the build tree likewise.
 [[nodiscard]] QString privateFolder();
 
 /// Where the vendor is found, as this program was built. Built without an address for the page of

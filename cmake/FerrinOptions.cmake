@@ -5,7 +5,7 @@ option(BUILD_TESTING "Build the tests" ON)
 option(FERRIN_BUILD_BENCH "Build the benchmarks" OFF)
 option(FERRIN_BUILD_FUZZERS "Build the fuzzers; needs clang" OFF)
 set(FERRIN_SANITIZERS "" CACHE STRING "Sanitizers to build with: address,undefined or thread")
-option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
+option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors; the presets do" OFF)
 set(FERRIN_FAQ_URL "" CACHE STRING
     "Page of frequently asked questions; empty: the one that is installed with the program")
 set(FERRIN_SUPPORT_EMAIL "" CACHE STRING
@@ -20,9 +20,17 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# The build tree mirrors the install tree, so that the program finds its parts in both.
+# The program finds its parts from its own folder, so that an install tree may be moved. The build tree
+# mirrors the install tree.
+file(RELATIVE_PATH FERRIN_LIBEXEC_FROM_BIN "${CMAKE_INSTALL_FULL_BINDIR}"
+    "${CMAKE_INSTALL_FULL_LIBEXECDIR}/ferrin")
+file(RELATIVE_PATH FERRIN_DATA_FROM_BIN "${CMAKE_INSTALL_FULL_BINDIR}"
+    "${CMAKE_INSTALL_FULL_DATADIR}/ferrin")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
-set(FERRIN_LIBEXEC_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/libexec/ferrin")
+cmake_path(ABSOLUTE_PATH FERRIN_LIBEXEC_FROM_BIN BASE_DIRECTORY "${CMAKE_BINARY_DIR}/bin" NORMALIZE
+    OUTPUT_VARIABLE FERRIN_LIBEXEC_OUTPUT_DIRECTORY)
+cmake_path(ABSOLUTE_PATH FERRIN_DATA_FROM_BIN BASE_DIRECTORY "${CMAKE_BINARY_DIR}/bin" NORMALIZE
+    OUTPUT_VARIABLE FERRIN_DATA_OUTPUT_DIRECTORY)
 
 add_library(ferrin_options INTERFACE)
 target_compile_options(ferrin_options INTERFACE
