@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QProperty>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 

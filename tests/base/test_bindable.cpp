@@ -5,6 +5,7 @@
 #include "tests/support/testmain.h"
 
 #include <QCoreApplication>
+#include <QProperty>
 #include <QTest>
 
 using namespace ferrin;
