@@ -7,10 +7,11 @@
 //
 // What a host of that process name is offered at that scale, on the desktop that the environment
 // variable XDG_CURRENT_DESKTOP names: the picture of that height in device pixels, or the largest
-// one brought to HEIGHT where that is "scaled:HEIGHT". It stands on a ground of one colour, in the
-// colour that the host is known to write in. A content is STATUS,ICON,PERCENT,CHARGE,TIME, each of
-// the last four "-" for absent, and ICON "fault" for the crossed-out battery. For each content it
-// writes the width, the height and the grey values, row by row, as one line of numbers.
+// one brought to HEIGHT where that is "scaled:HEIGHT", or the one of another height,
+// "OTHER:HEIGHT". It stands on a ground of one colour, in the colour that the host is known to
+// write in, or on a chip where TEXT is "chip". A content is STATUS,ICON,PERCENT,CHARGE,TIME, each
+// of the last four "-" for absent, and ICON "fault" for the crossed-out battery. For each content
+// it writes the width, the height and the grey values, row by row, as one line of numbers.
 
 #include "platform/linux/panelcolors/panelcolors.h"
 #include "platform/linux/statusnotifier/itempictures.h"
@@ -92,12 +93,15 @@ const IconPixmap &ofHeight(const IconPixmapList &pictures, int height)
 
 QImage offered(const IconPixmapList &pictures, const QString &height, bool premultiplied)
 {
-    const QString scaled = u"scaled:"_s;
-    if (!height.startsWith(scaled))
-        return imageOf(ofHeight(pictures, height.toInt()), premultiplied);
-    const QImage image = imageOf(largest(pictures), premultiplied);
+    const QStringList words = height.split(u':');
+    const IconPixmap &picture = words.first() == u"scaled"
+        ? largest(pictures)
+        : ofHeight(pictures, words.first().toInt());
+    const QImage image = imageOf(picture, premultiplied);
+    if (words.size() == 1)
+        return image;
     return image.convertToFormat(QImage::Format_ARGB32_Premultiplied)
-        .scaledToHeight(height.sliced(scaled.size()).toInt(), Qt::SmoothTransformation);
+        .scaledToHeight(words.last().toInt(), Qt::SmoothTransformation);
 }
 
 QImage onGround(const QImage &image, const QColor &ground)
@@ -120,7 +124,8 @@ int main(int argc, char **argv)
     const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
     const HostProfile &profile = profileFor(process, desktops);
     PanelColors colors;
-    colors.setPanelText(profile.name, QColor(words[4]));
+    if (words[4] != u"chip")
+        colors.setPanelText(profile.name, QColor(words[4]));
     const ViewContext context = colors.contextFor(profile.panel());
     QTextStream out(stdout);
     for (const QString &word : words.sliced(6)) {

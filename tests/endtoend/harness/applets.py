@@ -8,7 +8,9 @@ from harness.processes import eventually
 from harness.shells import Shell, xapp_watcher
 
 AYATANA = "/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service"
-MATE_INDICATORS = "IndicatorAppletFactory::IndicatorAppletComplete"
+MATE_INDICATORS = "IndicatorAppletFactory::IndicatorApplet"
+MATE_INDICATOR_APPLET = "/usr/lib/mate-indicator-applet/mate-indicator-applet"
+MATE_INDICATOR_FACTORY = "org.mate.panel.applet.IndicatorAppletFactory"
 MATE_XAPP = "MateXAppStatusAppletFactory::MateXAppStatusApplet"
 BUDGIE_TRAY, BUDGIE_INDICATORS = "System Tray", "AppIndicator Applet"
 # Identifiers of a panel and of an applet in it; Budgie wants them in this form.
@@ -75,6 +77,9 @@ class MateAppletScreen(Shell, PanelScreen):
 
     def start_status_area(self):
         self.start_shell([AYATANA])
+        # Started by the bus it stays empty.
+        self.start_shell([MATE_INDICATOR_APPLET])
+        eventually(lambda: self.bus.owner(MATE_INDICATOR_FACTORY), "the applet is there")
 
     def command(self):
         return ["mate-panel"]

@@ -51,13 +51,16 @@ class Shown:
 @dataclass(frozen=True)
 class Look:
     """How a host shows its items: by the name of its process, the height in device pixels of the
-    picture that it takes, or "scaled:HEIGHT" where it brings the largest one to its own; the
+    picture that it takes, or "scaled:HEIGHT" where it brings the largest one to its own, or
+    "OTHER:HEIGHT" where it does that with the one of another height; the
     desktop's scale, and its names where they matter."""
 
     process: str
     height: int | str
     scale: int = 1
     desktop: str = ""
+    # The item brings a ground of its own.
+    on_chip: bool = False
 
 
 def likenesses(look, picture, box, contents):
@@ -68,7 +71,7 @@ def likenesses(look, picture, box, contents):
     ground = Counter(picture.pixels(around)).most_common(1)[0][0]
     rows = [[_grey(picture.pixel(x, y)) for x in range(around.left, around.right)]
             for y in range(around.top, around.bottom)]
-    text = "white" if _grey(ground) < 128 else "black"
+    text = "chip" if look.on_chip else "white" if _grey(ground) < 128 else "black"
     under = "#%02x%02x%02x" % ground
     told = subprocess.run(
         [os.environ["FERRIN_ITEM_PICTURE"], look.process, str(look.scale), under, text,

@@ -14,6 +14,8 @@ from harness.session import Screen
 # Of GNOME.
 PANEL_HEIGHT = 32
 APPINDICATOR = "ubuntu-appindicators@ubuntu.com"
+# A sign of the item's label that draws nothing: it makes the text another one than before.
+UNSEEN_MARK = "\u200e"
 # Where a shell looks for things that a machine without a desktop does not have.
 SHELL = {"GSETTINGS_BACKEND": "keyfile"}
 
@@ -168,11 +170,12 @@ class GnomeScreen(Shell, Screen):
                               ".map(window => window.get_title())")
 
     def item_label(self):
-        """The text that the shell draws beside the glyph of the only item; None without one."""
-        return self._evaluate(
+        """What the shell's text beside the glyph of the only item shows; None without one."""
+        text = self._evaluate(
             "Object.entries(Main.panel.statusArea).filter(([role, button]) =>"
             " role.startsWith('appindicator-') && button._label?.is_mapped()"
             ").map(([role, button]) => button._label.get_text())[0] ?? null")
+        return text and text.replace(UNSEEN_MARK, "")
 
     def _evaluate(self, script):
         """What a script answers that the shell runs."""

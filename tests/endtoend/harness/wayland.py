@@ -41,6 +41,8 @@ class SwayScreen(Screen):
     desktop = "sway"
     bar = ""
     edge = "top"
+    # Where nothing lies on it.
+    desktop_color = GROUND
 
     def __init__(self, scale=1, dark=True):
         super().__init__("nobody" if os.geteuid() == 0 else None, scale)
@@ -63,7 +65,7 @@ class SwayScreen(Screen):
 
     def _is_covered(self):
         picture = self.picture()
-        bare = bytes.fromhex(GROUND[1:]) * picture.width
+        bare = bytes.fromhex(self.desktop_color[1:]) * picture.width
         return any(picture.row(y) != bare for y in range(BELOW_BARS * self.scale, picture.height))
 
     def _nodes(self):
