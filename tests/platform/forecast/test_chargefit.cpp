@@ -17,8 +17,10 @@ ChargeFit charged(const ChargeFit::Charge &truth, double from, double to,
                   std::optional<ChargeFit::Charge> known = {})
 {
     ChargeFit fit(known);
-    for (double percent = from; percent < to; ++percent)
+    for (int step = 0; from + step < to; ++step) {
+        const double percent = from + step;
         fit.add(percent, percent + 1, truth.curve.between(percent, percent + 1, truth.rate));
+    }
     return fit;
 }
 
@@ -44,6 +46,27 @@ private Q_SLOTS:
         QVERIFY(std::abs(curve.between(75, 100, 50).count() - 27 * std::log(13.5) / 50) < 1e-9);
         QVERIFY(curve.share(60) == 1);
         QVERIFY(std::abs(curve.share(100) - 2.0 / 27) < 1e-9);
+    }
+
+    void learnsFromStepsOfAnySize_data()
+    {
+        QTest::addColumn<double>("step");
+        QTest::addRow("parts of a percent") << 0.5;
+        QTest::addRow("some percents and a part") << 2.5;
+    }
+
+    void learnsFromStepsOfAnySize()
+    {
+        QFETCH(double, step);
+        const ChargeFit::Charge truth { { 70, 2 }, 50 };
+        ChargeFit fit({});
+        for (int count = 0; 30 + count * step < 100; ++count) {
+            const double percent = 30 + count * step;
+            fit.add(percent, percent + step,
+                    truth.curve.between(percent, percent + step, truth.rate));
+        }
+        QVERIFY(fit.isTelling());
+        QVERIFY2(error(fit, truth, 40) < 0.05, qPrintable(QString::number(error(fit, truth, 40))));
     }
 
     void knowsNothingBeforeAnythingWasSeen() { QVERIFY(!ChargeFit({}).result()); }
@@ -93,7 +116,7 @@ private Q_SLOTS:
     {
         const ChargeFit::Charge truth { { 75, 2 }, 55 };
         ChargeFit fit({});
-        for (double percent = 20; percent < 85; ++percent) {
+        for (int percent = 20; percent < 85; ++percent) {
             const Hours span = truth.curve.between(percent, percent + 1, truth.rate);
             fit.add(percent, percent + 1, percent == 50 ? span * 8 : span);
         }

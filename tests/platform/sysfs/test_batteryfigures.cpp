@@ -24,6 +24,7 @@ private Q_SLOTS:
     void isChargedAt95PercentOnExternalPowerOnly_data();
     void isChargedAt95PercentOnExternalPowerOnly();
     void knowsNoChargingWithoutAStatus();
+    void takesAHundredMilliampHoursForACapacityAndNoLess();
 };
 
 namespace {
@@ -151,6 +152,16 @@ void BatteryFiguresTest::knowsNoChargingWithoutAStatus()
     QCOMPARE(isCharging(packsOf({ battery({}, 50) })), false);
     QCOMPARE(isCharging(packsOf({ battery(ChargeStatus::Unknown, 50) })), false);
     QCOMPARE(isCharging(packsOf({ battery({}), battery(ChargeStatus::Charging) })), true);
+}
+
+void BatteryFiguresTest::takesAHundredMilliampHoursForACapacityAndNoLess()
+{
+    BatterySupply battery;
+    battery.capacity = 50;
+    battery.chargeFull = 100'000;
+    QCOMPARE(packsOf({ battery }).front().fullMilliampHours, Reading(100));
+    battery.chargeFull = 99'000;
+    QVERIFY(!packsOf({ battery }).front().fullMilliampHours);
 }
 
 FERRIN_TEST(QCoreApplication, BatteryFiguresTest)
