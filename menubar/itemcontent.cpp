@@ -103,7 +103,7 @@ ItemElements shownElements(ItemState state, ItemElements switchedOn)
 }
 
 // What decides how much is read is read first, and once. Where a binding of Qt 6.4 reads more at a
-// change than before, its fifth and further dependencies move in memory, and the one that told of
+// change than before, its fifth and further dependencies move in memory, and the one that reported
 // the change must not be among them.
 ItemContent contentFor(const BatteryData &data, const DisplaySwitches &switches,
                        SettingsData &settings, bool connected)

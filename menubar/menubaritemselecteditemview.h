@@ -41,7 +41,7 @@ public:
     [[nodiscard]] qreal width() const;
 
 Q_SIGNALS:
-    /// The stored width is another than it was; the item has to be rebuilt.
+    /// The stored width has changed; the item has to be rebuilt.
     void statusItemWidthChanged();
 
 private:

@@ -34,10 +34,10 @@ bool isAt(int descriptor, const char *path)
 
 } // namespace
 
-FileLock::FileLock(const QString &path, std::chrono::milliseconds patience)
+FileLock::FileLock(const QString &path, std::chrono::milliseconds timeout)
     : m_path(QFile::encodeName(path))
 {
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(timeout);
     while (attempt() == Attempt::Busy && !deadline.hasExpired())
         QThread::msleep(betweenAttempts.count());
 }

@@ -17,7 +17,7 @@ class FileLock
 {
 public:
     /// Waits at most for this long, and not at all if a lock is impossible.
-    FileLock(const QString &path, std::chrono::milliseconds patience);
+    FileLock(const QString &path, std::chrono::milliseconds timeout);
     ~FileLock();
     Q_DISABLE_COPY_MOVE(FileLock)
 

@@ -64,7 +64,7 @@ public:
     virtual void download(const Release &release, UpdateManner manner) = 0;
     /// Downloads first what is still missing.
     virtual void install(const Release &release) = 0;
-    /// Ends the task as soon as that is safe. Nothing more is told of it.
+    /// Ends the task as soon as that is safe. It reports nothing more.
     virtual void cancel() = 0;
 
 Q_SIGNALS:

@@ -122,7 +122,7 @@ class WithoutAPanel(OnADesktop):
         program = self.start()
         for _ in range(20):
             dying = self.session.start([WATCHER, "dies"])
-            dying.wait(processes.PATIENCE_SECONDS)
+            dying.wait(processes.TIMEOUT_SECONDS)
         self.session.start_panel()
         program.item()
         program.says(AT_START)

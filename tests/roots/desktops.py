@@ -15,7 +15,7 @@ TARGETS = ("ferrin", "item_picture")
 COMPILER_CACHE = ("CMAKE_C_COMPILER_LAUNCHER", "CMAKE_CXX_COMPILER_LAUNCHER", "CCACHE_DIR",
                   "CCACHE_BASEDIR", "CCACHE_NOHASHDIR", "CCACHE_SLOPPINESS", "CCACHE_MAXSIZE")
 # Variables that reach a test in the root, beside those that say which program it is to run.
-PASSED_ON = ("FERRIN_TEST_PATIENCE", *COMPILER_CACHE)
+PASSED_ON = ("FERRIN_TEST_TIMEOUT", *COMPILER_CACHE)
 
 
 def release_of_this_machine():

@@ -71,8 +71,8 @@ class WithARepository(unittest.TestCase):
         self.assertEqual(told["told"], "checked", told)
         return told
 
-    def fails(self, order, failure, patience=system.PATIENCE):
-        told = self.asker.ask(order, patience)
+    def fails(self, order, failure, timeout=system.TIMEOUT):
+        told = self.asker.ask(order, timeout)
         self.assertEqual(told.get("failure"), failure, told)
         self.assertTrue(told["words"])
         return told
@@ -276,13 +276,13 @@ class ABadServer(WithARepository):
         self.still_works()
 
     def test_that_stalls_on_the_lists(self):
-        self.asker = self.new_asker(patience=3)
+        self.asker = self.new_asker(timeout=3)
         self.server.rates["InRelease"] = 0
         self.fails("check", "tooSlow")
         self.still_works()
 
     def test_that_stalls_on_the_package(self):
-        self.asker = self.new_asker(patience=3)
+        self.asker = self.new_asker(timeout=3)
         self.offered()
         self.server.rates["pool"] = 0
         self.fails("download", "tooSlow")

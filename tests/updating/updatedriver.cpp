@@ -3,7 +3,7 @@
 
 // The program's package engine without its windows, worked by lines: updatedriver PROGRAM SECONDS
 // reads "check", "download", "install", "cancel" and "support", and tells all that the engine
-// tells, a JSON object a line. SECONDS are its patience with a transaction that stands still.
+// tells, a JSON object a line. SECONDS are its timeout with a transaction that stands still.
 
 #include "platform/linux/packagekit/packagekitengine.h"
 
@@ -38,9 +38,9 @@ QJsonObject jsonFrom(const Release &release)
 class Driver
 {
 public:
-    Driver(const QString &program, std::chrono::seconds patience)
+    Driver(const QString &program, std::chrono::seconds timeout)
         : m_engine(
-            { .bus = QDBusConnection::systemBus(), .program = program, .patience = patience })
+            { .bus = QDBusConnection::systemBus(), .program = program, .timeout = timeout })
     {
         QObject::connect(&m_engine, &UpdateEngine::checked,
                          [this](const std::optional<Release> &release) {

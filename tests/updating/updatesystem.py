@@ -26,7 +26,7 @@ SERVICE = "/usr/share/dbus-1/system-services/org.freedesktop.PackageKit.service"
 RELEASE = "/mnt/tree/scripts/release"
 # As the user of an active session has them.
 GRANTED, REFUSED = "YES", "AUTH_ADMIN"
-PATIENCE = 60
+TIMEOUT = 60
 FIRST_USER, SECOND_USER = 1000, 1001
 
 
@@ -241,10 +241,10 @@ class Server:
 class Asker:
     """The program's engine, run by an ordinary user, and what it tells."""
 
-    def __init__(self, user=FIRST_USER, patience=PATIENCE, program="/usr/bin/ferrin"):
+    def __init__(self, user=FIRST_USER, timeout=TIMEOUT, program="/usr/bin/ferrin"):
         self._process = subprocess.Popen(
             ["setpriv", f"--reuid={user}", f"--regid={user}", "--clear-groups", "/mnt/driver",
-             program, str(patience)], text=True, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+             program, str(timeout)], text=True, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
             env={"PATH": "/usr/bin:/bin", "HOME": "/tmp"})
         self._lines = queue.Queue()
         threading.Thread(target=self._read, daemon=True).start()
@@ -259,9 +259,9 @@ class Asker:
         self._process.stdin.write(order + "\n")
         self._process.stdin.flush()
 
-    def hear(self, patience=PATIENCE):
+    def hear(self, timeout=TIMEOUT):
         """The next that it tells, progress aside."""
-        end = time.monotonic() + patience
+        end = time.monotonic() + timeout
         while True:
             told = self._lines.get(timeout=max(0.01, end - time.monotonic()))
             if told["told"] == "progress":
@@ -274,7 +274,7 @@ class Asker:
     def hear_progress(self, activity=None):
         """Waits for a sign of this activity."""
         while True:
-            told = self._lines.get(timeout=PATIENCE)
+            told = self._lines.get(timeout=TIMEOUT)
             if told["told"] != "progress":
                 raise AssertionError(f"It ended: {told}")
             self.progress.append(told)
@@ -287,9 +287,9 @@ class Asker:
         except queue.Empty:
             return
 
-    def ask(self, order, patience=PATIENCE):
+    def ask(self, order, timeout=TIMEOUT):
         self.say(order)
-        return self.hear(patience)
+        return self.hear(timeout)
 
     def close(self):
         self._process.stdin.close()

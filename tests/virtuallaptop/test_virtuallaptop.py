@@ -25,7 +25,7 @@ PORT = "ucsi-source-psy-USBC000:001"
 BATTERY_PATH = "/org/freedesktop/UPower/devices/battery_BAT0"
 
 # No test takes this long on the slowest machine.
-PATIENCE_SECONDS = 300
+TIMEOUT_SECONDS = 300
 
 
 def eventually(condition, what):
@@ -59,15 +59,15 @@ class Finite(unittest.TestCase):
 
     def setUp(self):
         def give_up(*_):
-            raise AssertionError(f"still waiting after {PATIENCE_SECONDS} seconds")
+            raise AssertionError(f"still waiting after {TIMEOUT_SECONDS} seconds")
 
         previous = signal.signal(signal.SIGALRM, give_up)
         self.addCleanup(signal.signal, signal.SIGALRM, previous)
         # Again and again: the tidying after a failure may wait as well.
-        signal.setitimer(signal.ITIMER_REAL, PATIENCE_SECONDS, 30)
+        signal.setitimer(signal.ITIMER_REAL, TIMEOUT_SECONDS, 30)
         self.addCleanup(signal.setitimer, signal.ITIMER_REAL, 0)
         # A library that waits lets no handler run.
-        faulthandler.dump_traceback_later(2 * PATIENCE_SECONDS, exit=True)
+        faulthandler.dump_traceback_later(2 * TIMEOUT_SECONDS, exit=True)
         self.addCleanup(faulthandler.cancel_dump_traceback_later)
 
 

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The notes are worth no longer wait. A server that sends them may stall.
-constexpr std::chrono::seconds changelogPatience { 10 };
+constexpr std::chrono::seconds changelogTimeout { 10 };
 
 /// How it is known that there is no changelog.
 constexpr QLatin1StringView noChangelog = "not yet available"_L1;
@@ -145,7 +145,7 @@ void CheckTask::readChangelog(const PackageId &newest)
                 m_release.notes = harmlessNotes(result.changelog);
             Q_EMIT checked(m_release);
         });
-    QTimer::singleShot(changelogPatience, transaction(), &Transaction::stall);
+    QTimer::singleShot(changelogTimeout, transaction(), &Transaction::stall);
 }
 
 } // namespace ferrin

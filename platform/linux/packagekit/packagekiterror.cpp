@@ -103,7 +103,7 @@ UpdateFailure failureFrom(uint code, const QString &text)
 {
     const auto cause = std::ranges::find_if(
         words, [&](const WordsRow &row) { return text.contains(row.words, Qt::CaseInsensitive); });
-    // A list that is missing is the source's trouble, a package that is missing is another's.
+    // A missing list means a broken source; a missing package does not.
     const bool isMissingList = code == noSources && cause != words.end()
         && cause->failure == UpdateFailure::packageMissing;
     if (hasManyCauses(code) && cause != words.end() && !isMissingList)

@@ -48,7 +48,7 @@ void PackageTask::abandon()
 void PackageTask::run(const QString &method, const QVariantList &arguments, Then then)
 {
     m_transaction
-        = new Transaction(m_system.bus, { method, arguments, m_manner }, m_system.patience);
+        = new Transaction(m_system.bus, { method, arguments, m_manner }, m_system.timeout);
     m_transaction->setParent(this);
     connect(m_transaction, &Transaction::progressed, this, &PackageTask::progressed);
     connect(m_transaction, &Transaction::finished, this,
@@ -126,9 +126,9 @@ void PackageTask::mustBeSetUp(const PackageId &installed, std::function<void()> 
 }
 
 void PackageTask::read(const QString &program, const QStringList &arguments,
-                       std::function<void(const QByteArray &)> then)
+                       const std::function<void(const QByteArray &)> &then)
 {
-    m_system.read(this, program, arguments, std::move(then));
+    m_system.read(this, program, arguments, then);
 }
 
 } // namespace ferrin

@@ -24,7 +24,7 @@ struct PackageSystem
     /// The file that a package may own, absolute.
     QString program;
     CommandReader read = &readCommand;
-    std::chrono::milliseconds patience = Transaction::usualPatience;
+    std::chrono::milliseconds timeout = Transaction::usualTimeout;
 };
 
 /// A task of the engine: transactions one after the other, until it tells how it ended. Owned by
@@ -58,7 +58,7 @@ protected:
     /// Fails if the package manager did not finish setting the package up.
     void mustBeSetUp(const PackageId &installed, std::function<void()> then);
     void read(const QString &program, const QStringList &arguments,
-              std::function<void(const QByteArray &)> then);
+              const std::function<void(const QByteArray &)> &then);
 
     [[nodiscard]] Transaction *transaction() const { return m_transaction; }
 

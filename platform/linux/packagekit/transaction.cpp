@@ -36,13 +36,13 @@ QStringList hintsOf(UpdateManner manner)
 } // namespace
 
 Transaction::Transaction(const QDBusConnection &bus, TransactionRequest request,
-                         std::chrono::milliseconds patience)
+                         std::chrono::milliseconds timeout)
     : m_bus(bus)
     , m_request(std::move(request))
 {
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
-    m_patience.callOnTimeout(this, &Transaction::stall);
+    m_timeout.setSingleShot(true);
+    m_timeout.setInterval(timeout);
+    m_timeout.callOnTimeout(this, &Transaction::stall);
     m_watcher.setConnection(m_bus);
     m_watcher.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
@@ -131,7 +131,7 @@ void Transaction::send()
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this](QDBusPendingCallWatcher *finished) {
                 finished->deleteLater();
-                // How it went is told by signals.
+                // Its signals say how it went.
                 if (finished->isError())
                     finish(m_error ? *m_error : troubleFrom(finished->error()));
             });
@@ -216,7 +216,7 @@ void Transaction::finish(const std::optional<UpdateTrouble> &trouble)
 {
     if (std::exchange(m_isFinished, true))
         return;
-    m_patience.stop();
+    m_timeout.stop();
     if (m_isAbandoned) {
         deleteLater();
         return;
@@ -232,9 +232,9 @@ void Transaction::tellProgress()
     const UpdateActivity now = activity();
     // Only a server is waited for with a limit; a user or another installation takes its time.
     if (now == UpdateActivity::working || now == UpdateActivity::downloading)
-        m_patience.start();
+        m_timeout.start();
     else
-        m_patience.stop();
+        m_timeout.stop();
 
     UpdateProgress progress { now, std::nullopt, m_canCancel };
     if (now == UpdateActivity::downloading && m_size.value_or(0) > 0 && m_remaining)

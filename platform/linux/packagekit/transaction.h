@@ -27,7 +27,7 @@ struct TransactionRequest
     UpdateManner manner = UpdateManner::interactive;
 };
 
-/// All that a transaction told until its end.
+/// All that a transaction reported until its end.
 struct TransactionResult
 {
     struct FoundPackage
@@ -56,10 +56,10 @@ class Transaction final : public QObject
 
 public:
     /// How long nothing may be heard of a transaction that depends on a server.
-    static constexpr std::chrono::seconds usualPatience { 60 };
+    static constexpr std::chrono::seconds usualTimeout { 60 };
 
     Transaction(const QDBusConnection &bus, TransactionRequest request,
-                std::chrono::milliseconds patience = usualPatience);
+                std::chrono::milliseconds timeout = usualTimeout);
 
     void start();
 
@@ -104,7 +104,7 @@ private:
     QString m_owner;
     QString m_path;
     QDBusServiceWatcher m_watcher;
-    QTimer m_patience;
+    QTimer m_timeout;
     TransactionResult m_result;
     std::optional<UpdateTrouble> m_error;
     std::optional<qint64> m_size;

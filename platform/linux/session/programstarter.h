@@ -8,7 +8,7 @@
 
 namespace ferrin {
 
-/// A program with what it is told.
+/// A program and its arguments.
 struct CommandLine
 {
     QString program;

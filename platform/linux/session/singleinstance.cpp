@@ -20,7 +20,7 @@ namespace {
 
 const QString tokenKey = u"activation-token"_s;
 constexpr auto tokenVariable = "XDG_ACTIVATION_TOKEN";
-constexpr int patienceMilliseconds = 5000;
+constexpr int timeoutMilliseconds = 5000;
 
 } // namespace
 
@@ -66,7 +66,7 @@ void SingleInstance::activateOther()
         m_name, m_path, u"org.freedesktop.Application"_s, u"Activate"_s);
     call.setArguments({ platformData });
     call.setAutoStartService(false);
-    const QDBusMessage reply = m_session.call(call, QDBus::BlockWithGui, patienceMilliseconds);
+    const QDBusMessage reply = m_session.call(call, QDBus::BlockWithGui, timeoutMilliseconds);
     if (reply.type() == QDBusMessage::ErrorMessage)
         qCCritical(logger, "The program that is running did not answer: %s",
                    qUtf8Printable(reply.errorMessage()));

@@ -11,7 +11,7 @@
 
 namespace ferrin {
 
-/// Whether this is the session's only run of the program, told by a name on the session bus, and
+/// Whether this is the session's only run of the program, known by a name on the session bus, and
 /// how second starts and the actions of the desktop entry reach that run. The name is held as long
 /// as the connection. On the bus it is org.freedesktop.Application, as desktops call it.
 /// https://specifications.freedesktop.org/desktop-entry-spec/1.5/#dbus

@@ -36,7 +36,7 @@ public:
     [[nodiscard]] std::optional<bool> desktopPrefersDark() const { return m_desktopPrefersDark; }
 
 Q_SIGNALS:
-    /// One of the values above is another.
+    /// One of the values above has changed.
     void changed();
 
 private:

@@ -8,15 +8,15 @@ import signal
 import subprocess
 import time
 
-PATIENCE_SECONDS = int(os.environ.get("FERRIN_TEST_PATIENCE", "90"))
+TIMEOUT_SECONDS = int(os.environ.get("FERRIN_TEST_TIMEOUT", "90"))
 PR_SET_PDEATHSIG = 1
 LIBC = ctypes.CDLL(None)
 
 
-def eventually(condition, what, patience=PATIENCE_SECONDS):
+def eventually(condition, what, timeout=TIMEOUT_SECONDS):
     """Waits until a condition holds and returns what it returned. The limit is for the dead, not
     for the slow: no test asserts how long anything takes."""
-    end = time.monotonic() + patience
+    end = time.monotonic() + timeout
     while True:
         result = condition()
         if result:
@@ -61,5 +61,5 @@ def end(process, first=signal.SIGTERM):
 def run(command, environment, **options):
     """Runs a short command to its end and gives what it printed."""
     ran = subprocess.run(command, env=environment, stdin=subprocess.DEVNULL, capture_output=True,
-                         timeout=PATIENCE_SECONDS, check=False, **options)
+                         timeout=TIMEOUT_SECONDS, check=False, **options)
     return ran.stdout

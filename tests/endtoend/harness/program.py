@@ -66,7 +66,7 @@ class Program:
     def exit_code(self):
         """Waits for the program to end by itself."""
         try:
-            return self._process.wait(processes.PATIENCE_SECONDS)
+            return self._process.wait(processes.TIMEOUT_SECONDS)
         except subprocess.TimeoutExpired as error:
             raise AssertionError("the program did not end") from error
 

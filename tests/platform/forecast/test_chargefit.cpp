@@ -74,7 +74,7 @@ private Q_SLOTS:
     void followsTheRateThatTheMachineTellsAtFirst()
     {
         ChargeFit fit({});
-        fit.tell(20, 50);
+        fit.report(20, 50);
         QVERIFY(std::abs(fit.result()->rate - 50) < 5);
     }
 

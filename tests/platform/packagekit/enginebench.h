@@ -60,7 +60,7 @@ struct EngineBench
                                            const std::function<void(const QByteArray &)> &answer) {
                                         read(context, program, arguments, answer);
                                     },
-                                .patience = std::chrono::milliseconds(300) } };
+                                .timeout = std::chrono::milliseconds(300) } };
     const Release release { QStringLiteral("1.1"),
                             QStringLiteral("ferrin;1.1-1;amd64;ferrin-stable-main"),
                             {},

@@ -83,13 +83,13 @@ void ChargeFit::add(double from, double to, Hours span)
     fit();
 }
 
-void ChargeFit::tell(double charge, double rate)
+void ChargeFit::report(double charge, double rate)
 {
     constexpr double noteworthy = 0.02;
-    const bool told = m_told && std::abs(rate / m_told->rate - 1) < noteworthy;
-    if (m_measured >= enough || told)
+    const bool reported = m_reported && std::abs(rate / m_reported->rate - 1) < noteworthy;
+    if (m_measured >= enough || reported)
         return;
-    m_told = Charge { ChargeCurve { charge, 0 }, rate };
+    m_reported = Charge { ChargeCurve { charge, 0 }, rate };
     fit();
 }
 
@@ -116,9 +116,9 @@ std::vector<ChargeFit::Observation> ChargeFit::observations() const
         found.push_back({ double(percent) + 0.5, std::log(bin.points / bin.hours),
                           bin.points / square(measuredDeviation), bin.points * std::exp(-age) });
     }
-    if (m_told && m_measured < enough) {
+    if (m_reported && m_measured < enough) {
         found.push_back(
-            { m_told->curve.knee, std::log(m_told->rate), 1 / square(measuredDeviation), 1 });
+            { m_reported->curve.knee, std::log(m_reported->rate), 1 / square(measuredDeviation), 1 });
     }
     if (m_known) {
         found.push_back({ 0, std::log(m_known->rate), 1 / square(knownRateDeviation),

@@ -12,9 +12,9 @@
 namespace ferrin {
 
 /// The curve of one charge while it runs, between what is usual and what has been measured of it:
-/// the knee, tail and rate that explain both best. A first charge of an unknown battery is told by
-/// what lithium batteries do until its own fading shows, a later one by what the earlier ones have
-/// shown.
+/// the knee, tail and rate that explain both best. The first charge of an unknown battery is taken
+/// to go as those of lithium batteries usually do until its own fading shows, a later one as the
+/// earlier ones did.
 ///
 /// What belongs to a battery is as much the knee as how fast the rate fades above it: a weak
 /// adapter reaches the knee later than a strong one. Charges are percent, rates percent an hour.
@@ -34,9 +34,9 @@ public:
     /// The charge rose from one value to another in this time.
     void add(double from, double to, Hours span);
 
-    /// The rate that the machine tells at a charge. It counts until the charge has risen enough to
+    /// The rate that the machine reports at a charge. It counts until the charge has risen enough to
     /// tell its own.
-    void tell(double charge, double rate);
+    void report(double charge, double rate);
 
     /// Absent before anything is known of the rate.
     [[nodiscard]] const std::optional<Charge> &result() const { return m_result; }
@@ -73,7 +73,7 @@ private:
     [[nodiscard]] double expectedKnee(double rate, double tail) const;
 
     std::optional<Charge> m_known;
-    std::optional<Charge> m_told;
+    std::optional<Charge> m_reported;
     std::optional<Charge> m_result;
     std::array<Bin, 100> m_bins {};
     double m_measured = 0;

@@ -27,7 +27,7 @@ void ChargeForecast::watch(const PackMoment &pack, Hours awake)
     if (const auto change = m_steps.add(pack.share(), awake))
         m_fit.add(percent - change->amount * 100, percent, change->span);
     if (pack.rate.value_or(0) >= leastPower)
-        m_fit.tell(percent, *pack.rate / pack.full * 100);
+        m_fit.report(percent, *pack.rate / pack.full * 100);
 }
 
 void ChargeForecast::interrupt()

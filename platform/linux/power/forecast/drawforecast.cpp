@@ -26,7 +26,7 @@ constexpr Hours trust = 1h;
 // What the very first word on the load counts for, before any time has passed.
 constexpr Hours firstLook = 3min;
 
-std::optional<double> toldLoad(const std::vector<PackMoment> &packs)
+std::optional<double> reportedLoad(const std::vector<PackMoment> &packs)
 {
     double load = 0;
     double full = 0;
@@ -51,7 +51,7 @@ DrawForecast::DrawForecast(std::optional<double> usual)
     if (!usual)
         return;
     m_measured.expect(*usual);
-    m_told.expect(*usual);
+    m_reported.expect(*usual);
 }
 
 std::optional<Hours> DrawForecast::update(const std::vector<PackMoment> &packs, Hours awake)
@@ -73,12 +73,12 @@ std::optional<Hours> DrawForecast::update(const std::vector<PackMoment> &packs, 
     m_full = full;
     m_share = now / full;
     measure(*m_share, awake);
-    takeTold(toldLoad(packs), awake);
+    takeReported(reportedLoad(packs), awake);
     const std::optional<double> present = load(awake);
     if (!present)
         return std::nullopt;
     const double draw = expected(*present);
-    const int restarts = m_measured.restarts() + m_told.restarts();
+    const int restarts = m_measured.restarts() + m_reported.restarts();
     if (restarts != m_restarts)
         m_calm.restart();
     m_restarts = restarts;
@@ -89,8 +89,8 @@ void DrawForecast::wake()
 {
     m_steps = GaugeSteps(GaugeSteps::Towards::Empty);
     m_measured.doubt();
-    m_told.doubt();
-    m_lastTold.reset();
+    m_reported.doubt();
+    m_lastReported.reset();
     m_calm.restart();
 }
 
@@ -104,21 +104,21 @@ void DrawForecast::measure(double share, Hours awake)
     m_drawn = Drawn { energy, change->span };
 }
 
-void DrawForecast::takeTold(std::optional<double> load, Hours awake)
+void DrawForecast::takeReported(std::optional<double> load, Hours awake)
 {
     if (load != m_lastLoad)
         m_sameLoadSince = awake;
     m_lastLoad = load;
-    const Hours span = m_lastTold && m_told.value() ? awake - *m_lastTold : firstLook;
-    m_lastTold = awake;
+    const Hours span = m_lastReported && m_reported.value() ? awake - *m_lastReported : firstLook;
+    m_lastReported = awake;
     if (load && awake - m_sameLoadSince < frozenAfter && span > Hours())
-        m_told.add(*load, span);
+        m_reported.add(*load, span);
 }
 
 double DrawForecast::expected(double load) const
 {
-    // Loads return to what is usual, but a real change must show: so a part of the way, of at most
-    // half as much again.
+    // Loads return to what is usual, yet a real change must show: the forecast goes a part of the
+    // way back, by a factor of at most 1.2.
     constexpr double returning = 0.4;
     constexpr double furthest = 0.5;
     const double way = m_usual ? std::log(*m_usual / load) : 0;
@@ -132,13 +132,13 @@ std::optional<double> DrawForecast::load(Hours awake) const
         if (const auto overdue = m_steps.overdue(awake, *measured / m_full))
             measured = m_measured.valueWith(overdue->amount * m_full, overdue->span);
     }
-    const std::optional<double> told = m_lastLoad ? m_told.value() : std::nullopt;
-    if (!measured || !told)
-        return measured ? measured : told;
+    const std::optional<double> reported = m_lastLoad ? m_reported.value() : std::nullopt;
+    if (!measured || !reported)
+        return measured ? measured : reported;
     if (awake - m_sameLoadSince >= frozenAfter)
         return measured;
     const double share = m_measured.weight() / (m_measured.weight() + trust);
-    return std::exp(std::log(*told) * (1 - share) + std::log(*measured) * share);
+    return std::exp(std::log(*reported) * (1 - share) + std::log(*measured) * share);
 }
 
 } // namespace ferrin

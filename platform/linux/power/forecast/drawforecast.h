@@ -11,7 +11,7 @@
 namespace ferrin {
 
 /// The time until all packs together are empty, while they are drawn upon: what is left over the
-/// mean load. The load is the one that the machine tells, as far as the charge bears it out, else
+/// mean load. The load is the one that the machine reports, as far as the charge bears it out, else
 /// the charge's own fall.
 class DrawForecast
 {
@@ -37,20 +37,20 @@ public:
 
 private:
     void measure(double share, Hours awake);
-    void takeTold(std::optional<double> load, Hours awake);
+    void takeReported(std::optional<double> load, Hours awake);
     [[nodiscard]] std::optional<double> load(Hours awake) const;
     /// What the load of the hours to come is likely to be.
     [[nodiscard]] double expected(double load) const;
 
     GaugeSteps m_steps { GaugeSteps::Towards::Empty };
-    /// By the charge's fall, and by what the machine tells.
+    /// By the charge's fall, and by what the machine reports.
     LoadMean m_measured;
-    LoadMean m_told;
+    LoadMean m_reported;
     CalmTime m_calm;
     std::optional<double> m_usual;
     double m_full = 0;
     std::optional<double> m_share;
-    std::optional<Hours> m_lastTold;
+    std::optional<Hours> m_lastReported;
     std::optional<double> m_lastLoad;
     Hours m_sameLoadSince {};
     int m_restarts = 0;

@@ -9,7 +9,7 @@
 
 namespace ferrin {
 
-/// What a gauge's steps tell of the charge between them. Some gauges count milliwatt-hours, many
+/// What a gauge's steps say about the charge between them. Some gauges count milliwatt-hours, many
 /// whole percents; either way the charge is known exactly only at the moment of a step, and the
 /// time from one step to the next is the one rate that every machine has.
 ///

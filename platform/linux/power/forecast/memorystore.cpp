@@ -36,10 +36,10 @@ MemoryStore::MemoryStore(QString path)
 
 QString MemoryStore::usualPath()
 {
-    // Qt learned of this folder only in 6.7.
-    const QString told = qEnvironmentVariable("XDG_STATE_HOME");
+    // QStandardPaths knows this folder from Qt 6.7 on.
+    const QString stateHome = qEnvironmentVariable("XDG_STATE_HOME");
     const QString folder
-        = QDir::isAbsolutePath(told) ? told : QDir::homePath() + u"/.local/state"_s;
+        = QDir::isAbsolutePath(stateHome) ? stateHome : QDir::homePath() + u"/.local/state"_s;
     return folder + u"/ferrin/batteries.json"_s;
 }
 

@@ -27,7 +27,7 @@ struct PackMoment
     /// battery of a size that is taken for granted.
     double now = 0;
     double full = 0;
-    /// W, magnitude; absent when the machine tells none.
+    /// W, magnitude; absent when the machine reports none.
     std::optional<double> rate;
     /// Percent at which charging stops, if the machine says so.
     std::optional<int> limit;

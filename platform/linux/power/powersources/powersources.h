@@ -9,8 +9,8 @@
 namespace ferrin {
 
 /// The power sources of the machine: those of UPower, with the times that the kernel's figures
-/// make. What is a forecast is told as one and nothing as another: the registry's times are as
-/// good as any from the first on, and where it has none, nobody has a better one.
+/// make. The registry's times are good from the first reading on, so UPower's are never waited for;
+/// where the registry has none, there is none.
 ///
 /// Without UPower, which is only recommended, the battery is described by the registry alone. A
 /// machine without a battery has one source, the mains, so that nothing is missed for ever.

@@ -101,9 +101,9 @@ std::optional<bool> isCharging(const std::vector<Pack> &packs)
 {
     if (anyIs(packs, ChargeStatus::Charging))
         return true;
-    const bool told = std::any_of(packs.begin(), packs.end(),
+    const bool reported = std::any_of(packs.begin(), packs.end(),
                                   [](const Pack &pack) { return pack.status || pack.percent; });
-    return told ? std::optional(false) : std::nullopt;
+    return reported ? std::optional(false) : std::nullopt;
 }
 
 std::optional<bool> isFullyCharged(const std::vector<Pack> &packs, std::optional<bool> external)

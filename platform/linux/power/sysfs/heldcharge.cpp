@@ -36,7 +36,7 @@ HeldCharge heldCharge(const std::vector<Pack> &packs, std::optional<bool> extern
                       std::optional<int> charge, std::optional<int> limit)
 {
     const bool atLimit = charge && limit && isAt(*limit, *charge);
-    const bool told = std::any_of(packs.begin(), packs.end(), [](const Pack &pack) {
+    const bool reported = std::any_of(packs.begin(), packs.end(), [](const Pack &pack) {
         return pack.status == ChargeStatus::NotCharging;
     });
     const bool idle = std::all_of(packs.begin(), packs.end(),
@@ -45,7 +45,7 @@ HeldCharge heldCharge(const std::vector<Pack> &packs, std::optional<bool> extern
         return {};
     if (atLimit)
         return { true, limit };
-    return { told && *charge < fullPercent, std::nullopt };
+    return { reported && *charge < fullPercent, std::nullopt };
 }
 
 } // namespace ferrin

@@ -36,10 +36,10 @@ PackMoment::Flow flowOf(const Pack &pack)
 
 std::optional<double> rateOf(const Pack &pack, const PackMoment &moment)
 {
-    const bool told
+    const bool reported
         = pack.rate && pack.full && *pack.rate >= leastRate && *pack.rate <= greatestRate;
     const std::optional<double> rate
-        = told ? std::optional(static_cast<double>(*pack.rate) / microwattHours) : std::nullopt;
+        = reported ? std::optional(static_cast<double>(*pack.rate) / microwattHours) : std::nullopt;
     const auto over = [](double energy, Reading seconds) -> std::optional<double> {
         if (!seconds || energy <= 0)
             return std::nullopt;

@@ -18,7 +18,7 @@ namespace ferrin {
 /// The packs as the forecast sees them, without the phantoms. Batteries, packs and keys have the
 /// same order. Empty when the charge of a pack is unknown: then there is nothing to forecast.
 ///
-/// A pack that does not tell its size is taken to be like the others, or of 50 Wh. A rate below
+/// A pack that does not report its size is taken to be like the others, or of 50 Wh. A rate below
 /// 0.1 W or above 300 W is none. The gauge's own time to empty goes before the rate, and its time
 /// to full after it.
 [[nodiscard]] std::vector<PackMoment> packMoments(const std::vector<BatterySupply> &batteries,

@@ -8,7 +8,7 @@
 namespace ferrin {
 
 /// Whether the machine is made to run on batteries, by what its firmware or its device tree says of
-/// its chassis; false also where that is not told.
+/// its chassis; false also where that is not known.
 [[nodiscard]] bool isPortable(const std::string &root);
 
 } // namespace ferrin
