@@ -22,7 +22,7 @@ import machine as machines  # noqa: E402
 # Never part of a real supply's uevent.
 NOT_IN_UEVENT = {"alarm"}
 # A listener that hangs never has room.
-LISTENER_PATIENCE_SECONDS = 2
+LISTENER_TIMEOUT_SECONDS = 2
 FAULTS = ("eio", "enxio", "gone", "directory", "garbage", "huge", "empty", "hang")
 
 
@@ -237,5 +237,5 @@ def _wait_for_room(listener):
         except OSError:
             # It has gone.
             return
-        if not select.select([], [sender], [], LISTENER_PATIENCE_SECONDS)[1]:
+        if not select.select([], [sender], [], LISTENER_TIMEOUT_SECONDS)[1]:
             raise ValueError("a listener has stopped reading events")
