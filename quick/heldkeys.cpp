@@ -17,6 +17,7 @@ bool actsAtEachPress(const QKeyEvent &event)
     case Qt::Key_Enter:
     case Qt::Key_Space:
     case Qt::Key_Escape:
+    case Qt::Key_F1:
         return true;
     default:
         return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
@@ -26,18 +27,35 @@ bool actsAtEachPress(const QKeyEvent &event)
 
 } // namespace
 
-HeldKeys::HeldKeys(QObject *parent)
+HeldKeys::HeldKeys(bool isOnX, QObject *parent)
     : QObject(parent)
+    , m_isOnX(isOnX)
 {
     qGuiApp->installEventFilter(this);
 }
 
+// Qt tells a repeat by the event that follows the release in its queue: with another one in
+// between, or none yet, the repeat looks like a release and a press of the user's.
+bool HeldKeys::isRepeat(const QKeyEvent &press) const
+{
+    const bool isAtRelease = m_isOnX && press.key() == m_lastRelease.key && press.timestamp() != 0
+        && press.timestamp() == m_lastRelease.time;
+    return press.isAutoRepeat() || isAtRelease;
+}
+
 bool HeldKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress || !watched->isWindowType())
+    const QEvent::Type type = event->type();
+    if (type == QEvent::KeyRelease && watched->isWindowType()) {
+        const auto &release = *static_cast<const QKeyEvent *>(event);
+        m_lastRelease = { .key = release.key(), .time = release.timestamp() };
+    }
+    // Where this is accepted, no shortcut is tried.
+    const bool isBeforeShortcut = type == QEvent::ShortcutOverride;
+    if (!isBeforeShortcut && (type != QEvent::KeyPress || !watched->isWindowType()))
         return QObject::eventFilter(watched, event);
     const auto &press = *static_cast<const QKeyEvent *>(event);
-    if (!press.isAutoRepeat() || !actsAtEachPress(press))
+    if (!actsAtEachPress(press) || !isRepeat(press))
         return QObject::eventFilter(watched, event);
     event->accept();
     return true;

@@ -5,6 +5,7 @@
 
 #include "popover/popoverdesktop.h"
 
+#include <QGuiApplication>
 #include <QQuickWindow>
 
 FERRIN_USE_QML_TYPES(Ferrin_Theme)
@@ -31,6 +32,7 @@ QuickEngine::QuickEngine(QObject *parent)
 QuickEngine::QuickEngine(PopoverDesktop &popovers, QObject *parent)
     : QQmlEngine(parent)
     , m_popovers(popovers)
+    , m_heldKeys(QGuiApplication::platformName() == u"xcb")
 {
     // No graphics card wakes up for a battery tool: a first frame in a fifth of the time, and a
     // third of the memory.

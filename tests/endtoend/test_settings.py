@@ -6,7 +6,7 @@ import re
 
 from harness.case import WithSettings, main
 from harness.processes import a_moment, eventually
-from harness.settings import PAGES
+from harness.settings import SWITCH
 
 # What a window manager is told that its buttons may do.
 MINIMIZE, MAXIMIZE, CLOSE = 8, 16, 32
@@ -77,80 +77,6 @@ class ItsQuestion(WithSettings):
         self.assertEqual(self.dashboard.program.exit_code(), 0)
 
 
-class ByKeys(WithSettings):
-    """Every page is worked without a pointer."""
-
-    def walk(self, start):
-        """The names on the way that the tab key leads, until it comes around."""
-        names = [start]
-        while True:
-            self.window.press("Tab")
-            name = eventually(lambda: self.window.focused_name() not in (None, names[-1])
-                              and self.window.focused_name(), f"Tab leads on from {names}")
-            if name == start:
-                return names
-            self.assertNotIn(name, names)
-            names.append(name)
-
-    def turn_to(self, page):
-        """Turns the page by the arrow keys of the menu."""
-        eventually(lambda: self.window.focused_name() in PAGES, "the menu has the focus")
-        while self.window.focused_name() != page:
-            at = self.window.focused_name()
-            step = "Down" if PAGES.index(at) < PAGES.index(page) else "Up"
-            self.window.press(step)
-            eventually(lambda: self.window.focused_name() != at, f"{step} leads on from {at}")
-        self.window.press("Return")
-        eventually(lambda: self.window.selected() == [page], f"{page} is selected")
-
-    def test_tab_leads_through_each_page(self):
-        menu = [*PAGES, "Quit Ferrin"]
-        of_page = {"General": ["Launch at login", "System",
-                               "Open System Settings battery section"],
-                   "Support": ["Ferrin FAQ"], "About": ["Acknowledgements"]}
-        for page, controls in of_page.items():
-            with self.subTest(page):
-                self.turn_to(page)
-                names = self.walk(page)
-                at = menu.index(page)
-                self.assertEqual(names, menu[at:] + controls + menu[:at])
-
-    def test_the_focus_can_be_seen_wherever_it_is(self):
-        for page in ("General", "Support", "About"):
-            self.turn_to(page)
-            for name in self.walk(page):
-                with self.subTest(page=page, name=name):
-                    eventually(lambda: self.window.focused_name() == name or
-                               self.window.press("Tab"), name, 30)
-                    box = self.window.focused().box
-                    ring = type(box)(box.left - 6, box.top - 6, box.right + 6, box.bottom + 6)
-                    marked = self.session.picture()
-                    self.window.press("Tab")
-                    eventually(lambda: marked.pixels(ring)
-                               != self.session.picture().pixels(ring), "its mark has gone")
-            eventually(lambda: self.window.focused_name() in PAGES or self.window.press("Tab"),
-                       "the focus is back in the menu")
-
-    def test_the_sheet_opens_scrolls_and_closes_by_keys(self):
-        self.turn_to("About")
-        self.walk_to("Acknowledgements")
-        before = self.window.told()
-        self.window.press("Return")
-        eventually(lambda: self.window.focused_name() == "Done", "the sheet has the focus")
-        at_first = self.session.picture()
-        self.window.press("Next")
-        eventually(lambda: at_first.difference(self.session.picture()), "the texts have moved")
-        self.window.press("Escape")
-        eventually(lambda: self.window.focused_name() == "Acknowledgements", "the focus is back")
-        self.assertEqual(self.window.told(), before)
-
-    def walk_to(self, name):
-        while self.window.focused_name() != name:
-            at = self.window.focused_name()
-            self.window.press("Tab")
-            eventually(lambda: self.window.focused_name() not in (None, at), "Tab leads on")
-
-
 class ToAScreenReader(WithSettings):
     def test_everything_has_a_name_and_a_role_and_lies_within_the_window(self):
         for page in ("Menu bar icon", "General", "Support", "About"):
@@ -183,6 +109,17 @@ class ToAScreenReader(WithSettings):
                      "Preview 100% fully charged"):
             self.assertIn(text, told)
         self.assertEqual(told.count("At least one element must be selected"), 3)
+
+    def test_a_switch_that_turns_itself_back_on_says_why(self):
+        section = self.window.find("When discharging")
+        names = [each.name for each in section.everything() if each.role == SWITCH]
+        self.assertEqual(names, ["Show icon", "Show charge %", "Show time to empty"])
+        for name in names:
+            self.assertTrue(self.dashboard.reader.press(section.find(name, SWITCH)))
+        eventually(lambda: self.window.find(names[2], SWITCH).description
+                   == "At least one element must be selected", "the switch says why")
+        self.assertEqual([self.window.is_on(name) for name in names], [False, False, True])
+        eventually(lambda: self.window.find(names[2], SWITCH).description == "", "it is said once")
 
     def test_the_note_is_told_as_one_text(self):
         self.window.select("Support")

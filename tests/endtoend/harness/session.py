@@ -184,6 +184,14 @@ class Screen(Session):
         """Presses of real keys, one after the other."""
         self._on_screen("xdotool", "key", *keys)
 
+    def repeat_keys_soon(self):
+        """Held keys repeat fifty times a second, a fifth of a second after they went down."""
+        self._on_screen("xset", "r", "rate", "200", "50")
+
+    def hold(self, key):
+        """Holds a real key for so long that it repeats some twenty times."""
+        self._on_screen("xdotool", "keydown", key, "sleep", "0.6", "keyup", key)
+
     def resize(self, width, height):
         """Gives the screen another size, of at most the one that it began with."""
         timings = (30, width, width + 10, width + 20, width + 30,
