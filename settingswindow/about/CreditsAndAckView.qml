@@ -49,7 +49,9 @@ SettingsSectionView {
         Repeater {
             // qmllint disable unqualified
             model: ["Qt: The Qt Company and contributors", "UPower: David Zeuthen, Richard Hughes",
-                    "libudev, libsystemd: the systemd developers", "libxcb: the XCB contributors"]
+                    "PackageKit: Richard Hughes, Matthias Klumpp",
+                    "libudev, libsystemd: the systemd developers",
+                    "libxcb: the XCB contributors", "libwayland: the Wayland contributors"]
 
             SettingsText {
                 required property string modelData

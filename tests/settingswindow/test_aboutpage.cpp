@@ -81,8 +81,10 @@ private Q_SLOTS:
                 u"Sparkle: Sparkle Project"_s, u"MenuBarExtraAccess: The Ferrin developers"_s,
                 u"LaunchAtLogin: The Ferrin developers"_s, u"Qt: The Qt Company and contributors"_s,
                 u"UPower: David Zeuthen, Richard Hughes"_s,
+                u"PackageKit: Richard Hughes, Matthias Klumpp"_s,
                 u"libudev, libsystemd: the systemd developers"_s, u"libxcb: the XCB contributors"_s,
-                u"Acknowledgements"_s, u"The Ferrin developers"_s, u"Copyright © 2010–2025"_s,
+                u"libwayland: the Wayland contributors"_s, u"Acknowledgements"_s,
+                u"The Ferrin developers"_s, u"Copyright © 2010–2025"_s,
                 u"All rights reserved, except as granted by the GNU GPL, version 3 "
                 "or later."_s }));
         QCOMPARE(f.page->height(), 500);
