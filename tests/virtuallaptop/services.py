@@ -29,12 +29,14 @@ for number in range(3, {FIRST_DESCRIPTOR}):
 os.execv(sys.argv[1], sys.argv[1:])"""
 LIBC = ctypes.CDLL(None, use_errno=True)
 
-# Every name may be owned and every method called; nothing is activatable.
+# Every name may be owned and every method called; nothing is activatable unless a test puts a file
+# for it into the folder of services.
 BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC
  "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <listen>unix:path={folder}/bus</listen>
+  <servicedir>{folder}/services</servicedir>
   <auth>EXTERNAL</auth>
   <policy context="default">
     <allow user="*"/>
@@ -91,6 +93,7 @@ def end(process):
 def start_bus(folder):
     """Starts the private system bus in the folder; returns the process and its address."""
     configuration = os.path.join(folder, "bus.conf")
+    os.mkdir(os.path.join(folder, "services"))
     with open(configuration, "w", encoding="utf-8") as file:
         file.write(BUS_CONFIGURATION.format(folder=folder))
     process = subprocess.Popen(

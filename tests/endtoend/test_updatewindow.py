@@ -1,0 +1,116 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""The window of updates, from the button in the settings on, as a screen reader tells of it. What
+PackageKit says is the test's; the real one has tests of its own."""
+
+import os
+import unittest.mock
+
+from harness.case import WithSettings, main
+from harness.packagekit import PackageKit
+from harness.processes import eventually
+from harness.program import binary
+from harness.readwindow import BUTTON, ReadWindow
+
+CHECK = "Check for Updates…"
+# Only a program below /usr is taken for one that a package owns. The mount goes with the program,
+# which stays the process and the user that was started.
+AS_INSTALLED = """#!/bin/sh -e
+[ -n "$APART" ] || APART=1 exec unshare --user --map-root-user --mount "$0"
+mount --bind {tree} /usr/games
+exec unshare --user --map-user={user} --map-group={group} -- /usr/games/bin/ferrin
+"""
+
+
+class UpdateWindow(ReadWindow):
+    def __init__(self, session, dashboard):
+        super().__init__(session)
+        self._dashboard = dashboard
+
+    def root(self):
+        told = self._dashboard.reader.read()
+        return next((window for window in told.children if window.name == "Software Update"
+                     and "showing" in window.states), None) if told else None
+
+    def shows(self, heading, *texts, buttons):
+        """Waits until it is at this stage, with these texts and just these buttons."""
+        def matches():
+            told = self.told()
+            return heading in told and all(text in told for text in texts) \
+                and self.buttons() == buttons
+        try:
+            eventually(matches, heading)
+        except AssertionError as error:
+            raise AssertionError(f"{self.told()} with {self.buttons()}, not {heading}, {texts} with "
+                                 f"{buttons}") from error
+
+
+class TheUpdateWindow(WithSettings):
+    page = "General"
+
+    def prepare(self):
+        tree = os.path.dirname(os.path.dirname(os.path.abspath(binary())))
+        launcher = self.session.write("as-installed", AS_INSTALLED.format(
+            tree=tree, user=os.getuid(), group=os.getgid()))
+        os.chmod(launcher, 0o755)
+        self.enterContext(unittest.mock.patch.dict(os.environ, FERRIN_BINARY=launcher))
+        self.packagekit = PackageKit(self.session, self.laptop)
+        self.addCleanup(self.packagekit.close)
+
+    def setUp(self):
+        super().setUp()
+        self.updates = UpdateWindow(self.session, self.dashboard)
+
+    def check(self):
+        # What rests says why.
+        eventually(lambda: self.window.find(CHECK, BUTTON).description == "", "it can check")
+        self.window.click(CHECK, BUTTON)
+
+    def test_it_checks_and_says_that_nothing_is_newer(self):
+        self.packagekit.tell("hold", "RefreshCache")
+        self.check()
+        self.updates.shows("Checking for updates…", "Asking the package sources.",
+                           buttons=["Cancel"])
+        self.assertEqual(self.window.find(CHECK, BUTTON).description, "A check is running")
+        self.packagekit.tell("work", "RefreshCache")
+        self.updates.shows("Ferrin is up to date", buttons=["Close"])
+        self.updates.click("Close", BUTTON)
+        eventually(lambda: not self.updates.root(), "it has closed")
+
+    def test_it_opens_over_the_settings(self):
+        self.packagekit.tell("hold", "RefreshCache")
+        self.check()
+        box = eventually(self.updates.root, "it is open").box
+        for here, there in zip(box.centre, self.window.box().centre):
+            self.assertLess(abs(here - there), 40)
+        self.updates.click("Cancel", BUTTON)
+        eventually(lambda: not self.updates.root(), "it has closed")
+
+    def test_it_offers_downloads_fails_and_tries_again(self):
+        self.packagekit.tell("offer", "9.8.7")
+        self.packagekit.tell("hold", "DownloadPackages")
+        self.check()
+        self.updates.shows("Ferrin 9.8.7 is available", "What is new",
+                           buttons=["Skip this version", "Later", "Download"])
+        self.assertEqual(self.updates.find("What is new").description,
+                         "The battery is read more often.\nA new glyph.")
+        self.updates.click("Download", BUTTON)
+        self.updates.shows("Downloading Ferrin 9.8.7", buttons=["Cancel"])
+        self.packagekit.tell("progress", 2000000, 500000)
+        eventually(lambda: self.updates.find("Progress").description == "75 %", "it tells how much")
+        self.updates.click("Cancel", BUTTON)
+        self.fail_and_try_again()
+
+    def fail_and_try_again(self):
+        self.packagekit.tell("work", "DownloadPackages")
+        self.packagekit.tell("fail", "DownloadPackages", 37, "Could not connect to the server")
+        self.updates.click("Download", BUTTON)
+        self.updates.shows("The update did not succeed", buttons=["Close", "Try again"])
+        self.packagekit.tell("work", "DownloadPackages")
+        self.updates.click("Try again", BUTTON)
+        self.updates.shows("Ferrin 9.8.7 is ready to install",
+                           buttons=["Skip this version", "Later", "Install"])
+
+
+if __name__ == "__main__":
+    main()
