@@ -1,7 +1,29 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-# The Debian package, made by cpack from the install tree.
+# The Debian package, made by cpack from the install tree. What it says of itself and what it depends on
+# has its home in the source package.
+file(READ "${PROJECT_SOURCE_DIR}/debian/control" control)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/debian/control"
+    "${PROJECT_SOURCE_DIR}/debian/changelog")
+
+# ferrin_read_control(FIELD result): what follows the name of the field, in the lines as they are.
+function(ferrin_read_control field result)
+    if(NOT control MATCHES "\n${field}: *([^\n]*(\n [^\n]*)*)")
+        message(FATAL_ERROR "debian/control has no field ${field}")
+    endif()
+    set(${result} "${CMAKE_MATCH_1}" PARENT_SCOPE)
+endfunction()
+
+# ferrin_read_packages(FIELD result): the packages of a field in one line, but for those that are found
+# in the binaries.
+function(ferrin_read_packages field result)
+    ferrin_read_control(${field} packages)
+    string(REGEX REPLACE "[ \n]+" " " packages "${packages}")
+    string(REGEX REPLACE ",? *\\\${[^}]*}" "" packages "${packages}")
+    set(${result} "${packages}" PARENT_SCOPE)
+endfunction()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ferrin)
 set(CPACK_PACKAGE_CONTACT "The Ferrin developers <ferrin@ferrin.example>")
@@ -17,19 +39,16 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 if(FERRIN_HOMEPAGE_URL)
     set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "${FERRIN_HOMEPAGE_URL}")
 endif()
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "battery utility for the status area of a desktop")
-set(CPACK_PACKAGE_DESCRIPTION
-"Ferrin shows in the status area how the battery of a laptop is: a glyph or a
-symbol, the charge and the time, in the mix that the user chose for each state
-of the battery. A click opens a dashboard that explains in plain words how the
-battery is, how it ages and what the power adapter delivers.")
-# The libraries are found in the binaries; these are loaded by name while it runs.
+ferrin_read_control(Description description)
+string(REPLACE "\n " "\n" description "${description}")
+string(FIND "${description}" "\n" end_of_summary)
+string(SUBSTRING "${description}" 0 ${end_of_summary} CPACK_PACKAGE_DESCRIPTION_SUMMARY)
+math(EXPR beyond "${end_of_summary} + 1")
+string(SUBSTRING "${description}" ${beyond} -1 CPACK_PACKAGE_DESCRIPTION)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "default-dbus-session-bus | dbus-session-bus, \
-qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libglib2.0-bin, upower, qt6-wayland, xdg-utils")
-# Without them the system's package manager keeps Ferrin current all the same.
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "packagekit, appstream")
+ferrin_read_packages(Depends CPACK_DEBIAN_PACKAGE_DEPENDS)
+ferrin_read_packages(Recommends CPACK_DEBIAN_PACKAGE_RECOMMENDS)
+ferrin_read_packages(Suggests CPACK_DEBIAN_PACKAGE_SUGGESTS)
 
 # A package from outside of the distribution may bring the repository of its next versions along.
 set(FERRIN_REPOSITORY_URL "" CACHE STRING
@@ -48,10 +67,15 @@ if(FERRIN_REPOSITORY_URL)
     set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_BINARY_DIR}/conffiles")
 endif()
 
-# What every package of Debian has in its documentation.
+# What every package of Debian has in its documentation; others have no use for it. Without a revision
+# of Debian's the changelog has the version of the program.
 set(documentation "${CMAKE_INSTALL_DATADIR}/doc/ferrin")
-configure_file(debian/changelog.in "${CMAKE_CURRENT_BINARY_DIR}/changelog" @ONLY)
-ferrin_install_compressed(changelog "${documentation}")
-install(FILES debian/copyright DESTINATION "${documentation}")
+file(READ "${PROJECT_SOURCE_DIR}/debian/changelog" changelog)
+string(REGEX REPLACE "^ferrin \\([^)]*\\)" "ferrin (${PROJECT_VERSION})" changelog "${changelog}")
+file(CONFIGURE OUTPUT changelog CONTENT "${changelog}" @ONLY)
+ferrin_install_compressed(changelog "${documentation}" COMPONENT debian EXCLUDE_FROM_ALL)
+install(FILES "${PROJECT_SOURCE_DIR}/debian/copyright" DESTINATION "${documentation}"
+    COMPONENT debian EXCLUDE_FROM_ALL)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${CMAKE_BINARY_DIR};ferrin;ALL;/;${CMAKE_BINARY_DIR};ferrin;debian;/")
 
 include(CPack)

@@ -19,7 +19,7 @@ NOT_OURS_TO_TELL = {".git", "build"}
 
 def paragraphs():
     """The fields of each paragraph of the copyright file."""
-    with open(os.path.join(ROOT, "packaging", "debian", "copyright"), encoding="utf-8") as file:
+    with open(os.path.join(ROOT, "debian", "copyright"), encoding="utf-8") as file:
         for text in file.read().strip().split("\n\n"):
             yield dict(re.findall(r"^([A-Za-z-]+): (.*(?:\n .*)*)", text, re.M))
 

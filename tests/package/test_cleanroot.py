@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""The Debian package: made, judged, installed in a clean root, run there, and removed."""
+"""The Debian package: made, judged, installed in clean roots of this release and the next, run there,
+and removed."""
 
 import glob
 import os
@@ -15,7 +16,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, HERE)
 from cleanroot import TOOLS, files_named, run_from  # noqa: E402
 from roots import cached  # noqa: E402
-from roots.desktops import release_of_this_machine  # noqa: E402
+from roots.desktops import RELEASES  # noqa: E402
 
 ENTRY = "org.ferrin.Ferrin.desktop"
 BUILD = os.environ["FERRIN_BUILD"]
@@ -44,7 +45,11 @@ class ThePackage(unittest.TestCase):
         self.assertEqual(told.stdout, "")
 
     def test_it_is_installed_started_from_the_menu_and_removed_without_a_trace(self):
-        root = self.enterContext(cached(release_of_this_machine()).copy())
+        for number, release in RELEASES.items():
+            with self.subTest(debian=number), cached(release).copy() as root:
+                self.try_in(root)
+
+    def try_in(self, root):
         package = root.take(self.package)
         root.install(package)
         os.remove(root.path + package)

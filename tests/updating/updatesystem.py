@@ -107,8 +107,9 @@ def package(version, script="exit 0", size=3_000_000):
     info.parent.mkdir(parents=True)
     template = pathlib.Path("/mnt/tree/packaging/org.ferrin.Ferrin.metainfo.xml.in").read_text(
         encoding="utf-8")
-    info.write_text(template.replace("@PROJECT_VERSION@", version.partition("-")[0]).replace(
-        "@FERRIN_HOMEPAGE_URL@", "https://example.org"), encoding="utf-8")
+    release = (f'<release version="{version.partition("-")[0]}" date="2026-11-21" type="development">'
+               "<description><p>The first of them.</p></description></release>")
+    info.write_text(template.replace("@releases@", release), encoding="utf-8")
     (folder / "usr/share/ferrin").mkdir()
     (folder / "usr/share/ferrin/data").write_bytes(os.urandom(size))
     run("dpkg-deb", "--build", folder, f"{folder}.deb")

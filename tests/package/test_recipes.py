@@ -1,0 +1,100 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The Ferrin developers
+"""What the packages of the distributions are made of: the install tree, and the recipes as far as they
+can be judged without building."""
+
+import glob
+import os
+import re
+import subprocess
+import tempfile
+import unittest
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+SOURCE = os.path.abspath(os.path.join(HERE, "..", ".."))
+PACKAGING = os.path.join(SOURCE, "packaging")
+BUILD = os.environ["FERRIN_BUILD"]
+
+
+def read(*path):
+    with open(os.path.join(SOURCE, *path), encoding="utf-8") as file:
+        return file.read()
+
+
+def run(*command, **options):
+    done = subprocess.run(command, text=True, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, check=False, **options)
+    assert done.returncode == 0, f"{command}:\n{done.stdout}"
+    return done.stdout
+
+
+class TheInstallTree(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.stage = cls.enterClassContext(tempfile.TemporaryDirectory(prefix="ferrin-stage-"))
+        run("cmake", "--install", BUILD, "--prefix", "/opt/some where",
+            env=os.environ | {"DESTDIR": cls.stage})
+        cls.files = [os.path.relpath(path, cls.stage) for path
+                     in glob.glob(os.path.join(cls.stage, "**"), recursive=True)
+                     if os.path.isfile(path)]
+
+    def test_all_of_it_lies_below_the_prefix_in_the_staging_folder(self):
+        self.assertIn("opt/some where/bin/ferrin", self.files)
+        self.assertEqual([each for each in self.files if not each.startswith("opt/some where/")], [])
+
+    def test_its_folders_are_those_of_every_distribution(self):
+        self.assertEqual({each.split("/")[2] for each in self.files}, {"bin", "lib", "libexec", "share"})
+        # Debian's own documents are for Debian's package alone.
+        self.assertFalse(os.path.exists(os.path.join(self.stage, "opt/some where/share/doc")))
+
+    def test_no_binary_uses_what_qt_keeps_private(self):
+        found = 0
+        for each in self.files:
+            path = os.path.join(self.stage, each)
+            with open(path, "rb") as file:
+                if file.read(4) != b"\x7fELF":
+                    continue
+            found += 1
+            self.assertNotIn("_PRIVATE_API", run("objdump", "--private-headers", path), each)
+        self.assertGreaterEqual(found, 3)
+
+    def test_the_users_unit_is_right(self):
+        unit = [each for each in self.files if each.endswith("/systemd/user/ferrin.service")]
+        self.assertEqual(len(unit), 1)
+        text = read("packaging", "systemd", "ferrin.service")
+        self.assertIn("\nExecStart=ferrin\n", text)
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "ferrin.service")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(text.replace("ExecStart=ferrin", "ExecStart=true"))
+            told = run("systemd-analyze", "--user", "--man=no", "verify", path,
+                       env=os.environ | {"XDG_RUNTIME_DIR": folder})
+        self.assertNotIn("ferrin.service", told)
+
+
+class TheRecipes(unittest.TestCase):
+    def test_all_of_them_are_of_the_same_version(self):
+        told = {name: re.search(pattern, read(*name.split("/")), re.M).group(1) for name, pattern in (
+            ("CMakeLists.txt", r"project\(ferrin VERSION (\S+)"),
+            ("debian/changelog", r"\Aferrin \((\S+)-\d+\)"),
+            ("packaging/rpm/ferrin.spec", r"^Version: +(\S+)"),
+            ("packaging/arch/PKGBUILD", r"^pkgver=(\S+)"))}
+        self.assertEqual(len(set(told.values())), 1, told)
+
+    def test_rpmlint_finds_no_fault_in_the_spec(self):
+        told = run("rpmlint", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
+        # Nowhere to download the sources from yet; the other is of the days before 2009.
+        self.assertEqual(set(re.findall(r"[EW]: (\S+)", told)), {"invalid-url", "no-buildroot-tag"})
+
+    def test_the_spec_can_be_expanded(self):
+        told = run("rpmspec", "--parse", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
+        self.assertIn("/usr/bin/ferrin", told)
+
+    def test_shellcheck_finds_no_fault_in_the_scripts(self):
+        run("shellcheck", os.path.join(PACKAGING, "arch", "PKGBUILD"),
+            os.path.join(SOURCE, "debian", "tests", "item"))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
