@@ -76,7 +76,7 @@ void TrayWindowTest::init()
     m_colors = std::make_unique<PanelColors>();
     m_item = std::make_unique<TrayItem>(*m_colors);
     auto view = std::make_unique<ItemHostingView>();
-    view->bindableContent().setValue(dischargingAt(37, u"4:29"_s));
+    view->setContent(dischargingAt(37, u"4:29"_s));
     m_item->addContentView(std::move(view));
     m_item->dockInto(m_tray->window());
     std::optional<xcb_window_t> icon;
