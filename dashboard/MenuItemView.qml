@@ -15,7 +15,7 @@ MenuEntry {
 
     implicitHeight: 32
 
-    Rectangle {
+    RoundedRect {
         id: mark
 
         anchors.fill: parent
@@ -63,6 +63,7 @@ MenuEntry {
         font: Fonts.menuItem
         color: Colors.menuText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 6
+        minimumPixelSize: 9
+        elide: Text.ElideRight
     }
 }

@@ -16,8 +16,10 @@ Overlay {
     function place() {
         if (!shown)
             return;
+        loader.scale = Math.min(1, (height - 2 * frame.gap) / loader.height);
         const part = anchor.mapToItem(parent, 0, 0, anchor.width, anchor.height);
-        const spot = frame.standBeside(part, Qt.size(loader.width, loader.height),
+        const spot = frame.standBeside(part, Qt.size(loader.width * loader.scale,
+                                                     loader.height * loader.scale),
                                        Qt.rect(0, 0, width, height));
         loader.x = spot.x;
         loader.y = spot.y;
@@ -25,6 +27,9 @@ Overlay {
 
     PopoverGround {
         id: frame
+
+        // To the edges of the window.
+        readonly property int gap: 10
 
         MouseArea {
             anchors.fill: parent
@@ -34,6 +39,7 @@ Overlay {
         Loader {
             id: loader
 
+            transformOrigin: Item.TopLeft
             active: root.shown
             focus: true
             sourceComponent: root.content

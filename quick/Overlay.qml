@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Quick
 
 // A modal layer over a window's content: it takes the focus, and the content is disabled until it
 // closes. It closes on Escape and with its window; the focus then returns to the anchor. Derived types
@@ -38,7 +39,7 @@ FocusScope {
 
     // Does nothing if it is shown already or the anchor is in no window.
     function open() {
-        const scene = anchor.Window.contentItem;
+        const scene = sceneOf(anchor);
         if (shown || !scene)
             return;
         root.parent = scene;
@@ -49,6 +50,15 @@ FocusScope {
         root.shown = true;
         root.forceActiveFocus(Qt.PopupFocusReason);
         root.background.enabled = false;
+    }
+
+    // What it covers: the visible part of a growing scene, else of the window.
+    function sceneOf(item: Item): Item {
+        for (let ancestor = item.parent; ancestor; ancestor = ancestor.parent) {
+            if (ancestor instanceof GrowingScene)
+                return ancestor.ground;
+        }
+        return item.Window.contentItem;
     }
 
     function close() {

@@ -28,13 +28,14 @@ Pressable {
         onActivated: root.pressed()
     }
 
-    Rectangle {
+    RoundedRect {
         id: ground
 
         anchors.fill: parent
         radius: 5
         color: root.groundColor
-        border { width: root.borderWidth; color: Colors.settingsPopBorder }
+        borderWidth: root.borderWidth
+        borderColor: Colors.settingsPopBorder
     }
 
     FocusRing {

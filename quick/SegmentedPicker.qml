@@ -37,7 +37,7 @@ FocusScope {
         root.picked(texts[next]);
     }
 
-    Rectangle {
+    RoundedRect {
         id: track
 
         anchors.fill: parent
@@ -76,7 +76,7 @@ FocusScope {
                 Accessible.checked: isSelected
                 Accessible.onToggleAction: root.picked(modelData)
 
-                Rectangle {
+                RoundedRect {
                     id: mark
 
                     anchors.fill: parent

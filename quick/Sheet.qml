@@ -23,7 +23,7 @@ Overlay {
         reach: 22
     }
 
-    Rectangle {
+    RoundedRect {
         id: ground
 
         anchors.centerIn: parent
@@ -31,10 +31,15 @@ Overlay {
         height: loader.height
         radius: 10
         color: Colors.settingsBackground
-        border { width: 1; color: Colors.settingsPopBorder }
+        borderWidth: 1
+        borderColor: Colors.settingsPopBorder
 
         Loader {
             id: loader
+
+            // Contents scroll where they get less than they ask for.
+            width: Math.min(implicitWidth, root.width - 20)
+            height: Math.min(implicitHeight, root.height - 20)
 
             active: root.shown
             focus: true

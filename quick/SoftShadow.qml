@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Quick
 
 // The soft shadow of a rounded rectangle of the same geometry: black, fading from `strength` to
 // nothing within `reach` pixels. Made of layers, because the windows are painted without shaders.
@@ -24,7 +25,7 @@ Item {
         model: root.reach
 
         // qmllint disable unqualified
-        Rectangle {
+        RoundedRect {
             required property int index
 
             anchors {

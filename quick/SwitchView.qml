@@ -42,7 +42,7 @@ Pressable {
         minimumPixelSize: 9
     }
 
-    Rectangle {
+    RoundedRect {
         id: track
 
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
@@ -51,7 +51,7 @@ Pressable {
         radius: height / 2
         color: root.isOn ? Colors.accent : Colors.switchOff
 
-        Rectangle {
+        RoundedRect {
             id: knob
 
             x: root.isOn ? track.width - width - 2 : 2

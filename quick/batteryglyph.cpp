@@ -27,9 +27,8 @@ AnyView glyphOf(qreal percent, const QColor &color)
 } // namespace
 
 BatteryGlyph::BatteryGlyph(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : PaintedItem(parent)
 {
-    setAntialiasing(true);
     const QSizeF size = glyphOf(m_percent, m_color).idealSize({}) * enlargement;
     setImplicitSize(size.width(), size.height());
 }

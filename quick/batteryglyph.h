@@ -3,14 +3,15 @@
 
 #pragma once
 
+#include "quick/painteditem.h"
+
 #include <QColor>
-#include <QQuickPaintedItem>
 
 namespace ferrin {
 
 /// The menu bar item's horizontal battery glyph inside a window, in one colour and 1.2 times as
 /// large. Invisible to screen readers.
-class BatteryGlyph : public QQuickPaintedItem
+class BatteryGlyph : public ferrin::PaintedItem
 {
     Q_OBJECT
     QML_ELEMENT

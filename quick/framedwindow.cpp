@@ -7,9 +7,11 @@
 #include "popover/popoverdesktop.h"
 #include "quick/popoverframe.h"
 #include "quick/quickengine.h"
+#include "state/applicationappearance.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -30,6 +32,9 @@ FramedWindow::FramedWindow(QuickEngine &engine)
         m_frameItem->setParentItem(contentItem());
     else
         qCCritical(logger, "A popover has no frame: %s", qUtf8Printable(ground.errorString()));
+    if (const ApplicationAppearance *const appearance = ApplicationAppearance::shared())
+        m_textScale.setBinding([appearance] { return appearance->textScale(); });
+    m_textScaleFollower = m_textScale.addNotifier([this] { Q_EMIT contentSizeChanged(); });
     connect(this, &QQuickWindow::frameSwapped, this, &FramedWindow::firstFrameShown,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
@@ -40,6 +45,7 @@ void FramedWindow::setContent(std::unique_ptr<QQuickItem> content)
 {
     m_content = std::move(content);
     m_content->setParentItem(contentItem());
+    m_content->setTransformOrigin(QQuickItem::TopLeft);
     connect(m_content.get(), &QQuickItem::widthChanged, this, &FramedWindow::contentSizeChanged);
     connect(m_content.get(), &QQuickItem::heightChanged, this, &FramedWindow::contentSizeChanged);
 }
@@ -48,7 +54,18 @@ QSize FramedWindow::contentSize() const
 {
     if (!m_content)
         return {};
-    return { int(std::ceil(m_content->width())), int(std::ceil(m_content->height())) };
+    const QSizeF size = m_content->size() * zoom();
+    return { int(std::ceil(size.width())), int(std::ceil(size.height())) };
+}
+
+qreal FramedWindow::zoom() const
+{
+    if (!m_content || !screen() || m_content->size().isEmpty())
+        return 1;
+    const QSizeF room = screen()->availableSize() - 2 * QSize(explanationGap, explanationGap);
+    const qreal fitting
+        = std::min(room.width() / m_content->width(), room.height() / m_content->height());
+    return std::max(1.0, std::min(m_textScale.value(), fitting));
 }
 
 QMargins FramedWindow::marginsFor(const PopoverSpot &spot, ArrowUse arrowUse) const
@@ -72,8 +89,10 @@ void FramedWindow::place(const PopoverSpot &spot, ArrowUse arrowUse)
     setMinimumSize(whole.size());
     setMaximumSize(whole.size());
     m_desktop.place(*this, whole);
-    if (m_content)
+    if (m_content) {
         m_content->setPosition(QPointF(margins.left(), margins.top()));
+        m_content->setScale(zoom());
+    }
     if (!m_frameItem)
         return;
     m_frameItem->setSize(whole.size());

@@ -5,6 +5,7 @@
 
 #include "popover/popoverplacement.h"
 
+#include <QProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -17,7 +18,8 @@ class PopoverFrame;
 class QuickEngine;
 
 /// The window of a popover: a frame with rounded corners and a shadow around one item, which
-/// determines the size. Its owner places it and closes it.
+/// determines the size. The item is enlarged as the desktop enlarges texts, as far as the screen
+/// has room. Its owner places it and closes it.
 class FramedWindow : public QQuickWindow
 {
     Q_OBJECT
@@ -31,6 +33,7 @@ public:
 
     /// Call once.
     void setContent(std::unique_ptr<QQuickItem> content);
+    /// As it is seen, enlarged.
     [[nodiscard]] QSize contentSize() const;
 
     enum class ArrowUse { Without, With };
@@ -45,11 +48,15 @@ Q_SIGNALS:
     void firstFrameShown();
 
 private:
+    /// How many times larger than it is made the content is shown; at least 1.
+    [[nodiscard]] qreal zoom() const;
     [[nodiscard]] QMargins marginsFor(const PopoverSpot &spot, ArrowUse arrowUse) const;
 
     PopoverDesktop &m_desktop;
     std::unique_ptr<PopoverFrame> m_frameItem;
     std::unique_ptr<QQuickItem> m_content;
+    QProperty<double> m_textScale { 1 };
+    QPropertyNotifier m_textScaleFollower;
     QRect m_frameRect;
     bool m_isBlended = true;
 };

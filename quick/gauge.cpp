@@ -46,9 +46,8 @@ void drawArc(QPainter &painter, const QRectF &ring, const QBrush &brush, qreal s
 } // namespace
 
 Gauge::Gauge(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : PaintedItem(parent)
 {
-    setAntialiasing(true);
     setImplicitSize(frame, frame);
 }
 

@@ -3,15 +3,16 @@
 
 #pragma once
 
+#include "quick/painteditem.h"
+
 #include <QColor>
-#include <QQuickPaintedItem>
 
 namespace ferrin {
 
 /// A share of a whole as an open ring: three quarters of a circle, its gap at the bottom, that fill
 /// clockwise. The filled part shows as much of the gradient as it covers; the rest is a faint
 /// track. Invisible to screen readers: its user also gives the figure as text.
-class Gauge : public QQuickPaintedItem
+class Gauge : public ferrin::PaintedItem
 {
     Q_OBJECT
     QML_ELEMENT

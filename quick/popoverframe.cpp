@@ -8,6 +8,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QQuickWindow>
 
 #include <utility>
 
@@ -105,6 +106,9 @@ QPointF PopoverFrame::standBeside(const QRectF &part, const QSizeF &content, con
     setPosition(whole.topLeft());
     setSize(whole.size());
     setFraming(margins, Arrow { .side = spot.side, .along = qreal(spot.arrow) }, true);
+    // As many pixels as are seen of it where the scene is enlarged.
+    const qreal zoom = mapRectToScene(QRectF(0, 0, 1, 1)).width();
+    setTextureSize((size() * zoom * window()->effectiveDevicePixelRatio()).toSize());
     return { qreal(margins.left()), qreal(margins.top()) };
 }
 

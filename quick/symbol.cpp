@@ -10,9 +10,8 @@
 namespace ferrin {
 
 Symbol::Symbol(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : PaintedItem(parent)
 {
-    setAntialiasing(true);
 }
 
 void Symbol::setName(const QString &name)

@@ -3,15 +3,16 @@
 
 #pragma once
 
+#include "quick/painteditem.h"
+
 #include <QColor>
-#include <QQuickPaintedItem>
 
 namespace ferrin {
 
 /// A symbol of the application's own artwork, in one colour. Its implicit height is `size`, and its
 /// implicit width follows from the artwork; in a larger item it is centred. Invisible to screen
 /// readers.
-class Symbol : public QQuickPaintedItem
+class Symbol : public ferrin::PaintedItem
 {
     Q_OBJECT
     QML_ELEMENT

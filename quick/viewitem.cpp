@@ -11,9 +11,8 @@
 namespace ferrin {
 
 ViewItem::ViewItem(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : PaintedItem(parent)
 {
-    setAntialiasing(true);
 }
 
 void ViewItem::setTextColor(const QColor &color)

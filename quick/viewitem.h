@@ -4,8 +4,8 @@
 #pragma once
 
 #include "menubar/view.h"
+#include "quick/painteditem.h"
 
-#include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
 namespace ferrin {
@@ -14,7 +14,7 @@ namespace ferrin {
 /// this item and aligned with the device's pixels. Derived classes choose the view; QML binds the
 /// colours and the font. The implicit size is the view's ideal size, rounded up to whole logical
 /// pixels.
-class ViewItem : public QQuickPaintedItem
+class ViewItem : public ferrin::PaintedItem
 {
     Q_OBJECT
     QML_ANONYMOUS

@@ -5,12 +5,14 @@
 
 #include "popover/popoverdesktop.h"
 #include "quick/quickengine.h"
+#include "quick/windowsize.h"
 #include "settingswindow/settings.h"
 #include "settingswindow/windowplace.h"
 #include "state/defaultsstore.h"
 
 #include <QCloseEvent>
 #include <QIcon>
+#include <QQuickItem>
 #include <QScreen>
 
 FERRIN_USE_QML_TYPES(Ferrin_Settings)
@@ -38,14 +40,22 @@ SettingsWindow::SettingsWindow(QuickEngine &engine, DefaultsStore &store)
     setTitle(QStringLiteral("Ferrin Settings"));
     setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
              | Qt::WindowCloseButtonHint);
-    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/SettingsView.qml")));
-    setMinimumSize(size());
-    setMaximumSize(size());
+    setResizeMode(SizeRootObjectToView);
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/SettingsScene.qml")));
+    for (const auto signal :
+         { &QQuickItem::implicitWidthChanged, &QQuickItem::implicitHeightChanged })
+        connect(rootObject(), signal, this, &SettingsWindow::fit);
+    fit();
     // Only window lists show the icon, so the first frame does not wait for it.
     connect(
         this, &QQuickWindow::frameSwapped, this,
         [this] { setIcon(QIcon(QStringLiteral(":/icons/org.ferrin.Ferrin.svg"))); },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+void SettingsWindow::fit()
+{
+    fitWindow(*this, *rootObject());
 }
 
 void SettingsWindow::open(QScreen *screen)
@@ -60,6 +70,7 @@ void SettingsWindow::open(QScreen *screen)
 void SettingsWindow::place(QScreen &screen)
 {
     setScreen(&screen);
+    fit();
     const auto kept = windowPlaceIn(m_store.string(placeKey).value_or(QString()));
     if (m_canBePlaced && kept && kept->screen == screen.name())
         setFramePosition(keptWithin(screen.geometry().topLeft() + kept->corner, size(),

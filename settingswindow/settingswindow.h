@@ -36,6 +36,8 @@ protected:
 private:
     void place(QScreen &screen);
     void rememberPlace();
+    /// Takes the size of the content, which follows the desktop's size of texts.
+    void fit();
 
     DefaultsStore &m_store;
     bool m_canBePlaced;

@@ -32,12 +32,16 @@ public:
     [[nodiscard]] bool isDark() const { return m_isDark; }
     /// The interface font; never empty while there is a graphical application.
     [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
+    /// How many times larger than usual the desktop wants texts, and all that surrounds them; 1
+    /// to 3.
+    [[nodiscard]] double textScale() const { return m_textScale; }
     /// Whether the desktop asks for reduced motion.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
 
 protected:
     QProperty<bool> m_isDark { false };
     QProperty<QString> m_fontFamily;
+    QProperty<double> m_textScale { 1 };
     QProperty<bool> m_reducesMotion { false };
 };
 

@@ -66,13 +66,14 @@ Item {
             afterTap.restart();
     }
 
-    Rectangle {
+    RoundedRect {
         id: tile
 
         anchors.fill: parent
         radius: 10
         color: Colors.cardColor
-        border { width: 2; color: Colors.greyIcon }
+        borderWidth: 2
+        borderColor: Colors.greyIcon
     }
 
     FocusRing {
@@ -92,7 +93,8 @@ Item {
         color: Colors.cardTitleColor
         horizontalAlignment: Text.AlignHCenter
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 6
+        minimumPixelSize: 9
+        elide: Text.ElideRight
         Accessible.ignored: true
     }
 

@@ -51,7 +51,7 @@ Item {
             openRequested();
     }
 
-    Rectangle {
+    RoundedRect {
         id: ground
 
         anchors.fill: parent

@@ -15,6 +15,7 @@ Theme::Theme(QObject *parent)
         return;
     m_isDark.setBinding([appearance] { return appearance->isDark(); });
     m_fontFamily.setBinding([appearance] { return appearance->fontFamily(); });
+    m_textScale.setBinding([appearance] { return appearance->textScale(); });
     m_reducesMotion.setBinding([appearance] { return appearance->reducesMotion(); });
 }
 

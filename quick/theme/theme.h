@@ -21,6 +21,8 @@ class Theme final : public QObject
     QML_SINGLETON
     Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
     Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY fontFamilyChanged)
+    /// The factor by which windows and all that is in them are larger than they are made; 1 to 3.
+    Q_PROPERTY(double textScale READ textScale NOTIFY textScaleChanged)
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
 
 public:
@@ -31,17 +33,20 @@ public:
 
     [[nodiscard]] bool isDark() const { return m_isDark; }
     [[nodiscard]] QString fontFamily() const { return m_fontFamily; }
+    [[nodiscard]] double textScale() const { return m_textScale; }
     /// The desktop asks for no animations.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
 
 Q_SIGNALS:
     void isDarkChanged();
     void fontFamilyChanged();
+    void textScaleChanged();
     void reducesMotionChanged();
 
 private:
     Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_isDark, &Theme::isDarkChanged)
     Q_OBJECT_BINDABLE_PROPERTY(Theme, QString, m_fontFamily, &Theme::fontFamilyChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(Theme, double, m_textScale, 1, &Theme::textScaleChanged)
     Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_reducesMotion, &Theme::reducesMotionChanged)
 };
 

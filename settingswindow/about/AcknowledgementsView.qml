@@ -80,7 +80,7 @@ FocusScope {
     }
 
     // The scroll indicator.
-    Rectangle {
+    RoundedRect {
         x: view.width - 9
         y: view.y + 3 + view.visibleArea.yPosition * (view.height - 6)
         width: 6

@@ -15,7 +15,8 @@ Column {
         font: Fonts.regular10
         color: Colors.secondaryText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
+        minimumPixelSize: 9
+        elide: Text.ElideRight
     }
 
     Line {

@@ -4,6 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
+import Ferrin.Theme
 
 // The program's icon, name and version.
 Column {
@@ -16,7 +17,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         width: 96
         height: 96
-        sourceSize { width: 96; height: 96 }
+        sourceSize { width: 96 * Theme.textScale; height: 96 * Theme.textScale }
         source: "qrc:/icons/org.ferrin.Ferrin.svg"
         // The name below it says the same.
         Accessible.ignored: true

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 
 // A panel of a page: rounded, with a border and a title above its content, as high as these.
-Rectangle {
+RoundedRect {
     id: root
 
     required property string title
@@ -14,7 +14,8 @@ Rectangle {
     implicitHeight: heading.height + body.childrenRect.height + 12
     radius: 8
     color: Colors.settingsRectangle
-    border { width: 1; color: Colors.settingsRectBorder }
+    borderWidth: 1
+    borderColor: Colors.settingsRectBorder
 
     Text {
         id: heading

@@ -26,12 +26,13 @@ Column {
         Accessible.name: text
     }
 
-    Rectangle {
+    RoundedRect {
         width: parent.width
         height: body.height + 24
         radius: 8
         color: Colors.settingsRectangle
-        border { width: 1; color: Colors.settingsRectBorder }
+        borderWidth: 1
+        borderColor: Colors.settingsRectBorder
 
         Column {
             id: body

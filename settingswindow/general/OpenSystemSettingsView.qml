@@ -34,7 +34,7 @@ MakeBackgroundRectangle {
                     Settings.dismissRequested();
             }
 
-            Rectangle {
+            RoundedRect {
                 id: mark
 
                 anchors { fill: parent; margins: -5 }
@@ -55,7 +55,7 @@ MakeBackgroundRectangle {
                 radius: tile.radius
             }
 
-            Rectangle {
+            RoundedRect {
                 id: tile
 
                 width: 28

@@ -17,7 +17,7 @@ MenuEntry {
     buttonState: control[button]
     implicitHeight: 42
 
-    Rectangle {
+    RoundedRect {
         id: mark
 
         anchors { fill: parent; margins: 2 }

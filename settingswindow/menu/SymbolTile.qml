@@ -15,7 +15,7 @@ Item {
     implicitWidth: 28
     implicitHeight: 28
 
-    Rectangle {
+    RoundedRect {
         anchors.fill: parent
         radius: 6
         color: root.isBright ? Qt.lighter(root.color, 1.12) : root.color
@@ -23,14 +23,13 @@ Item {
     }
 
     // White light from above. It ends in the middle, for the white symbol's contrast.
-    Rectangle {
+    RoundedRect {
         anchors.fill: parent
         radius: 6
         opacity: 0.33
-        gradient: Gradient {
-            GradientStop { position: 0; color: Colors.tileSymbol }
-            GradientStop { position: 0.5; color: "transparent" }
-        }
+        color: Colors.tileSymbol
+        endColor: "transparent"
+        endsAt: 0.5
     }
 
     Symbol {

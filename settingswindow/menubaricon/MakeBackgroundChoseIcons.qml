@@ -5,11 +5,10 @@ import QtQuick
 import Ferrin.Quick
 
 // The panel behind the icons to choose from.
-Rectangle {
+RoundedRect {
     radius: 8
-    border { width: 1; color: Colors.settingsPopBorder }
-    gradient: Gradient {
-        GradientStop { position: 0; color: Colors.settingsPopBckg1 }
-        GradientStop { position: 1; color: Colors.settingsPopBckg2 }
-    }
+    borderWidth: 1
+    borderColor: Colors.settingsPopBorder
+    color: Colors.settingsPopBckg1
+    endColor: Colors.settingsPopBckg2
 }

@@ -30,13 +30,14 @@ Pressable {
 
     onIsHoveredChanged: root.hovered(isHovered)
 
-    Rectangle {
+    RoundedRect {
         id: mark
 
         anchors.fill: parent
         radius: 6
         color: Colors.settingsIconOptions
-        border { width: root.isSelected ? 1 : 0; color: Colors.focusRing }
+        borderWidth: root.isSelected ? 1 : 0
+        borderColor: Colors.focusRing
         opacity: root.control[root.icon] === ButtonState.None ? 0 : 1
     }
 

@@ -14,8 +14,8 @@ Item {
     // The lower left corner of the panel's own symbol beside the item.
     readonly property point anchor: Qt.point(94, 18)
 
-    implicitWidth: panel.implicitWidth
-    implicitHeight: panel.implicitHeight
+    implicitWidth: panel.width
+    implicitHeight: panel.height
 
     Accessible.role: Accessible.Graphic
     Accessible.name: "Preview"
@@ -24,14 +24,16 @@ Item {
     Image {
         id: panel
 
+        width: 180
+        height: 22
         source: "qrc:/mockup/mockupMenuBarPreview." + (Theme.isDark ? "dark" : "light") + ".svg"
-        sourceSize { width: 180; height: 22 }
+        sourceSize { width: 180 * Theme.textScale; height: 22 * Theme.textScale }
     }
 
     SettingsMBISelectedMockupView {
         x: root.anchor.x - 5 - width
         y: root.anchor.y - 7 - height / 2
-        height: panel.implicitHeight
+        height: panel.height
         choices: root.choices
         textColor: Colors.settingsPopoverIcon
         redColor: Colors.redIcon

@@ -31,7 +31,7 @@ Pressable {
         radius: 5
     }
 
-    Rectangle {
+    RoundedRect {
         anchors { fill: parent; margins: 1 }
         radius: 4
         color: Colors.settingsIconOptions

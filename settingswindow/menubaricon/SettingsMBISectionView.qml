@@ -131,7 +131,7 @@ MakeBackgroundRectangle {
                 font: Fonts.regular10
                 color: Colors.secondaryText
                 fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 8
+                minimumPixelSize: 9
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }

@@ -23,9 +23,8 @@ constexpr qreal cornerRadius = 4;
 } // namespace
 
 PanelPreview::PanelPreview(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : PaintedItem(parent)
 {
-    setAntialiasing(true);
 }
 
 void PanelPreview::setChoices(StateChoices *choices)
@@ -83,7 +82,7 @@ void PanelPreview::paint(QPainter *painter)
     painter->setPen(Qt::NoPen);
     painter->setBrush(m_panel->ground);
     painter->drawRoundedRect(boundingRect(), cornerRadius, cornerRadius);
-    const qreal scale = deviceScale();
+    const qreal scale = painter->deviceTransform().m11();
     QImage image
         = paintForm(m_panel->form, m_choices->preview(), m_panel->height, scale, m_panel->context);
     image.setDevicePixelRatio(scale);

@@ -3,16 +3,16 @@
 
 #pragma once
 
+#include "quick/painteditem.h"
 #include "settingswindow/menubaricon/statechoices.h"
 
 #include <QPointer>
-#include <QQuickPaintedItem>
 
 namespace ferrin {
 
 /// What the item would look like in the present panel in one battery state, made by the painter of
 /// the panels' own pictures. Takes no place while no panel shows the item.
-class PanelPreview : public QQuickPaintedItem
+class PanelPreview : public ferrin::PaintedItem
 {
     Q_OBJECT
     QML_ELEMENT

@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 
 // How much of something is done.
-Rectangle {
+RoundedRect {
     id: root
 
     // 0 to 1.
@@ -21,7 +21,7 @@ Rectangle {
     Accessible.name: spokenName
     Accessible.description: `${Math.round(value * 100)} %`
 
-    Rectangle {
+    RoundedRect {
         width: root.value > 0 ? Math.max(parent.height, parent.width * root.value) : 0
         height: parent.height
         radius: parent.radius

@@ -6,7 +6,7 @@ import Ferrin.Quick
 
 // What is new in a release, as high as it needs to be up to a limit, and scrolled by wheel and keys
 // beyond it. It comes from outside, and is shown as it is written.
-Rectangle {
+RoundedRect {
     id: root
 
     required property string notes
@@ -16,7 +16,8 @@ Rectangle {
     implicitHeight: Math.min(words.height + 20, maximumHeight)
     radius: 8
     color: Colors.settingsRectangle
-    border { width: 1; color: Colors.settingsRectBorder }
+    borderWidth: 1
+    borderColor: Colors.settingsRectBorder
     activeFocusOnTab: isScrollable
 
     Accessible.role: Accessible.Paragraph
@@ -70,7 +71,7 @@ Rectangle {
     }
 
     // Where in the notes one is.
-    Rectangle {
+    RoundedRect {
         anchors { right: parent.right; rightMargin: 5 }
         visible: root.isScrollable
         y: view.y + view.height * view.visibleArea.yPosition

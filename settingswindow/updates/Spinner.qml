@@ -29,7 +29,7 @@ Item {
         model: 8
 
         // qmllint disable unqualified
-        Rectangle {
+        RoundedRect {
             required property int index
             readonly property int behind: (root.brightest - index + 8) % 8
 

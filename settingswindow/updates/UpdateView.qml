@@ -4,6 +4,7 @@
 import QtQuick
 import Ferrin.Quick
 import Ferrin.Settings
+import Ferrin.Theme
 
 // What the updater's session is at, and what can be done about it. No answer has the keyboard by
 // itself, so that a key that was meant for something else neither stops nor installs anything.
@@ -149,7 +150,7 @@ FocusScope {
         width: 56
         height: 56
         source: "qrc:/icons/org.ferrin.Ferrin.svg"
-        sourceSize { width: 56; height: 56 }
+        sourceSize { width: 56 * Theme.textScale; height: 56 * Theme.textScale }
         Accessible.ignored: true
     }
 

@@ -4,6 +4,7 @@
 #include "settingswindow/updates/updatewindow.h"
 
 #include "quick/quickengine.h"
+#include "quick/windowsize.h"
 #include "settingswindow/updates/softwareupdates.h"
 #include "settingswindow/windowplace.h"
 
@@ -28,13 +29,15 @@ UpdateWindow::UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates)
     setFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
              | Qt::WindowCloseButtonHint);
     setResizeMode(SizeRootObjectToView);
-    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/UpdateView.qml")));
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Ferrin/Settings/UpdateScene.qml")));
     // The lists of windows can wait for it, and the first frame does not have to.
     connect(
         this, &QQuickWindow::frameSwapped, this,
         [this] { setIcon(QIcon(QStringLiteral(":/icons/org.ferrin.Ferrin.svg"))); },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-    connect(rootObject(), &QQuickItem::implicitHeightChanged, this, &UpdateWindow::fit);
+    for (const auto signal :
+         { &QQuickItem::implicitWidthChanged, &QQuickItem::implicitHeightChanged })
+        connect(rootObject(), signal, this, &UpdateWindow::fit);
     connect(&m_updates, &SoftwareUpdates::stageChanged, this, [this] {
         if (m_updates.stage() == SoftwareUpdates::Stage::Idle)
             hide();
@@ -58,6 +61,7 @@ void UpdateWindow::place(QScreen *screen, const QWindow *beside)
     if (!screen && !beside)
         return;
     setScreen(beside ? beside->screen() : screen);
+    fit();
     setPosition(centredIn(beside ? beside->geometry() : screen->availableGeometry(), size()));
 }
 
@@ -70,11 +74,7 @@ void UpdateWindow::closeEvent(QCloseEvent *event)
 
 void UpdateWindow::fit()
 {
-    const QSize wanted(qRound(rootObject()->implicitWidth()),
-                       qRound(rootObject()->implicitHeight()));
-    setMinimumSize(wanted);
-    setMaximumSize(wanted);
-    resize(wanted);
+    fitWindow(*this, *rootObject());
 }
 
 } // namespace ferrin

@@ -47,13 +47,13 @@ inline QQuickItem *card(QQuickItem *root, const QByteArray &type)
 inline QStringList imagesOf(QQuickItem *root)
 {
     QStringList images;
-    const QList<QQuickItem *> items = visibleItemsOfType(root, "QQuickPaintedItem");
+    const QList<QQuickItem *> items = visibleItemsOfType(root, "ferrin::PaintedItem");
     for (const QQuickItem *item : items) {
         if (isOfType(*item, "PercentGauge"))
             images.append(QStringLiteral("gauge %1").arg(item->property("value").toDouble()));
         else if (isOfType(*item, "ferrin::BatteryGlyph"))
             images.append(QStringLiteral("battery %1").arg(item->property("percent").toDouble()));
-        else if (!isOfType(*item, "MoreInfoButton")
+        else if (!isOfType(*item, "ferrin::RoundedRect") && !isOfType(*item, "MoreInfoButton")
                  && !isOfType(*item->parentItem(), "MoreInfoButton"))
             images.append(QStringLiteral("%1 %2 %3")
                               .arg(item->property("name").toString())

@@ -93,9 +93,9 @@ void CardViewTest::isATileOfAHundredPixels()
     const QQuickItem *const ground = tile->childItems().constFirst();
     QCOMPARE(ground->property("radius").toReal(), 10);
     QCOMPARE(ground->property("color").value<QColor>().name(), m_stage->colorNamed("cardColor"));
-    const auto *const border = ground->property("border").value<QObject *>();
-    QCOMPARE(border->property("width").toReal(), 2);
-    QCOMPARE(border->property("color").value<QColor>().name(), m_stage->colorNamed("greyIcon"));
+    QCOMPARE(ground->property("borderWidth").toReal(), 2);
+    QCOMPARE(ground->property("borderColor").value<QColor>().name(),
+             m_stage->colorNamed("greyIcon"));
 }
 
 void CardViewTest::hasItsTitleInTheTitleFont()

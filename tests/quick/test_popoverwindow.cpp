@@ -5,12 +5,14 @@
 #include "quick/framedwindow.h"
 #include "quick/popoverwindow.h"
 #include "quick/quickengine.h"
+#include "tests/support/chosenappearance.h"
 #include "tests/support/testmain.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainterPath>
 #include <QQmlComponent>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -125,6 +127,7 @@ private Q_SLOTS:
     void makesItsContentWhenItOpensAndDropsItWhenItCloses();
     void isAsLargeAsItsContent();
     void followsTheSizeOfItsContent();
+    void growsWithTheSizeOfTextsAsFarAsTheScreenHasRoom();
     void pointsAtItsAnchor();
     void isTheOnlyOneOpen();
     void saysThatItOpensAndCloses();
@@ -181,6 +184,25 @@ void PopoverWindowTest::followsTheSizeOfItsContent()
             item->setHeight(120);
     }
     QCOMPARE(opened->frame().size(), QSize(200, 120));
+}
+
+void PopoverWindowTest::growsWithTheSizeOfTextsAsFarAsTheScreenHasRoom()
+{
+    test::ChosenAppearance appearance;
+    appearance.setTextScale(1.5);
+    const Stage stage;
+    stage.explanation("explanation of one").open();
+    const FramedWindow &explanation = *stage.explanations().constFirst();
+    QCOMPARE(explanation.frame().size(), QSize(300, 120));
+    appearance.setTextScale(2);
+    QCOMPARE(explanation.frame().size(), QSize(400, 160));
+
+    QQuickItem *const content = explanation.contentItem()->childItems().constLast();
+    const QSize screen = explanation.screen()->availableSize();
+    content->setWidth(screen.width() * 0.75);
+    QVERIFY(explanation.frame().width() > screen.width() * 0.75);
+    QVERIFY(explanation.frame().width() < screen.width());
+    QCOMPARE(content->scale(), explanation.frame().width() / content->width());
 }
 
 void PopoverWindowTest::pointsAtItsAnchor()

@@ -57,7 +57,7 @@ struct IconStage : SettingsStage
         QStringList marked;
         const QList<QQuickItem *> all = iconButtons();
         for (QQuickItem *const button : all) {
-            if (itemsOfType(button, "QQuickRectangle").constFirst()->opacity() > 0)
+            if (itemsOfType(button, "ferrin::RoundedRect").constFirst()->opacity() > 0)
                 marked.append(button->property("icon").toString());
         }
         return marked;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// Takes pictures of the menu bar icon's page to be looked at: settings_pictures FOLDER FONT...
-// With QT_SCALE_FACTOR they have more pixels.
+// Takes pictures of the menu bar icon's page to be looked at: settings_pictures FOLDER TEXTSCALE
+// FONT... With QT_SCALE_FACTOR they have more pixels.
 
 #include "tests/settingswindow/stage.h"
 
@@ -16,20 +16,23 @@ namespace {
 class Photographer
 {
 public:
-    Photographer(const QString &folder, Appearance appearance, const QString &font)
+    Photographer(const QString &folder, Appearance appearance, double textScale,
+                 const QString &font)
         : m_folder(folder)
-        , m_prefix(u"%1-%2-%3x"_s
+        , m_prefix(u"%1-%2-%3-%4x"_s
                        .arg(appearance == Appearance::dark ? u"dark"_s : u"light"_s,
                             QString(font).remove(u' '))
+                       .arg(textScale * 100)
                        .arg(m_stage.window.devicePixelRatio()))
     {
         m_stage.appearance.setAppearance(appearance);
+        m_stage.appearance.setTextScale(textScale);
         m_stage.appearance.setFontFamily(font);
         m_stage.battery.setChargingStatus(BatteryChargingStatus::discharging);
         m_stage.panel.setPresent(
             PanelAppearance { .context = { .text = Qt::white, .red = Qt::red, .fontFamily = font },
                               .ground = QColor(0x2b, 0x2b, 0x2e) });
-        m_view = m_stage.show("SettingsView { focus: true }");
+        m_view = m_stage.show("SettingsScene {}");
     }
 
     void takeAll()
@@ -71,10 +74,11 @@ int main(int argc, char **argv)
 {
     const QGuiApplication app(argc, argv);
     const QString folder = app.arguments().value(1);
+    const double textScale = app.arguments().value(2).toDouble();
     QDir().mkpath(folder);
     for (const Appearance appearance : { Appearance::light, Appearance::dark }) {
-        for (const QString &font : app.arguments().sliced(2))
-            Photographer(folder, appearance, font).takeAll();
+        for (const QString &font : app.arguments().sliced(3))
+            Photographer(folder, appearance, textScale, font).takeAll();
     }
     return EXIT_SUCCESS;
 }

@@ -227,7 +227,7 @@ private Q_SLOTS:
         SettingsStage stage;
         QQuickItem *const button = stage.show("SettingsMBIIconButtonView { icon: 'bolt'; charge: "
                                               "37; control: ({ bolt: undefined }) }");
-        QCOMPARE(itemsOfType(button, "QQuickRectangle").constFirst()->opacity(), 1.0);
+        QCOMPARE(itemsOfType(button, "ferrin::RoundedRect").constFirst()->opacity(), 1.0);
     }
 
     void opensAndClosesAtTheSameButton()

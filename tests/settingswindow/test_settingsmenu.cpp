@@ -24,7 +24,7 @@ struct Menu
     {
         QStringList texts;
         for (QQuickItem *const item : items) {
-            if (test::itemsOfType(item, "QQuickRectangle").constFirst()->opacity() > 0)
+            if (test::itemsOfType(item, "ferrin::RoundedRect").constFirst()->opacity() > 0)
                 texts.append(item->property("text").toString());
         }
         return texts;

@@ -19,6 +19,7 @@ public:
         forced = appearance;
     }
     void setFontFamily(const QString &family) { m_fontFamily = family; }
+    void setTextScale(double scale) { m_textScale = scale; }
     void setReducesMotion(bool reduces) { m_reducesMotion = reduces; }
 
     /// The last value that was set; absent follows the desktop.

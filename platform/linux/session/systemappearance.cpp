@@ -8,23 +8,13 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QScreen>
 
 namespace ferrin {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString schemeGroup = u"org.freedesktop.appearance"_s;
-const QString schemeKey = u"color-scheme"_s;
-const QString gnomeGroup = u"org.gnome.desktop.interface"_s;
-const QString gnomeFontKey = u"font-name"_s;
-// Only KDE's portal has this one, so where it is there it is the right one of the two.
-const QString kdeFontGroup = u"org.kde.kdeglobals.General"_s;
-const QString kdeFontKey = u"font"_s;
-const QString gnomeAnimationsKey = u"enable-animations"_s;
-const QString kdeAnimationsGroup = u"org.kde.kdeglobals.KDE"_s;
-const QString kdeAnimationsKey = u"AnimationDurationFactor"_s;
 
 std::optional<bool> prefersDark(const QVariant &value)
 {
@@ -55,6 +45,26 @@ bool animatesByFactor(const QVariant &kdeSetting)
     return !isNumber || factor > 0;
 }
 
+std::optional<double> factorOf(const QVariant &value)
+{
+    // What GNOME itself takes.
+    constexpr double least = 0.5;
+    constexpr double most = 3;
+    const bool isNumber = value.typeId() == QMetaType::Double;
+    return isNumber && value.toDouble() >= least && value.toDouble() <= most
+        ? std::optional(value.toDouble())
+        : std::nullopt;
+}
+
+/// How far the display server enlarges everything. An X server does so by its resolution, which the
+/// desktops set by the size of the text; elsewhere the two have nothing to do with each other.
+double enlargement()
+{
+    const bool isByText = qGuiApp && QGuiApplication::platformName() == u"xcb";
+    const QScreen *const screen = isByText ? QGuiApplication::primaryScreen() : nullptr;
+    return screen ? screen->devicePixelRatio() : 1;
+}
+
 bool isPaletteDark()
 {
     return qGuiApp && QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
@@ -67,16 +77,46 @@ QString toolkitsFont()
 
 } // namespace
 
+const QList<SystemAppearance::Setting> &SystemAppearance::settings()
+{
+    using Self = SystemAppearance;
+    static const QString gnome = u"org.gnome.desktop.interface"_s;
+    static const QList<Setting> all {
+        { u"org.freedesktop.appearance"_s, u"color-scheme"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_desktopPrefersDark = prefersDark(value);
+          } },
+        { gnome, u"font-name"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_gnomeFont = familyOfPangoName(textOf(value));
+              self.m_text.gnomePoints = pointSizeOfPangoName(textOf(value));
+          } },
+        { gnome, u"text-scaling-factor"_s,
+          [](Self &self, const QVariant &value) { self.m_text.gnomeFactor = factorOf(value); } },
+        { gnome, u"enable-animations"_s,
+          [](Self &self, const QVariant &value) { self.m_gnomeAnimates = animates(value); } },
+        // Only KDE's portal has its settings, so where they are they are the right ones.
+        { u"org.kde.kdeglobals.General"_s, u"font"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_kdeFont = familyOfQtName(textOf(value));
+              self.m_text.kdePoints = pointSizeOfQtName(textOf(value));
+          } },
+        { u"org.kde.kdeglobals.KDE"_s, u"AnimationDurationFactor"_s,
+          [](Self &self, const QVariant &value) { self.m_kdeAnimates = animatesByFactor(value); } },
+    };
+    return all;
+}
+
 SystemAppearance::SystemAppearance(const QDBusConnection &session, QObject *parent)
     : QObject(parent)
     , m_portal(session)
 {
     connect(&m_portal, &SettingsPortal::valueChanged, this, &SystemAppearance::take);
-    m_portal.watch(schemeGroup, schemeKey);
-    m_portal.watch(gnomeGroup, gnomeFontKey);
-    m_portal.watch(kdeFontGroup, kdeFontKey);
-    m_portal.watch(gnomeGroup, gnomeAnimationsKey);
-    m_portal.watch(kdeAnimationsGroup, kdeAnimationsKey);
+    for (const Setting &setting : settings())
+        m_portal.watch(setting.group, setting.key);
+    // The resolution of an X server may follow the size of the text a moment later.
+    if (const QScreen *const screen = QGuiApplication::primaryScreen())
+        connect(screen, &QScreen::geometryChanged, this, &SystemAppearance::update);
     update();
 }
 
@@ -92,17 +132,10 @@ void SystemAppearance::setAppearance(std::optional<Appearance> appearance)
 void SystemAppearance::take(const QString &group, const QString &key, const QVariant &value)
 {
     const std::optional<bool> preferredBefore = m_desktopPrefersDark;
-    if (group == schemeGroup && key == schemeKey)
-        m_desktopPrefersDark = prefersDark(value);
-    else if (group == gnomeGroup && key == gnomeAnimationsKey)
-        m_gnomeAnimates = animates(value);
-    else if (group == kdeAnimationsGroup)
-        m_kdeAnimates = animatesByFactor(value);
-    else if (group == gnomeGroup)
-        m_gnomeFont = familyOfPangoName(textOf(value));
-    else if (group == kdeFontGroup)
-        m_kdeFont = familyOfQtName(textOf(value));
-
+    for (const Setting &setting : settings()) {
+        if (setting.group == group && setting.key == key)
+            setting.keep(*this, value);
+    }
     const bool wasDark = m_isDesktopDark;
     const QString fontBefore = m_fontFamily;
     update();
@@ -118,6 +151,7 @@ void SystemAppearance::update()
     m_isDark = m_forced ? *m_forced == Appearance::dark : isDesktopDark;
     const QString desktopsFont = m_kdeFont.isEmpty() ? m_gnomeFont : m_kdeFont;
     m_fontFamily = desktopsFont.isEmpty() ? toolkitsFont() : desktopsFont;
+    m_textScale = textScaleOf(m_text, enlargement());
     m_reducesMotion = !m_gnomeAnimates || !m_kdeAnimates;
 }
 

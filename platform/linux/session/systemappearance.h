@@ -4,8 +4,10 @@
 #pragma once
 
 #include "platform/linux/session/settingsportal.h"
+#include "platform/linux/session/textscale.h"
 #include "state/applicationappearance.h"
 
+#include <QList>
 #include <QObject>
 #include <QProperty>
 #include <QString>
@@ -15,9 +17,9 @@
 namespace ferrin {
 
 /// How the application looks on this desktop: dark or light, forced or as the desktop prefers, in
-/// which font, and whether anything moves. The desktop is asked through its settings portal,
-/// without waiting; until it answers, and where there is none, the toolkit's palette and font
-/// decide. Every value may change at any time. Owned by the application; it repaints nothing
+/// which font and size, and whether anything moves. The desktop is asked through its settings
+/// portal, without waiting; until it answers, and where there is none, the toolkit's palette and
+/// font decide. Every value may change at any time. Owned by the application; it repaints nothing
 /// itself.
 class SystemAppearance : public QObject, public ApplicationAppearance
 {
@@ -40,6 +42,15 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// A setting of the portal, and what is kept of its value.
+    struct Setting
+    {
+        QString group;
+        QString key;
+        void (*keep)(SystemAppearance &, const QVariant &);
+    };
+    static const QList<Setting> &settings();
+
     void take(const QString &group, const QString &key, const QVariant &value);
     void update();
 
@@ -49,6 +60,7 @@ private:
     std::optional<bool> m_desktopPrefersDark;
     QString m_gnomeFont;
     QString m_kdeFont;
+    TextSettings m_text;
     bool m_gnomeAnimates = true;
     bool m_kdeAnimates = true;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemAppearance, bool, m_isDesktopDark, false)

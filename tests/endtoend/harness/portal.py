@@ -1,10 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""A settings portal in the shape of a process. Each line of its input, "dark", "light" or "none", is
-the colour scheme that the desktop prefers from then on; it begins with the one that it is given.
-
-    portal.py SCHEME
+"""A settings portal in the shape of a process. Each line of its input is a setting that the desktop has
+from then on: its group, its key, and its value as text of GLib's variants, by tabs.
 """
 
 import subprocess
@@ -18,7 +16,7 @@ from gi.repository import Gio, GLib  # noqa: E402
 NAME = "org.freedesktop.portal.Desktop"
 PATH = "/org/freedesktop/portal/desktop"
 SETTINGS = "org.freedesktop.portal.Settings"
-GROUP, KEY = "org.freedesktop.appearance", "color-scheme"
+APPEARANCE = "org.freedesktop.appearance"
 SCHEMES = {"none": 0, "dark": 1, "light": 2}
 INTERFACE = f"""<node><interface name="{SETTINGS}">
   <method name="Read">
@@ -31,14 +29,24 @@ INTERFACE = f"""<node><interface name="{SETTINGS}">
 class Desktop:
     """The portal as a test holds it."""
 
-    def __init__(self, session, scheme):
-        self._process = session.start(["/usr/bin/python3", "-B", __file__, scheme],
+    def __init__(self, session, scheme="none"):
+        self._process = session.start(["/usr/bin/python3", "-B", __file__],
                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self._process.stdout.readline()
+        self.prefers(scheme)
 
     def prefers(self, scheme):
-        self._process.stdin.write(scheme + "\n")
+        self.sets(APPEARANCE, "color-scheme", f"uint32 {SCHEMES[scheme]}")
+
+    def enlarges_texts(self, factor):
+        """As GNOME does."""
+        self.sets("org.gnome.desktop.interface", "text-scaling-factor", f"double {factor}")
+
+    def sets(self, group, key, value):
+        """Gives a setting a value, and waits for the portal to have it."""
+        self._process.stdin.write(f"{group}\t{key}\t{value}\n")
         self._process.stdin.flush()
+        self._process.stdout.readline()
 
     def close(self):
         self._process.stdin.close()
@@ -46,31 +54,31 @@ class Desktop:
 
 
 class Portal:
-    def __init__(self, scheme):
-        self._scheme = scheme
+    def __init__(self):
+        self._settings = {}
         self._bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         interface = Gio.DBusNodeInfo.new_for_xml(INTERFACE).interfaces[0]
         self._bus.register_object(PATH, interface, self._call, None, None)
         Gio.bus_own_name_on_connection(self._bus, NAME, Gio.BusNameOwnerFlags.NONE,
                                        lambda *_: print("ready", flush=True), None)
 
-    def prefer(self, scheme):
-        self._scheme = scheme
+    def set(self, group, key, text):
+        value = GLib.Variant.parse(None, text, None, None)
+        self._settings[group, key] = value
         self._bus.emit_signal(None, PATH, SETTINGS, "SettingChanged",
-                              GLib.Variant("(ssv)", (GROUP, KEY, self._value())))
-
-    def _value(self):
-        return GLib.Variant("u", SCHEMES[self._scheme])
+                              GLib.Variant("(ssv)", (group, key, value)))
+        print("set", flush=True)
 
     def _call(self, _bus, _sender, _path, _interface, _method, arguments, invocation):
-        if arguments.unpack() == (GROUP, KEY):
-            invocation.return_value(GLib.Variant("(v)", (GLib.Variant("v", self._value()),)))
+        value = self._settings.get(arguments.unpack())
+        if value:
+            invocation.return_value(GLib.Variant("(v)", (GLib.Variant("v", value),)))
         else:
             invocation.return_dbus_error("org.freedesktop.portal.Error.NotFound", "no such setting")
 
 
 def main():
-    portal = Portal(sys.argv[1])
+    portal = Portal()
     loop = GLib.MainLoop()
 
     def read(stream, _condition):
@@ -78,7 +86,7 @@ def main():
         if not line:
             loop.quit()
             return False
-        portal.prefer(line.strip())
+        portal.set(*line.strip().split("\t"))
         return True
     GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IOCondition.IN | GLib.IOCondition.HUP,
                       read)

@@ -6,8 +6,12 @@
 
 #include <QTest>
 
+#include <optional>
+
 using namespace ferrin;
 using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(std::optional<double>)
 
 class FontNameTest : public QObject
 {
@@ -38,6 +42,41 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, family);
         QCOMPARE(familyOfPangoName(name), family);
+    }
+
+    void givesTheSizeOfAPangoName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<std::optional<double>>("points");
+        const auto row = [](const char *what, const QString &name, std::optional<double> points) {
+            QTest::newRow(what) << name << points;
+        };
+        row("family and size", u"Cantarell 11"_s, 11);
+        row("a fraction", u"DejaVu Sans Mono 10.5"_s, 10.5);
+        row("pixels", u"Sans 16px"_s, 12);
+        row("a comma before the size", u"Source Sans 3, 10"_s, 10);
+        row("no size", u"Inter"_s, std::nullopt);
+        row("a figure in the family's word", u"Inter4"_s, std::nullopt);
+        row("nothing that can be read", u"Sans 0"_s, std::nullopt);
+        row("nothing that fits a screen", u"Sans 1000"_s, std::nullopt);
+        row("two points", u"Sans 1.1.1"_s, std::nullopt);
+        row("empty", u""_s, std::nullopt);
+    }
+
+    void givesTheSizeOfAPangoName()
+    {
+        QFETCH(QString, name);
+        QFETCH(std::optional<double>, points);
+        QCOMPARE(pointSizeOfPangoName(name), points);
+    }
+
+    void givesTheSizeOfAQtName()
+    {
+        QCOMPARE(pointSizeOfQtName(u"Noto Sans,12.5,-1,5,50,0,0,0,0,0"_s), std::optional(12.5));
+        QCOMPARE(pointSizeOfQtName(u"Noto Sans,-1,16,5,50,0,0,0,0,0"_s), std::optional(12.0));
+        QCOMPARE(pointSizeOfQtName(u"Noto Sans,0,-1,5"_s), std::nullopt);
+        QCOMPARE(pointSizeOfQtName(u"Hack"_s), std::nullopt);
+        QCOMPARE(pointSizeOfQtName(u"Hack,nan,inf"_s), std::nullopt);
     }
 
     void givesTheFamilyOfAQtName()

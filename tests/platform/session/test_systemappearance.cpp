@@ -26,6 +26,9 @@ const QString schemeKey = u"color-scheme"_s;
 const QString gnomeGroup = u"org.gnome.desktop.interface"_s;
 const QString kdeGroup = u"org.kde.kdeglobals.General"_s;
 
+/// How many settings the portal is asked for.
+constexpr int settings = 6;
+
 struct Fixture
 {
     PrivateBus bus;
@@ -86,7 +89,7 @@ private Q_SLOTS:
         f.portal->put(schemeGroup, schemeKey, scheme);
         QGuiApplication::setPalette(QPalette(Qt::black));
         f.start();
-        QTRY_COMPARE(f.portal->reads, 5);
+        QTRY_COMPARE(f.portal->reads, settings);
         // The answer has come when a later one has.
         f.portal->change(gnomeGroup, u"font-name"_s, u"Marker 9"_s);
         QTRY_COMPARE(f.appearance->fontFamily(), u"Marker"_s);
@@ -99,7 +102,7 @@ private Q_SLOTS:
         f.startPortal();
         f.portal->put(schemeGroup, schemeKey, 2U);
         f.start();
-        QTRY_COMPARE(f.portal->reads, 5);
+        QTRY_COMPARE(f.portal->reads, settings);
         QTRY_COMPARE(f.appearance->desktopPrefersDark(), std::optional(false));
         QProperty<bool> shown([&] { return f.appearance->isDark(); });
         QSignalSpy changed(&*f.appearance, &SystemAppearance::changed);
@@ -175,8 +178,39 @@ private Q_SLOTS:
         f.portal->put(schemeGroup, schemeKey, 1U);
         f.start();
         QTRY_VERIFY(f.appearance->isDark());
-        QTRY_COMPARE(f.portal->reads, 5);
+        QTRY_COMPARE(f.portal->reads, settings);
         QCOMPARE(f.appearance->fontFamily(), QGuiApplication::font().family());
+    }
+
+    void enlargesTextsAsTheDesktopDoes_data()
+    {
+        QTest::addColumn<QString>("group");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<double>("scale");
+        const auto row
+            = [](const char *what, const QString &group, const QString &key, const QVariant &value,
+                 double scale) { QTest::newRow(what) << group << key << value << scale; };
+        row("GNOME's factor", gnomeGroup, u"text-scaling-factor"_s, 1.25, 1.25);
+        row("GNOME's font", gnomeGroup, u"font-name"_s, u"Cantarell 16.5"_s, 1.5);
+        row("KDE's font", kdeGroup, u"font"_s, u"Noto Sans,20,-1,5,50,0,0,0,0,0"_s, 2);
+    }
+
+    void enlargesTextsAsTheDesktopDoes()
+    {
+        QFETCH(QString, group);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(double, scale);
+        Fixture f;
+        f.startPortal();
+        f.start();
+        QCOMPARE(f.appearance->textScale(), 1.0);
+        f.portal->change(group, key, value);
+        QTRY_COMPARE(f.appearance->textScale(), scale);
+        // A setting that went wrong is none.
+        f.portal->change(group, key, -7);
+        QTRY_COMPARE(f.appearance->textScale(), 1.0);
     }
 
     void reducesMotionWhereTheDesktopAnimatesNothing_data()
@@ -214,7 +248,7 @@ private Q_SLOTS:
         f.portal->isHung = true;
         f.portal->put(schemeGroup, schemeKey, 1U);
         f.start();
-        QTRY_COMPARE(f.portal->reads, 5);
+        QTRY_COMPARE(f.portal->reads, settings);
         QVERIFY(!f.appearance->isDark());
         QCOMPARE(f.appearance->fontFamily(), QGuiApplication::font().family());
 
@@ -244,7 +278,7 @@ private Q_SLOTS:
         Fixture f;
         f.startPortal();
         f.start();
-        QTRY_COMPARE(f.portal->reads, 5);
+        QTRY_COMPARE(f.portal->reads, settings);
         f.portal->change(u"org.freedesktop.appearance"_s, u"accent-color"_s, 1U);
         f.portal->change(u"org.example"_s, schemeKey, 1U);
         f.portal->change(gnomeGroup, u"font-name"_s, u"Marker 9"_s);

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+import Ferrin.Quick
+
+// The settings window in the desktop's size of texts.
+GrowingScene {
+    content: SettingsView {
+        focus: true
+    }
+}

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The Ferrin developers
+
+#include "quick/windowsize.h"
+#include "tests/quick/stage.h"
+#include "tests/support/testmain.h"
+
+#include <QScreen>
+
+using namespace ferrin;
+
+namespace {
+
+constexpr auto lines = R"(
+    GrowingScene {
+        content: FocusScope {
+            id: area
+            implicitWidth: 300; implicitHeight: 200
+            Item { objectName: "first"; width: 50; height: 50; activeFocusOnTab: true }
+            Item { objectName: "last"; x: 200; y: 150; width: 50; height: 50; activeFocusOnTab: true }
+            Overlay { objectName: "overlay"; anchor: area; title: "" }
+        }
+    })";
+
+class Scene
+{
+public:
+    Scene() { root = stage.show(lines); }
+
+    [[nodiscard]] QQuickItem *part(const char *name) const
+    {
+        return root->findChild<QQuickItem *>(QString::fromLatin1(name));
+    }
+    [[nodiscard]] QRectF placeOf(const char *name) const
+    {
+        return part(name)->mapRectToScene(part(name)->boundingRect());
+    }
+    /// Gives the window, and the scene with it, this size.
+    void resize(const QSize &size)
+    {
+        stage.window.resize(size);
+        root->setSize(size);
+    }
+
+    test::SceneStage stage { QByteArrayList() };
+    QQuickItem *root = nullptr;
+};
+
+} // namespace
+
+class GrowingSceneTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isOfTheSizeOfItsContentAtTheUsualSizeOfTexts()
+    {
+        const Scene scene;
+        QCOMPARE(QSizeF(scene.root->implicitWidth(), scene.root->implicitHeight()),
+                 QSizeF(300, 200));
+        QCOMPARE(scene.placeOf("last"), QRectF(200, 150, 50, 50));
+    }
+
+    void growsLiveWithAllThatIsInIt()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(1.5);
+        QCOMPARE(QSizeF(scene.root->implicitWidth(), scene.root->implicitHeight()),
+                 QSizeF(450, 300));
+        scene.resize({ 450, 300 });
+        QCOMPARE(scene.placeOf("last"), QRectF(300, 225, 75, 75));
+    }
+
+    void scrollsToWhatGetsTheFocusWhereTheWindowIsTooSmall()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        scene.part("first")->forceActiveFocus();
+        QVERIFY(QRectF(0, 0, 300, 200).contains(scene.placeOf("first")));
+        QVERIFY(!QRectF(0, 0, 300, 200).contains(scene.placeOf("last")));
+        scene.part("last")->forceActiveFocus();
+        QVERIFY(QRectF(0, 0, 300, 200).contains(scene.placeOf("last")));
+    }
+
+    void hasItsOverlaysOverWhatIsSeen()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        scene.part("last")->forceActiveFocus();
+        QMetaObject::invokeMethod(scene.part("overlay"), "open");
+        QCOMPARE(scene.placeOf("overlay"), QRectF(0, 0, 300, 200));
+    }
+
+    void isNoLargerThanTheScreen()
+    {
+        Scene scene;
+        const QScreen &screen = *scene.stage.window.screen();
+        QCOMPARE(windowSizeFor(*scene.root, screen), QSize(300, 200));
+        scene.root->setProperty("implicitWidth", 100'000);
+        scene.root->setProperty("implicitHeight", 100'000);
+        const QSize most = windowSizeFor(*scene.root, screen);
+        QCOMPARE(most.width(), screen.availableSize().width());
+        QVERIFY(most.height() < screen.availableSize().height());
+    }
+};
+
+FERRIN_TEST(QGuiApplication, GrowingSceneTest)
+#include "test_growingscene.moc"
