@@ -94,8 +94,8 @@ def measure(host):
         counts = []
         beside = watched(laptop, session, lambda: counts.append(len(signals.collect())))
         program.terminate()
-    told = "" if host in TRAY_BARS else most_in_a_minute(counts)
-    print(f"| {host} | {without:.1f} ms | {beside:.1f} ms | {told} |", flush=True)
+    signals = "" if host in TRAY_BARS else most_in_a_minute(counts)
+    print(f"| {host} | {without:.1f} ms | {beside:.1f} ms | {signals} |", flush=True)
 
 
 def main():

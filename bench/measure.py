@@ -64,8 +64,8 @@ def verdict(ratio, limit):
 COUNTING = ("valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null")
 
 
-def counted(told):
-    return int(re.search(r"Collected : (\d+)", told)[1])
+def counted(output):
+    return int(re.search(r"Collected : (\d+)", output)[1])
 
 
 def instructions(mode, count, batteries):
@@ -93,9 +93,9 @@ def refreshes():
 
 
 def changing():
-    told = subprocess.run([REFRESH, "changing", str(CHANGING_REFRESHES), "1"],
-                          capture_output=True, text=True, check=True).stdout
-    first, last = (int(number) for number in re.findall(r": (\d+)", told))
+    output = subprocess.run([REFRESH, "changing", str(CHANGING_REFRESHES), "1"],
+                            capture_output=True, text=True, check=True).stdout
+    first, last = (int(number) for number in re.findall(r": (\d+)", output))
     row(f"Bytes held after {CHANGING_REFRESHES:,} refreshes with changing values", f"{last:,}",
         f"{first:,} after the first thousand", verdict(last / first, 1))
 
@@ -286,9 +286,9 @@ def milliseconds_to_open(what, modules):
     with desktop.BareScreen() as session:
         for _ in range(FIRST_OPENINGS):
             for module in modules:
-                told = session.start([str(OPENING), str(module), what, str(1 + LATER_OPENINGS)],
-                                     stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-                milliseconds = [float(line) for line in told.communicate()[0].split()]
+                window = session.start([str(OPENING), str(module), what, str(1 + LATER_OPENINGS)],
+                                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+                milliseconds = [float(line) for line in window.communicate()[0].split()]
                 first[module].append(milliseconds[0])
                 later[module] += milliseconds[1:]
     return [[statistics.median(taken) for taken in each.values()] for each in (first, later)]

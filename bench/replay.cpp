@@ -5,7 +5,7 @@
 // been on show at each of its rows:
 //   replay [--memory FILE] RECORDING.csv
 // A recording has the columns t_s, percent, energy_full_wh, energy_now_wh, power_w (empty where the
-// machine told none) and status (the kernel's word); the first line names them. Each row becomes
+// machine reports none) and status (the kernel's word); the first line names them. Each row becomes
 // the files of a power supply, read at the row's time, in order. Rows further apart than ten
 // minutes have a sleep between them. What is learned is kept in FILE, else only for this run.
 //

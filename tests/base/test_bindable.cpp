@@ -27,15 +27,15 @@ private Q_SLOTS:
     void tellsOfEachChangeAsLongAsTheResultIsKept()
     {
         QProperty<int> property(1);
-        int told = 0;
+        int notifications = 0;
         {
-            const auto notifier = Bindable<int>(&property).addNotifier([&told] { ++told; });
+            const auto notifier = Bindable<int>(&property).addNotifier([&notifications] { ++notifications; });
             property = 2;
             property = 2;
-            QCOMPARE(told, 1);
+            QCOMPARE(notifications, 1);
         }
         property = 3;
-        QCOMPARE(told, 1);
+        QCOMPARE(notifications, 1);
     }
 
     void isFollowedByABindingThatReadsIt()

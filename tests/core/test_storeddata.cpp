@@ -32,7 +32,8 @@ struct Bench
 {
     Bench()
     {
-        const auto count = [this](const char *name) { return [this, name] { told.append(name); }; };
+        const auto count
+            = [this](const char *name) { return [this, name] { notified.append(name); }; };
         QObject::connect(&data, &StoredData::adapterNameChanged, &data, count("name"));
         QObject::connect(&data, &StoredData::adapterManufacturerChanged, &data,
                          count("manufacturer"));
@@ -52,13 +53,13 @@ struct Bench
 
     void forget()
     {
-        told.clear();
+        notified.clear();
         store.writes.clear();
     }
 
     MemoryDefaultsStore store;
     StoredData data { store };
-    QByteArrayList told;
+    QByteArrayList notified;
 };
 
 } // namespace
@@ -170,9 +171,10 @@ void TestStoredData::tellsOfEachWriteOnceAndOfNothingElse()
 {
     Bench bench;
     bench.fill();
-    QCOMPARE(bench.told, QByteArrayList({ "name", "manufacturer", "watts", "voltage", "current" }));
+    QCOMPARE(bench.notified,
+             QByteArrayList({ "name", "manufacturer", "watts", "voltage", "current" }));
     bench.data.setAdapterWatts(100);
-    QCOMPARE(bench.told.mid(5), QByteArrayList({ "watts" }));
+    QCOMPARE(bench.notified.mid(5), QByteArrayList({ "watts" }));
 }
 
 void TestStoredData::writesTheSameValueOnlyOnce()
@@ -181,7 +183,7 @@ void TestStoredData::writesTheSameValueOnlyOnce()
     bench.fill();
     bench.forget();
     bench.fill();
-    QCOMPARE(bench.told, QByteArrayList());
+    QCOMPARE(bench.notified, QByteArrayList());
     QCOMPARE(bench.store.writes, QStringList());
 }
 
@@ -193,7 +195,7 @@ void TestStoredData::writesNothingOverNothing()
     bench.data.setAdapterWatts(std::nullopt);
     bench.data.setAdapterVoltage(std::nullopt);
     bench.data.setAdapterCurrent(std::nullopt);
-    QCOMPARE(bench.told, QByteArrayList());
+    QCOMPARE(bench.notified, QByteArrayList());
     QCOMPARE(bench.store.writes, QStringList());
 }
 
@@ -207,7 +209,7 @@ void TestStoredData::removesAStoredValueByWritingNothing()
     bench.data.setAdapterWatts(std::nullopt);
     bench.data.setAdapterVoltage(std::nullopt);
     QCOMPARE(bench.store.stored.keys(), QStringList(currentKey));
-    QCOMPARE(bench.told, QByteArrayList({ "name", "manufacturer", "watts", "voltage" }));
+    QCOMPARE(bench.notified, QByteArrayList({ "name", "manufacturer", "watts", "voltage" }));
 }
 
 void TestStoredData::neverRemovesTheCurrentByWritingNothing()
@@ -218,11 +220,11 @@ void TestStoredData::neverRemovesTheCurrentByWritingNothing()
     bench.data.setAdapterCurrent(std::nullopt);
     QCOMPARE(bench.store.stored.value(currentKey), QVariant(3.25F));
     QCOMPARE(bench.data.adapterCurrent(), 3.25F);
-    QCOMPARE(bench.told, QByteArrayList());
+    QCOMPARE(bench.notified, QByteArrayList());
     QCOMPARE(bench.store.writes, QStringList());
     bench.data.setAdapterCurrent(2.0F);
     QCOMPARE(bench.data.adapterCurrent(), 2.0F);
-    QCOMPARE(bench.told, QByteArrayList({ "current" }));
+    QCOMPARE(bench.notified, QByteArrayList({ "current" }));
 }
 
 void TestStoredData::tellsNothingFromZeroAndEmptyText()
@@ -249,7 +251,7 @@ void TestStoredData::overwritesAValueOfTheWrongType()
     QCOMPARE(bench.store.stored.value(wattsKey), QVariant(u"65"_s));
     bench.data.setAdapterWatts(65);
     QCOMPARE(bench.store.stored.value(wattsKey), QVariant(qint64(65)));
-    QCOMPARE(bench.told, QByteArrayList({ "watts" }));
+    QCOMPARE(bench.notified, QByteArrayList({ "watts" }));
 }
 
 void TestStoredData::seesAValueThatWasStoredBehindItsBack()
@@ -292,7 +294,7 @@ void TestStoredData::deletesWithoutTellingAnyone()
     LogCapture log;
     bench.data.deleteAll();
     QCOMPARE(log.take().size(), 1);
-    QCOMPARE(bench.told, QByteArrayList());
+    QCOMPARE(bench.notified, QByteArrayList());
     QCOMPARE(seen.value(), u"65W charger"_s);
     bench.data.setAdapterName(u"charger"_s);
     QCOMPARE(seen.value(), u"charger"_s);

@@ -104,10 +104,10 @@ class WhileItDoesNotRun(OnADesktop):
     def setUp(self):
         super().setUp()
         self.menu = Menu(self.session)
-        told = {"PATH": self.menu.path()} | {key: self.laptop.environment[key] for key in MOCK}
+        environment = {"PATH": self.menu.path()} | {key: self.laptop.environment[key] for key in MOCK}
         bus = "org.freedesktop.DBus"
         self.session.bus.call(bus, "/org/freedesktop/DBus", bus, "UpdateActivationEnvironment",
-                              "(a{ss})", told)
+                              "(a{ss})", environment)
 
     def test_the_action_starts_it_and_opens_the_settings(self):
         self.assertIsNone(self.session.bus.owner(PROGRAM))

@@ -48,8 +48,8 @@ class TheHealth(WithADashboard):
 
     def explains(self, title, *texts):
         """The explanation begins with these texts, by which it differs from the others."""
-        told = self.dashboard.explain(title)
-        self.assertEqual(told[:len(texts)], list(texts))
+        explanation = self.dashboard.explain(title)
+        self.assertEqual(explanation[:len(texts)], list(texts))
         self.dashboard.click(f"More about {title}")
         eventually(lambda: not self.dashboard.popover(), "the explanation has closed")
 

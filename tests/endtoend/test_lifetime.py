@@ -141,7 +141,7 @@ class AtRest(OnADesktop):
         self.laptop.send("uevent", "BAT0")
         self.laptop.send("write", "BAT0", "capacity", 35, "energy_now", 16100000)
         program.says("35%, 2:38 to empty")
-        eventually(lambda: "NewIcon" in signals.collect(), "the new picture is told of")
+        eventually(lambda: "NewIcon" in signals.collect(), "the new picture is announced")
         self.assertLessEqual(signals.collect().count("NewIcon"), 2)
 
 

@@ -27,10 +27,10 @@ class ItsWindow(WithSettings):
         self.assertEqual(len(self.dashboard.windows()), 1)
 
     def test_it_offers_to_be_closed_and_has_one_size(self):
-        told = self.session.run("xprop", "-id", self.window.window(), "_MOTIF_WM_HINTS").decode()
-        functions = int(re.findall(r"0x[0-9a-f]+", told)[1], 16)
+        output = self.session.run("xprop", "-id", self.window.window(), "_MOTIF_WM_HINTS").decode()
+        functions = int(re.findall(r"0x[0-9a-f]+", output)[1], 16)
         self.assertTrue(functions & CLOSE)
-        self.assertFalse(functions & (MINIMIZE | MAXIMIZE), told)
+        self.assertFalse(functions & (MINIMIZE | MAXIMIZE), output)
         hints = self.session.run("xprop", "-id", self.window.window(), "WM_NORMAL_HINTS").decode()
         sizes = re.findall(r"(?:minimum|maximum) size: (\d+) by (\d+)", hints)
         self.assertEqual(sizes, [("701", "500")] * 2)
@@ -50,10 +50,10 @@ class ItsQuestion(WithSettings):
 
     def ask(self):
         self.window.click("Quit Ferrin", "page tab")
-        eventually(lambda: "Do you want quit Ferrin?" in self.window.told(), "the question is put")
+        eventually(lambda: "Do you want quit Ferrin?" in self.window.texts(), "the question is put")
 
     def is_gone(self):
-        eventually(lambda: "Do you want quit Ferrin?" not in self.window.told(),
+        eventually(lambda: "Do you want quit Ferrin?" not in self.window.texts(),
                    "the question is gone")
 
     def test_no_stays(self):
@@ -94,21 +94,21 @@ class ToAScreenReader(WithSettings):
 
     def test_the_general_page_is_told_in_its_order(self):
         self.window.select("General")
-        told = self.window.told()
+        texts = self.window.texts()
         expected = ["App start", "Launch at login", "Color theme", "Pick a theme", "System", "Light",
                     "Dark", "System Settings", "Open System Settings battery section"]
-        self.assertEqual([name for name in told if name in expected], expected)
+        self.assertEqual([name for name in texts if name in expected], expected)
 
     def test_the_page_of_the_icon_tells_its_descriptions_captions_and_notes(self):
-        told = self.window.told()
+        texts = self.window.texts()
         lead = "Choose menu bar icon appearance when power adapter is "
         for text in (lead + "disconnected and battery is discharging.",
                      lead + "connected and battery is charging.",
                      lead + "connected and battery is fully charged.",
                      "Preview 37% and 4:29 to empty", "Preview 78% and 0:52 to full",
                      "Preview 100% fully charged"):
-            self.assertIn(text, told)
-        self.assertEqual(told.count("At least one element must be selected"), 3)
+            self.assertIn(text, texts)
+        self.assertEqual(texts.count("At least one element must be selected"), 3)
 
     def test_a_switch_that_turns_itself_back_on_says_why(self):
         section = self.window.find("When discharging")
@@ -126,7 +126,7 @@ class ToAScreenReader(WithSettings):
         note = ("The data, explanation text and recommendations shown in BATTERY HEALTH section are "
                 "based entirely on information exisiting in Apple Inc. official website.\n\nYou can "
                 "find more details in the Frequently Asked Questions section in our web page.")
-        self.assertIn(note, self.window.told())
+        self.assertIn(note, self.window.texts())
 
     def test_it_can_press_what_can_be_pressed(self):
         def press(name, role):
@@ -136,7 +136,7 @@ class ToAScreenReader(WithSettings):
         press("Acknowledgements", "push button")
         self.window.find("Done", "push button")
         press("Done", "push button")
-        eventually(lambda: "Done" not in self.window.told(), "the sheet has closed")
+        eventually(lambda: "Done" not in self.window.texts(), "the sheet has closed")
         press("General", "page tab")
         press("Launch at login", "check box")
         self.window.becomes("Launch at login", True)

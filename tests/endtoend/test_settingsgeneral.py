@@ -229,7 +229,7 @@ class TheBatterysOwnPage(WithSettings):
                 self.begin_anew({"XDG_CURRENT_DESKTOP": names, "PATH": nowhere,
                                  "XDG_DATA_DIRS": nowhere})
                 self.window.click(ROW)
-                eventually(lambda: NO_SETTINGS in self.window.told(), "the window says so")
+                eventually(lambda: NO_SETTINGS in self.window.texts(), "the window says so")
                 eventually(lambda: line in self.dashboard.program.log(), line)
                 self.assertEqual(self.dashboard.program.log().count("Unable to open"), 1)
                 self.assertEqual(self.stand_ins.started(), [])

@@ -46,7 +46,7 @@ class WithKeys(WithSettings):
         eventually(lambda: self.window.selected() == [page], f"{page} is selected")
 
     def asks(self):
-        return QUESTION in self.window.told()
+        return QUESTION in self.window.texts()
 
 
 class ByTabs(WithKeys):
@@ -88,7 +88,7 @@ class ByTabs(WithKeys):
     def test_the_sheet_opens_scrolls_and_closes_by_keys(self):
         self.turn_to("About")
         self.move_to("Acknowledgements")
-        before = self.window.told()
+        before = self.window.texts()
         self.window.press("Return")
         eventually(lambda: self.window.focused_name() == "Done", "the sheet has the focus")
         at_first = self.session.picture()
@@ -96,7 +96,7 @@ class ByTabs(WithKeys):
         eventually(lambda: at_first.difference(self.session.picture()), "the texts have moved")
         self.window.press("Escape")
         eventually(lambda: self.window.focused_name() == "Acknowledgements", "the focus is back")
-        self.assertEqual(self.window.told(), before)
+        self.assertEqual(self.window.texts(), before)
 
 
 class ByArrows(WithKeys):
@@ -146,7 +146,7 @@ class ByShortcuts(WithKeys):
         self.window.press("Return")
         self.window.find("Icons when discharging", "dialog")
         self.window.press("Escape")
-        eventually(lambda: "Icons when discharging" not in self.window.told(), "the icons are gone")
+        eventually(lambda: "Icons when discharging" not in self.window.texts(), "the icons are gone")
         self.assertTrue(self.window.root())
         self.window.press("Escape")
         self.window.has_closed()
@@ -168,7 +168,7 @@ class ByShortcuts(WithKeys):
         self.window.press("alt+a")
         eventually(lambda: self.window.focused_name() == "Done", "the sheet is open")
         self.window.press("alt+d")
-        eventually(lambda: "Done" not in self.window.told(), "the sheet has closed")
+        eventually(lambda: "Done" not in self.window.texts(), "the sheet has closed")
 
 
 class Held(WithKeys):
@@ -205,7 +205,7 @@ class Held(WithKeys):
         self.assertRegex(started[0], r"^xdg-open file:.*/faq/index\.html$")
         self.move_to("Choose icon")
         self.hold("Return")
-        self.assertIn("Icons when discharging", self.window.told())
+        self.assertIn("Icons when discharging", self.window.texts())
 
     def test_the_question_is_put_without_an_answer_and_closed_without_the_window(self):
         self.turn_to("About")

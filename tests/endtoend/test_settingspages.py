@@ -35,10 +35,10 @@ class TheLinks(WithSettings):
         self.assertTrue(self.window.root())
 
     def test_a_build_without_an_address_says_so_instead_of_offering_a_mail(self):
-        told = self.window.told()
-        self.assertNotIn("Send Mail", told)
+        texts = self.window.texts()
+        self.assertNotIn("Send Mail", texts)
         self.assertIn("This build of Ferrin has no support address. Please ask whoever you got it "
-                      "from.", told)
+                      "from.", texts)
 
     def test_they_open_by_keys(self):
         eventually(lambda: self.window.focused_name() == "Ferrin FAQ" or self.window.press("Tab"),
@@ -63,14 +63,14 @@ class TheSheet(WithSettings):
     page = "About"
 
     def test_it_shows_the_texts_and_leaves_the_page_as_it_was(self):
-        before, picture = self.window.told(), self.session.picture()
+        before, picture = self.window.texts(), self.session.picture()
         self.window.click("Acknowledgements", "push button")
         self.window.find("Done")
-        told = "\n".join(self.window.told())
+        texts = "\n".join(self.window.texts())
         for heading in ("SOFTWARE UPDATES", "LAUNCH AT LOGIN", "THE ITEM IN THE STATUS AREA"):
-            self.assertIn(heading, told)
+            self.assertIn(heading, texts)
         self.window.click("Done")
-        eventually(lambda: self.window.told() == before, "the page is as it was")
+        eventually(lambda: self.window.texts() == before, "the page is as it was")
         self.session.point((5, 590))
         eventually(lambda: not picture.difference(self.session.picture()), "it looks as it did")
 
@@ -82,7 +82,7 @@ class TheSheet(WithSettings):
         self.window.find("Done")
         self.assertEqual(self.window.selected(), ["About"])
         self.window.press("Escape")
-        eventually(lambda: "Done" not in self.window.told(), "the sheet has closed")
+        eventually(lambda: "Done" not in self.window.texts(), "the sheet has closed")
         self.assertEqual(self.window.selected(), ["About"])
 
     def test_it_goes_with_its_window(self):
@@ -90,12 +90,12 @@ class TheSheet(WithSettings):
         self.window.find("Done")
         self.window.close()
         self.window.open()
-        self.assertNotIn("Done", self.window.told())
+        self.assertNotIn("Done", self.window.texts())
         self.assertTrue(self.window.find("Acknowledgements", "push button"))
 
     def test_the_page_tells_the_version_and_the_build(self):
         self.assertTrue(any(re.fullmatch(r"Version \d+\.\d+\.\d+ \(\d+\)", name)
-                            for name in self.window.told()))
+                            for name in self.window.texts()))
 
 
 if __name__ == "__main__":

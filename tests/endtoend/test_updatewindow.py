@@ -28,20 +28,20 @@ class UpdateWindow(ReadWindow):
         self._dashboard = dashboard
 
     def root(self):
-        told = self._dashboard.reader.read()
-        return next((window for window in told.children if window.name == "Software Update"
-                     and "showing" in window.states), None) if told else None
+        tree = self._dashboard.reader.read()
+        return next((window for window in tree.children if window.name == "Software Update"
+                     and "showing" in window.states), None) if tree else None
 
     def shows(self, heading, *texts, buttons):
         """Waits until it is at this stage, with these texts and just these buttons."""
         def matches():
-            told = self.told()
-            return heading in told and all(text in told for text in texts) \
+            shown = self.texts()
+            return heading in shown and all(text in shown for text in texts) \
                 and self.buttons() == buttons
         try:
             eventually(matches, heading)
         except AssertionError as error:
-            raise AssertionError(f"{self.told()} with {self.buttons()}, not {heading}, {texts} with "
+            raise AssertionError(f"{self.texts()} with {self.buttons()}, not {heading}, {texts} with "
                                  f"{buttons}") from error
 
 

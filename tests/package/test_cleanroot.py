@@ -39,10 +39,10 @@ class ThePackage(unittest.TestCase):
         cls.package = made_package(folder)
 
     def test_lintian_finds_no_error_and_no_warning(self):
-        told = subprocess.run(["lintian", "--allow-root", "--fail-on", "error,warning",
-                               self.package], text=True, capture_output=True, check=False)
-        self.assertEqual(told.returncode, 0, told.stdout + told.stderr)
-        self.assertEqual(told.stdout, "")
+        output = subprocess.run(["lintian", "--allow-root", "--fail-on", "error,warning",
+                                 self.package], text=True, capture_output=True, check=False)
+        self.assertEqual(output.returncode, 0, output.stdout + output.stderr)
+        self.assertEqual(output.stdout, "")
 
     def test_it_is_installed_started_from_the_menu_and_removed_without_a_trace(self):
         for number, release in RELEASES.items():

@@ -68,28 +68,28 @@ class TheInstallTree(unittest.TestCase):
             path = os.path.join(folder, "ferrin.service")
             with open(path, "w", encoding="utf-8") as file:
                 file.write(text.replace("ExecStart=ferrin", "ExecStart=true"))
-            told = run("systemd-analyze", "--user", "--man=no", "verify", path,
-                       env=os.environ | {"XDG_RUNTIME_DIR": folder})
-        self.assertNotIn("ferrin.service", told)
+            output = run("systemd-analyze", "--user", "--man=no", "verify", path,
+                         env=os.environ | {"XDG_RUNTIME_DIR": folder})
+        self.assertNotIn("ferrin.service", output)
 
 
 class TheRecipes(unittest.TestCase):
     def test_all_of_them_are_of_the_same_version(self):
-        told = {name: re.search(pattern, read(*name.split("/")), re.M).group(1) for name, pattern in (
+        output = {name: re.search(pattern, read(*name.split("/")), re.M).group(1) for name, pattern in (
             ("CMakeLists.txt", r"project\(ferrin VERSION (\S+)"),
             ("debian/changelog", r"\Aferrin \((\S+)-\d+\)"),
             ("packaging/rpm/ferrin.spec", r"^Version: +(\S+)"),
             ("packaging/arch/PKGBUILD", r"^pkgver=(\S+)"))}
-        self.assertEqual(len(set(told.values())), 1, told)
+        self.assertEqual(len(set(output.values())), 1, output)
 
     def test_rpmlint_finds_no_fault_in_the_spec(self):
-        told = run("rpmlint", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
+        output = run("rpmlint", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
         # Nowhere to download the sources from yet; the other is of the days before 2009.
-        self.assertEqual(set(re.findall(r"[EW]: (\S+)", told)), {"invalid-url", "no-buildroot-tag"})
+        self.assertEqual(set(re.findall(r"[EW]: (\S+)", output)), {"invalid-url", "no-buildroot-tag"})
 
     def test_the_spec_can_be_expanded(self):
-        told = run("rpmspec", "--parse", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
-        self.assertIn("/usr/bin/ferrin", told)
+        output = run("rpmspec", "--parse", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
+        self.assertIn("/usr/bin/ferrin", output)
 
     def test_shellcheck_finds_no_fault_in_the_scripts(self):
         run("shellcheck", os.path.join(PACKAGING, "arch", "PKGBUILD"),

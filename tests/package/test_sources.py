@@ -66,8 +66,8 @@ class SourcePackage(unittest.TestCase):
     def test_is_built_and_lintian_finds_no_error_and_no_warning(self):
         self.run_in(self.tree, "dpkg-buildpackage", "-us", "-uc")
         changes = os.path.basename(self.made("ferrin_*.changes"))
-        told = self.run_in("", "lintian", "--fail-on", "error,warning", changes)
-        self.assertEqual(re.findall(r"^[EW]: .*", told, re.M), [])
+        output = self.run_in("", "lintian", "--fail-on", "error,warning", changes)
+        self.assertEqual(re.findall(r"^[EW]: .*", output, re.M), [])
         depends = subprocess.run(["dpkg-deb", "--field", self.made("ferrin_*.deb"), "Depends"],
                                  text=True, check=True, stdout=subprocess.PIPE).stdout
         # By which a package would be tied to one version of Qt.

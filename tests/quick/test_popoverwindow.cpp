@@ -57,7 +57,7 @@ constexpr auto twoParts = R"(
 struct FakeDesktop final : PopoverDesktop
 {
     [[nodiscard]] bool blends() const override { return isBlending; }
-    void setOutline(QWindow &, const QPainterPath &told) override { outline = told; }
+    void setOutline(QWindow &, const QPainterPath &given) override { outline = given; }
 
     bool isBlending = true;
     QPainterPath outline;

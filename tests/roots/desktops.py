@@ -22,10 +22,10 @@ def release_of_this_machine():
     """The code name of its Debian, or None for another system."""
     try:
         with open("/etc/os-release", encoding="utf-8") as file:
-            told = dict(line.rstrip("\n").split("=", 1) for line in file if "=" in line)
+            fields = dict(line.rstrip("\n").split("=", 1) for line in file if "=" in line)
     except OSError:
         return None
-    return told.get("VERSION_CODENAME") if told.get("ID") == "debian" else None
+    return fields.get("VERSION_CODENAME") if fields.get("ID") == "debian" else None
 
 
 class Desktops:

@@ -81,10 +81,10 @@ def set_up(order):
 
 def protect(root):
     """Nobody may change the root itself; what is mounted below it stays as it is."""
-    told = subprocess.run(["findmnt", "--noheadings", "--output", "VFS-OPTIONS", "--mountpoint",
-                           root], text=True, stdout=subprocess.PIPE, check=True).stdout
+    output = subprocess.run(["findmnt", "--noheadings", "--output", "VFS-OPTIONS", "--mountpoint",
+                             root], text=True, stdout=subprocess.PIPE, check=True).stdout
     # The options that it has may not be given up.
-    kept = [option for option in told.split()[-1].split(",") if option != "rw"]
+    kept = [option for option in output.split()[-1].split(",") if option != "rw"]
     mount("-o", ",".join(["remount", "bind", "ro", *kept]), root)
 
 

@@ -31,8 +31,8 @@ class ARoot(unittest.TestCase):
                 self.root.run("touch", "/usr/changed", user=user)
 
     def test_has_an_ordinary_user_with_a_home_and_a_place_for_temporary_files(self):
-        told = self.root.run("sh", "-ec", "touch ~/a /tmp/b /var/tmp/c; id -un", user="person")
-        self.assertEqual(told, "person\n")
+        output = self.root.run("sh", "-ec", "touch ~/a /tmp/b /var/tmp/c; id -un", user="person")
+        self.assertEqual(output, "person\n")
 
     def test_has_loopback_and_no_other_network(self):
         self.assertEqual(self.root.run("sh", "-c", "tail -n +3 /proc/net/dev | cut -d: -f1").split(),
@@ -40,8 +40,8 @@ class ARoot(unittest.TestCase):
         self.assertIn("127.0.0.1", self.root.run("cat", "/proc/net/fib_trie"))
 
     def test_sees_no_process_of_the_machine(self):
-        told = self.root.run("sh", "-c", "echo /proc/[0-9]*").split()
-        self.assertLess(len(told), 5)
+        output = self.root.run("sh", "-c", "echo /proc/[0-9]*").split()
+        self.assertLess(len(output), 5)
 
     def test_writes_where_it_is_let_as_the_one_who_let_it(self):
         with tempfile.TemporaryDirectory() as folder:

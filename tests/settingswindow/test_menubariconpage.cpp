@@ -47,10 +47,10 @@ QStringList spokenTextsIn(QQuickItem *section)
 {
     QStringList spoken;
     for (QQuickItem *const text : visibleItemsOfType(section, "QQuickText")) {
-        const auto *const told = QAccessible::queryAccessibleInterface(text);
+        const auto *const element = QAccessible::queryAccessibleInterface(text);
         const QList<QAccessible::Role> roles { QAccessible::StaticText, QAccessible::Heading };
-        if (told && !told->state().invisible && roles.contains(told->role()))
-            spoken.append(told->text(QAccessible::Name));
+        if (element && !element->state().invisible && roles.contains(element->role()))
+            spoken.append(element->text(QAccessible::Name));
     }
     return spoken;
 }
@@ -347,13 +347,13 @@ private Q_SLOTS:
     {
         IconStage f;
         QCOMPARE(spokenNameOf(f.sections[charging]), u"When charging"_s);
-        const QStringList told = spokenTextsIn(f.sections[charging]);
+        const QStringList spoken = spokenTextsIn(f.sections[charging]);
         for (
             const QString &text :
             { u"When charging"_s,
               u"Choose menu bar icon appearance when power adapter is connected and battery is charging."_s,
               u"Preview 78% and 0:52 to full"_s, u"At least one element must be selected"_s })
-            QVERIFY2(told.contains(text), qPrintable(text));
+            QVERIFY2(spoken.contains(text), qPrintable(text));
         QCOMPARE(spokenNameOf(f.switchesOf(charging)[2]), u"Show time to full"_s);
         QCOMPARE(spokenNameOf(f.controlOf(charging)), u"Choose icon"_s);
         const auto described = [](QQuickItem *item) {

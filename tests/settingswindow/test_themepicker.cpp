@@ -182,14 +182,14 @@ private Q_SLOTS:
         Picker f(u"Dark"_s);
         QCOMPARE(test::spokenNameOf(f.picker), u"Pick a theme"_s);
         QCOMPARE(test::spokenRoleOf(f.picker), QAccessible::Grouping);
-        QStringList told;
+        QStringList spoken;
         for (QQuickItem *const segment : f.segments) {
             QCOMPARE(test::spokenRoleOf(segment), QAccessible::RadioButton);
             const auto *const spoken = QAccessible::queryAccessibleInterface(segment);
-            told.append(test::spokenNameOf(segment)
-                        + (spoken->state().checked ? u", checked"_s : QString()));
+            spoken.append(test::spokenNameOf(segment)
+                          + (spoken->state().checked ? u", checked"_s : QString()));
         }
-        QCOMPARE(told, (QStringList { u"System"_s, u"Light"_s, u"Dark, checked"_s }));
+        QCOMPARE(spoken, (QStringList { u"System"_s, u"Light"_s, u"Dark, checked"_s }));
     }
 };
 

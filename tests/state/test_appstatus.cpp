@@ -45,17 +45,17 @@ private Q_SLOTS:
     void tellsNobodyOfTheSectionThatIsSelectedAlready()
     {
         AppStatus status;
-        int told = 0;
-        const auto count = [&told] { ++told; };
+        int notifications = 0;
+        const auto count = [&notifications] { ++notifications; };
         const auto a = status.bindableDashboardItemSelected().addNotifier(count);
         const auto b = status.bindableSettingsItemSelected().addNotifier(count);
 
         status.setDashboardItemSelected(DashboardMenuButton::status);
         status.setSettingsItemSelected(SettingsMenuButton::icon);
-        QCOMPARE(told, 0);
+        QCOMPARE(notifications, 0);
         status.setDashboardItemSelected(DashboardMenuButton::adapter);
         status.setDashboardItemSelected(DashboardMenuButton::adapter);
-        QCOMPARE(told, 1);
+        QCOMPARE(notifications, 1);
     }
 
     void existsOnceForTheProcess() { QCOMPARE(&AppStatus::shared(), &AppStatus::shared()); }

@@ -61,10 +61,10 @@ private Q_SLOTS:
 private:
     static uint mode(const QString &path)
     {
-        struct stat told
+        struct stat status
         {
         };
-        return ::stat(path.toLocal8Bit().constData(), &told) == 0 ? told.st_mode & 0777 : 0;
+        return ::stat(path.toLocal8Bit().constData(), &status) == 0 ? status.st_mode & 0777 : 0;
     }
 };
 

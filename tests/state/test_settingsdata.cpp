@@ -218,15 +218,15 @@ private Q_SLOTS:
         Fixture f;
         const auto settings = f.start();
         (void)f.log.take();
-        int told = 0;
-        const auto notifier
-            = settings->bindableDischargingIconSelected().addNotifier([&told] { ++told; });
+        int notifications = 0;
+        const auto notifier = settings->bindableDischargingIconSelected().addNotifier(
+            [&notifications] { ++notifications; });
 
         settings->setDischargingIconSelected(static_cast<Icon>(52));
         QCOMPARE(f.log.take(),
                  QStringList { u"error: Unable to encode key dischargingIconSelected"_s });
         QCOMPARE(f.store.writes, QStringList());
-        QCOMPARE(told, 1);
+        QCOMPARE(notifications, 1);
         QCOMPARE(settings->dischargingIconSelected(), Icon::battery2V);
     }
 
@@ -254,8 +254,8 @@ private Q_SLOTS:
     {
         Fixture f;
         const auto settings = f.start();
-        int told = 0;
-        const auto count = [&told] { ++told; };
+        int notifications = 0;
+        const auto count = [&notifications] { ++notifications; };
         const auto a = settings->bindableDischargingIconSelected().addNotifier(count);
         const auto b = settings->bindableChargingIconSelected().addNotifier(count);
         const auto c = settings->bindableChargedIconSelected().addNotifier(count);
@@ -263,15 +263,15 @@ private Q_SLOTS:
         const auto e = settings->bindableStatusItemWidth().addNotifier(count);
 
         settings->setDischargingIconSelected(settings->dischargingIconSelected());
-        QCOMPARE(told, 1);
+        QCOMPARE(notifications, 1);
         settings->setChargingIconSelected(settings->chargingIconSelected());
-        QCOMPARE(told, 2);
+        QCOMPARE(notifications, 2);
         settings->setChargedIconSelected(settings->chargedIconSelected());
-        QCOMPARE(told, 3);
+        QCOMPARE(notifications, 3);
         settings->setReleaseVersionNumber(settings->releaseVersionNumber());
-        QCOMPARE(told, 4);
+        QCOMPARE(notifications, 4);
         settings->setStatusItemWidth(settings->statusItemWidth());
-        QCOMPARE(told, 5);
+        QCOMPARE(notifications, 5);
         f.log.ignoreRest();
     }
 
@@ -279,12 +279,12 @@ private Q_SLOTS:
     {
         Fixture f;
         const auto settings = f.start();
-        int told = 0;
-        const auto notifier
-            = settings->bindableChargingIconSelected().addNotifier([&told] { ++told; });
+        int notifications = 0;
+        const auto notifier = settings->bindableChargingIconSelected().addNotifier(
+            [&notifications] { ++notifications; });
 
         settings->setChargingIconSelected(Icon::boltCircle);
-        QCOMPARE(told, 1);
+        QCOMPARE(notifications, 1);
         f.log.ignoreRest();
     }
 
@@ -348,8 +348,8 @@ private Q_SLOTS:
     {
         Fixture f;
         const auto settings = f.start();
-        int told = 0;
-        const auto count = [&told] { ++told; };
+        int notifications = 0;
+        const auto count = [&notifications] { ++notifications; };
         const auto a = settings->bindableDischargingIconSelectedDefault().addNotifier(count);
         const auto b = settings->bindableChargingIconSelectedDefault().addNotifier(count);
         const auto c = settings->bindableChargedIconSelectedDefault().addNotifier(count);
@@ -357,11 +357,11 @@ private Q_SLOTS:
         settings->setDischargingIconSelectedDefault(Icon::battery1V);
         settings->setChargingIconSelectedDefault(Icon::battery1V);
         settings->setChargedIconSelectedDefault(Icon::battery1V);
-        QCOMPARE(told, 0);
+        QCOMPARE(notifications, 0);
         settings->setDischargingIconSelectedDefault(Icon::battery1H);
         settings->setChargingIconSelectedDefault(Icon::bolt);
         settings->setChargedIconSelectedDefault(Icon::bolt);
-        QCOMPARE(told, 3);
+        QCOMPARE(notifications, 3);
         QCOMPARE(settings->chargedIconSelectedDefault(), Icon::bolt);
         f.log.ignoreRest();
     }

@@ -277,16 +277,16 @@ void UpdaterTest::survivesAnAnswerOfTheNetworkThatComesTooLate()
 void UpdaterTest::cannotCheckWhileACheckIsRunning()
 {
     Updater &updater = m_bench->launch();
-    QList<bool> told;
+    QList<bool> values;
     const auto handler = updater.bindableCanCheckForUpdates().addNotifier(
-        [&] { told.append(updater.canCheckForUpdates()); });
+        [&] { values.append(updater.canCheckForUpdates()); });
     QVERIFY(updater.canCheckForUpdates());
     updater.checkForUpdates();
     QVERIFY(!updater.canCheckForUpdates());
     updater.checkForUpdates();
     QCOMPARE(m_bench->engine.checks.size(), 1);
     updater.session().cancel();
-    QCOMPARE(told, QList({ false, true }));
+    QCOMPARE(values, QList({ false, true }));
 }
 
 void UpdaterTest::canCheckAgainWhateverTheCheckFound()

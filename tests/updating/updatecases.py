@@ -67,36 +67,36 @@ class WithARepository(unittest.TestCase):
             each.unlink()
 
     def offered(self):
-        told = self.asker.ask("check")
-        self.assertEqual(told["told"], "checked", told)
-        return told
+        report = self.asker.ask("check")
+        self.assertEqual(report["event"], "checked", report)
+        return report
 
     def fails(self, order, failure, timeout=system.TIMEOUT):
-        told = self.asker.ask(order, timeout)
-        self.assertEqual(told.get("failure"), failure, told)
-        self.assertTrue(told["words"])
-        return told
+        report = self.asker.ask(order, timeout)
+        self.assertEqual(report.get("failure"), failure, report)
+        self.assertTrue(report["words"])
+        return report
 
     def still_works(self):
         """No state is a dead end."""
         self.server.behave()
         self.repository.publish(package(NEW))
         self.assertEqual(self.offered().get("version"), "1.1")
-        self.assertEqual(self.asker.ask("install")["told"], "installed")
+        self.assertEqual(self.asker.ask("install")["event"], "installed")
         self.assertEqual(system.installed(), NEW)
 
 
 class AnUpdate(WithARepository):
     def test_is_found_with_its_notes_downloaded_and_installed(self):
         self.assertIsNone(system.packagekit(), "nobody has asked yet")
-        told = self.offered()
-        self.assertEqual(told["version"], "1.1")
-        self.assertEqual(told["date"], "2026-04-29")
-        self.assertEqual(told["notes"], "First words.\n\n• Quieter in 1.1.\n• Second.")
-        self.assertEqual(told["size"], self.repository.the_deb().stat().st_size)
+        report = self.offered()
+        self.assertEqual(report["version"], "1.1")
+        self.assertEqual(report["date"], "2026-04-29")
+        self.assertEqual(report["notes"], "First words.\n\n• Quieter in 1.1.\n• Second.")
+        self.assertEqual(report["size"], self.repository.the_deb().stat().st_size)
 
         self.server.rates["pool"] = 2_000_000
-        self.assertEqual(self.asker.ask("download")["told"], "downloaded")
+        self.assertEqual(self.asker.ask("download")["event"], "downloaded")
         shares = {each["done"] for each in self.asker.progress if each["activity"] == DOWNLOADING}
         self.assertGreater(len({share for share in shares if 0 < share < 1}), 1, shares)
         self.assertEqual(system.installed(), OLD)
@@ -104,7 +104,7 @@ class AnUpdate(WithARepository):
 
         before = len(self.server.requests)
         self.asker.progress.clear()
-        self.assertEqual(self.asker.ask("install")["told"], "installed")
+        self.assertEqual(self.asker.ask("install")["event"], "installed")
         self.assertEqual(system.installed(), NEW)
         self.assertEqual(system.run("/usr/bin/ferrin"), "1.1-1\n")
         self.assertEqual(len(self.server.requests), before, "it was downloaded before")
@@ -138,7 +138,7 @@ class AnUpdate(WithARepository):
         self.offered()
         self.repository.publish(package("1.2-1"))
         system.run("apt-get", "update")
-        self.assertEqual(self.asker.ask("install")["told"], "failed")
+        self.assertEqual(self.asker.ask("install")["event"], "failed")
         self.assertEqual(system.installed(), OLD)
         self.assertEqual(self.offered()["version"], "1.2")
 
@@ -151,7 +151,7 @@ class AnUpdate(WithARepository):
         self.asker.say("install")
         second.say("install")
         for each in (self.asker, second):
-            self.assertEqual(each.hear()["told"], "installed")
+            self.assertEqual(each.hear()["event"], "installed")
         self.assertEqual(system.installed(), NEW)
 
 
@@ -176,8 +176,8 @@ class Cancelled(WithARepository):
         self.asker.hears_nothing()
         self.assertFalse(list(ARCHIVE.glob("ferrin*")))
         self.server.rates.clear()
-        self.assertEqual(self.asker.ask("download")["told"], "downloaded")
-        self.assertEqual(self.asker.ask("install")["told"], "installed")
+        self.assertEqual(self.asker.ask("download")["event"], "downloaded")
+        self.assertEqual(self.asker.ask("install")["event"], "installed")
 
     def test_an_installation_that_still_downloads_installs_nothing(self):
         self.offered()
@@ -293,7 +293,7 @@ class ABadServer(WithARepository):
         pathlib.Path(system.OTHER_SOURCE).write_text("deb http://127.0.0.2/ other main\n",
                                                      encoding="utf-8")
         self.assertEqual(self.offered()["version"], "1.1")
-        self.assertEqual(self.asker.ask("install")["told"], "installed")
+        self.assertEqual(self.asker.ask("install")["event"], "installed")
         self.assertIsNone(self.offered().get("version"))
 
 
@@ -355,13 +355,13 @@ class TheSystem(WithARepository):
         self.assertEqual(system.installed(), OLD)
         system.grant()
         time.sleep(0.5)
-        self.assertEqual(self.asker.ask("install")["told"], "installed")
+        self.assertEqual(self.asker.ask("install")["event"], "installed")
 
     def test_downloads_without_a_password(self):
         self.offered()
         system.grant(system.REFUSED)
         time.sleep(0.5)
-        self.assertEqual(self.asker.ask("download")["told"], "downloaded")
+        self.assertEqual(self.asker.ask("download")["event"], "downloaded")
 
     def test_whose_dpkg_is_locked_says_so(self):
         self.offered()
@@ -377,7 +377,7 @@ class TheSystem(WithARepository):
         self.asker.say("install")
         time.sleep(3)
         lock.release()
-        self.assertEqual(self.asker.hear()["told"], "installed")
+        self.assertEqual(self.asker.hear()["event"], "installed")
 
     def test_whose_lists_are_locked_says_so(self):
         lock = Lock("/var/lib/apt/lists/lock")

@@ -22,7 +22,7 @@ namespace {
 
 void tell(const QString &what, QJsonObject words = {})
 {
-    words.insert(u"told"_s, what);
+    words.insert(u"event"_s, what);
     std::cout << QJsonDocument(words).toJson(QJsonDocument::Compact).constData() << std::endl;
 }
 
@@ -39,8 +39,7 @@ class Driver
 {
 public:
     Driver(const QString &program, std::chrono::seconds timeout)
-        : m_engine(
-            { .bus = QDBusConnection::systemBus(), .program = program, .timeout = timeout })
+        : m_engine({ .bus = QDBusConnection::systemBus(), .program = program, .timeout = timeout })
     {
         QObject::connect(&m_engine, &UpdateEngine::checked,
                          [this](const std::optional<Release> &release) {

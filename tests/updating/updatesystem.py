@@ -67,8 +67,8 @@ def grant(installation=GRANTED):
 
 
 def installed():
-    told = run("dpkg-query", "--show", "--showformat=${Version} ${db:Status-Status}", "ferrin")
-    version, status = told.split()
+    report = run("dpkg-query", "--show", "--showformat=${Version} ${db:Status-Status}", "ferrin")
+    version, status = report.split()
     return version if status == "installed" else f"{version} {status}"
 
 
@@ -264,27 +264,27 @@ class Asker:
         """The next that it tells, progress aside."""
         end = time.monotonic() + timeout
         while True:
-            told = self._lines.get(timeout=max(0.01, end - time.monotonic()))
-            if told["told"] == "progress":
-                self.progress.append(told)
-            elif told["told"] == "support":
-                self.support = told["support"]
+            report = self._lines.get(timeout=max(0.01, end - time.monotonic()))
+            if report["event"] == "progress":
+                self.progress.append(report)
+            elif report["event"] == "support":
+                self.support = report["support"]
             else:
-                return told
+                return report
 
     def hear_progress(self, activity=None):
         """Waits for a sign of this activity."""
         while True:
-            told = self._lines.get(timeout=TIMEOUT)
-            if told["told"] != "progress":
-                raise AssertionError(f"It ended: {told}")
-            self.progress.append(told)
-            if activity is None or told["activity"] == activity:
-                return told
+            report = self._lines.get(timeout=TIMEOUT)
+            if report["event"] != "progress":
+                raise AssertionError(f"It ended: {report}")
+            self.progress.append(report)
+            if activity is None or report["activity"] == activity:
+                return report
 
     def hears_nothing(self, seconds=1.0):
         try:
-            raise AssertionError(f"It told {self.hear(seconds)}")
+            raise AssertionError(f"Unexpected: {self.hear(seconds)}")
         except queue.Empty:
             return
 

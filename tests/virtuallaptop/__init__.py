@@ -51,15 +51,15 @@ class VirtualLaptop(Laptop):
         self._folder = tempfile.mkdtemp(prefix="virtual-laptop-")
         os.chmod(self._folder, 0o755)
         super().__init__(os.path.join(self._folder, "control"))
-        ready, told = os.pipe()
+        ready, writable = os.pipe()
         command = [TOOL, "--control", self.control]
         if machine:
             command += ["--machine", machine]
         if not upower:
             command += ["--no-upower"]
         self._process = subprocess.Popen(
-            [*command, "--ready-fd", str(told)], pass_fds=[told], stdin=subprocess.DEVNULL)
-        os.close(told)
+            [*command, "--ready-fd", str(writable)], pass_fds=[writable], stdin=subprocess.DEVNULL)
+        os.close(writable)
         with os.fdopen(ready) as pipe:
             if not pipe.read():
                 self.close()

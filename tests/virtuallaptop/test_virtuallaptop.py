@@ -88,8 +88,8 @@ class OnALaptop(Finite):
         return self.run_on("cat", f"/sys/class/power_supply/{name}/{attribute}").stdout.decode()
 
     def daemon_says(self, key):
-        told = self.run_on("upower", "-i", BATTERY_PATH).stdout.decode()
-        lines = [line.partition(":") for line in told.splitlines()]
+        output = self.run_on("upower", "-i", BATTERY_PATH).stdout.decode()
+        lines = [line.partition(":") for line in output.splitlines()]
         return {name.strip(): value.strip() for name, _, value in lines}.get(key)
 
 
@@ -172,8 +172,8 @@ class TheRunningLaptop(OnALaptop):
             with self.subTest(kind):
                 self.laptop.send("fault", "BAT0", "capacity", kind)
                 read = "open('/sys/class/power_supply/BAT0/capacity').read()"
-                told = self.run_on(sys.executable, "-c", read).stderr.decode()
-                self.assertIn(f"[Errno {number}]", told)
+                output = self.run_on(sys.executable, "-c", read).stderr.decode()
+                self.assertIn(f"[Errno {number}]", output)
         self.laptop.send("fault", "BAT0", "capacity", "huge")
         self.assertGreater(len(self.read("BAT0", "capacity")), 1 << 20)
         self.laptop.send("set", "BAT0", "capacity", 36)
@@ -191,7 +191,7 @@ class TheRunningLaptop(OnALaptop):
         self.assertIsNone(self.daemon_says("state"))
 
     def test_sleep_is_told_on_the_system_bus(self):
-        told = []
+        output = []
         bus = Gio.DBusConnection.new_for_address_sync(
             self.laptop.environment["DBUS_SYSTEM_BUS_ADDRESS"],
             Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
@@ -199,7 +199,7 @@ class TheRunningLaptop(OnALaptop):
         self.addCleanup(bus.close_sync)
         bus.signal_subscribe("org.freedesktop.login1", "org.freedesktop.login1.Manager",
                              "PrepareForSleep", None, None, Gio.DBusSignalFlags.NONE,
-                             lambda *signal: told.append(signal[5].unpack()))
+                             lambda *signal: output.append(signal[5].unpack()))
         # Once the bus answers, it has heard of the subscription.
         bus.call_sync("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetId", None, None,
                       Gio.DBusCallFlags.NONE, -1)
@@ -208,10 +208,10 @@ class TheRunningLaptop(OnALaptop):
 
         def both_came():
             GLib.MainContext.default().iteration(False)
-            return len(told) == 2
+            return len(output) == 2
 
         eventually(both_came, "the bus told of sleep and waking")
-        self.assertEqual(told, [(True,), (False,)])
+        self.assertEqual(output, [(True,), (False,)])
 
     def test_ports_can_be_described(self):
         port = {"port0": {"power_role": "source [sink]", "port0-partner": {

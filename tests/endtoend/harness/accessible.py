@@ -69,8 +69,8 @@ class ScreenReader:
 
     def read(self):
         """The program's root object, or None as long as it has not told of itself."""
-        told = self._ask("tree", self._process_id)
-        return _accessible(told, []) if told else None
+        node = self._ask("tree", self._process_id)
+        return _accessible(node, []) if node else None
 
     def press(self, accessible):
         """Has the program do what a click on the object would."""
@@ -82,8 +82,8 @@ class ScreenReader:
         return json.loads(self._reader.stdout.readline())
 
 
-def _accessible(told, path):
+def _accessible(node, path):
     children = [_accessible(child, [*path, number])
-                for number, child in enumerate(told["children"])]
-    return Accessible(told["role"], told["name"], told["description"], set(told["states"]),
-                      Box(*told["box"]), children, path)
+                for number, child in enumerate(node["children"])]
+    return Accessible(node["role"], node["name"], node["description"], set(node["states"]),
+                      Box(*node["box"]), children, path)

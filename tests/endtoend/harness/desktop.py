@@ -81,8 +81,8 @@ class BareScreen(Screen):
 
     def states_of(self, window):
         """What the window manager was told of a window: in which lists it is not, and so on."""
-        told = self.run("xprop", "-id", window, "_NET_WM_STATE").decode()
-        return set(re.findall(r"_NET_WM_STATE_(\w+)", told))
+        output = self.run("xprop", "-id", window, "_NET_WM_STATE").decode()
+        return set(re.findall(r"_NET_WM_STATE_(\w+)", output))
 
     def _named(self, name):
         return self.run("xdotool", "search", "--onlyvisible", "--classname", name).split()
@@ -92,9 +92,9 @@ class BareScreen(Screen):
         return self.run("xdotool", "search", "--onlyvisible", "--pid", str(process_id)).split()
 
     def box_of(self, window):
-        told = self.run("xwininfo", "-id", window).decode()
+        output = self.run("xwininfo", "-id", window).decode()
         left, top, width, height = (
-            int(re.search(rf"{what}: +(-?\d+)", told).group(1))
+            int(re.search(rf"{what}: +(-?\d+)", output).group(1))
             for what in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
         return Box(left, top, left + width, top + height)
 

@@ -17,8 +17,8 @@ class Holdings:
         self.windows = session.all_windows().count(b'"ferrin")')
         self.matches = _matches(session.bus, program)
         with open(f"/proc/{program.pid}/smaps_rollup", encoding="ascii") as file:
-            told = file.read()
-        self.kilobytes = int(re.search(r"Private_Dirty: +(\d+)", told).group(1))
+            output = file.read()
+        self.kilobytes = int(re.search(r"Private_Dirty: +(\d+)", output).group(1))
 
     def __str__(self):
         return (f"{self.files} files, {self.windows} windows, {self.matches} matches on the bus, "
@@ -41,6 +41,6 @@ class Holdings:
 def _matches(bus, program):
     """How many rules of the program's the session bus keeps: it never sends less than they say."""
     name = bus.owner(program.unseen_item().name)
-    told = bus.call("org.freedesktop.DBus", "/org/freedesktop/DBus", STATISTICS,
-                    "GetConnectionStats", "(s)", name)[0]
-    return told["MatchRules"]
+    output = bus.call("org.freedesktop.DBus", "/org/freedesktop/DBus", STATISTICS,
+                      "GetConnectionStats", "(s)", name)[0]
+    return output["MatchRules"]

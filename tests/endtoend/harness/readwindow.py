@@ -32,10 +32,10 @@ class ReadWindow:
         try:
             eventually(at_rest, pattern)
         except AssertionError as error:
-            raise AssertionError(f"no {pattern!r} at rest among {self.told()}") from error
+            raise AssertionError(f"no {pattern!r} at rest among {self.texts()}") from error
         return last
 
-    def told(self):
+    def texts(self):
         """All names that it tells, in order."""
         root = self.root()
         return [each.name for each in root.everything()] if root else []

@@ -73,12 +73,12 @@ def likenesses(look, picture, box, contents):
             for y in range(around.top, around.bottom)]
     text = "chip" if look.on_chip else "white" if _grey(ground) < 128 else "black"
     under = "#%02x%02x%02x" % ground
-    told = subprocess.run(
+    output = subprocess.run(
         [os.environ["FERRIN_ITEM_PICTURE"], look.process, str(look.scale), under, text,
          str(look.height), *(content.words() for content in contents)],
         env=os.environ | {"QT_QPA_PLATFORM": "offscreen", "XDG_CURRENT_DESKTOP": look.desktop},
         capture_output=True, text=True, check=True)
-    return [_best(rows, line) for line in told.stdout.splitlines()]
+    return [_best(rows, line) for line in output.stdout.splitlines()]
 
 
 def recognised(look, picture, box, shown):
@@ -123,11 +123,11 @@ def read(picture, box):
         ["convert", "ppm:-", "-crop", part, "+repage", "-colorspace", "gray", *dark, "-normalize",
          "-resize", f"{ENLARGED}00%", "-bordercolor", "white", "-border", str(BORDER), "png:-"],
         input=picture.file, capture_output=True, check=True).stdout
-    told = subprocess.run(["tesseract", "-", "-", "--psm", "6", "tsv"], input=enlarged,
-                          env=os.environ | {"OMP_THREAD_LIMIT": "1"}, capture_output=True,
-                          check=True).stdout.decode()
+    output = subprocess.run(["tesseract", "-", "-", "--psm", "6", "tsv"], input=enlarged,
+                            env=os.environ | {"OMP_THREAD_LIMIT": "1"}, capture_output=True,
+                            check=True).stdout.decode()
     lines = {}
-    for row in told.splitlines()[1:]:
+    for row in output.splitlines()[1:]:
         _, _, block, paragraph, line, _, left, top, width, height, _, word = row.split("\t")
         if word.strip():
             lines.setdefault((block, paragraph, line), []).append(

@@ -28,7 +28,7 @@ def application(process):
     return None
 
 
-def told(accessible):
+def described(accessible):
     box = accessible.get_extents(Atspi.CoordType.SCREEN)
     children = (accessible.get_child_at_index(number)
                 for number in range(accessible.get_child_count()))
@@ -38,14 +38,14 @@ def told(accessible):
         "description": accessible.get_description(),
         "states": sorted(state.value_nick for state in accessible.get_state_set().get_states()),
         "box": [box.x, box.y, box.x + box.width, box.y + box.height],
-        "children": [told(child) for child in children if child is not None],
+        "children": [described(child) for child in children if child is not None],
     }
 
 
 def answer(command, process, *path):
     accessible = application(int(process))
     if accessible is None or command == "tree":
-        return accessible and told(accessible)
+        return accessible and described(accessible)
     for number in path:
         accessible = accessible.get_child_at_index(int(number))
     actions = map(accessible.get_action_name, range(accessible.get_n_actions()))

@@ -130,8 +130,8 @@ class Session:
         process = self.start(
             ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address=1"],
             stdout=subprocess.PIPE, text=True)
-        with process.stdout as told:
-            self.environment["DBUS_SESSION_BUS_ADDRESS"] = told.readline().strip()
+        with process.stdout as output:
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = output.readline().strip()
         return process
 
 
@@ -208,13 +208,13 @@ class Screen(Session):
         return processes.run(command, self.environment | self._screen)
 
     def _start_display(self):
-        readable, told = os.pipe()
+        readable, writable = os.pipe()
         size = "x".join(str(length * self.scale) for length in self.size)
         # Without a reset when its last client leaves, which would take the next one with it.
         self.server = self.start(
-            ["Xvfb", "-displayfd", str(told), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
-             "-noreset"], pass_fds=[told])
-        os.close(told)
+            ["Xvfb", "-displayfd", str(writable), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+             "-noreset"], pass_fds=[writable])
+        os.close(writable)
         with os.fdopen(readable) as pipe:
             number = pipe.readline().strip()
         if not number:

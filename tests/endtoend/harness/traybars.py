@@ -110,8 +110,8 @@ class TrayBar(BareScreen):
         return found[0] if found else None
 
     def title_of(self, window):
-        told = self.run("xprop", "-id", window, "_NET_WM_NAME").decode()
-        title = re.search(r'= "(.*)"', told)
+        output = self.run("xprop", "-id", window, "_NET_WM_NAME").decode()
+        title = re.search(r'= "(.*)"', output)
         return title and title.group(1)
 
     def command(self):

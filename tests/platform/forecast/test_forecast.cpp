@@ -25,7 +25,7 @@ struct Machine
     }
 
     // Runs for so long at so many watts (negative while charging); the last time shown.
-    int run(double watts, std::chrono::seconds span, bool told = true, double step = 0)
+    int run(double watts, std::chrono::seconds span, bool hasRate = true, double step = 0)
     {
         int shown = -1;
         for (auto passed = 0s; passed < span; passed += 5s) {
@@ -33,14 +33,14 @@ struct Machine
             clocks.elapsed += 5s;
             now -= watts * Hours(5s).count();
             const double said = step > 0 ? std::floor(now / step) * step : now;
-            shown = look(said, watts, told);
+            shown = look(said, watts, hasRate);
             if (firstShown == -1)
                 firstShown = shown;
         }
         return shown;
     }
 
-    int look(double said, double watts, bool told)
+    int look(double said, double watts, bool hasRate)
     {
         PackMoment pack { .key = "a",
                           .flow = watts > 0 ? Flow::Discharging : Flow::Charging,
@@ -48,7 +48,7 @@ struct Machine
                           .full = 50,
                           .rate = {},
                           .limit = limit };
-        if (told)
+        if (hasRate)
             pack.rate = std::abs(watts);
         const auto direction = watts > 0 ? Direction::ToEmpty : Direction::ToFull;
         const auto time = forecast.update({ pack }, direction, watts < 0, clocks);

@@ -19,17 +19,17 @@ struct EngineBench
     {
         QObject::connect(&engine, &UpdateEngine::checked,
                          [this](const std::optional<Release> &newer) {
-                             told.append(QStringLiteral("checked"));
+                             events.append(QStringLiteral("checked"));
                              found = newer;
                          });
         QObject::connect(&engine, &UpdateEngine::downloaded,
-                         [this] { told.append(QStringLiteral("downloaded")); });
+                         [this] { events.append(QStringLiteral("downloaded")); });
         QObject::connect(&engine, &UpdateEngine::installed,
-                         [this] { told.append(QStringLiteral("installed")); });
+                         [this] { events.append(QStringLiteral("installed")); });
         QObject::connect(&engine, &UpdateEngine::progressed,
                          [this](const UpdateProgress &each) { progress = each; });
         QObject::connect(&engine, &UpdateEngine::failed, [this](const UpdateTrouble &each) {
-            told.append(logName(each.failure));
+            events.append(logName(each.failure));
             trouble = each;
         });
     }
@@ -47,7 +47,7 @@ struct EngineBench
     FakePackageKit service { bus.connect() };
     QHash<QString, QByteArray> outputs;
     QStringList programs;
-    QStringList told;
+    QStringList events;
     std::optional<Release> found;
     UpdateProgress progress;
     UpdateTrouble trouble;

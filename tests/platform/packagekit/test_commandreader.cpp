@@ -26,11 +26,11 @@ private Q_SLOTS:
 
     void handsOverNothingWhereThereIsNoSuchProgram()
     {
-        std::optional<QByteArray> told;
+        std::optional<QByteArray> answer;
         readCommand(this, u"ferrin-no-such-program"_s, {},
-                    [&](const QByteArray &output) { told = output; });
-        QTRY_VERIFY(told);
-        QCOMPARE(*told, "");
+                    [&](const QByteArray &output) { answer = output; });
+        QTRY_VERIFY(answer);
+        QCOMPARE(*answer, "");
     }
 
     void tellsNothingToOneThatIsGone()
@@ -47,10 +47,10 @@ private Q_SLOTS:
 private:
     QByteArray read(const QString &script)
     {
-        std::optional<QByteArray> told;
+        std::optional<QByteArray> answer;
         readCommand(this, u"sh"_s, { u"-c"_s, script },
-                    [&](const QByteArray &output) { told = output; });
-        return QTest::qWaitFor([&] { return told.has_value(); }) ? *told : "nothing";
+                    [&](const QByteArray &output) { answer = output; });
+        return QTest::qWaitFor([&] { return answer.has_value(); }) ? *answer : "nothing";
     }
 };
 

@@ -37,7 +37,7 @@ private Q_SLOTS:
     {
         m_bench->outputs.insert(u"appstreamcli"_s, appStream);
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"checked"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"checked"_s });
         const Release expected { u"1.1"_s, m_bench->service.offered, QDate(2026, 4, 29), 4'200'000,
                                  u"Quieter."_s };
         QCOMPARE(m_bench->found, expected);
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QFETCH(QString, offered);
         m_bench->service.offered = offered;
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"checked"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"checked"_s });
         QVERIFY(!m_bench->found);
     }
 
@@ -92,7 +92,7 @@ private Q_SLOTS:
             m_bench->service.finish(path);
         });
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"checked"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"checked"_s });
         QVERIFY(!m_bench->found);
     }
 
@@ -108,7 +108,7 @@ private Q_SLOTS:
     {
         m_bench->service.installed.clear();
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"notPackaged"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"notPackaged"_s });
         QCOMPARE(m_bench->engine.support(), UpdateSupport::notPackaged);
         QCOMPARE(m_bench->service.calls, QStringList { u"SearchFiles"_s });
     }
@@ -118,7 +118,7 @@ private Q_SLOTS:
         m_bench->service.installed.clear();
         m_bench->outputs.insert(u"dpkg-query"_s, "ferrin: /usr/bin/ferrin\n");
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"setupFailed"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"setupFailed"_s });
         QCOMPARE(m_bench->engine.support(), UpdateSupport::full);
     }
 
@@ -128,7 +128,7 @@ private Q_SLOTS:
         failRefresh(u"E: http://example.org/f stable InRelease is not (yet) available (BADSIG, "
                     "a bad signature)\n"_s);
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"notTrusted"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"notTrusted"_s });
         QVERIFY(m_bench->trouble.detail.contains(u"BADSIG"));
     }
 
@@ -140,7 +140,7 @@ private Q_SLOTS:
         failRefresh(u"E: http://example.net/d stable InRelease is not (yet) available (Could not "
                     "connect)\n"_s);
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"checked"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"checked"_s });
         QVERIFY(m_bench->found);
     }
 
@@ -149,7 +149,7 @@ private Q_SLOTS:
         failRefresh(u"E: http://example.net/d stable InRelease is not available (Could not "
                     "connect)\n"_s);
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"unreachable"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"unreachable"_s });
     }
 
     void saysThatThePackageIsNotSetUp()
@@ -157,13 +157,13 @@ private Q_SLOTS:
         m_bench->service.offered.clear();
         m_bench->outputs.insert(u"dpkg-query"_s, "half-configured");
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"setupFailed"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"setupFailed"_s });
     }
 
     void asksNothingOfTheUserInTheBackground()
     {
         m_bench->engine.check(UpdateManner::background);
-        QTRY_COMPARE(m_bench->told.size(), 1);
+        QTRY_COMPARE(m_bench->events.size(), 1);
         const QStringList hints = m_bench->service.arguments[u"SetHints"_s][0].toStringList();
         QVERIFY(hints.contains(u"interactive=false"));
         QVERIFY(hints.contains(u"background=true"));
@@ -174,7 +174,7 @@ private Q_SLOTS:
         m_bench->service.acts.insert(u"RefreshCache"_s,
                                      [this](const QString &) { m_bench->service.leave(); });
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"serviceBroken"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"serviceBroken"_s });
     }
 
     void failsWithoutTheService()
@@ -185,7 +185,7 @@ private Q_SLOTS:
         };
         QTRY_VERIFY(!isThere());
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"noService"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"noService"_s });
         QCOMPARE(m_bench->engine.support(), UpdateSupport::noService);
     }
 
@@ -196,7 +196,7 @@ private Q_SLOTS:
             m_bench->service.fail(path, 17, u"cancelled"_s);
         });
         m_bench->check();
-        QTRY_COMPARE(m_bench->told, QStringList { u"tooSlow"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"tooSlow"_s });
         QVERIFY(m_bench->service.calls.contains(u"Cancel"));
     }
 
@@ -208,9 +208,9 @@ private Q_SLOTS:
         m_bench->check();
         QTRY_COMPARE(m_bench->progress.activity, UpdateActivity::waiting);
         QTest::qWait(500);
-        QCOMPARE(m_bench->told, QStringList());
+        QCOMPARE(m_bench->events, QStringList());
         m_bench->service.finish(m_bench->service.transaction);
-        QTRY_COMPARE(m_bench->told, QStringList { u"checked"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"checked"_s });
     }
 
     void tellsNothingMoreOnceItIsCancelled()
@@ -222,7 +222,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_bench->service.calls.contains(u"Cancel"));
         m_bench->service.finish(m_bench->service.transaction, 3);
         QTest::qWait(50);
-        QCOMPARE(m_bench->told, QStringList());
+        QCOMPARE(m_bench->events, QStringList());
     }
 
     void knowsWithoutStartingItWhetherThereIsAService()

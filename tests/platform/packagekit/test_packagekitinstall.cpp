@@ -31,7 +31,7 @@ private Q_SLOTS:
         const UpdateProgress expected { UpdateActivity::downloading, 0.75, true };
         QTRY_COMPARE(m_bench->progress, expected);
         m_bench->service.finish(m_bench->service.transaction);
-        QTRY_COMPARE(m_bench->told, QStringList { u"downloaded"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"downloaded"_s });
         const QVariantList arguments = m_bench->service.arguments[u"DownloadPackages"_s];
         QCOMPARE(arguments[0], QVariant(true));
         QCOMPARE(arguments[1].toStringList(), QStringList { m_bench->release.package });
@@ -50,13 +50,13 @@ private Q_SLOTS:
         QVERIFY(!m_bench->service.calls.contains(u"Cancel"));
         m_bench->service.change(m_bench->service.transaction, { { u"AllowCancel"_s, true } });
         QTRY_VERIFY(m_bench->service.calls.contains(u"Cancel"));
-        QCOMPARE(m_bench->told, QStringList());
+        QCOMPARE(m_bench->events, QStringList());
     }
 
     void installsTrustedPackagesOnly()
     {
         m_bench->engine.install(m_bench->release);
-        QTRY_COMPARE(m_bench->told, QStringList { u"installed"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"installed"_s });
         const QVariantList arguments = m_bench->service.arguments[u"UpdatePackages"_s];
         QCOMPARE(arguments[0].toULongLong(), 2U);
         QCOMPARE(arguments[1].toStringList(), QStringList { m_bench->release.package });
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QFETCH(QString, installed);
         m_bench->service.installed = installed;
         m_bench->engine.install(m_bench->release);
-        QTRY_COMPARE(m_bench->told, QStringList { u"installed"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"installed"_s });
         QVERIFY(!m_bench->service.calls.contains(u"UpdatePackages"));
     }
 
@@ -84,14 +84,14 @@ private Q_SLOTS:
     {
         m_bench->service.acts.remove(u"UpdatePackages"_s);
         m_bench->engine.install(m_bench->release);
-        QTRY_COMPARE(m_bench->told, QStringList { u"nothingDone"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"nothingDone"_s });
     }
 
     void saysThatThePackageIsNotSetUp()
     {
         m_bench->outputs.insert(u"dpkg-query"_s, "half-configured");
         m_bench->engine.install(m_bench->release);
-        QTRY_COMPARE(m_bench->told, QStringList { u"setupFailed"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"setupFailed"_s });
     }
 
     void tellsWhatTheSystemIsAt()
@@ -104,7 +104,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_bench->progress.activity, UpdateActivity::authorizing);
         // The user may take any time over the password.
         QTest::qWait(400);
-        QVERIFY(m_bench->told.isEmpty());
+        QVERIFY(m_bench->events.isEmpty());
         m_bench->service.change(
             path, { { u"Status"_s, 9U }, { u"Percentage"_s, 40U }, { u"AllowCancel"_s, false } });
         const UpdateProgress expected { UpdateActivity::installing, 0.4, false };
@@ -119,7 +119,7 @@ private Q_SLOTS:
             m_bench->service.fail(path, 48, u"Failed to obtain authentication."_s);
         });
         m_bench->engine.install(m_bench->release);
-        QTRY_COMPARE(m_bench->told, QStringList { u"notAuthorized"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"notAuthorized"_s });
     }
 
     void failsWhenTheServiceIsKilled()
@@ -127,7 +127,7 @@ private Q_SLOTS:
         m_bench->service.acts.insert(u"UpdatePackages"_s,
                                      [this](const QString &) { m_bench->service.leave(); });
         m_bench->engine.install(m_bench->release);
-        QTRY_COMPARE(m_bench->told, QStringList { u"serviceBroken"_s });
+        QTRY_COMPARE(m_bench->events, QStringList { u"serviceBroken"_s });
     }
 
 private:

@@ -83,10 +83,10 @@ private:
     [[nodiscard]] std::optional<NetworkReach> reach(const QDBusConnection &bus) const
     {
         ConnectionCost cost(bus, m_routes.path());
-        std::optional<NetworkReach> told;
-        cost.ask([&](NetworkReach answer) { told = answer; });
-        static_cast<void>(QTest::qWaitFor([&] { return told.has_value(); }, 60'000));
-        return told;
+        std::optional<NetworkReach> reach;
+        cost.ask([&](NetworkReach answer) { reach = answer; });
+        static_cast<void>(QTest::qWaitFor([&] { return reach.has_value(); }, 60'000));
+        return reach;
     }
     void connectToTheWorld() const
     {
@@ -170,13 +170,13 @@ void ConnectionCostTest::staysSilentWhenItIsGone()
 {
     connectToTheWorld();
     FakeNetworkManager manager(m_bus.connect());
-    int told = 0;
+    int answers = 0;
     std::optional<ConnectionCost> cost(std::in_place, m_bus.connect(), m_routes.path());
-    cost->ask([&](NetworkReach) { ++told; });
+    cost->ask([&](NetworkReach) { ++answers; });
     cost.reset();
     // The answer would have come before this one.
     static_cast<void>(reach(m_bus.connect()));
-    QCOMPARE(told, 0);
+    QCOMPARE(answers, 0);
 }
 
 FERRIN_TEST(QCoreApplication, ConnectionCostTest)

@@ -24,7 +24,7 @@ struct Installation
     {
         write(path);
         file.emplace(path, 20ms);
-        told = std::make_unique<QSignalSpy>(&*file, &ProgramFile::replaced);
+        replacements = std::make_unique<QSignalSpy>(&*file, &ProgramFile::replaced);
     }
 
     static void write(const QString &name, QFile::Permissions permissions = runnable)
@@ -47,7 +47,7 @@ struct Installation
     QTemporaryDir folder;
     QString path = folder.filePath(u"program"_s);
     std::optional<ProgramFile> file;
-    std::unique_ptr<QSignalSpy> told;
+    std::unique_ptr<QSignalSpy> replacements;
 };
 
 } // namespace
@@ -72,22 +72,22 @@ void ProgramFileTest::tellsThatAnotherProgramTookItsPlace()
     QVERIFY(!f.file->isReplaced());
     f.replace();
     QVERIFY(f.file->isReplaced());
-    QVERIFY(f.told->isEmpty());
-    QTRY_VERIFY(!f.told->isEmpty());
+    QVERIFY(f.replacements->isEmpty());
+    QTRY_VERIFY(!f.replacements->isEmpty());
 }
 
 void ProgramFileTest::tellsItAgainUntilSomebodyActs()
 {
     const Installation f;
     f.replace();
-    QTRY_VERIFY(f.told->size() > 2);
+    QTRY_VERIFY(f.replacements->size() > 2);
 }
 
 void ProgramFileTest::saysNothingWhileNothingHappens()
 {
     const Installation f;
     QTest::qWait(100);
-    QVERIFY(f.told->isEmpty());
+    QVERIFY(f.replacements->isEmpty());
 }
 
 void ProgramFileTest::saysNothingOfTheSameFileTouched()
@@ -95,7 +95,7 @@ void ProgramFileTest::saysNothingOfTheSameFileTouched()
     const Installation f;
     QVERIFY(QFile::setPermissions(f.path, runnable | QFile::ReadOther));
     QTest::qWait(100);
-    QVERIFY(f.told->isEmpty());
+    QVERIFY(f.replacements->isEmpty());
     QVERIFY(!f.file->isReplaced());
 }
 
@@ -104,7 +104,7 @@ void ProgramFileTest::saysNothingWhenItIsRemoved()
     const Installation f;
     QVERIFY(QFile::remove(f.path));
     QTest::qWait(100);
-    QVERIFY(f.told->isEmpty());
+    QVERIFY(f.replacements->isEmpty());
     QVERIFY(!f.file->isReplaced());
 }
 
@@ -113,7 +113,7 @@ void ProgramFileTest::saysNothingOfAFileThatCannotBeRunYet()
     const Installation f;
     f.replace(QFile::ReadOwner | QFile::WriteOwner);
     QTest::qWait(100);
-    QVERIFY(f.told->isEmpty());
+    QVERIFY(f.replacements->isEmpty());
 }
 
 void ProgramFileTest::knowsAReplacementThatNobodyTold()
