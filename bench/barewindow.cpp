@@ -29,7 +29,7 @@ public:
     {
         return &window == m_view.get();
     }
-    void openWindow(const QString &) override
+    void openWindow(const QString &, const ItemPlace &) override
     {
         if (!m_settings)
             m_settings = bareView(QSize(701, 500));

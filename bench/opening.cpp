@@ -80,12 +80,13 @@ public:
             m_windows->dashboardClosed = [this] { close(); };
             m_windows->dashboardLostFocus = [] {};
         }
-        m_windows->showDashboard({ .item = QRect(400, 0, 24, 24) });
+        m_windows->showDashboard(m_item);
     }
     void close() { m_windows->hideDashboard(); }
-    void openSettings() { m_windows->openWindow(u"FerrinSettings"_s); }
+    void openSettings() { m_windows->openWindow(u"FerrinSettings"_s, m_item); }
 
 private:
+    const ItemPlace m_item { .item = QRect(400, 0, 24, 24) };
     QString m_module;
     DesktopAppearance m_appearance;
     test::FakeRegistry m_registry;

@@ -182,14 +182,14 @@ private Q_SLOTS:
         Picker f(u"Dark"_s);
         QCOMPARE(test::spokenNameOf(f.picker), u"Pick a theme"_s);
         QCOMPARE(test::spokenRoleOf(f.picker), QAccessible::Grouping);
-        QStringList spoken;
+        QStringList names;
         for (QQuickItem *const segment : f.segments) {
             QCOMPARE(test::spokenRoleOf(segment), QAccessible::RadioButton);
             const auto *const spoken = QAccessible::queryAccessibleInterface(segment);
-            spoken.append(test::spokenNameOf(segment)
-                          + (spoken->state().checked ? u", checked"_s : QString()));
+            names.append(test::spokenNameOf(segment)
+                         + (spoken->state().checked ? u", checked"_s : QString()));
         }
-        QCOMPARE(spoken, (QStringList { u"System"_s, u"Light"_s, u"Dark, checked"_s }));
+        QCOMPARE(names, (QStringList { u"System"_s, u"Light"_s, u"Dark, checked"_s }));
     }
 };
 
