@@ -29,7 +29,8 @@ private Q_SLOTS:
         QProperty<int> property(1);
         int notifications = 0;
         {
-            const auto notifier = Bindable<int>(&property).addNotifier([&notifications] { ++notifications; });
+            const auto notifier
+                = Bindable<int>(&property).addNotifier([&notifications] { ++notifications; });
             property = 2;
             property = 2;
             QCOMPARE(notifications, 1);

@@ -32,7 +32,8 @@ inline constexpr quint64 installedOnly = 1U << 2U;
 inline constexpr quint64 noFilter = 0;
 inline constexpr quint64 onlyTrusted = 1U << 1U;
 
-/// The lower half of the number that a package is reported with; the upper half holds the update's severity.
+/// The lower half of the number that a package is reported with; the upper half holds the update's
+/// severity.
 inline constexpr uint infoMask = 0xffff;
 /// An update that the system's administrator holds back.
 inline constexpr uint blockedInfo = 9;

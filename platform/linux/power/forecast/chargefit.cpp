@@ -117,8 +117,8 @@ std::vector<ChargeFit::Observation> ChargeFit::observations() const
                           bin.points / square(measuredDeviation), bin.points * std::exp(-age) });
     }
     if (m_reported && m_measured < enough) {
-        found.push_back(
-            { m_reported->curve.knee, std::log(m_reported->rate), 1 / square(measuredDeviation), 1 });
+        found.push_back({ m_reported->curve.knee, std::log(m_reported->rate),
+                          1 / square(measuredDeviation), 1 });
     }
     if (m_known) {
         found.push_back({ 0, std::log(m_known->rate), 1 / square(knownRateDeviation),

@@ -34,8 +34,8 @@ public:
     /// The charge rose from one value to another in this time.
     void add(double from, double to, Hours span);
 
-    /// The rate that the machine reports at a charge. It counts until the charge has risen enough to
-    /// tell its own.
+    /// The rate that the machine reports at a charge. It counts until the charge has risen enough
+    /// to tell its own.
     void report(double charge, double rate);
 
     /// Absent before anything is known of the rate.

@@ -102,7 +102,7 @@ std::optional<bool> isCharging(const std::vector<Pack> &packs)
     if (anyIs(packs, ChargeStatus::Charging))
         return true;
     const bool reported = std::any_of(packs.begin(), packs.end(),
-                                  [](const Pack &pack) { return pack.status || pack.percent; });
+                                      [](const Pack &pack) { return pack.status || pack.percent; });
     return reported ? std::optional(false) : std::nullopt;
 }
 
