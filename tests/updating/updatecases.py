@@ -25,7 +25,6 @@ LISTS = pathlib.Path("/var/lib/apt/lists")
 def setUpModule():
     system.set_up_network()
     system.run("useradd", "--uid", system.SECOND_USER, "second")
-    # What the root was made by, which is more patient than a Debian is.
     for name in ("sources.list", "apt.conf.d/99mmdebstrap"):
         pathlib.Path("/etc/apt", name).unlink(missing_ok=True)
     system.start_bus()
