@@ -1,4 +1,3 @@
-#!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """PackageKit in the shape of a process on a laptop's system bus, which does what its input says. It
@@ -13,10 +12,11 @@ knows one package, that of the program; each line of its input is one of
 
 import os
 import re
-import subprocess
 import sys
 
 import gi
+
+from harness.serviceprocess import ServiceProcess
 
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
@@ -42,24 +42,15 @@ TRANSACTIONS = f"""<node><interface name="{TRANSACTION}">{IN_TRANSACTION}
 </interface></node>"""
 
 
-class PackageKit:
+class PackageKit(ServiceProcess):
     """The service as a test holds it, on the bus of a laptop whose program begins later."""
 
     def __init__(self, session, laptop):
         address = laptop.environment["DBUS_SYSTEM_BUS_ADDRESS"]
-        self._process = session.start(["/usr/bin/python3", "-B", __file__],
-                                      {"DBUS_SYSTEM_BUS_ADDRESS": address},
-                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self._process.stdout.readline()
+        super().__init__(session, "harness.packagekit", {"DBUS_SYSTEM_BUS_ADDRESS": address})
 
     def tell(self, *words):
-        self._process.stdin.write(" ".join(map(str, words)) + "\n")
-        self._process.stdin.flush()
-        self._process.stdout.readline()
-
-    def close(self):
-        self._process.stdin.close()
-        self._process.stdout.close()
+        self.send(" ".join(map(str, words)))
 
 
 class Service:

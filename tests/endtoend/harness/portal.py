@@ -1,14 +1,14 @@
-#!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """A settings portal in the shape of a process. Each line of its input is a setting that the desktop has
 from then on: its group, its key, and its value as text of GLib's variants, by tabs.
 """
 
-import subprocess
 import sys
 
 import gi
+
+from harness.serviceprocess import ServiceProcess
 
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
@@ -26,13 +26,11 @@ INTERFACE = f"""<node><interface name="{SETTINGS}">
 </interface></node>"""
 
 
-class Desktop:
+class Desktop(ServiceProcess):
     """The portal as a test holds it."""
 
     def __init__(self, session, scheme="none"):
-        self._process = session.start(["/usr/bin/python3", "-B", __file__],
-                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self._process.stdout.readline()
+        super().__init__(session, "harness.portal")
         self.prefers(scheme)
 
     def prefers(self, scheme):
@@ -44,13 +42,7 @@ class Desktop:
 
     def sets(self, group, key, value):
         """Gives a setting a value, and waits for the portal to have it."""
-        self._process.stdin.write(f"{group}\t{key}\t{value}\n")
-        self._process.stdin.flush()
-        self._process.stdout.readline()
-
-    def close(self):
-        self._process.stdin.close()
-        self._process.stdout.close()
+        self.send(f"{group}\t{key}\t{value}")
 
 
 class Portal:
