@@ -48,12 +48,13 @@ inline QString newFolder()
 }
 
 /// What Qt needs before anything else; nothing is logged, or a log would be all there is.
-inline void begin()
+template <typename Application = QCoreApplication>
+void begin()
 {
     static int count = 1;
     static char name[] = "fuzz";
     static char *arguments[] = { name, nullptr };
-    static const QCoreApplication application(count, arguments);
+    static const Application application(count, arguments);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 }
 

@@ -27,9 +27,33 @@ def message(kind, payload):
 BAR = {"id": "bar-0", "colors": {"background": "#000000", "statusline": "#ffffffaa"}}
 SUBSCRIBED = message(2, {"success": True})
 
+CALLS = b"""itemproperties/GetAll=sorg.kde.StatusNotifierItem
+itemproperties/Get=sorg.kde.StatusNotifierItem|sToolTip
+item/Activate=i5|i7
+item/Scroll=i1|svertical
+menu/GetLayout=i0|i-1|a
+menu/GetGroupProperties=I1|alabel
+menu/AboutToShow=i0
+menu/Event=i1|sclicked|Vx|u0
+menu/EventGroup=eclicked
+introspection/Introspect=
+"""
+
+REPLIES = b"""reply/EnumerateDevices=O/a
+reply/GetAll=PType:u2;PowerSupply:btrue;IsPresent:btrue;State:u2;Percentage:d37;TimeToEmpty:x3600
+signal/PropertiesChanged=sorg.freedesktop.UPower.Device|PState:u1;Percentage:d38;TimeToFull:x60|a
+signal/DeviceAdded=o/b
+reply/GetAll=PType:u5;PowerSupply:bfalse
+signal/DeviceRemoved=o/a
+"""
+
 SEEDS = {
+    "buscalls": [CALLS, b"item/ContextMenu=i5|i7\n",
+                 b"menuproperties/Set=scom.canonical.dbusmenu|sVersion|Vx\n"],
     "powersupplies": [],
     "upower": [],
+    "upowerreplies": [REPLIES,
+                      b"reply/EnumerateDevices=s/a\n", b"reply/EnumerateDevices=O/a\nreply/GetAll=s\n"],
     "defaults": [
         ("{\n" + ",\n".join(json.dumps(key) + ": " + json.dumps(value)
                             for key, value in SETTINGS.items()) + "\n}\n").encode(),

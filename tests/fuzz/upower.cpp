@@ -6,8 +6,9 @@
 // whether power is external and ask for the description of all.
 
 #include "platform/linux/power/upower/upowerdescription.h"
-#include "tests/fuzz/fuzzing.h"
+#include "tests/fuzz/busvalues.h"
 #include "tests/fuzz/lines.h"
+#include "tests/fuzz/upowerinvariants.h"
 
 #include <array>
 #include <map>
@@ -47,63 +48,6 @@ constexpr std::array<std::string_view, 24> values { "u0",
                                                     "sBAT0",
                                                     "s" };
 
-QVariant valueOf(std::string_view text)
-{
-    const QString rest = QString::fromUtf8(QByteArrayView(text.substr(text.empty() ? 0 : 1)));
-    switch (text.empty() ? ' ' : text.front()) {
-    case 'b':
-        return rest == "true"_L1;
-    case 'u':
-        return rest.toUInt();
-    case 'i':
-        return rest.toInt();
-    case 'x':
-        return rest.toLongLong();
-    case 't':
-        return rest.toULongLong();
-    case 'd':
-        return rest.toDouble();
-    case 's':
-        return rest;
-    case 'a':
-        return QStringList { rest, rest };
-    case 'v':
-        return QVariantMap { { rest, rest } };
-    }
-    return {};
-}
-
-void checkTimes(const QVariantMap &source)
-{
-    for (const QString &key : { u"Time to Empty"_s, u"Time to Full Charge"_s }) {
-        const QVariant time = source.value(key);
-        require(!time.isValid() || (time.toInt() >= -1 && time.toInt() <= 2880),
-                "a time is unknown, or 0 to 48 hours");
-    }
-    require(source.value(u"Time to Empty"_s).toInt() == 0
-                || source.value(u"Time to Full Charge"_s).toInt() == 0,
-            "a source has at most one time");
-}
-
-void checkAll(const QList<UPowerDevice> &devices, std::optional<bool> external)
-{
-    const QList<UPowerDevice> sources = powerSourcesInOrder(devices, external);
-    bool wasOther = false;
-    for (const UPowerDevice &source : sources) {
-        const QVariantMap description = describe(source, external);
-        const QVariant charge = description.value(u"Current Capacity"_s);
-        require(!charge.isValid() || (charge.toInt() >= 0 && charge.toInt() <= 100),
-                "the charge is 0 to 100");
-        require(description.value(u"Name"_s).toString().size() <= 256, "names are short");
-        const bool isBattery = description.value(u"Type"_s) == u"InternalBattery"_s;
-        require(!wasOther || !isBattery, "batteries come before others");
-        wasOther = !isBattery;
-        checkTimes(description);
-        for (const std::optional<bool> &changedTo : { std::optional<bool>(), external })
-            checkTimes(describeSettling(description, settlingFlowOf(source, external, changedTo)));
-    }
-}
-
 class Daemon
 {
 public:
@@ -122,8 +66,8 @@ public:
         QList<UPowerDevice> devices;
         for (const auto &[path, device] : m_devices)
             devices.append(device);
-        checkAll(devices,
-                 external.empty() ? std::nullopt : std::optional(external.starts_with('1')));
+        checkPowerSources(
+            devices, external.empty() ? std::nullopt : std::optional(external.starts_with('1')));
     }
 
 private:

@@ -14,8 +14,6 @@ namespace ferrin::test {
 
 namespace {
 
-constexpr quint8 fromAProgram = 0x80;
-
 /// How the server keeps pixels of that depth.
 QImage::Format formatOf(int depth)
 {
