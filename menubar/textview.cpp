@@ -15,6 +15,9 @@ namespace ferrin {
 
 namespace {
 
+/// Logical pixels of text whose strokes are thinner than one.
+constexpr int largestThinText = 11;
+
 QFont fontOf(const TextView &view, int pixelSize, const ViewContext &context)
 {
     QFont font(context.fontFamily);
@@ -57,6 +60,9 @@ void TextView::paint(QPainter &painter, const QRectF &bounds, const ViewContext 
     color.setAlphaF(float(context.text.alphaF() * (context.isCoarse ? 1 : opacity)));
     painter.setPen(color);
     painter.drawText(QPointF(0, 0), text);
+    // Strokes that are thinner than a pixel have but a part of the tone that larger text has.
+    if (context.isCoarse && pixelSize <= largestThinText)
+        painter.drawText(QPointF(0, 0), text);
 }
 
 } // namespace ferrin

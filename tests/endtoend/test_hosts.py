@@ -7,7 +7,7 @@
 
 from dataclasses import replace
 
-from harness import desktop, panels, shells, wayland
+from harness import contrast, desktop, panels, shells, wayland
 from harness.case import AT_START, OnADesktop, main
 from harness.glyphs import bottle_in
 from harness.picture import Box, is_red
@@ -21,7 +21,8 @@ LOW = Shown("discharging", percent=8, charge="8", time="0:36")
 FAULT = Shown("unknown", icon="fault", charge="??")
 # A standing battery, which is the default, is as wide in a cell of 16 pixels.
 GLYPH_WIDTH = 8
-
+# No wider than what MATE's panel has beside the item: date and time.
+CLOCK_WIDTH = 100
 
 # From the item's cell to its dashboard, at the most: the rest of a thick panel, and a little air.
 NEAR = 28
@@ -176,6 +177,14 @@ class MATE(InAnX11Host, OnADesktop):
 
     def make_session(self):
         return desktop.MateScreen()
+
+    def test_its_small_text_is_as_strong_as_that_of_the_clock(self):
+        self.shows(DISCHARGING)
+        cell, picture = self.cell(), self.session.picture()
+        text = Box(cell.left, cell.top, cell.right - GLYPH_WIDTH - 4, cell.bottom)
+        clock = Box(cell.right + 4, cell.top, cell.right + CLOCK_WIDTH, cell.bottom)
+        self.assertGreaterEqual(contrast.of_print(picture, text),
+                                0.9 * contrast.of_print(picture, clock))
 
 
 class Cinnamon(InAnX11Host, OnADesktop):

@@ -8,9 +8,30 @@
 
 #include <QTest>
 
+#include <algorithm>
+#include <vector>
+
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How much ink the median pixel has of those that have any worth seeing.
+double toneOf(const QImage &image)
+{
+    std::vector<double> tones;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (const double tone = opacityAt(image, x, y); tone > 0.15)
+                tones.push_back(tone);
+        }
+    }
+    std::ranges::sort(tones);
+    return tones.empty() ? 0 : tones[tones.size() / 2];
+}
+
+} // namespace
 
 class TextViewTest : public QObject
 {
@@ -74,6 +95,20 @@ private Q_SLOTS:
                 strongest = std::max(strongest, opacityAt(image, x, y));
         }
         QVERIFY(near(strongest, 0.875, 0.01));
+    }
+
+    void smallTextOnACoarseScreenIsAsDarkAsLargerText()
+    {
+        ViewContext coarse = blackOnClear;
+        coarse.isCoarse = true;
+        const auto toneAt = [&](int pixelSize) {
+            return toneOf(painted(TextView { .text = u"37% 2:46"_s, .pixelSize = pixelSize },
+                                  { 80, 20 }, 1, coarse));
+        };
+        QVERIFY(toneAt(9) > 0.95 * toneAt(14));
+        QVERIFY(toneAt(11) > 0.95 * toneAt(14));
+        // Nor darker by much.
+        QVERIFY(toneAt(9) < 1.25 * toneAt(14));
     }
 
     void fittedFiguresFillTheHeightOfTheirPlace()
