@@ -34,16 +34,20 @@ class Desktops:
 
     def __init__(self, number, machines_build, hosts=False):
         self._release = RELEASES[number]
-        self._hosts = ["hosts", "hosts-further", f"hosts-{self._release}"] if hosts else []
+        self._hosts = ["hosts", f"hosts-{self._release}"] if hosts else []
         # What was built on the same release runs in its root.
         self._is_built = self._release == release_of_this_machine()
         self.build = machines_build if self._is_built \
             else os.path.join(os.path.dirname(machines_build), f"debian{number}")
         self._root = None
 
-    def prepare(self):
-        """Makes the root where there is none, and builds the program for it."""
-        self._make_root()
+    def make_root(self):
+        """Makes the root where there is none."""
+        build = [] if self._is_built else ["build"]
+        self._root = cached(self._release, packages_of(*build, "run", "desktops", *self._hosts))
+
+    def build_program(self):
+        """Builds the program in the root."""
         if self._is_built:
             return
         os.makedirs(self.build, exist_ok=True)
@@ -54,20 +58,16 @@ class Desktops:
 
     def library(self, name):
         """The path of a library of the root's."""
-        self._make_root()
+        self.make_root()
         return glob.glob(os.path.join(self._root.path, "usr/lib/*", name))[0]
 
     def command(self, command, environment, binds=()):
         """The command line of a test, for an ordinary user who sees the tree and the build, and
         whatever else is bound; see namespaces.entered."""
-        self._make_root()
+        self.make_root()
         program = {"FERRIN_BINARY": os.path.join(self.build, "bin", "ferrin"),
                    "FERRIN_ITEM_PICTURE": os.path.join(self.build, "tests/endtoend/item_picture")}
         return self._command(command, program | environment, binds)
-
-    def _make_root(self):
-        build = [] if self._is_built else ["build"]
-        self._root = cached(self._release, packages_of(*build, "run", "desktops", *self._hosts))
 
     def _command(self, command, environment=None, binds=()):
         passed_on = {name: os.environ[name] for name in PASSED_ON if name in os.environ}

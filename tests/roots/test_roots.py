@@ -12,6 +12,7 @@ from unittest import mock
 sys.dont_write_bytecode = True
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
 from roots import NoNamespaces, RootCommandFailed, cached  # noqa: E402
+from roots.ordinaryuser import NUMBER, TREE, run_as_ordinary_user  # noqa: E402
 
 
 class ARoot(unittest.TestCase):
@@ -84,6 +85,18 @@ class ACopy(unittest.TestCase):
             path = copy.path
         self.assertFalse(os.path.exists(path))
         self.assertFalse(os.path.exists(os.path.join(root.path, "usr/bin/hello")))
+
+
+@unittest.skipIf(os.geteuid() != 0, "an ordinary user runs all of these tests already")
+class AnOrdinaryUser(unittest.TestCase):
+    def test_makes_roots_and_does_in_them_all_that_root_does(self):
+        # Not the cache's: roots of one user's ids are nothing to another.
+        with tempfile.TemporaryDirectory(prefix="ferrin-home-") as home:
+            done = run_as_ordinary_user(home, "python3", "-B", f"{TREE}/tests/roots/test_roots.py")
+            self.assertEqual(done.returncode, 0, done.stdout)
+            made = os.path.join(home, ".cache/ferrin/roots")
+            self.assertIn(NUMBER, {os.stat(os.path.join(made, each)).st_uid
+                                   for each in os.listdir(made)})
 
 
 if __name__ == "__main__":
