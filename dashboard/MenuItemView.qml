@@ -21,6 +21,8 @@ MenuEntry {
         anchors.fill: parent
         radius: 5
         color: root.isSelected ? Colors.menuSelected : Colors.menuHovered
+        borderWidth: Colors.outlineWidth
+        borderColor: Colors.outline
         opacity: root.buttonState === ButtonState.None ? 0 : 1
 
         Behavior on opacity {

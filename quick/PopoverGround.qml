@@ -8,4 +8,5 @@ import Ferrin.Theme
 PopoverFrame {
     ground: Colors.dashboardColor
     isDark: Theme.isDark
+    line: Theme.isHighContrast ? Colors.outline : "transparent"
 }

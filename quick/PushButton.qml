@@ -14,7 +14,7 @@ Pressable {
     required property color groundColor
     required property color textColor
     // Logical pixels; none without a border.
-    property int borderWidth: 0
+    property int borderWidth: Colors.outlineWidth
 
     spokenName: text
     implicitWidth: Math.max(56, label.implicitWidth + 20)

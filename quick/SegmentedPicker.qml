@@ -43,6 +43,8 @@ FocusScope {
         anchors.fill: parent
         radius: 7
         color: Colors.segmentTrack
+        borderWidth: Colors.outlineWidth
+        borderColor: Colors.outline
     }
 
     Row {

@@ -50,6 +50,8 @@ Pressable {
         height: 18
         radius: height / 2
         color: root.isOn ? Colors.accent : Colors.switchOff
+        borderWidth: Colors.outlineWidth
+        borderColor: Colors.outline
 
         RoundedRect {
             id: knob
@@ -59,7 +61,7 @@ Pressable {
             width: 14
             height: 14
             radius: height / 2
-            color: Colors.switchKnob
+            color: root.isOn ? Colors.accentText : Colors.switchKnob
 
             Behavior on x {
                 enabled: !Theme.reducesMotion

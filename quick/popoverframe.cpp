@@ -75,6 +75,14 @@ void PopoverFrame::setDark(bool isDark)
     Q_EMIT isDarkChanged();
 }
 
+void PopoverFrame::setLine(const QColor &line)
+{
+    if (std::exchange(m_line, line) == line)
+        return;
+    update();
+    Q_EMIT lineChanged();
+}
+
 void PopoverFrame::setFraming(const QMargins &margins, const std::optional<Arrow> &arrow,
                               bool isBlended)
 {
@@ -140,14 +148,16 @@ void PopoverFrame::paintBorder(QPainter &painter) const
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QColor(0, 0, 0, m_isDark ? 140 : 52));
     painter.drawPath(outline(-half));
-    painter.setPen(QColor(255, 255, 255, m_isDark ? 40 : 160));
+    const QColor light(255, 255, 255, m_isDark ? 40 : 160);
+    painter.setPen(m_line.alpha() > 0 ? m_line : light);
     painter.drawPath(outline(half));
 }
 
 // The window ends in steps of whole pixels, all of which are the border's.
 void PopoverFrame::paintCutOut(QPainter &painter) const
 {
-    painter.fillRect(boundingRect(), m_isDark ? QColor(0x6b6f76) : QColor(0x9599a0));
+    const QColor usual = m_isDark ? QColor(0x6b6f76) : QColor(0x9599a0);
+    painter.fillRect(boundingRect(), m_line.alpha() > 0 ? m_line : usual);
     painter.fillPath(outline(1), m_ground);
 }
 

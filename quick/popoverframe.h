@@ -22,6 +22,8 @@ class PopoverFrame : public QQuickPaintedItem
     QML_ELEMENT
     Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged REQUIRED)
     Q_PROPERTY(bool isDark READ isDark WRITE setDark NOTIFY isDarkChanged REQUIRED)
+    /// Of a border that is to be seen on the ground as well; transparent for the usual one.
+    Q_PROPERTY(QColor line READ line WRITE setLine NOTIFY lineChanged)
 
 public:
     static constexpr int radius = 12;
@@ -43,6 +45,8 @@ public:
     void setGround(const QColor &ground);
     [[nodiscard]] bool isDark() const noexcept { return m_isDark; }
     void setDark(bool isDark);
+    [[nodiscard]] const QColor &line() const noexcept { return m_line; }
+    void setLine(const QColor &line);
 
     /// The margins of the item around the frame, for shadow and arrow, in logical pixels. Without
     /// blending there is no shadow and no translucent pixel.
@@ -61,6 +65,7 @@ public:
 Q_SIGNALS:
     void groundChanged();
     void isDarkChanged();
+    void lineChanged();
 
 private:
     /// A line that runs `inset` pixels inside the outline.
@@ -71,6 +76,7 @@ private:
 
     QColor m_ground;
     bool m_isDark = false;
+    QColor m_line = Qt::transparent;
     QMargins m_margins;
     std::optional<Arrow> m_arrow;
     bool m_isBlended = true;

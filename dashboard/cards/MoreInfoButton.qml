@@ -3,6 +3,7 @@
 
 import QtQuick
 import Ferrin.Quick
+import Ferrin.Theme
 
 // The small button of a card that opens its popover, and closes it while it is shown.
 Item {
@@ -57,7 +58,9 @@ Item {
         anchors.fill: parent
         radius: width / 2
         color: Colors.cardButton
-        visible: hover.hovered || root.isPopoverShown
+        visible: hover.hovered || root.isPopoverShown || Theme.isHighContrast
+        borderWidth: Colors.outlineWidth
+        borderColor: Colors.outline
     }
 
     FocusRing {

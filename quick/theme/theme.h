@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <QColor>
 #include <QObject>
 #include <QProperty>
 #include <QString>
+#include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
 class QJSEngine;
@@ -24,6 +26,9 @@ class Theme final : public QObject
     /// The factor by which windows and all that is in them are larger than they are made; 1 to 3.
     Q_PROPERTY(double textScale READ textScale NOTIFY textScaleChanged)
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
+    /// The desktop's own accent, which may have no contrast with anything; invalid without one.
+    Q_PROPERTY(QColor accent READ accent NOTIFY accentChanged)
+    Q_PROPERTY(bool isHighContrast READ isHighContrast NOTIFY isHighContrastChanged)
 
 public:
     /// Follows the application's appearance; without one it keeps the defaults.
@@ -36,18 +41,32 @@ public:
     [[nodiscard]] double textScale() const { return m_textScale; }
     /// The desktop asks for no animations.
     [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
+    [[nodiscard]] QColor accent() const { return m_accent; }
+    [[nodiscard]] bool isHighContrast() const { return m_isHighContrast; }
+
+    // The functions of quick/theme/readablecolors.h for QML, with the grounds as a list of colours.
+    Q_INVOKABLE [[nodiscard]] QColor readable(const QColor &wish, const QVariantList &grounds,
+                                              double least) const;
+    Q_INVOKABLE [[nodiscard]] QColor prominent(const QColor &wish, const QVariantList &grounds,
+                                               double least) const;
+    Q_INVOKABLE [[nodiscard]] QColor textOn(const QColor &ground, double least) const;
+    Q_INVOKABLE [[nodiscard]] QColor inHueOf(const QColor &accent, const QColor &own) const;
 
 Q_SIGNALS:
     void isDarkChanged();
     void fontFamilyChanged();
     void textScaleChanged();
     void reducesMotionChanged();
+    void accentChanged();
+    void isHighContrastChanged();
 
 private:
     Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_isDark, &Theme::isDarkChanged)
     Q_OBJECT_BINDABLE_PROPERTY(Theme, QString, m_fontFamily, &Theme::fontFamilyChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(Theme, double, m_textScale, 1, &Theme::textScaleChanged)
     Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_reducesMotion, &Theme::reducesMotionChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(Theme, QColor, m_accent, &Theme::accentChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_isHighContrast, &Theme::isHighContrastChanged)
 };
 
 } // namespace ferrin

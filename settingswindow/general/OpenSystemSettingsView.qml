@@ -40,6 +40,8 @@ MakeBackgroundRectangle {
                 anchors { fill: parent; margins: -5 }
                 radius: 6
                 color: Colors.settingsMenuSelected
+                borderWidth: Colors.outlineWidth
+                borderColor: Colors.outline
                 opacity: row.isDown ? 1 : 0.7
                 visible: row.isHovered
             }

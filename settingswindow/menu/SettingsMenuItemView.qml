@@ -23,6 +23,8 @@ MenuEntry {
         anchors { fill: parent; margins: 2 }
         radius: 5
         color: Colors.settingsMenuSelected
+        borderWidth: Colors.outlineWidth
+        borderColor: Colors.outline
         opacity: root.buttonState === ButtonState.None ? 0 : 1
     }
 

@@ -3,6 +3,7 @@
 
 import QtQuick
 import Ferrin.Quick
+import Ferrin.Theme
 
 // A white symbol on a rounded square of colour, which is muted unless it is bright.
 Item {
@@ -16,10 +17,12 @@ Item {
     implicitHeight: 28
 
     RoundedRect {
+        readonly property bool isLit: root.isBright && !Theme.isHighContrast
+
         anchors.fill: parent
         radius: 6
-        color: root.isBright ? Qt.lighter(root.color, 1.12) : root.color
-        opacity: root.isBright ? 1 : 0.7
+        color: isLit ? Qt.lighter(root.color, 1.12) : root.color
+        opacity: root.isBright || Theme.isHighContrast ? 1 : 0.7
     }
 
     // White light from above. It ends in the middle, for the white symbol's contrast.
@@ -30,6 +33,7 @@ Item {
         color: Colors.tileSymbol
         endColor: "transparent"
         endsAt: 0.5
+        visible: !Theme.isHighContrast
     }
 
     Symbol {

@@ -16,6 +16,8 @@ RoundedRect {
     implicitHeight: 6
     radius: height / 2
     color: Colors.gaugeTrack
+    borderWidth: Colors.outlineWidth
+    borderColor: Colors.outline
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: spokenName

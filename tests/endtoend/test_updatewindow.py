@@ -8,6 +8,7 @@ import unittest.mock
 
 from harness.case import WithSettings, main
 from harness.packagekit import PackageKit
+from harness.portal import Desktop
 from harness.processes import eventually
 from harness.program import binary
 from harness.readwindow import BUTTON, ReadWindow
@@ -76,6 +77,19 @@ class TheUpdateWindow(WithSettings):
         self.updates.shows("Ferrin is up to date", buttons=["Close"])
         self.updates.click("Close", BUTTON)
         eventually(lambda: not self.updates.root(), "it has closed")
+
+    def test_it_is_in_the_desktops_accent_while_it_is_open(self):
+        desktop = Desktop(self.session, "light")
+        self.addCleanup(desktop.close)
+        self.check()
+        self.updates.shows("Ferrin is up to date", buttons=["Close"])
+        box = self.updates.find("Close", BUTTON).box
+        desktop.has_accent(0.1, 0.5, 0.2)
+
+        def is_green():
+            red, green, blue = self.session.picture().pixel(box.left + 5, box.centre[1])
+            return green > red and green > blue
+        eventually(is_green, "the button is green")
 
     def test_it_opens_over_the_settings(self):
         self.packagekit.tell("hold", "RefreshCache")

@@ -14,8 +14,8 @@
 
 namespace ferrin::test {
 
-/// What the QML singleton says of a name now; invalid for a name that it does not know.
-inline QVariant singletonValue(QQmlEngine &engine, const QByteArray &singleton, const char *name)
+/// The QML singleton itself.
+inline QObject *singletonOf(QQmlEngine &engine, const QByteArray &singleton)
 {
     QQmlComponent component(&engine);
     component.setData("import QtQml\nimport Ferrin.Quick\n"
@@ -25,7 +25,13 @@ inline QVariant singletonValue(QQmlEngine &engine, const QByteArray &singleton, 
     const std::unique_ptr<QObject> made(component.create());
     if (!made)
         qFatal("%s", qPrintable(component.errorString()));
-    return made->property("singleton").value<QObject *>()->property(name);
+    return made->property("singleton").value<QObject *>();
+}
+
+/// What the QML singleton says of a name now; invalid for a name that it does not know.
+inline QVariant singletonValue(QQmlEngine &engine, const QByteArray &singleton, const char *name)
+{
+    return singletonOf(engine, singleton)->property(name);
 }
 
 inline QColor namedColor(QQmlEngine &engine, const char *name)

@@ -3,14 +3,21 @@
 
 #include "menubar/contrast.h"
 #include "quick/quickengine.h"
+#include "tests/quick/accents.h"
 #include "tests/quick/named.h"
 #include "tests/support/chosenappearance.h"
 #include "tests/support/testmain.h"
 
 #include <QColor>
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QMetaProperty>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 using namespace ferrin;
 using namespace ferrin::test;
@@ -27,14 +34,18 @@ QColor over(const QColor &ground, const QColor &color, double opacity)
                             mixed(color.blueF(), ground.blueF()));
 }
 
+using Palette = QHash<QByteArray, QColor>;
+
 } // namespace
 
-/// Every pairing of both windows, in both appearances.
+/// Every pairing of both windows, in both appearances, usual and in high contrast, with many
+/// accents.
 class ColorsTest final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void measuresContrastAsAgreed();
     void textsReadOnTheirGrounds_data();
     void textsReadOnTheirGrounds();
@@ -49,12 +60,16 @@ private Q_SLOTS:
     void panelsStandOutFromTheirWindow_data();
     void panelsStandOutFromTheirWindow();
     void everyNameHasAColor();
+    void keepOurAccentWithoutAnother();
+    void keepAnAccentThatCanBeRead();
+    void keepTheHueOfAnAccentThatIsTooPale();
+    void outlineEverythingInHighContrastAlone();
     void followTheAppearance();
 
 private:
     [[nodiscard]] QColor named(const QByteArray &name)
     {
-        const QColor color = namedColor(m_engine, name.constData());
+        const auto color = m_colors->property(name.constData()).value<QColor>();
         if (!color.isValid())
             qWarning("There is no colour %s.", name.constData());
         return color;
@@ -63,19 +78,85 @@ private:
     void addPairs(const QList<std::pair<QByteArray, QByteArray>> &pairs)
     {
         QTest::addColumn<Appearance>("appearance");
+        QTest::addColumn<bool>("isHigh");
         QTest::addColumn<QByteArray>("top");
         QTest::addColumn<QByteArray>("ground");
         for (const auto &[top, ground] : pairs) {
-            QTest::addRow("light: %s on %s", top.constData(), ground.constData())
-                << Appearance::light << top << ground;
-            QTest::addRow("dark: %s on %s", top.constData(), ground.constData())
-                << Appearance::dark << top << ground;
+            const auto row = [&](const char *look, Appearance appearance, bool isHigh) {
+                QTest::addRow("%s: %s on %s", look, top.constData(), ground.constData())
+                    << appearance << isHigh << top << ground;
+            };
+            row("light", Appearance::light, false);
+            row("dark", Appearance::dark, false);
+            row("light, high contrast", Appearance::light, true);
+            row("dark, high contrast", Appearance::dark, true);
         }
+    }
+
+    /// Whether the row's colours have this contrast, and this one in high contrast, without an
+    /// accent and with each of many.
+    void verifyPair(double least, double leastInHigh)
+    {
+        QFETCH(bool, isHigh);
+        QFETCH(QByteArray, top);
+        QFETCH(QByteArray, ground);
+        verifyContrasts(isHigh ? leastInHigh : least, [&](const Palette &palette) {
+            return contrast(palette.value(top), palette.value(ground));
+        });
+    }
+
+    void verifyContrasts(double least, const std::function<double(const Palette &)> &measured)
+    {
+        QFETCH(Appearance, appearance);
+        QFETCH(bool, isHigh);
+        QFETCH(QByteArray, top);
+        QFETCH(QByteArray, ground);
+        for (const Palette &palette : palettes(appearance, isHigh)) {
+            QVERIFY2(palette.contains(top) && palette.contains(ground), "There is no such colour.");
+            const double ratio = measured(palette);
+            QVERIFY2(
+                ratio >= least,
+                qPrintable(
+                    QStringLiteral("%1 with %2").arg(ratio).arg(palette.value("accent").name())));
+        }
+    }
+
+    /// All of the named colours, with each of the accents.
+    const QList<Palette> &palettes(Appearance appearance, bool isHigh)
+    {
+        QList<Palette> &made = m_palettes[{ appearance == Appearance::dark, isHigh }];
+        if (!made.isEmpty())
+            return made;
+        m_appearance.setAppearance(appearance);
+        m_appearance.setHighContrast(isHigh);
+        for (const auto &accent : accents()) {
+            m_appearance.setAccent(accent);
+            made.append(palette());
+        }
+        return made;
+    }
+
+    [[nodiscard]] Palette palette() const
+    {
+        Palette all;
+        const QMetaObject &type = *m_colors->metaObject();
+        for (int i = 0; i < type.propertyCount(); ++i)
+            all.insert(type.property(i).name(), type.property(i).read(m_colors).value<QColor>());
+        return all;
     }
 
     ChosenAppearance m_appearance;
     QuickEngine m_engine;
+    QObject *const m_colors = singletonOf(m_engine, "Colors");
+    QMap<std::pair<bool, bool>, QList<Palette>> m_palettes;
 };
+
+void ColorsTest::init()
+{
+    m_appearance.setAppearance(Appearance::light);
+    m_appearance.setHighContrast(false);
+    m_appearance.setAccent(std::nullopt);
+}
 
 void ColorsTest::measuresContrastAsAgreed()
 {
@@ -114,12 +195,7 @@ void ColorsTest::textsReadOnTheirGrounds_data()
 
 void ColorsTest::textsReadOnTheirGrounds()
 {
-    QFETCH(Appearance, appearance);
-    QFETCH(QByteArray, top);
-    QFETCH(QByteArray, ground);
-    m_appearance.setAppearance(appearance);
-    const double ratio = contrast(named(top), named(ground));
-    QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
+    verifyPair(4.5, 7);
 }
 
 void ColorsTest::symbolsStandOutFromTheirGrounds_data()
@@ -148,7 +224,7 @@ void ColorsTest::symbolsStandOutFromTheirGrounds_data()
                { "switchOff", "settingsRectangle" },
                { "switchOff", "settingsBackground" },
                { "switchKnob", "switchOff" },
-               { "switchKnob", "accent" },
+               { "accentText", "accent" },
                { "tileSymbol", "systemGreen" },
                { "settingsPopoverIcon", "settingsIconOptions" },
                { "settingsPopoverIcon", "settingsPopBckg1" },
@@ -161,12 +237,7 @@ void ColorsTest::symbolsStandOutFromTheirGrounds_data()
 
 void ColorsTest::symbolsStandOutFromTheirGrounds()
 {
-    QFETCH(Appearance, appearance);
-    QFETCH(QByteArray, top);
-    QFETCH(QByteArray, ground);
-    m_appearance.setAppearance(appearance);
-    const double ratio = contrast(named(top), named(ground));
-    QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
+    verifyPair(3, 4.5);
 }
 
 void ColorsTest::menuSymbolsStandOutAlthoughTheyAreFaint_data()
@@ -176,12 +247,12 @@ void ColorsTest::menuSymbolsStandOutAlthoughTheyAreFaint_data()
 
 void ColorsTest::menuSymbolsStandOutAlthoughTheyAreFaint()
 {
-    QFETCH(Appearance, appearance);
     QFETCH(QByteArray, top);
     QFETCH(QByteArray, ground);
-    m_appearance.setAppearance(appearance);
-    const double ratio = contrast(over(named(ground), named(top), 0.7), named(ground));
-    QVERIFY2(ratio >= 3, qPrintable(QString::number(ratio)));
+    verifyContrasts(3, [&](const Palette &palette) {
+        const QColor below = palette.value(ground);
+        return contrast(over(below, palette.value(top), 0.7), below);
+    });
 }
 
 void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
@@ -197,15 +268,17 @@ void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
 
 void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint()
 {
-    QFETCH(Appearance, appearance);
+    QFETCH(bool, isHigh);
     QFETCH(QByteArray, top);
     QFETCH(QByteArray, ground);
-    m_appearance.setAppearance(appearance);
-    const QColor tile = named(top);
-    const QColor faint = over(named(ground), tile, 0.7);
-    QVERIFY2(contrast(named("tileSymbol"), faint) >= 3, qPrintable(faint.name()));
-    // As bright as the selected one's.
-    QVERIFY2(contrast(named("tileSymbol"), tile.lighter(112)) >= 3, qPrintable(tile.name()));
+    verifyContrasts(isHigh ? 4.5 : 3, [&](const Palette &palette) {
+        const QColor tile = palette.value(top);
+        const QColor faint = isHigh ? tile : over(palette.value(ground), tile, 0.7);
+        // The selected one's is brighter.
+        const QColor bright = isHigh ? tile : tile.lighter(112);
+        const QColor symbol = palette.value("tileSymbol");
+        return std::min(contrast(symbol, faint), contrast(symbol, bright));
+    });
 }
 
 void ColorsTest::gaugesStandOutFromTheirTracks_data()
@@ -217,29 +290,20 @@ void ColorsTest::gaugesStandOutFromTheirTracks_data()
 
 void ColorsTest::gaugesStandOutFromTheirTracks()
 {
-    QFETCH(Appearance, appearance);
-    QFETCH(QByteArray, top);
-    QFETCH(QByteArray, ground);
-    m_appearance.setAppearance(appearance);
-    const double ratio = contrast(named(top), named(ground));
-    QVERIFY2(ratio >= 2, qPrintable(QString::number(ratio)));
+    verifyPair(2, 2);
 }
 
 void ColorsTest::panelsStandOutFromTheirWindow_data()
 {
     addPairs({ { "greyIcon", "cardColor" },
                { "greyIcon", "dashboardColor" },
-               { "settingsRectBorder", "settingsBackground" } });
+               { "settingsRectBorder", "settingsBackground" },
+               { "settingsPopBorder", "settingsPopBckg1" } });
 }
 
 void ColorsTest::panelsStandOutFromTheirWindow()
 {
-    QFETCH(Appearance, appearance);
-    QFETCH(QByteArray, top);
-    QFETCH(QByteArray, ground);
-    m_appearance.setAppearance(appearance);
-    const double ratio = contrast(named(top), named(ground));
-    QVERIFY2(ratio >= 1.25, qPrintable(QString::number(ratio)));
+    verifyPair(1.25, 4.5);
 }
 
 void ColorsTest::everyNameHasAColor()
@@ -271,6 +335,43 @@ void ColorsTest::everyNameHasAColor()
         const QColor color = named(name);
         QVERIFY2(color.isValid() && color.alpha() == 255, name);
     }
+}
+
+void ColorsTest::keepOurAccentWithoutAnother()
+{
+    QCOMPARE(named("accent"), QColor(0x1b63c6));
+    QCOMPARE(named("menuSelected"), QColor(0xd3e2f7));
+    m_appearance.setAppearance(Appearance::dark);
+    QCOMPARE(named("accent"), QColor(0x2d75d6));
+    QCOMPARE(named("menuSelected"), QColor(0x3d4a5c));
+}
+
+void ColorsTest::keepAnAccentThatCanBeRead()
+{
+    m_appearance.setAccent(AccentColor { 0x91 / 255.0, 0x41 / 255.0, 0xac / 255.0 });
+    QCOMPARE(named("accent").rgb(), QColor(0x91, 0x41, 0xac).rgb());
+    QCOMPARE(named("accentText"), QColor(Qt::white));
+}
+
+void ColorsTest::keepTheHueOfAnAccentThatIsTooPale()
+{
+    const QColor pale(0xff, 0xc0, 0x40);
+    m_appearance.setAccent(AccentColor { pale.redF(), pale.greenF(), pale.blueF() });
+    QVERIFY(std::abs(named("accent").hslHue() - pale.hslHue()) <= 2);
+    QVERIFY(named("accent").lightness() < pale.lightness());
+    QVERIFY(std::abs(named("menuSelected").hslHue() - pale.hslHue()) <= 4);
+
+    // On a dark window it is as good as it is, with dark text.
+    m_appearance.setAppearance(Appearance::dark);
+    QCOMPARE(named("accent").rgb(), pale.rgb());
+    QCOMPARE(named("accentText"), QColor(Qt::black));
+}
+
+void ColorsTest::outlineEverythingInHighContrastAlone()
+{
+    QCOMPARE(m_colors->property("outlineWidth").toInt(), 0);
+    m_appearance.setHighContrast(true);
+    QCOMPARE(m_colors->property("outlineWidth").toInt(), 1);
 }
 
 void ColorsTest::followTheAppearance()

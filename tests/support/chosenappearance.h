@@ -21,6 +21,8 @@ public:
     void setFontFamily(const QString &family) { m_fontFamily = family; }
     void setTextScale(double scale) { m_textScale = scale; }
     void setReducesMotion(bool reduces) { m_reducesMotion = reduces; }
+    void setAccent(const std::optional<AccentColor> &accent) { m_accent = accent; }
+    void setHighContrast(bool isHigh) { m_isHighContrast = isHigh; }
 
     /// The last value that was set; absent follows the desktop.
     std::optional<Appearance> forced;

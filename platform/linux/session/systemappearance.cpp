@@ -32,9 +32,14 @@ QString textOf(const QVariant &value)
     return value.typeId() == QMetaType::QString ? value.toString() : QString();
 }
 
+std::optional<bool> truthOf(const QVariant &value)
+{
+    return value.typeId() == QMetaType::Bool ? std::optional(value.toBool()) : std::nullopt;
+}
+
 bool animates(const QVariant &gnomeSetting)
 {
-    return gnomeSetting.typeId() != QMetaType::Bool || gnomeSetting.toBool();
+    return truthOf(gnomeSetting).value_or(true);
 }
 
 /// KDE multiplies the length of every animation by a number that it writes as text.
@@ -80,11 +85,28 @@ QString toolkitsFont()
 const QList<SystemAppearance::Setting> &SystemAppearance::settings()
 {
     using Self = SystemAppearance;
+    static const QString portal = u"org.freedesktop.appearance"_s;
     static const QString gnome = u"org.gnome.desktop.interface"_s;
     static const QList<Setting> all {
-        { u"org.freedesktop.appearance"_s, u"color-scheme"_s,
+        { portal, u"color-scheme"_s,
           [](Self &self, const QVariant &value) {
               self.m_desktopPrefersDark = prefersDark(value);
+          } },
+        { portal, u"accent-color"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_colors.portalAccent = accentOfPortal(value);
+          } },
+        { portal, u"contrast"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_colors.portalHighContrast = highContrastOfPortal(value);
+          } },
+        { gnome, u"accent-color"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_colors.gnomeAccent = accentOfGnome(textOf(value));
+          } },
+        { u"org.gnome.desktop.a11y.interface"_s, u"high-contrast"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_colors.gnomeHighContrast = truthOf(value);
           } },
         { gnome, u"font-name"_s,
           [](Self &self, const QVariant &value) {
@@ -100,6 +122,14 @@ const QList<SystemAppearance::Setting> &SystemAppearance::settings()
           [](Self &self, const QVariant &value) {
               self.m_kdeFont = familyOfQtName(textOf(value));
               self.m_text.kdePoints = pointSizeOfQtName(textOf(value));
+          } },
+        { u"org.kde.kdeglobals.General"_s, u"AccentColor"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_colors.kdeAccent = accentOfKde(textOf(value));
+          } },
+        { u"org.kde.kdeglobals.Colors:Selection"_s, u"BackgroundNormal"_s,
+          [](Self &self, const QVariant &value) {
+              self.m_colors.kdeSelection = accentOfKde(textOf(value));
           } },
         { u"org.kde.kdeglobals.KDE"_s, u"AnimationDurationFactor"_s,
           [](Self &self, const QVariant &value) { self.m_kdeAnimates = animatesByFactor(value); } },
@@ -153,6 +183,8 @@ void SystemAppearance::update()
     m_fontFamily = desktopsFont.isEmpty() ? toolkitsFont() : desktopsFont;
     m_textScale = textScaleOf(m_text, enlargement());
     m_reducesMotion = !m_gnomeAnimates || !m_kdeAnimates;
+    m_accent = m_colors.accent();
+    m_isHighContrast = m_colors.isHighContrast();
 }
 
 } // namespace ferrin

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/linux/session/desktopcolors.h"
 #include "platform/linux/session/settingsportal.h"
 #include "platform/linux/session/textscale.h"
 #include "state/applicationappearance.h"
@@ -17,10 +18,10 @@
 namespace ferrin {
 
 /// How the application looks on this desktop: dark or light, forced or as the desktop prefers, in
-/// which font and size, and whether anything moves. The desktop is asked through its settings
-/// portal, without waiting; until it answers, and where there is none, the toolkit's palette and
-/// font decide. Every value may change at any time. Owned by the application; it repaints nothing
-/// itself.
+/// which font, size and accent, how strong its contrasts are, and whether anything moves. The
+/// desktop is asked through its settings portal, without waiting; until it answers, and where there
+/// is none, the toolkit's palette and font decide. Every value may change at any time. Owned by the
+/// application; it repaints nothing itself.
 class SystemAppearance : public QObject, public ApplicationAppearance
 {
     Q_OBJECT
@@ -61,6 +62,7 @@ private:
     QString m_gnomeFont;
     QString m_kdeFont;
     TextSettings m_text;
+    DesktopColors m_colors;
     bool m_gnomeAnimates = true;
     bool m_kdeAnimates = true;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemAppearance, bool, m_isDesktopDark, false)

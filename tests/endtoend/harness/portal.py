@@ -36,6 +36,14 @@ class Desktop(ServiceProcess):
     def prefers(self, scheme):
         self.sets(APPEARANCE, "color-scheme", f"uint32 {SCHEMES[scheme]}")
 
+    def has_accent(self, red, green, blue):
+        """Each 0 to 1."""
+        parts = ", ".join(str(float(part)) for part in (red, green, blue))
+        self.sets(APPEARANCE, "accent-color", f"({parts})")
+
+    def wants_high_contrast(self, wants):
+        self.sets(APPEARANCE, "contrast", f"uint32 {int(wants)}")
+
     def enlarges_texts(self, factor):
         """As GNOME does."""
         self.sets("org.gnome.desktop.interface", "text-scaling-factor", f"double {factor}")

@@ -27,7 +27,7 @@ const QString gnomeGroup = u"org.gnome.desktop.interface"_s;
 const QString kdeGroup = u"org.kde.kdeglobals.General"_s;
 
 /// How many settings the portal is asked for.
-constexpr int settings = 6;
+constexpr int settings = 12;
 
 struct Fixture
 {
@@ -279,7 +279,7 @@ private Q_SLOTS:
         f.startPortal();
         f.start();
         QTRY_COMPARE(f.portal->reads, settings);
-        f.portal->change(u"org.freedesktop.appearance"_s, u"accent-color"_s, 1U);
+        f.portal->change(schemeGroup, u"a-key-to-come"_s, 1U);
         f.portal->change(u"org.example"_s, schemeKey, 1U);
         f.portal->change(gnomeGroup, u"font-name"_s, u"Marker 9"_s);
         QTRY_COMPARE(f.appearance->fontFamily(), u"Marker"_s);
