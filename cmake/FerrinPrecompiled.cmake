@@ -33,8 +33,9 @@ ferrin_precompile_floor(quick LIBRARIES Qt6::Quick HEADERS ${std} ${core} ${gui}
 if(BUILD_TESTING)
     # Qt would define the place of each test, and no two targets could share a header that asks for it.
     add_library(ferrin_test_options INTERFACE)
+    # Executables would have -fPIE where Qt does not ask for -fPIC, as on ARM: the headers are of one kind.
     target_compile_options(ferrin_test_options INTERFACE
-        -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR)
+        -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR -fPIC)
     target_link_libraries(ferrin_test_options INTERFACE ferrin_options Qt6::Test Qt6::DBus)
     ferrin_precompile_floor(test LIBRARIES ferrin_test_options HEADERS ${std} ${core} ${test})
     ferrin_precompile_floor(guitest LIBRARIES ferrin_test_options Qt6::Gui
