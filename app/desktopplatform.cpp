@@ -5,13 +5,31 @@
 
 #include "menubar/statusitem.h"
 #include "platform/linux/popovers/desktoppopovers.h"
+#include "platform/linux/sandbox/sandbox.h"
+#include "platform/linux/session/autostartentry.h"
 #include "platform/linux/session/desktopnames.h"
+#include "platform/linux/session/portalloginitem.h"
 #include "state/shareddefaults.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace ferrin {
+
+namespace {
+
+std::unique_ptr<LoginItem> makeLoginItem(const QDBusConnection &sessionBus,
+                                         const QString &identifier)
+{
+    const QString program = QCoreApplication::applicationFilePath();
+    if (isInSandbox())
+        return std::make_unique<PortalLoginItem>(sessionBus, sharedDefaults(),
+                                                 QFileInfo(program).fileName());
+    return std::make_unique<AutostartEntry>(identifier, program);
+}
+
+} // namespace
 
 DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus, const QString &identifier)
     : m_appearance(sessionBus)
@@ -20,7 +38,7 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &sessionBus, const QStrin
     , m_popovers(makePopoverDesktop())
     , m_links(m_programs, currentDesktopNames(),
               QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
-    , m_loginItem(identifier, QCoreApplication::applicationFilePath())
+    , m_loginItem(makeLoginItem(sessionBus, identifier))
 {
     m_statusArea.setStore(sharedDefaults());
     connect(&m_appearance, &SystemAppearance::changed, this, &DesktopPlatform::followAppearance);

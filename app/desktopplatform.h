@@ -5,11 +5,11 @@
 
 #include "app/installation.h"
 #include "app/windows.h"
-#include "platform/linux/session/autostartentry.h"
 #include "platform/linux/session/desktoplinkopener.h"
 #include "platform/linux/session/programstarter.h"
 #include "platform/linux/session/systemappearance.h"
 #include "platform/linux/statusarea/statusareachooser.h"
+#include "state/loginitem.h"
 
 #include <QObject>
 
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] PressWatcher &presses() noexcept { return *m_presses; }
     [[nodiscard]] WindowsPlatform windows() noexcept
     {
-        return { *m_popovers, m_statusArea, m_loginItem, m_links, vendor() };
+        return { *m_popovers, m_statusArea, *m_loginItem, m_links, vendor() };
     }
 
     /// What the item's widths are measured with.
@@ -62,7 +62,7 @@ private:
     std::unique_ptr<PopoverDesktop> m_popovers;
     DetachedProgramStarter m_programs;
     DesktopLinkOpener m_links;
-    AutostartEntry m_loginItem;
+    std::unique_ptr<LoginItem> m_loginItem;
 };
 
 } // namespace ferrin

@@ -70,7 +70,8 @@ int runApplication(const Bundle &bundle, const QString &path)
     const QDBusConnection session = QDBusConnection::sessionBus();
     SingleInstance instance(session, bundle.identifier());
     if (!instance.acquire()) {
-        instance.activateOther();
+        if (!QCoreApplication::arguments().contains(backgroundOption))
+            instance.activateOther();
         return EXIT_SUCCESS;
     }
     const Termination termination(session);

@@ -4,6 +4,7 @@
 #include "app/updateplatform.h"
 
 #include "core/batterydataprovider.h"
+#include "platform/linux/sandbox/sandbox.h"
 #include "state/shareddefaults.h"
 
 #include <QFileInfo>
@@ -22,7 +23,9 @@ BatteryReserve batteryReserve()
 
 UpdatePlatform::UpdatePlatform(const QDBusConnection &systemBus, const QDBusConnection &sessionBus,
                                const QString &program)
-    : m_engine({ .bus = systemBus, .program = QFileInfo(program).canonicalFilePath() })
+    : m_engine({ .bus = systemBus,
+                 .program = QFileInfo(program).canonicalFilePath(),
+                 .isSandboxed = isInSandbox() })
     , m_network(systemBus)
     , m_notice(sessionBus)
 {

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace ferrin {
@@ -20,17 +21,20 @@ enum class LoginItemStatus {
 };
 
 /// The entry by which the session starts the application when the user logs in. The platform
-/// implements it. Nothing is cached: each call reads or changes the session's entry.
+/// implements it.
 class LoginItem
 {
 public:
+    /// Told once how a change ended: the error message, absent on success. It may be told at once,
+    /// or later, after the desktop has asked the user.
+    using Done = std::function<void(const std::optional<QString> &error)>;
+
     virtual ~LoginItem() = default;
 
     [[nodiscard]] virtual LoginItemStatus status() const = 0;
 
-    /// Both return the error message; absent on success.
-    [[nodiscard]] virtual std::optional<QString> registerItem() = 0;
-    [[nodiscard]] virtual std::optional<QString> unregisterItem() = 0;
+    virtual void registerItem(Done done) = 0;
+    virtual void unregisterItem(Done done) = 0;
 };
 
 } // namespace ferrin

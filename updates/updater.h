@@ -76,7 +76,10 @@ public:
     [[nodiscard]] const QTimer &timer() const noexcept { return m_timer; }
 
 private:
-    [[nodiscard]] bool isPackaged() const { return support() != UpdateSupport::notPackaged; }
+    [[nodiscard]] bool isPackaged() const
+    {
+        return support() == UpdateSupport::full || support() == UpdateSupport::noService;
+    }
     [[nodiscard]] bool mayLook() const;
     void beginQuietCheck();
     void waitForNextLook();

@@ -7,6 +7,7 @@
 #include "state/loginitem.h"
 
 #include <QLoggingCategory>
+#include <QPointer>
 
 namespace ferrin {
 
@@ -43,14 +44,28 @@ bool LaunchAtLogin::isEnabled() const
 void LaunchAtLogin::setIsEnabled(bool enabled)
 {
     Q_EMIT m_observable.willChange();
-    // An item that the session already lists is refreshed only by registering it again.
-    if (enabled && isEnabled())
-        static_cast<void>(m_item.unregisterItem());
-    if (const auto error = enabled ? m_item.registerItem() : m_item.unregisterItem()) {
-        qCCritical(launchAtLoginLogger, "Failed to %s launch at login: %s",
-                   enabled ? "enable" : "disable", qUtf8Printable(*error));
+    if (!enabled || !isEnabled()) {
+        change(enabled);
+        return;
     }
-    Q_EMIT isEnabledChanged();
+    // An item that the session already lists is refreshed only by registering it again.
+    m_item.unregisterItem([self = QPointer(this)](const std::optional<QString> &) {
+        if (self)
+            self->change(true);
+    });
+}
+
+void LaunchAtLogin::change(bool enabled)
+{
+    const auto done = [self = QPointer(this), enabled](const std::optional<QString> &error) {
+        if (error) {
+            qCCritical(launchAtLoginLogger, "Failed to %s launch at login: %s",
+                       enabled ? "enable" : "disable", qUtf8Printable(*error));
+        }
+        if (self)
+            Q_EMIT self->isEnabledChanged();
+    };
+    enabled ? m_item.registerItem(done) : m_item.unregisterItem(done);
 }
 
 void LaunchAtLogin::readAgain()

@@ -30,8 +30,9 @@ Q_SIGNALS:
 };
 
 /// Whether the application starts when the user logs in. Nothing is stored here: each read asks the
-/// session's login item, so the value cannot go stale. A change that fails is logged and not shown;
-/// reading again gives the actual state. A child of the QML engine.
+/// session's login item, so the value cannot go stale. A change may take effect later, when the
+/// desktop has asked the user. One that fails is logged and not shown; reading again gives the
+/// actual state. A child of the QML engine.
 class LaunchAtLogin final : public QObject
 {
     Q_OBJECT
@@ -61,6 +62,8 @@ Q_SIGNALS:
     void isEnabledChanged();
 
 private:
+    void change(bool enabled);
+
     LoginItem &m_item;
     Observable &m_observable;
 };

@@ -78,6 +78,8 @@ QString SoftwareUpdates::note() const
     case UpdateSupport::notPackaged:
         return u"This copy of Ferrin was not installed as a package. It stays current when you "
                "build or install a newer one."_s;
+    case UpdateSupport::sandboxed:
+        return u"This copy of Ferrin is a Flatpak. Flatpak, or your software centre, keeps it current."_s;
     case UpdateSupport::noService:
         return u"PackageKit is not installed, so Ferrin cannot ask for updates. The system's "
                "package manager keeps it current."_s;

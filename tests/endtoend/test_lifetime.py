@@ -10,6 +10,7 @@ from harness import desktop, processes
 from harness.case import AT_START, OnADesktop, main
 from harness.item import SignalCount
 from harness.processes import a_moment, eventually
+from harness.program import binary
 
 WATCHER = os.path.join(os.path.dirname(processes.__file__), "watcher.py")
 
@@ -23,6 +24,15 @@ class OneInstance(OnADesktop):
         self.assertTrue(first.is_running())
         self.assertTrue(first.owns_its_name())
         first.says(AT_START)
+
+    def test_a_second_start_at_login_shows_nothing(self):
+        first = self.start()
+        first.says(AT_START)
+        second = self.start([binary(), "--background"])
+        self.assertEqual(second.exit_code(), 0)
+        a_moment()
+        self.assertEqual(self.session.windows_of(first.pid), [])
+        self.assertTrue(first.owns_its_name())
 
     def test_the_next_start_after_the_end_is_the_first_again(self):
         first = self.start()

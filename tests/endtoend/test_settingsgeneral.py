@@ -36,7 +36,7 @@ class LaunchAtLogin(WithSettings):
     def starts_at_login(self):
         """Logs in anew, and meets the item in the panel."""
         command = login.command_at_login(self.session)
-        self.assertEqual(command, [os.path.realpath(binary())])
+        self.assertEqual(command, [os.path.realpath(binary()), "--background"])
         self.assertEqual(self.dashboard.program.terminate(), 0)
         self.session.point((5, 590))
         eventually(lambda: not self.session.windows_of(self.dashboard.program.pid),

@@ -63,7 +63,7 @@ class TheInstallTree(unittest.TestCase):
         unit = [each for each in self.files if each.endswith("/systemd/user/ferrin.service")]
         self.assertEqual(len(unit), 1)
         text = read("packaging", "systemd", "ferrin.service")
-        self.assertIn("\nExecStart=ferrin\n", text)
+        self.assertIn("\nExecStart=ferrin --background\n", text)
         with tempfile.TemporaryDirectory() as folder:
             path = os.path.join(folder, "ferrin.service")
             with open(path, "w", encoding="utf-8") as file:

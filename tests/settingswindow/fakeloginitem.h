@@ -16,20 +16,20 @@ class FakeLoginItem final : public LoginItem
 public:
     [[nodiscard]] LoginItemStatus status() const override { return current; }
 
-    [[nodiscard]] std::optional<QString> registerItem() override
+    void registerItem(Done done) override
     {
         calls.append(QStringLiteral("register"));
         if (!registerError)
             current = LoginItemStatus::enabled;
-        return registerError;
+        done(registerError);
     }
 
-    [[nodiscard]] std::optional<QString> unregisterItem() override
+    void unregisterItem(Done done) override
     {
         calls.append(QStringLiteral("unregister"));
         if (!unregisterError)
             current = LoginItemStatus::notRegistered;
-        return unregisterError;
+        done(unregisterError);
     }
 
     LoginItemStatus current = LoginItemStatus::notRegistered;

@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <utility>
+
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
@@ -21,6 +23,23 @@ struct Fixture
     FakeLoginItem item;
     LaunchAtLogin::Observable observable;
     LaunchAtLogin launchAtLogin { item, observable };
+};
+
+/// A login item of a desktop that takes its time: the test says when a change is done.
+struct SlowLoginItem final : LoginItem
+{
+    [[nodiscard]] LoginItemStatus status() const override { return current; }
+    void registerItem(Done done) override { pending = std::move(done); }
+    void unregisterItem(Done done) override { pending = std::move(done); }
+
+    void settle(LoginItemStatus status, const std::optional<QString> &error = std::nullopt)
+    {
+        current = status;
+        std::exchange(pending, nullptr)(error);
+    }
+
+    LoginItemStatus current = LoginItemStatus::notRegistered;
+    Done pending;
 };
 
 QByteArray lastCategory;
@@ -165,6 +184,45 @@ private Q_SLOTS:
         QCOMPARE(willChange.size(), 1);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(log.take().size(), 1);
+    }
+
+    void tellsOfAChangeWhenTheDesktopHasMadeIt()
+    {
+        SlowLoginItem item;
+        LaunchAtLogin launchAtLogin(item);
+        QSignalSpy changed(&launchAtLogin, &LaunchAtLogin::isEnabledChanged);
+        launchAtLogin.setIsEnabled(true);
+        QVERIFY(changed.isEmpty());
+        item.settle(LoginItemStatus::enabled);
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(launchAtLogin.isEnabled());
+    }
+
+    void registersAnewWhenTheOldItemHasGone()
+    {
+        SlowLoginItem item;
+        item.current = LoginItemStatus::enabled;
+        LaunchAtLogin launchAtLogin(item);
+        QSignalSpy changed(&launchAtLogin, &LaunchAtLogin::isEnabledChanged);
+        launchAtLogin.setIsEnabled(true);
+        item.settle(LoginItemStatus::notRegistered);
+        QVERIFY(item.pending);
+        item.settle(LoginItemStatus::enabled);
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(launchAtLogin.isEnabled());
+    }
+
+    void logsARefusalThatComesWhenTheWindowHasGone()
+    {
+        LogCapture log;
+        SlowLoginItem item;
+        {
+            LaunchAtLogin launchAtLogin(item);
+            launchAtLogin.setIsEnabled(true);
+        }
+        item.settle(LoginItemStatus::notRegistered, u"refused"_s);
+        QCOMPARE(log.take(),
+                 QStringList({ u"error: Failed to enable launch at login: refused"_s }));
     }
 
     void announcesToTheProcessUnlessToldOtherwise()

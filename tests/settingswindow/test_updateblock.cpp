@@ -159,6 +159,9 @@ private Q_SLOTS:
             << UpdateSupport::notPackaged
             << u"This copy of Ferrin was not installed as a package. It stays current when you "
                "build or install a newer one."_s;
+        QTest::newRow("a Flatpak")
+            << UpdateSupport::sandboxed
+            << u"This copy of Ferrin is a Flatpak. Flatpak, or your software centre, keeps it current."_s;
         QTest::newRow("no service")
             << UpdateSupport::noService
             << u"PackageKit is not installed, so Ferrin cannot ask for updates. The system's "

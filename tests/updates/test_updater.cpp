@@ -37,7 +37,6 @@ struct Bench
                  .now = [this] { return now; } };
     }
 
-    /// The launch that begins now.
     [[nodiscard]] Updater &launch()
     {
         updater.emplace(parts());
@@ -85,6 +84,7 @@ private Q_SLOTS:
     void survivesAnAnswerOfTheNetworkThatComesTooLate();
     void cannotCheckWhileACheckIsRunning();
     void canCheckAgainWhateverTheCheckFound();
+    void doesNothingAtAllForACopyThatNoPackageInstalled_data();
     void doesNothingAtAllForACopyThatNoPackageInstalled();
     void restsWhileTheSystemHasNoPackageService();
     void looksNoMoreOnceItIsKnownThatNoPackageOwnsTheProgram();
@@ -300,11 +300,18 @@ void UpdaterTest::canCheckAgainWhateverTheCheckFound()
     m_bench->log.ignoreRest();
 }
 
+void UpdaterTest::doesNothingAtAllForACopyThatNoPackageInstalled_data()
+{
+    QTest::addColumn<UpdateSupport>("support");
+    for (const auto support : { UpdateSupport::notPackaged, UpdateSupport::sandboxed })
+        QTest::addRow("%d", int(support)) << support;
+}
+
 void UpdaterTest::doesNothingAtAllForACopyThatNoPackageInstalled()
 {
-    m_bench->engine.setSupport(UpdateSupport::notPackaged);
+    QFETCH(UpdateSupport, support);
+    m_bench->engine.setSupport(support);
     Updater &updater = m_bench->launch();
-    QCOMPARE(updater.support(), UpdateSupport::notPackaged);
     QVERIFY(!updater.canCheckForUpdates());
     QVERIFY(!updater.automaticallyChecksForUpdates());
     updater.setAutomaticallyChecksForUpdates(true);

@@ -23,10 +23,20 @@ bool isInPackageFolder(const QString &program)
     return program.startsWith("/usr/"_L1) && !program.startsWith("/usr/local/"_L1);
 }
 
+namespace {
+
+UpdateSupport supportAtFirst(const PackageSystem &system)
+{
+    if (system.isSandboxed)
+        return UpdateSupport::sandboxed;
+    return isInPackageFolder(system.program) ? UpdateSupport::full : UpdateSupport::notPackaged;
+}
+
+} // namespace
+
 PackageKitEngine::PackageKitEngine(PackageSystem system)
     : m_system(std::move(system))
-    , m_support(isInPackageFolder(m_system.program) ? UpdateSupport::full
-                                                    : UpdateSupport::notPackaged)
+    , m_support(supportAtFirst(m_system))
 {
 }
 
@@ -37,7 +47,7 @@ PackageKitEngine::~PackageKitEngine()
 
 void PackageKitEngine::refreshSupport()
 {
-    if (m_support == UpdateSupport::notPackaged)
+    if (m_support == UpdateSupport::notPackaged || m_support == UpdateSupport::sandboxed)
         return;
     const QDBusMessage message
         = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,

@@ -23,6 +23,8 @@ struct PackageSystem
     QDBusConnection bus;
     /// The file that a package may own, absolute.
     QString program;
+    /// Whether the program runs in a sandbox, from which no package can be reached.
+    bool isSandboxed = false;
     CommandReader read = &readCommand;
     std::chrono::milliseconds timeout = Transaction::usualTimeout;
 };

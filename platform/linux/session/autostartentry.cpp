@@ -4,6 +4,7 @@
 #include "platform/linux/session/autostartentry.h"
 
 #include "platform/linux/session/desktopnames.h"
+#include "platform/linux/session/singleinstance.h"
 #include "state/filereplacement.h"
 
 #include <QDir>
@@ -110,7 +111,7 @@ bool AutostartEntry::isForAnotherDesktop(const DesktopEntry &entry) const
     return entry.value(onlyShowIn) && !containsAny(entry.list(onlyShowIn), m_session.desktops);
 }
 
-std::optional<QString> AutostartEntry::registerItem()
+std::optional<QString> AutostartEntry::putEntry()
 {
     auto entry = QFileInfo::exists(usersFile()) ? usersEntry() : m_removed;
     if (!entry || !isOurs(*entry))
@@ -120,7 +121,7 @@ std::optional<QString> AutostartEntry::registerItem()
         entry->setValue(u"Name"_s, u"Ferrin"_s);
     if (!entry->value(u"Icon"_s))
         entry->setValue(u"Icon"_s, m_identifier);
-    entry->setValue(exec, execOfProgram(m_program));
+    entry->setValue(exec, execOfProgram(m_program) + u' ' + backgroundOption);
     entry->setValue(tryExec, m_program);
     entry->remove(hidden);
     for (const QString &key : desktopsSwitches)
@@ -132,7 +133,7 @@ std::optional<QString> AutostartEntry::registerItem()
     return write(*entry);
 }
 
-std::optional<QString> AutostartEntry::unregisterItem()
+std::optional<QString> AutostartEntry::takeEntryAway()
 {
     auto entry = usersEntry();
     const auto systems = systemsEntry();

@@ -24,9 +24,10 @@ struct AutostartSession
     QStringList desktops;
 };
 
-/// The login item as an XDG autostart entry. The user's file alone is written, at once and whole;
-/// an entry of the system is overridden by it. An entry of this name that starts another program
-/// is not ours: it counts as not registered and is replaced only by a registration.
+/// The login item as an XDG autostart entry, which each call reads or changes at once. The user's
+/// file alone is written, at once and whole; an entry of the system is overridden by it. An entry
+/// of this name that starts another program is not ours: it counts as not registered and is
+/// replaced only by a registration.
 class AutostartEntry final : public LoginItem
 {
 public:
@@ -36,10 +37,13 @@ public:
                    AutostartSession session = AutostartSession::current());
 
     [[nodiscard]] LoginItemStatus status() const override;
-    [[nodiscard]] std::optional<QString> registerItem() override;
-    [[nodiscard]] std::optional<QString> unregisterItem() override;
+    void registerItem(Done done) override { done(putEntry()); }
+    void unregisterItem(Done done) override { done(takeEntryAway()); }
 
 private:
+    /// Both return the error message; absent on success.
+    [[nodiscard]] std::optional<QString> putEntry();
+    [[nodiscard]] std::optional<QString> takeEntryAway();
     [[nodiscard]] QString usersFile() const;
     [[nodiscard]] std::optional<DesktopEntry> usersEntry() const;
     /// The first of the system's; absent when there is none.

@@ -4,12 +4,17 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QLatin1StringView>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
 #include <QVariantMap>
 
 namespace ferrin {
+
+/// The option of a start that shows nothing if the program runs already, as at login: there may be
+/// an autostart entry and a user unit.
+constexpr QLatin1StringView backgroundOption("--background");
 
 /// Whether this is the session's only run of the program, known by a name on the session bus, and
 /// how second starts and the actions of the desktop entry reach that run. The name is held as long

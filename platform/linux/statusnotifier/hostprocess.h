@@ -21,4 +21,8 @@ struct HostProcess
 
 [[nodiscard]] HostProcess hostProcessFromKernel(uint processId);
 
+/// The host that comes with the first of these desktops that has one, for want of better knowledge:
+/// its name alone, as the kernel would cut it.
+[[nodiscard]] HostProcess usualHostOf(const QStringList &desktops);
+
 } // namespace ferrin

@@ -17,7 +17,8 @@ namespace ferrin {
 
 /// Knows what kind of host stands behind a caller's unique bus name: the bus tells the process, the
 /// kernel its name and arguments. Asks once for each caller, without blocking; a caller of which
-/// nothing can be learnt gets the profile of unknown hosts.
+/// nothing can be learnt gets the profile of unknown hosts. In a sandbox, whose bus tells nothing
+/// of others, every caller is taken for the desktop's own host.
 class HostResolver : public QObject
 {
     Q_OBJECT

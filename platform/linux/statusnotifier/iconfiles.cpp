@@ -6,9 +6,9 @@
 #include "base/logging.h"
 #include "menubar/iconview.h"
 #include "menubar/symbolicicon.h"
+#include "platform/linux/sandbox/sandbox.h"
 
 #include <QFile>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <cmath>
@@ -72,7 +72,7 @@ QString IconFiles::folder() const
 
 void IconFiles::write()
 {
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString runtime = sharedRuntimeFolder();
     m_folder = std::make_unique<QTemporaryDir>(runtime + u"/ferrin-icons-XXXXXX"_s);
     const auto writeFile = [this](const QString &name, const QByteArray &svg) {
         QFile file(m_folder->filePath(name + u".svg"_s));

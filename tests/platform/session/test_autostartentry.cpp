@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/session/autostartentry.h"
+#include "tests/platform/session/loginchange.h"
 #include "tests/platform/session/session.h"
 #include "tests/support/testmain.h"
 
@@ -152,7 +153,7 @@ private Q_SLOTS:
         const Fixture f;
         writeFile(f.usersFile, f.ours(more));
         AutostartEntry entry = f.entry();
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
         QVERIFY(Session::logIn(f.usersFile));
         QVERIFY(QFile::exists(f.folder.filePath(u"bin/started"_s)));
@@ -181,12 +182,12 @@ private Q_SLOTS:
     {
         const Fixture f;
         AutostartEntry entry = f.entry();
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
         const QByteArray path = f.program.toUtf8();
         QCOMPARE(f.content(),
                  "[Desktop Entry]\nType=Application\nName=Ferrin\nIcon=org.ferrin.Ferrin\nExec="
-                     + path + "\nTryExec=" + path + '\n');
+                     + path + " --background\nTryExec=" + path + '\n');
         QVERIFY(Session::logIn(f.usersFile));
         QVERIFY(QFile::exists(f.folder.filePath(u"bin/started"_s)));
     }
@@ -215,9 +216,9 @@ private Q_SLOTS:
         f.program = f.folder.filePath(name + u"/ferrin"_s);
         writeProgram(f.program);
         AutostartEntry entry = f.entry();
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
-        QCOMPARE(Session::commandLine(f.usersFile), QStringList({ f.program }));
+        QCOMPARE(Session::commandLine(f.usersFile), QStringList({ f.program, u"--background"_s }));
         QVERIFY(Session::logIn(f.usersFile));
         QVERIFY(QFile::exists(f.folder.filePath(name + u"/started"_s)));
     }
@@ -226,12 +227,12 @@ private Q_SLOTS:
     {
         const Fixture f;
         AutostartEntry entry = f.entry();
-        QCOMPARE(entry.registerItem(), std::nullopt);
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
         QVERIFY(!QFile::exists(f.usersFile));
         QVERIFY(!Session::logIn(f.usersFile));
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
     }
 
     void keepsWhatTheUserAddedToTheEntry()
@@ -240,13 +241,13 @@ private Q_SLOTS:
         const QByteArray added = "# mine\nX-GNOME-Autostart-Delay=10\nName[de]=Eisen\n";
         writeFile(f.usersFile, f.ours(added + "Hidden=true\n"));
         AutostartEntry entry = f.entry();
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QVERIFY(f.content().contains(added));
         QVERIFY(!f.content().contains("Hidden"));
 
         // A refreshed registration goes through its removal.
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QVERIFY(f.content().contains(added));
     }
 
@@ -256,8 +257,8 @@ private Q_SLOTS:
         writeFile(f.usersFile, "[Desktop Entry]\nX-Mine=1\nExec=/old/place/ferrin\n");
         AutostartEntry entry = f.entry();
         QCOMPARE(entry.status(), LoginItemStatus::notFound);
-        QCOMPARE(entry.registerItem(), std::nullopt);
-        QCOMPARE(Session::commandLine(f.usersFile), QStringList({ f.program }));
+        QCOMPARE(turnOn(entry), std::nullopt);
+        QCOMPARE(Session::commandLine(f.usersFile), QStringList({ f.program, u"--background"_s }));
         QVERIFY(f.content().contains("X-Mine=1\n"));
     }
 
@@ -269,10 +270,10 @@ private Q_SLOTS:
         writeFile(f.systemsFile, f.ours());
         AutostartEntry entry = f.entry();
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
         QCOMPARE(f.content(), other);
 
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
         QVERIFY(!f.content().contains("Other"));
     }
@@ -293,7 +294,7 @@ private Q_SLOTS:
         writeFile(f.usersFile, garbage);
         AutostartEntry entry = f.entry();
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
         QVERIFY(Session::logIn(f.usersFile));
     }
@@ -304,13 +305,13 @@ private Q_SLOTS:
         writeFile(f.systemsFile, f.ours());
         AutostartEntry entry = f.entry();
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
         QVERIFY(f.content().contains("Hidden=true\n"));
         QVERIFY(!Session::logIn(f.usersFile));
         QVERIFY(QFile::exists(f.systemsFile));
 
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
         QVERIFY(Session::logIn(f.usersFile));
     }
@@ -321,7 +322,7 @@ private Q_SLOTS:
         writeFile(f.systemsFile, f.ours());
         writeFile(f.usersFile, f.ours("X-Mine=1\n"));
         AutostartEntry entry = f.entry();
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
         QCOMPARE(f.content(), f.ours("X-Mine=1\nHidden=true\n"));
     }
 
@@ -331,7 +332,7 @@ private Q_SLOTS:
         writeFile(f.systemsFile, "[Desktop Entry]\nExec=/bin/true\n");
         AutostartEntry entry = f.entry();
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
-        QCOMPARE(entry.unregisterItem(), std::nullopt);
+        QCOMPARE(turnOff(entry), std::nullopt);
         QVERIFY(!QFile::exists(f.usersFile));
     }
 
@@ -340,7 +341,7 @@ private Q_SLOTS:
         const Fixture f;
         writeFile(f.folder.filePath(u"config/autostart"_s), "a file in its place");
         AutostartEntry entry = f.entry();
-        QVERIFY(entry.registerItem().value_or(QString()).contains(u"autostart"_s));
+        QVERIFY(turnOn(entry).value_or(QString()).contains(u"autostart"_s));
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
     }
 
@@ -355,16 +356,16 @@ private Q_SLOTS:
         AutostartEntry entry = f.entry();
         {
             const Unprivileged unprivileged;
-            QVERIFY(entry.registerItem().value_or(QString()).contains(f.usersFile));
+            QVERIFY(turnOn(entry).value_or(QString()).contains(f.usersFile));
         }
         QCOMPARE(entry.status(), LoginItemStatus::notRegistered);
         allow(folder, true);
-        QCOMPARE(entry.registerItem(), std::nullopt);
+        QCOMPARE(turnOn(entry), std::nullopt);
 
         allow(folder, false);
         {
             const Unprivileged unprivileged;
-            QVERIFY(entry.unregisterItem().value_or(QString()).contains(f.usersFile));
+            QVERIFY(turnOff(entry).value_or(QString()).contains(f.usersFile));
         }
         QCOMPARE(entry.status(), LoginItemStatus::enabled);
         allow(folder, true);
