@@ -41,6 +41,7 @@ class WithADashboard(OnADesktop):
     """The program runs, and its dashboard has not been opened yet."""
 
     says = AT_START
+    dashboard_class = Dashboard
 
     def setUp(self):
         super().setUp()
@@ -54,7 +55,7 @@ class WithADashboard(OnADesktop):
         return self.enterContext(self.make_dashboard(environment))
 
     def make_dashboard(self, environment):
-        return Dashboard(self.session, self.laptop, self.says, environment)
+        return self.dashboard_class(self.session, self.laptop, self.says, environment)
 
 
 class WithSettings(WithADashboard):

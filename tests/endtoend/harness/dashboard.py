@@ -19,11 +19,13 @@ LARGEST_CELL = 40
 class Dashboard(ReadWindow):
     """The program on a desktop, with its item in the panel and its dashboard closed."""
 
+    program_class = Program
+
     def __init__(self, session, laptop, said, environment=None):
         super().__init__(session)
         ScreenReader.prepare(session)
         before = session.picture()
-        self.program = Program(session, laptop, ENVIRONMENT | (environment or {}))
+        self.program = self.program_class(session, laptop, ENVIRONMENT | (environment or {}))
         self.await_item()
         self.program.says(said)
         self.reader = ScreenReader(session, self.program.pid)
@@ -50,7 +52,7 @@ class Dashboard(ReadWindow):
 
     def windows(self):
         """All visible windows of the program."""
-        return self._session.windows_of(self.program.pid)
+        return self._session.windows_of(self.program.window_pid)
 
     def root(self):
         """The dashboard as it is read out, or None while it is closed."""

@@ -25,14 +25,24 @@ def binary():
 class Program:
     """One start of the program in a session and on a laptop."""
 
-    def __init__(self, session, laptop, environment=None, command=None):
+    def __init__(self, session, laptop, environment=None, command=None, **options):
         mock = {key: laptop.environment[key] for key in MOCK}
         self._session = session
         log, self._log = tempfile.mkstemp(dir=session.folder, suffix=".log")
         with os.fdopen(log, "wb") as file:
             self._process = session.start(command or [_reachable(session)], mock | (environment or {}),
-                                          stdout=file, stderr=subprocess.STDOUT)
+                                          stdout=file, stderr=subprocess.STDOUT, **options)
         self.pid = self._process.pid
+
+    @property
+    def window_pid(self):
+        """The process that its windows name as theirs."""
+        return self.pid
+
+    @property
+    def bus_pid(self):
+        """The process that speaks on the session bus for it."""
+        return self.pid
 
     def item(self):
         """The item once the watcher knows it."""
@@ -88,11 +98,11 @@ class Program:
     def owns_its_name(self):
         """Whether this start is the session's one instance."""
         owner = self._session.bus.owner(PROGRAM)
-        return owner is not None and self._session.bus.process_of(owner) == self.pid
+        return owner is not None and self._session.bus.process_of(owner) == self.bus_pid
 
     def _item(self):
         self._alive()
-        return self._session.bus.item_of(self.pid)
+        return self._session.bus.item_of(self.bus_pid)
 
     def _alive(self):
         if not self.is_running():

@@ -25,7 +25,7 @@ class Settings(ReadWindow):
     def window(self):
         """The window's number on the screen, or None while it is closed."""
         windows = self._session.run("xdotool", "search", "--all", "--onlyvisible", "--pid",
-                                    str(self._dashboard.program.pid), "--name", TITLE).split()
+                                    str(self._dashboard.program.window_pid), "--name", TITLE).split()
         return windows[0] if windows else None
 
     def box(self):
