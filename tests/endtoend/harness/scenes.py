@@ -3,6 +3,7 @@
 """Scenes of the program in a real panel for the eye, light and dark, at one and at two device pixels
 a pixel: what the commands that picture it share."""
 
+import contextlib
 import os
 import subprocess
 import sys
@@ -11,6 +12,7 @@ from harness import desktop
 from harness.case import AT_START
 from harness.dashboard import Dashboard
 from harness.picture import Box
+from harness.portal import Desktop
 from harness.processes import a_moment, eventually
 from harness.program import store_settings
 from harness.readwindow import TAB
@@ -19,6 +21,15 @@ from virtuallaptop import VirtualLaptop
 # The ground behind the windows, at the top and at the bottom.
 WALLPAPERS = {"Light": ("#b9cbdc", "#7f9bb5"), "Dark": ("#3d5166", "#18222d")}
 MARGIN = 12
+
+# The settings of a new user's GNOME and Plasma: the fonts and colours that their own windows have.
+INTERFACE = "org.gnome.desktop.interface"
+KDE = "org.kde.kdeglobals"
+GNOME_LIGHT = ((INTERFACE, "font-name", "'Cantarell 11'"),
+               (INTERFACE, "accent-color", "'blue'"))
+PLASMA_DARK = ((f"{KDE}.General", "font", "'Noto Sans,10,-1,5,50,0,0,0,0,0'"),
+               (f"{KDE}.Colors:Selection", "BackgroundNormal", "'61,174,233'"))
+FONTS = "Cantarell", "Noto Sans"
 
 
 class Desk(desktop.XfceScreen):
@@ -102,19 +113,25 @@ class Player:
         self.leave()
 
 
-def played(kind, folder, appearance, scale, scenes):
-    """Plays scenes with a player of this kind, and gives what they yield."""
-    with VirtualLaptop() as laptop, Desk(appearance, scale, kind.size) as session:
+def played(kind, folder, appearance, scale, scenes, settings=()):
+    """Plays scenes with a player of this kind, on a desktop with these settings, and gives what they
+    yield."""
+    with VirtualLaptop() as laptop, Desk(appearance, scale, kind.size) as session, \
+            contextlib.closing(Desktop(session, appearance.lower())) as portal:
+        for setting in settings:
+            portal.sets(*setting)
         store_settings(session, appColor=appearance)
         player = kind(session, laptop, folder, f"{appearance.lower()}-{scale}x")
         return list(scenes(player) or [])
 
 
 def compose(kind, folder, path, best, columns):
-    """The best pictures side by side, light above dark."""
-    pictures = []
-    for appearance in WALLPAPERS:
-        pictures += played(kind, folder, appearance, 2, best)
+    """The best pictures side by side: light as in GNOME, and dark as in Plasma."""
+    for font in FONTS:
+        if font not in subprocess.check_output(["fc-match", font], text=True):
+            raise SystemExit(f"There is no font {font}; scripts/pictures brings it.")
+    pictures = played(kind, folder, "Light", 2, best, GNOME_LIGHT)
+    pictures += played(kind, folder, "Dark", 2, best, PLASMA_DARK)
     subprocess.run(["montage", *pictures, "-tile", f"{columns}x", "-geometry", "+0+0", "-strip",
                     path], check=True)
 

@@ -106,7 +106,8 @@ class Session:
         pass
 
     def _make_environment(self):
-        kept = {key: os.environ[key] for key in ("PATH", "LANG", "TMPDIR") if key in os.environ}
+        kept = {key: os.environ[key] for key in ("PATH", "LANG", "TMPDIR", "FONTCONFIG_FILE")
+                if key in os.environ}
         kept |= {"LC_ALL": "C.UTF-8", "NO_AT_BRIDGE": "1", "GTK_USE_PORTAL": "0",
                  "LIBGL_ALWAYS_SOFTWARE": "1", "XDG_CURRENT_DESKTOP": self.desktop}
         if self.scale != 1:
