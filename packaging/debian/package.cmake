@@ -26,7 +26,7 @@ endfunction()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ferrin)
-set(CPACK_PACKAGE_CONTACT "The Ferrin developers <ferrin@ferrin.example>")
+ferrin_read_control(Maintainer CPACK_PACKAGE_CONTACT)
 set(CPACK_PACKAGE_VENDOR "The Ferrin developers")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
