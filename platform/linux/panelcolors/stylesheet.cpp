@@ -25,6 +25,8 @@ constexpr int deepest = 8;
 // Characters, and the words that one colour is made of, those of its definitions among them.
 constexpr qsizetype longestValue = 1024;
 constexpr int mostWords = 256;
+// More than anybody has bars and states of them.
+constexpr qsizetype mostClasses = 16;
 
 /// Without comments, with single spaces, and with nothing after the last rule or statement: the
 /// patterns below would search such a rest again from each of its characters.
@@ -144,6 +146,26 @@ std::optional<QColor> StyleSheet::ground(const QString &selector) const
 {
     const auto exact = color(selector, u"background-color"_s);
     return exact ? exact : color(selector, u"background"_s);
+}
+
+QStringList StyleSheet::classesOf(const QString &selector) const
+{
+    const QString prefix = selector + u'.';
+    QStringList classes;
+    for (const Rule &rule : m_rules) {
+        for (const QString &each : rule.selectors) {
+            if (!each.startsWith(prefix) || classes.size() >= mostClasses)
+                continue;
+            const auto *begin = each.cbegin() + prefix.size();
+            const auto *end = std::find_if_not(begin, each.cend(), [](QChar c) {
+                return c.isLetterOrNumber() || c == u'-' || c == u'_';
+            });
+            const QString name(begin, end - begin);
+            if (!classes.contains(name))
+                classes.append(name);
+        }
+    }
+    return classes;
 }
 
 std::optional<QColor> StyleSheet::colorOf(const QString &word, int &wordsLeft) const

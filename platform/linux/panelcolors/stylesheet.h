@@ -31,6 +31,10 @@ public:
     /// The ground that the last rule for exactly this selector gives.
     [[nodiscard]] std::optional<QColor> ground(const QString &selector) const;
 
+    /// The classes by which rules single out some of a selector's elements, such as "top" of
+    /// "window#bar.top #clock"; the first few.
+    [[nodiscard]] QStringList classesOf(const QString &selector) const;
+
     /// Every file that was read.
     [[nodiscard]] const QStringList &files() const noexcept { return m_files; }
 

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,17 +37,32 @@ QString sheetAmong(const QStringList &arguments)
     return {};
 }
 
-std::optional<QColor> textIn(const StyleSheet &sheet)
+const QString anyBar = u"window#waybar"_s;
+
+/// The text of a bar, given its own selector: of any, or of one that the sheet singles out.
+std::optional<QColor> textOf(const QString &bar, const StyleSheet &sheet)
 {
+    const QStringList bars { bar, anyBar, u"#waybar"_s, u"*"_s };
+    const QStringList trays { bar + u" #tray"_s, u"#tray"_s };
+    const QStringList boxes { u".modules-right"_s, bar + u" > box"_s, u"window#waybar > box"_s };
     std::optional<QColor> ground;
-    for (const QString &selector : { u"#tray"_s, u".modules-right"_s, u"window#waybar > box"_s,
-                                     u"window#waybar"_s, u"#waybar"_s, u"*"_s }) {
+    for (const QString &selector : trays + boxes + bars) {
         ground = sheet.ground(selector);
         if (ground && ground->alpha() > 0)
             break;
     }
-    return readableText(sheet.firstColor({ u"#tray"_s, u"window#waybar"_s, u"#waybar"_s, u"*"_s }),
-                        ground);
+    return readableText(sheet.firstColor(trays + bars), ground);
+}
+
+/// Absent too where bars of one process have names, or states, under which it is not the same: the
+/// item has one picture for all of them.
+std::optional<QColor> textIn(const StyleSheet &sheet)
+{
+    const std::optional<QColor> text = textOf(anyBar, sheet);
+    const QStringList classes = sheet.classesOf(anyBar);
+    const bool isSame = std::ranges::all_of(
+        classes, [&](const QString &name) { return textOf(anyBar + u'.' + name, sheet) == text; });
+    return isSame ? text : std::nullopt;
 }
 
 } // namespace
@@ -68,7 +84,7 @@ void WaybarColors::setDesktopDark(const std::optional<bool> &isDark)
 QString WaybarColors::usualSheet() const
 {
     if (m_isDesktopDark) {
-        const QString ofScheme
+        QString ofScheme
             = configFile(*m_isDesktopDark ? u"style-dark.css"_s : u"style-light.css"_s);
         if (!ofScheme.isEmpty())
             return ofScheme;

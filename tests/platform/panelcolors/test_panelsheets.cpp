@@ -168,6 +168,28 @@ private Q_SLOTS:
         QVERIFY(colors.isUncertain());
     }
 
+    void isUncertainOfBarsOfOneProcessThatTheSheetTellsApart()
+    {
+        const QByteArray dark = "window#waybar { background: black; color: white; }\n";
+        for (const char *rule : { "window#waybar.bottom { background: white; color: black; }",
+                                  "window#waybar.bottom { background: white; }",
+                                  "window#waybar.bottom > box { background: white; }",
+                                  "window#waybar.bottom #tray { color: #ffcc00; }" }) {
+            write(u"config/waybar/style.css"_s, dark + rule);
+            QVERIFY2(!waybar({ u"waybar"_s }), rule);
+        }
+    }
+
+    void isCertainOfBarsInAnyStateThatLeavesTheirTextAsItIs()
+    {
+        write(u"config/waybar/style.css"_s,
+              "window#waybar { background: #2b303b; color: white; }\n"
+              "window#waybar.hidden { opacity: 0.2; }\n"
+              "window#waybar.termite { background-color: #3f3f3f; }\n"
+              "window#waybar.empty #window { background-color: transparent; }");
+        QCOMPARE(waybar({ u"waybar"_s }), QColor(Qt::white));
+    }
+
     void knowsNothingOfABarWithoutColors()
     {
         QVERIFY(!waybar({ u"waybar"_s }));
