@@ -51,15 +51,25 @@ QString pathElement(const QString &path, qreal opacity, const QString &more = {}
         QString::number(opacity), path, more);
 }
 
-QString rectElement(const QRectF &rect, qreal opacity, bool isError)
+QString rectElement(const QRectF &rect, qreal opacity)
 {
-    return u"<rect x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" rx=\"1.2\" fill-opacity=\"%5\"%6/>"_s
+    return u"<rect x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" rx=\"1.2\" fill-opacity=\"%5\"/>"_s
         .arg(rect.x())
         .arg(rect.y())
         .arg(rect.width())
         .arg(rect.height())
-        .arg(opacity)
-        .arg(isError ? u" class=\"error\" fill=\"#e01b24\""_s : QString());
+        .arg(opacity);
+}
+
+/// The rectangle in a red that is seen on dark panels and light ones. A toolkit fills shapes with
+/// the panel's colour, or its theme's for errors, which may be dark on dark; lines it leaves alone.
+QString redElement(const QRectF &rect)
+{
+    return u"<line x1=\"%1\" y1=\"%2\" x2=\"%3\" y2=\"%2\" stroke=\"#f44336\" stroke-width=\"%4\"/>"_s
+        .arg(rect.left())
+        .arg(rect.center().y())
+        .arg(rect.right())
+        .arg(rect.height());
 }
 
 /// The elements, drawn for this size, in the middle of the image.
@@ -131,9 +141,10 @@ QString glyph(const IconElement &icon)
     const Parts parts = partsOf(shape);
     const Artwork outline = artwork(parts.outline);
     const bool isLow = isNearlyEmpty(icon.charge, icon.status) && !hasBolt(icon.icon);
+    const QRectF fill = filled(parts.room, isUpright(icon.icon), icon.charge);
     const QString battery = pathElement(outline.path, style == BatteryStyle::normal ? weak : strong)
-        + rectElement(filled(parts.room, isUpright(icon.icon), icon.charge),
-                      style == BatteryStyle::inverted ? weak : strong, isLow);
+        + (isLow ? redElement(fill)
+                 : rectElement(fill, style == BatteryStyle::inverted ? weak : strong));
     if (shape == GlyphShape::Lying1WithBolt)
         return centred(withBolt(battery, outline.size, { 0, 0 }), outline.size);
     if (shape == GlyphShape::Lying2WithBolt)
