@@ -40,6 +40,10 @@ constexpr std::array matePictures { OfferedPicture { Wide, 24 }, OfferedPicture 
                                     OfferedPicture { Wide, 23 }, OfferedPicture { Wide, 27 },
                                     OfferedPicture { Wide, 20 }, OfferedPicture { Wide, 29 },
                                     OfferedPicture { Wide, 21 }, OfferedPicture { Wide, 36 } };
+// Budgie takes the first and brings it to two thirds of its panel's height, but to 24 px at the
+// most, which is what a panel of the usual height gives it.
+constexpr std::array budgiePictures { OfferedPicture { Square, 24 }, OfferedPicture { Square, 32 },
+                                      OfferedPicture { Square, 48 } };
 constexpr std::array cinnamonPictures { OfferedPicture { Wide, 24, 1 },
                                         OfferedPicture { Wide, 24, 2 } };
 constexpr std::array gnomePictures { OfferedPicture { Glyph, 16, 1 },
@@ -85,7 +89,7 @@ const std::array profiles {
                   .label = true,
                   .menu = MenuUse::EveryClick },
     HostProfile { .name = "budgie-panel"_L1,
-                  .pictures = panelSquares,
+                  .pictures = budgiePictures,
                   .menu = MenuUse::IndicatorsOnEveryClick },
     HostProfile {
         .name = "enlightenment"_L1, .pictures = panelSquares, .menu = MenuUse::EveryClick },
