@@ -238,7 +238,9 @@ class GNOME(InAHost, OnADesktop):
         self.session.click(self.glyph())
         eventually(lambda: self.beside(cell, before), "the menu is open")
         a_moment()
-        menu = self.beside(cell, before)
+        return self.read_menu(self.beside(cell, before))
+
+    def read_menu(self, menu):
         # Its edges look like strokes of letters.
         inside = Box(menu.left + 20, menu.top + 4, menu.right - 20, menu.bottom - 4)
         return dict(read(self.session.picture(), inside))

@@ -8,6 +8,7 @@ from harness.processes import eventually
 from harness.shells import Shell, xapp_watcher
 
 AYATANA = "/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service"
+AYATANA_NAME = "org.ayatana.indicator.application"
 MATE_INDICATORS = "IndicatorAppletFactory::IndicatorApplet"
 MATE_INDICATOR_APPLET = "/usr/lib/mate-indicator-applet/mate-indicator-applet"
 MATE_INDICATOR_FACTORY = "org.mate.panel.applet.IndicatorAppletFactory"
@@ -29,7 +30,7 @@ class BudgieScreen(Shell, BareScreen):
         self.store_gsettings({
             base: {"panels": f"['{PANEL}']", "migration-level": "2"},
             f"{base}/panels/{{{PANEL}}}": {
-                "location": "'top'", "size": "32", "applets": f"['{APPLET}']"},
+                "location": "'top'", "size": "36", "applets": f"['{APPLET}']"},
             f"{base}/applets/{{{APPLET}}}": {
                 "name": f"'{self.applet}'", "alignment": "'end'", "position": "0"}})
         BareScreen.boot(self)
@@ -100,4 +101,6 @@ class XfceIndicatorScreen(Shell, XfceScreen):
 
     def start_panel(self):
         self.start_shell([AYATANA])
+        # A panel of Debian 12 that comes before it may never find it.
+        eventually(lambda: self.bus.owner(AYATANA_NAME), "the service of the indicators is there")
         super().start_panel()

@@ -141,6 +141,8 @@ class Screen(Session):
 
     # Device pixels at a scale of one.
     size = (800, 600)
+    # What comes to rest; None for all of it.
+    still_part = None
 
     def __init__(self, user=None, scale=1):
         super().__init__(user, scale)
@@ -159,7 +161,7 @@ class Screen(Session):
             nonlocal last
             before, last = last, self.picture()
             processes.a_moment()
-            return before and before.difference(last) is None
+            return before and before.difference(last, within=self.still_part) is None
         processes.eventually(at_rest, "the screen is at rest")
         return last
 
