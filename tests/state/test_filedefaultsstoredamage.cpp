@@ -6,6 +6,7 @@
 #include "tests/support/testmain.h"
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <memory>
@@ -193,15 +194,16 @@ private Q_SLOTS:
         Fixture f;
         f.put("{\n\"a\":1,\n");
         const AsOrdinaryUser user(f.folder.path());
-        QVERIFY(chmod(f.folder.path().toLocal8Bit().constData(), 0500) == 0);
+        const QByteArray folder = f.folder.path().toLocal8Bit();
+        QVERIFY(chmod(folder.constData(), 0500) == 0);
+        // For the folder to be removed, when the test is not run by root.
+        const auto rights = qScopeGuard([&] { QVERIFY(chmod(folder.constData(), 0700) == 0); });
         FileDefaultsStore store(f.path);
         QCOMPARE(store.integer(u"a"_s), 1);
         setTwo(store);
         QCOMPARE(f.log.take(),
                  QStringList { f.trouble(u"It is damaged and cannot be set aside"_s) });
         QCOMPARE(f.text(), QByteArray("{\n\"a\":1,\n"));
-        // For the folder to be removed, when the test is not run by root.
-        QVERIFY(chmod(f.folder.path().toLocal8Bit().constData(), 0700) == 0);
     }
 };
 
