@@ -15,6 +15,7 @@ from harness.enlightenment import EnlightenmentScreen
 from harness.glyphs import bottle_in
 from harness.labwc import LabwcWaybarScreen
 from harness.picture import Box, is_red
+from harness.plasmawayland import PlasmaWaylandScreen
 from harness.processes import eventually
 from harness.recognition import Look, read
 from test_hosts import DISCHARGING, InAHost, InAnX11Host
@@ -39,6 +40,14 @@ class LabwcWaybar(InAHost, OnADesktop):
 
     def make_session(self):
         return LabwcWaybarScreen()
+
+
+class PlasmaOnWayland(InAHost, OnADesktop):
+    look = Look("plasmashell", 22)
+    has_clear_glyph = True
+
+    def make_session(self):
+        return PlasmaWaylandScreen()
 
 
 class InAnIndicator(test_hosts.GNOME):
