@@ -109,8 +109,10 @@ class Sandbox:
                                                  "flatpak-info")]
         for name, place in BUSES.items():
             files += ["--ro-bind", self._sockets[name], place]
+        # Where nobody can write, nobody hears uevents, which do not reach a Flatpak.
         mock = self._laptop.environment["UMOCKDEV_DIR"]
-        for path in (data_folder(self._session), self._runtime(), mock, self._screen_readers_bus()):
+        files += ["--ro-bind", mock, mock]
+        for path in (data_folder(self._session), self._runtime(), self._screen_readers_bus()):
             files += ["--bind", path, path]
         if self._permissions.has_x11:
             display = "/tmp/.X11-unix/X" + self._session.environment["DISPLAY"][1:]
