@@ -14,6 +14,24 @@ AdapterCardView {
     isPresent: manufacturer !== undefined
     isEmpty: manufacturer === ""
     imageView: AdapterManufacturerImageView { manufacturer: root.manufacturer ?? "" }
-    valueView: GenericTextView { text: root.manufacturer ?? "" }
+    valueView: GenericTextView {
+        id: label
+
+        text: root.manufacturer ?? ""
+    }
+    moreInfoView: label.truncated ? whole : null
     valueInWords: manufacturer ?? ""
+
+    // What has no room on the card.
+    Component {
+        id: whole
+
+        // qmllint disable unqualified
+        MoreInfoText {
+            width: 200
+            textFormat: Text.PlainText
+            text: label.text
+        }
+        // qmllint enable unqualified
+    }
 }

@@ -14,6 +14,24 @@ AdapterCardView {
     isPresent: name !== undefined
     isEmpty: name === ""
     imageView: AdapterNameImageView {}
-    valueView: GenericTextView { text: root.name ?? "" }
+    valueView: GenericTextView {
+        id: label
+
+        text: root.name ?? ""
+    }
+    moreInfoView: label.truncated ? whole : null
     valueInWords: name ?? ""
+
+    // What has no room on the card.
+    Component {
+        id: whole
+
+        // qmllint disable unqualified
+        MoreInfoText {
+            width: 200
+            textFormat: Text.PlainText
+            text: label.text
+        }
+        // qmllint enable unqualified
+    }
 }

@@ -4,8 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// The style of a card's text on the card's baseline: two lines fit; longer text is scaled down
-// instead of being cut.
+// The style of a card's text on the card's baseline: two lines fit; longer text is scaled down as long
+// as it can be read, and only then cut.
 Text {
     leftPadding: 5
     rightPadding: 5
@@ -17,6 +17,7 @@ Text {
     // A very long word is broken, or it would be too small to read.
     wrapMode: /\S{16}/.test(text) ? Text.Wrap : Text.WordWrap
     fontSizeMode: Text.Fit
-    minimumPixelSize: 1
+    minimumPixelSize: 9
+    elide: Text.ElideRight
     Accessible.ignored: true
 }

@@ -3,7 +3,8 @@
 """The symbols that stand beside the windows' texts.
 
 Every frame is 18 high, and that height is what a font size maps on: beside a text of 18 pixels a
-circle is 18 across and strokes are two pixels. Frames are as wide as their signs, in whole pixels.
+circle is 18 across and strokes are two pixels; those that the cards show in the regular weight are drawn
+lighter. Frames are as wide as their signs, in whole pixels.
 """
 
 import math
@@ -13,6 +14,7 @@ from shapes import Picture, arc, band, circle, inset, polygon, rectangle, ring, 
 HEIGHT = 18
 MIDDLE = HEIGHT / 2
 STROKE = 2.0
+REGULAR = 1.5
 # The chevron takes turns with the cross, which is drawn in the item's frame.
 XMARK_STROKE = 2.2
 DOT = 2.5
@@ -25,19 +27,19 @@ def sign(width, solids, holes=()):
     return Picture(width, HEIGHT, outlines, "nonzero")
 
 
-def line(*points):
-    return band(*points, stroke=STROKE)
+def line(*points, stroke=STROKE):
+    return band(*points, stroke=stroke)
 
 
-def dot(x, y):
-    return circle(x, y, DOT)
+def dot(x, y, stroke=STROKE):
+    return circle(x, y, DOT * stroke / STROKE)
 
 
 DISC = circle(MIDDLE, MIDDLE, HEIGHT)
 
 
-def in_circle(*solids):
-    outer, inner = ring(DISC, STROKE)
+def in_circle(*solids, stroke=STROKE):
+    outer, inner = ring(DISC, stroke)
     return sign(HEIGHT, [outer, *solids], [inner])
 
 
@@ -79,9 +81,10 @@ def switch_2():
     )
 
 
-def question_mark():
+def question_mark(stroke=STROKE):
     bowl = arc(MIDDLE, 6.5, 2.75, 265, 520)
-    return [line(*bowl[:-1], (MIDDLE, 9.42, 1.43), (MIDDLE, 10.5)), dot(MIDDLE, 13.6)]
+    hook = line(*bowl[:-1], (MIDDLE, 9.42, 1.43), (MIDDLE, 10.5), stroke=stroke)
+    return [hook, dot(MIDDLE, 13.6, stroke)]
 
 
 def arrow_up(top, reach, x=7):
@@ -136,14 +139,16 @@ def exclamationmark_triangle():
 
 def waveform():
     halves = (2, 5, 8, 3.5, 1)
-    bars = [line((x, MIDDLE - h), (x, MIDDLE + h)) for x, h in zip(range(1, HEIGHT, 4), halves)]
+    bars = [line((x, MIDDLE - h), (x, MIDDLE + h), stroke=REGULAR)
+            for x, h in zip(range(1, HEIGHT, 4), halves)]
     return sign(HEIGHT, bars)
 
 
 def text_bubble():
-    outer, inner = ring(rectangle(0, 0, 20, 15, 4), STROKE)
+    outer, inner = ring(rectangle(0, 0, 20, 15, 4), REGULAR)
     tail = polygon((4.5, 14, 0), (10.5, 14, 0), (4.5, 18.7, 0.5))
-    return sign(20, [outer, tail, line((5.5, 5), (14.5, 5)), line((5.5, 10), (11.5, 10))], [inner])
+    lines = [line((5.5, y), (end, y), stroke=REGULAR) for y, end in ((5, 14.5), (10, 11.5))]
+    return sign(20, [outer, tail, *lines], [inner])
 
 
 def apple():
@@ -156,9 +161,9 @@ def apple():
 
 
 def person_text_rectangle():
-    outer, inner = ring(rectangle(0, 1, 22, 16, 3.5), STROKE)
+    outer, inner = ring(rectangle(0, 1, 22, 16, 3.5), REGULAR)
     shoulders = polygon((4, 13, 0.5), (4, 9.6, 3), (10, 9.6, 3), (10, 13, 0.5))
-    lines = [line((13.5, y), (17, y)) for y in (7, 11)]
+    lines = [line((13.5, y), (17, y), stroke=REGULAR) for y in (7, 11)]
     return sign(22, [outer, circle(7, 6.9, 4), shoulders, *lines], [inner])
 
 
@@ -199,7 +204,7 @@ def power():
 def symbols():
     """Every symbol of the windows that the item does not show, by its name."""
     cross = [line((6, 6), (12, 12)), line((6, 12), (12, 6))]
-    hand = line((9, 4.75), (9, 9), (12, 11))
+    hand = line((9, 4.75), (9, 9), (12, 11), stroke=REGULAR)
     letter_i = [dot(9, 5.25), line((9, 9), (9, 13))]
     upward = sign(14, arrow_up(2, 5.5))
     return {
@@ -215,7 +220,7 @@ def symbols():
         "checkmark.circle": in_circle(CHECK),
         "checkmark.circle.trianglebadge.exclamationmark": checkmark_with_badge(),
         "chevron.down": sign(16, [band((1.5, 6), (8, 12.5), (14.5, 6), stroke=XMARK_STROKE)]),
-        "clock": in_circle(hand),
+        "clock": in_circle(hand, stroke=REGULAR),
         "envelope": envelope(),
         "exclamationmark.triangle": exclamationmark_triangle(),
         "gearshape.fill": gearshape_fill(),
@@ -226,7 +231,7 @@ def symbols():
         "person.text.rectangle": person_text_rectangle(),
         "plus": sign(16, [line((8, 2), (8, 16)), line((1, 9), (15, 9))]),
         "power": power(),
-        "questionmark.circle": in_circle(*question_mark()),
+        "questionmark.circle": in_circle(*question_mark(REGULAR), stroke=REGULAR),
         "questionmark.circle.fill": out_of_disc(*question_mark()),
         "switch.2": switch_2(),
         "text.bubble": text_bubble(),

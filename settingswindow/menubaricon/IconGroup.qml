@@ -32,7 +32,7 @@ Column {
     Text {
         text: root.heading
         textFormat: Text.PlainText
-        font: Fonts.header
+        font: Fonts.heavy13
         color: Colors.primaryText
     }
 

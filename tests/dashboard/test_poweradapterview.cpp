@@ -21,6 +21,7 @@ private Q_SLOTS:
     void hasUnknownCardsForAnUnknownSource();
     void readsNotConnectedBeforeAnyAdapterWasSeen();
     void readsGettingInfoUntilTheAdapterIsRecorded();
+    void explainsANameThatHasNoRoomByAllOfIt();
     void readsNotAvailableForZeroAndEmpty();
     void waitsForBothOfVoltsAndAmps();
     void showsWhatTheAdapterSaysOfItself();
@@ -97,6 +98,18 @@ void PowerAdapterViewTest::readsGettingInfoUntilTheAdapterIsRecorded()
     m_stage->stored.setAdapterWatts(65);
     QTRY_COMPARE(valuesOf("AdapterWattsView"), QStringList({ u"65"_s, u"watts"_s }));
     QCOMPARE(valuesOf("AdapterNameView"), QStringList { u"Getting info..."_s });
+}
+
+void PowerAdapterViewTest::explainsANameThatHasNoRoomByAllOfIt()
+{
+    plugIn();
+    QVERIFY(!moreInfoButton(cardOf("AdapterManufacturerView")));
+    const QString maker = u"Shenzhen Huntkey Electric Company Limited of *Guangdong*"_s;
+    m_stage->stored.setAdapterManufacturer(maker);
+    QTRY_VERIFY(moreInfoButton(cardOf("AdapterManufacturerView")));
+    m_stage->click(moreInfoButton(cardOf("AdapterManufacturerView")));
+    QTRY_VERIFY(openPopover());
+    QCOMPARE(textsOf(openPopover()->contentItem()), QStringList { maker });
 }
 
 void PowerAdapterViewTest::readsNotAvailableForZeroAndEmpty()

@@ -55,6 +55,34 @@ private Q_SLOTS:
         QCOMPARE(twice.idealSize(blackOnClear), size * 2);
     }
 
+    void isHeavierWhereTheWindowsWantItSemibold_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("stroke");
+        // Of ten pixels to a unit of the artwork.
+        QTest::newRow("clock") << u"clock"_s << 15;
+        QTest::newRow("question mark") << u"questionmark.circle"_s << 15;
+        QTest::newRow("bubble") << u"text.bubble"_s << 15;
+        QTest::newRow("check mark") << u"checkmark.circle"_s << 20;
+        QTest::newRow("turning arrow") << u"arrow.clockwise"_s << 20;
+    }
+
+    void isHeavierWhereTheWindowsWantItSemibold()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, stroke);
+        const TemplateImageView view { .name = name, .height = 180 };
+        const QImage image = painted(view, { 220, 220 }, 1);
+        int x = inkedRect(image).left() + 2;
+        const int y = image.height() / 2;
+        while (opacityAt(image, x, y) < 0.5)
+            ++x;
+        const int start = x;
+        while (opacityAt(image, x, y) >= 0.5)
+            ++x;
+        QVERIFY2(qAbs(x - start - stroke) <= 3, qPrintable(QString::number(x - start)));
+    }
+
     void isTintedInItsColorAndOpacity()
     {
         const TemplateImageView view { .name = u"arrow.up.square.fill"_s,

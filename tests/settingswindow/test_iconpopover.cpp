@@ -91,6 +91,15 @@ private Q_SLOTS:
             (QStringList { u"Static icons"_s, u"Do not change while battery is fully charged"_s }));
     }
 
+    void setsItsHeadingsInTheHeavyFont()
+    {
+        Popover popover(charged);
+        const QQuickItem *const heading
+            = visibleItemsOfType(popover.page(), "QQuickText").constFirst();
+        QCOMPARE(heading->property("font").value<QFont>().pixelSize(), 13);
+        QCOMPARE(heading->property("font").value<QFont>().weight(), QFont::ExtraBold);
+    }
+
     void offersEveryIconOfItsCatalogue_data() { addSections(); }
 
     void offersEveryIconOfItsCatalogue()
