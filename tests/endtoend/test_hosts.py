@@ -34,8 +34,8 @@ class InAHost:
     """What holds in every status area."""
 
     look = None
-    # The default glyph is drawn pixel for pixel, so that it can be looked at by itself.
-    has_clear_glyph = False
+    # Whether the default glyph is large and sharp enough to be looked at by itself.
+    has_clear_glyph = True
     # Where a compositor places windows as it likes, they are asked only to be wholly on the screen.
     opens_at_item = True
 
@@ -161,12 +161,10 @@ class InAnX11Host(InAHost):
 
 class Xfce(InAnX11Host, OnADesktop):
     look = Look("xfce4-panel", 22)
-    has_clear_glyph = True
 
 
 class LXQt(InAnX11Host, OnADesktop):
     look = Look("lxqt-panel", 22)
-    has_clear_glyph = True
 
     def make_session(self):
         return panels.LxqtScreen()
@@ -196,7 +194,6 @@ class Cinnamon(InAnX11Host, OnADesktop):
 
 class Plasma(InAnX11Host, OnADesktop):
     look = Look("plasmashell", 22)
-    has_clear_glyph = True
 
     def make_session(self):
         return shells.PlasmaScreen()

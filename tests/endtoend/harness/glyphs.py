@@ -35,15 +35,15 @@ class Bottle:
 
 
 def bottle_in(picture, box):
-    """The glyph of the item in the box: of all that is drawn there, what reaches highest. None where
-    that is too small to be one."""
+    """The glyph of the item in the box: of all that is drawn there, the tallest. None where that is
+    too small to be one."""
     around = Box(max(0, box.left - 2), max(0, box.top - 2), min(picture.width, box.right + 2),
                  min(picture.height, box.bottom + 2))
     ground = Counter(picture.pixels(around)).most_common(1)[0][0]
     contrasts = {(x, y): _contrast(picture.pixel(x, y), ground)
                  for y in range(around.top, around.bottom) for x in range(around.left, around.right)}
     parts = _parts(contrasts, INK * max(contrasts.values()))
-    glyph = min(parts, key=lambda part: min((y, x) for x, y in part), default=())
+    glyph = max(parts, key=_height, default=())
     return _described(picture, glyph, contrasts)
 
 
@@ -84,6 +84,11 @@ def _parts(contrasts, least):
             left -= neighbours
         parts.append(part)
     return parts
+
+
+def _height(part):
+    rows = {y for _, y in part}
+    return max(rows) - min(rows)
 
 
 def _contrast(pixel, ground):
