@@ -64,7 +64,8 @@ void DesktopPlatform::followAppearance()
     StatusAreaAppearance look { .forcedDark = std::nullopt,
                                 .desktopDark = m_appearance.isDesktopDark(),
                                 .desktopPrefersDark = m_appearance.desktopPrefersDark(),
-                                .fontFamily = m_appearance.fontFamily() };
+                                .fontFamily = m_appearance.fontFamily(),
+                                .textScale = m_appearance.textScale() };
     if (const auto forced = m_appearance.forcedAppearance())
         look.forcedDark = *forced == Appearance::dark;
     m_statusArea.setAppearance(look);

@@ -6,9 +6,22 @@
 #include "platform/linux/panelcolors/panelcolors.h"
 #include "popover/itemscreen.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 
 namespace ferrin {
+
+int OwnWindowLook::scaled(int usual) const
+{
+    return qRound(usual * textScale);
+}
+
+QFont OwnWindowLook::font(int usualPixelSize) const
+{
+    QFont font = fontFamily.isEmpty() ? QGuiApplication::font() : QFont(fontFamily);
+    font.setPixelSize(scaled(usualPixelSize));
+    return font;
+}
 
 OwnWindowColors colorsFor(bool isDark)
 {
@@ -27,7 +40,9 @@ std::optional<ScreenArea> screenAreaOf(const ItemPlace &place)
 
 OwnWindowLook ownWindowLook(const PanelColors &colors)
 {
-    return { .isDark = colors.isOwnBarDark(), .fontFamily = colors.appearance().fontFamily };
+    return { .isDark = colors.isOwnBarDark(),
+             .fontFamily = colors.appearance().fontFamily,
+             .textScale = colors.appearance().textScale };
 }
 
 } // namespace ferrin

@@ -6,6 +6,7 @@
 #include "popover/popoverplacement.h"
 
 #include <QColor>
+#include <QFont>
 #include <QString>
 
 #include <optional>
@@ -20,6 +21,13 @@ struct OwnWindowLook
     bool isDark = false;
     /// The desktop's interface font; empty for the default one.
     QString fontFamily {};
+    /// How many times larger than usual all of it is; 1 to 3.
+    double textScale = 1;
+
+    /// A length or a size of text, logical pixels.
+    [[nodiscard]] int scaled(int usual) const;
+    /// The interface font in this size.
+    [[nodiscard]] QFont font(int usualPixelSize) const;
 };
 
 struct OwnWindowColors

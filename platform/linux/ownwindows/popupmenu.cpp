@@ -76,25 +76,20 @@ void PopupMenu::grabInput(int attemptsLeft)
     QTimer::singleShot(50ms, this, [this, attemptsLeft] { grabInput(attemptsLeft - 1); });
 }
 
-QFont PopupMenu::entryFont() const
-{
-    QFont font = m_look.fontFamily.isEmpty() ? QGuiApplication::font() : QFont(m_look.fontFamily);
-    font.setPixelSize(fontPixelSize);
-    return font;
-}
-
 QSize PopupMenu::idealSize() const
 {
-    const QFontMetrics metrics(entryFont());
-    int width = narrowest;
+    const QFontMetrics metrics(m_look.font(fontPixelSize));
+    const int beside = 2 * (margin + m_look.scaled(textInset));
+    int width = m_look.scaled(narrowest);
     for (const MenuEntry &entry : m_entries)
-        width = std::max(width, metrics.horizontalAdvance(entry.title) + 2 * (margin + textInset));
-    return { width, int(m_entries.size()) * rowHeight + 2 * margin };
+        width = std::max(width, metrics.horizontalAdvance(entry.title) + beside);
+    return { width, int(m_entries.size()) * m_look.scaled(rowHeight) + 2 * margin };
 }
 
 QRect PopupMenu::entryBounds(int entry) const
 {
-    return { margin, margin + entry * rowHeight, width() - 2 * margin, rowHeight };
+    const int height = m_look.scaled(rowHeight);
+    return { margin, margin + entry * height, width() - 2 * margin, height };
 }
 
 int PopupMenu::entryAt(QPoint position) const
@@ -125,7 +120,8 @@ void PopupMenu::paintEvent(QPaintEvent *)
     painter.fillRect(QRect(QPoint(), size()), colors.border);
     painter.fillRect(QRect(QPoint(), size()).adjusted(1, 1, -1, -1), colors.ground);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(entryFont());
+    painter.setFont(m_look.font(fontPixelSize));
+    const int inset = m_look.scaled(textInset);
     for (int entry = 0; std::cmp_less(entry, m_entries.size()); ++entry) {
         const QRect bounds = entryBounds(entry);
         if (entry == m_current) {
@@ -134,8 +130,8 @@ void PopupMenu::paintEvent(QPaintEvent *)
             painter.drawRoundedRect(bounds, rowRadius, rowRadius);
         }
         painter.setPen(colors.text);
-        painter.drawText(bounds.adjusted(textInset, 0, -textInset, 0),
-                         Qt::AlignLeft | Qt::AlignVCenter, m_entries[size_t(entry)].title);
+        painter.drawText(bounds.adjusted(inset, 0, -inset, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                         m_entries[size_t(entry)].title);
     }
 }
 

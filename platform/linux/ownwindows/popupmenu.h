@@ -47,7 +47,6 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    [[nodiscard]] QFont entryFont() const;
     [[nodiscard]] QSize idealSize() const;
     [[nodiscard]] QRect entryBounds(int entry) const;
     [[nodiscard]] int entryAt(QPoint position) const;

@@ -6,7 +6,6 @@
 #include "popover/popoverplacement.h"
 
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QRasterWindow>
 
@@ -38,7 +37,8 @@ public:
     [[nodiscard]] QSize idealSize() const
     {
         const QFontMetrics metrics(font());
-        return QSize(metrics.horizontalAdvance(m_text), metrics.height()).grownBy(padding);
+        return QSize(metrics.horizontalAdvance(m_text), metrics.height())
+            .grownBy(padding * m_look.textScale);
     }
 
 protected:
@@ -55,13 +55,7 @@ protected:
     }
 
 private:
-    [[nodiscard]] QFont font() const
-    {
-        QFont result
-            = m_look.fontFamily.isEmpty() ? QGuiApplication::font() : QFont(m_look.fontFamily);
-        result.setPixelSize(fontPixelSize);
-        return result;
-    }
+    [[nodiscard]] QFont font() const { return m_look.font(fontPixelSize); }
 
     QString m_text;
     OwnWindowLook m_look;

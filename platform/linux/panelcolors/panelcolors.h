@@ -27,6 +27,8 @@ struct StatusAreaAppearance
     std::optional<bool> desktopPrefersDark {};
     /// The desktop's interface font; empty for the toolkit's default.
     QString fontFamily {};
+    /// How many times larger than usual the desktop wants texts; 1 to 3.
+    double textScale = 1;
 
     bool operator==(const StatusAreaAppearance &) const = default;
 };

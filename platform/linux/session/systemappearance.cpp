@@ -168,9 +168,10 @@ void SystemAppearance::take(const QString &group, const QString &key, const QVar
     }
     const bool wasDark = m_isDesktopDark;
     const QString fontBefore = m_fontFamily;
+    const double scaleBefore = m_textScale;
     update();
     if (preferredBefore != m_desktopPrefersDark || wasDark != m_isDesktopDark
-        || fontBefore != m_fontFamily)
+        || fontBefore != m_fontFamily || scaleBefore != m_textScale)
         Q_EMIT changed();
 }
 

@@ -28,6 +28,7 @@ class PopupMenuTest : public QObject
 
 private Q_SLOTS:
     void opensOffThePanelOfItsItem();
+    void growsWithTheDesktopsTexts();
     void triggersWhatIsClicked();
     void closesAtAClickElsewhere();
     void closesAtEscape();
@@ -47,6 +48,17 @@ void PopupMenuTest::opensOffThePanelOfItsItem()
         QVERIFY(screen.contains(menu.geometry()));
         QVERIFY(!panel.intersects(menu.geometry()));
     }
+}
+
+void PopupMenuTest::growsWithTheDesktopsTexts()
+{
+    PopupMenu menu;
+    menu.popUp(twoEntries, place, { .textScale = 2 });
+    QCOMPARE(menu.size(), QSize(280, 2 * 56 + 10));
+    // Its rows have grown with it.
+    QSignalSpy triggered(&menu, &PopupMenu::triggered);
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, { 30, 75 });
+    QCOMPARE(triggered.takeFirst(), QVariantList { u"two"_s });
 }
 
 void PopupMenuTest::triggersWhatIsClicked()

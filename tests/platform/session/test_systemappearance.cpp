@@ -206,8 +206,10 @@ private Q_SLOTS:
         f.startPortal();
         f.start();
         QCOMPARE(f.appearance->textScale(), 1.0);
+        const QSignalSpy changed(&*f.appearance, &SystemAppearance::changed);
         f.portal->change(group, key, value);
         QTRY_COMPARE(f.appearance->textScale(), scale);
+        QCOMPARE(changed.size(), 1);
         // A setting that went wrong is none.
         f.portal->change(group, key, -7);
         QTRY_COMPARE(f.appearance->textScale(), 1.0);
