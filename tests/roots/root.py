@@ -93,36 +93,40 @@ def cache_folder():
     return folder
 
 
-def cached(release, packages=()):
-    """The root of a release, by its code name, with these packages and what they depend on. It is
-    made by the first who asks, and used by all: nobody may change it."""
+def cached(release, packages=(), foreign=None):
+    """The root of a release, by its code name, with these packages and what they depend on; with a
+    foreign architecture, packages may be of that ("NAME:arm64"). It is made by the first who asks, and
+    used by all: nobody may change it."""
     namespaces.require()
-    recipe = "\n".join([str(RECIPE), release, *LEFT_OUT, *sorted(packages)])
+    recipe = "\n".join([str(RECIPE), release, *LEFT_OUT, *filter(None, [foreign]), *sorted(packages)])
     key = hashlib.sha256(recipe.encode()).hexdigest()[:12]
     path = os.path.join(cache_folder(), f"{release}-{key}")
     with open(path + ".lock", "w", encoding="utf-8") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
         if not os.path.isdir(path):
             _forget_old_ones()
-            _make(path, release, packages)
+            _make(path, release, packages, foreign)
     os.utime(path + ".lock")
     return Root(path)
 
 
-def _make(path, release, packages):
+def _make(*recipe):
     """With a second try: mirrors have their moments."""
     try:
-        _try_to_make(path, release, packages)
+        _try_to_make(*recipe)
     except RootCommandFailed:
-        _try_to_make(path, release, packages)
+        _try_to_make(*recipe)
 
 
-def _try_to_make(path, release, packages):
+def _try_to_make(path, release, packages, foreign):
     unfinished = path + ".unfinished"
     _do("rm", "--recursive", "--force", "--one-file-system", unfinished)
     left_out = "".join(f"path-exclude={each}\\n" for each in LEFT_OUT) \
         + "path-include=/usr/share/locale/locale.alias\\n"
+    native = subprocess.run(["dpkg", "--print-architecture"], text=True, check=True,
+                            stdout=subprocess.PIPE).stdout.strip()
     command = ["mmdebstrap", "--quiet", "--mode=root", "--variant=apt",
+               "--architectures=" + ",".join(filter(None, [native, foreign])),
                "--dpkgopt=force-unsafe-io",
                "--aptopt=Acquire::Languages \"none\"", "--aptopt=Acquire::Retries \"5\"",
                # As an option it would take a program for each of the first packages.
