@@ -132,6 +132,7 @@ int main(int argc, char **argv)
     {
         const QGuiApplication application(argc, argv);
         describe(bundle);
+        followLayoutDirection();
         logMissingWaylandPlugin(QLibraryInfo::path(QLibraryInfo::PluginsPath));
         path = QCoreApplication::applicationFilePath();
         ended = runApplication(bundle, path);

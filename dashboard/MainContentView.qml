@@ -5,13 +5,15 @@ import QtQuick
 import Ferrin.Dashboard
 import Ferrin.Theme
 
-// The selected section. A new one slides in from the left while the previous one leaves to the right,
-// both fading; the settings have no section here. Sections are loaded by file name, so that only the
+// The selected section. A new one slides in from the menu while the previous one leaves to the other
+// side, both fading; the settings have no section here. Sections are loaded by file name, so that only the
 // one that is shown is loaded.
 Item {
     id: root
 
     readonly property int section: Dashboard.selected
+    // Where a section comes from; the one before leaves by the same distance.
+    readonly property real behindMenu: LayoutMirroring.enabled ? width : -width
 
     implicitWidth: 210
     implicitHeight: 210
@@ -61,9 +63,9 @@ Item {
     ParallelAnimation {
         id: slide
 
-        Slide { target: front; from: -root.width; to: 0 }
+        Slide { target: front; from: root.behindMenu; to: 0 }
         Fade { target: front; from: 0; to: 1 }
-        Slide { target: back; from: 0; to: root.width }
+        Slide { target: back; from: 0; to: -root.behindMenu }
         Fade { target: back; from: 1; to: 0 }
 
         onFinished: back.source = ""

@@ -60,6 +60,7 @@ MenuEntry {
             rightMargin: 2
             verticalCenter: parent.verticalCenter
         }
+        horizontalAlignment: Text.AlignLeft
         text: root.text
         textFormat: Text.PlainText
         font: Fonts.menuItem

@@ -6,6 +6,8 @@
 #include "quick/quickengine.h"
 #include "state/appstatus.h"
 
+#include <QLocale>
+
 namespace ferrin {
 
 Dashboard::Dashboard(AppStatus &status, QObject *parent)
@@ -19,6 +21,15 @@ Dashboard::Dashboard(AppStatus &status, QObject *parent)
 Dashboard *Dashboard::create(QQmlEngine *engine, QJSEngine *)
 {
     return engineChild<Dashboard>(*engine);
+}
+
+QString Dashboard::integerText(qlonglong count)
+{
+    QLocale locale;
+    // As the locale C is, but not where it is the system's.
+    if (locale.language() == QLocale::C)
+        locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(count);
 }
 
 Dashboard::MenuButton Dashboard::selected() const

@@ -40,6 +40,9 @@ public:
     /// The engine's child.
     static Dashboard *create(QQmlEngine *engine, QJSEngine *);
 
+    /// A count on a card, in the digits and with the grouping of the user's locale.
+    Q_INVOKABLE [[nodiscard]] static QString integerText(qlonglong count);
+
     [[nodiscard]] MenuButton selected() const;
     void setSelected(MenuButton button);
 

@@ -24,7 +24,9 @@ TextView textOf(const QString &text, int pixelSize)
 
 RowView chargeRow(const QString &charge, int pixelSize)
 {
-    return { .spacing = 1, .children = { textOf(charge, pixelSize), textOf(u"%"_s, pixelSize) } };
+    return { .spacing = 1,
+             .children = { textOf(charge, pixelSize), textOf(u"%"_s, pixelSize) },
+             .keepsOrder = true };
 }
 
 RowView besideIcon(qreal spacing, const AnyView &text, const AnyView &icon)

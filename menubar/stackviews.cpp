@@ -5,6 +5,7 @@
 
 #include "menubar/devicegrid.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -46,11 +47,13 @@ void RowView::paint(QPainter &painter, const QRectF &bounds, const ViewContext &
     const auto spacers = std::ranges::count_if(
         children, [](const AnyView &child) { return child.as<SpacerView>() != nullptr; });
 
+    const bool isMirrored = QGuiApplication::isRightToLeft() && !keepsOrder;
     qreal x = spacers ? bounds.left() : bounds.left() + spare / 2;
     for (const AnyView &child : children) {
         const QSizeF ideal = child.idealSize(context);
-        const QRectF place(x, bounds.center().y() - ideal.height() / 2, ideal.width(),
-                           ideal.height());
+        QRectF place(x, bounds.center().y() - ideal.height() / 2, ideal.width(), ideal.height());
+        if (isMirrored)
+            place.moveRight(bounds.right() - (x - bounds.left()));
         child.paint(painter, place, context);
         x += spacing
             + (child.as<SpacerView>() ? std::max(0.0, ideal.width() + spare / qreal(spacers))

@@ -24,13 +24,16 @@ struct SpacerView
     void paint(QPainter &, const QRectF &, const ViewContext &) const { }
 };
 
-/// Views side by side, each at its ideal size and centred vertically. Spacers take what the bounds
-/// leave; without one the row stands in the middle.
+/// Views side by side, each at its ideal size and centred vertically, the first of them where the
+/// application's texts begin. Spacers take what the bounds leave; without one the row stands in the
+/// middle.
 struct RowView
 {
     /// Between neighbours, spacers included; negative makes them overlap.
     qreal spacing = 0;
     std::vector<AnyView> children;
+    /// The first is leftmost in every application: parts of one text, such as "37" and "%".
+    bool keepsOrder = false;
 
     bool operator==(const RowView &) const = default;
 

@@ -3,6 +3,8 @@
 
 #include "popover/popoverplacement.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -123,7 +125,10 @@ PopoverSpot spotInCorner(const QSize &size, const ScreenArea &screen)
     const int above = room.top() - screen.whole.top();
     const int below = screen.whole.bottom() - room.bottom();
     QRect frame(QPoint(), size);
-    frame.moveRight(room.right() - popoverGap);
+    if (QGuiApplication::isRightToLeft())
+        frame.moveLeft(room.left() + popoverGap);
+    else
+        frame.moveRight(room.right() - popoverGap);
     if (below > above)
         frame.moveBottom(room.bottom() - popoverGap);
     else
@@ -164,6 +169,14 @@ PopoverSpot spotAtItem(const ItemPlace &place, const QSize &size, const ScreenAr
     return {
         .frame = frame, .bounds = room, .side = side, .arrow = arrowAlong(frame, place.item, side)
     };
+}
+
+PopoverSides innerSides()
+{
+    const auto [first, second] = QGuiApplication::isRightToLeft()
+        ? std::pair(PopoverSide::Right, PopoverSide::Left)
+        : std::pair(PopoverSide::Left, PopoverSide::Right);
+    return { first, second, PopoverSide::Below, PopoverSide::Above };
 }
 
 PopoverSpot spotAtPart(const QRect &part, const QSize &size, const QRect &available,

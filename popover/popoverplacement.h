@@ -55,9 +55,9 @@ using PopoverSides = std::array<PopoverSide, 4>;
 /// A popover outside of the window covers least when it stands below or above.
 inline constexpr PopoverSides outerSides { PopoverSide::Below, PopoverSide::Above,
                                            PopoverSide::Right, PopoverSide::Left };
-/// One inside of it leaves the column of its part in sight.
-inline constexpr PopoverSides innerSides { PopoverSide::Left, PopoverSide::Right,
-                                           PopoverSide::Below, PopoverSide::Above };
+/// One inside of it leaves the column of its part in sight, and stands where its reader has come
+/// from.
+[[nodiscard]] PopoverSides innerSides();
 
 /// A popover that belongs to a part of a window: on the first of the sides where there is room,
 /// else where there is most, and always wholly in what is available.

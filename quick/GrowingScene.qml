@@ -15,6 +15,9 @@ FocusScope {
     readonly property alias ground: ground
     readonly property Item focusedItem: Window.activeFocusItem
 
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
+
     implicitWidth: Math.ceil(content.implicitWidth * Theme.textScale)
     implicitHeight: Math.ceil(content.implicitHeight * Theme.textScale)
     focus: true
@@ -73,10 +76,18 @@ FocusScope {
             interactive: contentWidth > width || contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
             clip: interactive
+
+            // What is seen first is where reading begins.
+            onContentWidthChanged: contentX = start()
+            onWidthChanged: contentX = start()
+
+            function start(): real {
+                return root.LayoutMirroring.enabled ? contentWidth - width : 0;
+            }
         }
 
         Bar {
-            x: view.width - 8
+            anchors { right: parent.right; rightMargin: 2 }
             y: view.height * view.visibleArea.yPosition
             width: 6
             height: view.height * view.visibleArea.heightRatio

@@ -24,9 +24,9 @@ FocusScope {
     Accessible.role: Accessible.Grouping
     Accessible.name: label
 
-    Keys.onLeftPressed: root.move(-1)
+    Keys.onLeftPressed: root.move(LayoutMirroring.enabled ? 1 : -1)
     Keys.onUpPressed: root.move(-1)
-    Keys.onRightPressed: root.move(1)
+    Keys.onRightPressed: root.move(LayoutMirroring.enabled ? -1 : 1)
     Keys.onDownPressed: root.move(1)
 
     function move(step: int) {

@@ -33,6 +33,7 @@ Pressable {
 
         anchors { left: parent.left; right: track.left; rightMargin: 8 }
         height: parent.height
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         text: root.label
         textFormat: Text.PlainText
@@ -56,14 +57,17 @@ Pressable {
         RoundedRect {
             id: knob
 
-            x: root.isOn ? track.width - width - 2 : 2
+            // From where it is off, 0, to where it is on, 1.
+            property real way: root.isOn ? 1 : 0
+
+            x: 2 + (root.LayoutMirroring.enabled ? 1 - way : way) * (track.width - width - 4)
             y: 2
             width: 14
             height: 14
             radius: height / 2
             color: root.isOn ? Colors.accentText : Colors.switchKnob
 
-            Behavior on x {
+            Behavior on way {
                 enabled: !Theme.reducesMotion
 
                 NumberAnimation {

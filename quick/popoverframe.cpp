@@ -108,7 +108,7 @@ QPainterPath PopoverFrame::outline(qreal inset) const
 QPointF PopoverFrame::standBeside(const QRectF &part, const QSizeF &content, const QRectF &within)
 {
     const PopoverSpot spot
-        = spotAtPart(part.toRect(), content.toSize(), within.toRect(), innerSides);
+        = spotAtPart(part.toRect(), content.toSize(), within.toRect(), innerSides());
     const QMargins margins(shadowReach, shadowReach, shadowReach, shadowReach);
     const QRect whole = spot.frame.marginsAdded(margins);
     setPosition(whole.topLeft());

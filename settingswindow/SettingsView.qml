@@ -38,7 +38,7 @@ FocusScope {
     SettingsMenuView {
         id: menu
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         focus: true
     }
 

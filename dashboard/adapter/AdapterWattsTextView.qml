@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The adapter's power as a number.
 CardFigures {
@@ -13,7 +14,7 @@ CardFigures {
         id: figure
 
         padding: 2
-        text: root.watts
+        text: Dashboard.integerText(root.watts)
     }
 
     CardUnit {

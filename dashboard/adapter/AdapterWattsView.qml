@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The card of the adapter's power.
 AdapterCardView {
@@ -15,5 +16,5 @@ AdapterCardView {
     isEmpty: watts === 0
     imageView: AdapterWattsImageView {}
     valueView: AdapterWattsTextView { watts: root.watts ?? 0 }
-    valueInWords: `${watts} watts`
+    valueInWords: `${Dashboard.integerText(watts ?? 0)} watts`
 }

@@ -4,7 +4,8 @@
 import QtQuick
 import Ferrin.Quick
 
-// A card's figures and their units in a row on the card's baseline, scaled down if they do not fit.
+// A card's figures and their units in a row on the card's baseline, scaled down if they do not fit. They
+// are words of one language, and keep their order where the layout is mirrored.
 Item {
     id: root
 
@@ -20,6 +21,8 @@ Item {
 
     Row {
         id: row
+
+        LayoutMirroring.enabled: false
 
         readonly property real firstBaseline: children.length > 0 ? children[0].baselineOffset : 0
 

@@ -131,7 +131,7 @@ Item {
 
     // Most cards have no explanation, and the button is half of a card's cost.
     Loader {
-        x: 80
+        anchors { right: parent.right; rightMargin: 5 }
         y: 38
         active: root.hasMoreInfo
         // qmllint disable unqualified

@@ -3,11 +3,15 @@
 
 import QtQuick
 import Ferrin.Quick
+import Ferrin.Theme
 
 // The content of an explanation: a header, a verdict in one or two texts, and a summary. The texts are
 // Markdown.
 Column {
     id: root
+
+    LayoutMirroring.enabled: Theme.isMirrored
+    LayoutMirroring.childrenInherit: true
 
     property string text
     property string secondText
@@ -16,6 +20,7 @@ Column {
     property color imageColor
 
     Row {
+        anchors.left: parent.left
         height: 36
 
         Symbol {

@@ -10,6 +10,7 @@ Text {
     padding: 10
     textFormat: Text.MarkdownText
     font: Fonts.regular12
+    horizontalAlignment: Text.AlignLeft
     color: Colors.cardTextColor
     wrapMode: Text.Wrap
     visible: text !== ""

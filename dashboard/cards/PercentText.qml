@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // A percentage on a card.
 CardFigures {
@@ -13,7 +14,7 @@ CardFigures {
         id: figure
 
         padding: 1
-        text: root.percent
+        text: Dashboard.integerText(root.percent)
     }
 
     CardUnit {

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The cycles done and, small, those that the battery is designed for.
 CardFigures {
@@ -14,7 +15,7 @@ CardFigures {
         id: figure
 
         padding: 1
-        text: root.currentCycles
+        text: Dashboard.integerText(root.currentCycles)
     }
 
     CardUnit {
@@ -26,6 +27,6 @@ CardFigures {
     CardUnit {
         anchors.baseline: figure.baseline
         padding: 1
-        text: root.designCycles
+        text: Dashboard.integerText(root.designCycles)
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The card of the charge cycles: done, and designed for.
 CardView {
@@ -13,7 +14,8 @@ CardView {
 
     title: "Charge cycles"
     isKnown: currentCycles !== undefined && designCycles !== undefined
-    value: `${currentCycles} of ${designCycles}`
+    value: `${Dashboard.integerText(currentCycles ?? 0)} of `
+        + Dashboard.integerText(designCycles ?? 0)
     imageView: CyclesImageView {}
     textView: CyclesTextView {
         currentCycles: root.currentCycles ?? 0

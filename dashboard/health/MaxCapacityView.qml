@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The card of the maximum capacity compared with a new battery's.
 CardView {
@@ -12,7 +13,7 @@ CardView {
 
     title: "Max capacity"
     isKnown: percent !== undefined
-    value: `${percent}%`
+    value: `${Dashboard.integerText(percent ?? 0)}%`
     imageView: MaxCapacityImageView { percent: root.percent ?? 0 }
     textView: MaxCapacityTextView { percent: root.percent ?? 0 }
     moreInfoView: MaxCapacityMoreInfoView {

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // The card of the present charge.
 CardView {
@@ -12,7 +13,7 @@ CardView {
 
     title: "Charge now"
     isKnown: percent !== undefined
-    value: `${percent}%`
+    value: `${Dashboard.integerText(percent ?? 0)}%`
     imageView: ChargeNowImageView { percent: root.percent ?? 0 }
     textView: ChargeNowTextView { percent: root.percent ?? 0 }
 }

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 import Ferrin.Quick
 
 // The card of what the battery is doing.
@@ -33,7 +34,8 @@ CardView {
         case ChargingStatus.FinishingCharge:
             return "Finishing charge";
         case ChargingStatus.Held:
-            return limit === undefined ? "Not charging" : `Held at ${limit}%`;
+            return limit === undefined ? "Not charging"
+                                       : `Held at ${Dashboard.integerText(limit)}%`;
         default:
             return "";
         }

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 
 // Hours and minutes, both always.
 CardFigures {
@@ -14,7 +15,7 @@ CardFigures {
         id: figure
 
         rightPadding: 1
-        text: root.hours
+        text: Dashboard.integerText(root.hours)
     }
 
     CardUnit {
@@ -25,7 +26,7 @@ CardFigures {
 
     CardFigure {
         rightPadding: 1
-        text: root.minutes
+        text: Dashboard.integerText(root.minutes)
     }
 
     CardUnit {

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 import Ferrin.Quick
 
 // The card of the time to empty or to full. For a full or held battery it is the time that the charge
@@ -19,7 +20,7 @@ CardView {
     isKnown: chargeStatus !== ChargingStatus.Unknown
         && time.hours !== undefined && time.minutes !== undefined
     title: isKnown ? titleOf(chargeStatus) : "Time"
-    value: `${counted(time.hours, "hour")} ${counted(time.minutes, "minute")}`
+    value: `${counted(time.hours ?? 0, "hour")} ${counted(time.minutes ?? 0, "minute")}`
     imageView: TimeToImageView {}
     textView: TimeToTextView {
         hours: root.time.hours ?? 0
@@ -39,7 +40,7 @@ CardView {
     }
 
     function counted(count: real, noun: string): string {
-        return count === 1 ? `1 ${noun}` : `${count} ${noun}s`;
+        return `${Dashboard.integerText(count)} ${noun}${count === 1 ? "" : "s"}`;
     }
 
     Component {

@@ -6,6 +6,8 @@
 #include "quick/theme/readablecolors.h"
 #include "state/applicationappearance.h"
 
+#include <QGuiApplication>
+
 namespace ferrin {
 
 namespace {
@@ -29,6 +31,7 @@ QList<QColor> colorsIn(const QVariantList &values)
 Theme::Theme(QObject *parent)
     : QObject(parent)
 {
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &Theme::isMirroredChanged);
     const ApplicationAppearance *const appearance = ApplicationAppearance::shared();
     if (!appearance)
         return;
@@ -38,6 +41,11 @@ Theme::Theme(QObject *parent)
     m_reducesMotion.setBinding([appearance] { return appearance->reducesMotion(); });
     m_accent.setBinding([appearance] { return colorOf(appearance->accent()); });
     m_isHighContrast.setBinding([appearance] { return appearance->isHighContrast(); });
+}
+
+bool Theme::isMirrored()
+{
+    return QGuiApplication::isRightToLeft();
 }
 
 Theme *Theme::create(QQmlEngine *, QJSEngine *)

@@ -29,6 +29,8 @@ class Theme final : public QObject
     /// The desktop's own accent, which may have no contrast with anything; invalid without one.
     Q_PROPERTY(QColor accent READ accent NOTIFY accentChanged)
     Q_PROPERTY(bool isHighContrast READ isHighContrast NOTIFY isHighContrastChanged)
+    /// The application reads from right to left. The root of each window mirrors what is in it.
+    Q_PROPERTY(bool isMirrored READ isMirrored NOTIFY isMirroredChanged)
 
 public:
     /// Follows the application's appearance; without one it keeps the defaults.
@@ -51,6 +53,7 @@ public:
                                                double least) const;
     Q_INVOKABLE [[nodiscard]] QColor textOn(const QColor &ground, double least) const;
     Q_INVOKABLE [[nodiscard]] QColor inHueOf(const QColor &accent, const QColor &own) const;
+    [[nodiscard]] static bool isMirrored();
 
 Q_SIGNALS:
     void isDarkChanged();
@@ -59,6 +62,7 @@ Q_SIGNALS:
     void reducesMotionChanged();
     void accentChanged();
     void isHighContrastChanged();
+    void isMirroredChanged();
 
 private:
     Q_OBJECT_BINDABLE_PROPERTY(Theme, bool, m_isDark, &Theme::isDarkChanged)

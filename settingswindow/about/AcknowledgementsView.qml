@@ -68,6 +68,8 @@ FocusScope {
                 SettingsText {
                     required property string modelData
 
+                    // As it was written.
+                    LayoutMirroring.enabled: false
                     width: texts.width
                     visible: text !== ""
                     text: modelData
@@ -81,7 +83,7 @@ FocusScope {
 
     // The scroll indicator.
     RoundedRect {
-        x: view.width - 9
+        anchors { right: parent.right; rightMargin: 3 }
         y: view.y + 3 + view.visibleArea.yPosition * (view.height - 6)
         width: 6
         height: Math.max(20, view.visibleArea.heightRatio * (view.height - 6))

@@ -68,6 +68,7 @@ SettingsSectionView {
     ProminentButton {
         id: button
 
+        anchors.left: parent.left
         text: "Acknowledgements"
         onPressed: root.showSheet = true
 

@@ -22,6 +22,7 @@ RoundedRect {
 
         anchors { left: parent.left; right: parent.right; leftMargin: 7; rightMargin: 7 }
         padding: 5
+        horizontalAlignment: Text.AlignLeft
         text: root.title
         textFormat: Text.PlainText
         font: Fonts.bold14

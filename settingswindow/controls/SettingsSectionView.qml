@@ -16,6 +16,8 @@ Column {
     Text {
         width: parent.width
         leftPadding: 2
+        rightPadding: 2
+        horizontalAlignment: Text.AlignLeft
         text: root.heading
         textFormat: Text.PlainText
         font: Fonts.regular12

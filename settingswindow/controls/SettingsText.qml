@@ -7,6 +7,7 @@ import Ferrin.Quick
 // Plain text of a page, also for screen readers.
 Text {
     textFormat: Text.PlainText
+    horizontalAlignment: Text.AlignLeft
     wrapMode: Text.WordWrap
     font: Fonts.regular13
     color: Colors.primaryText

@@ -60,6 +60,7 @@ MakeBackgroundRectangle {
             RoundedRect {
                 id: tile
 
+                anchors.left: parent.left
                 width: 28
                 height: 28
                 radius: 6
@@ -78,6 +79,7 @@ MakeBackgroundRectangle {
 
                 anchors { left: tile.right; leftMargin: 10; right: parent.right }
                 height: parent.height
+                horizontalAlignment: Text.AlignLeft
                 verticalAlignment: Text.AlignVCenter
                 text: root.isMissing ? "This desktop has no battery settings that Ferrin can open."
                                      : "Open System Settings battery section"

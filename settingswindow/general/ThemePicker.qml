@@ -24,6 +24,7 @@ MakeBackgroundRectangle {
             Text {
                 anchors { left: parent.left; right: picker.left; rightMargin: 8 }
                 height: parent.height
+                horizontalAlignment: Text.AlignLeft
                 verticalAlignment: Text.AlignVCenter
                 text: picker.label
                 textFormat: Text.PlainText

@@ -51,6 +51,7 @@ MenuEntry {
             rightMargin: 7
             verticalCenter: parent.verticalCenter
         }
+        horizontalAlignment: Text.AlignLeft
         text: root.text
         textFormat: Text.PlainText
         font: Fonts.regular13

@@ -30,6 +30,8 @@ Column {
     Accessible.description: caption
 
     Text {
+        width: parent.width
+        horizontalAlignment: Text.AlignLeft
         text: root.heading
         textFormat: Text.PlainText
         font: Fonts.heavy13
@@ -39,6 +41,7 @@ Column {
     Text {
         width: 230
         bottomPadding: 5
+        horizontalAlignment: Text.AlignLeft
         text: root.caption
         textFormat: Text.PlainText
         wrapMode: Text.WordWrap

@@ -45,7 +45,7 @@ Pressable {
     }
 
     IconView {
-        x: 4
+        anchors { left: parent.left; leftMargin: 4 }
         width: 30
         height: parent.height
         icon: root.choices.icon
@@ -58,7 +58,7 @@ Pressable {
 
     // Both symbols are 10 wide.
     Symbol {
-        x: 37
+        anchors { right: parent.right; rightMargin: 5 }
         width: 10
         height: parent.height
         name: root.popoverShown ? "xmark" : "chevron.down"

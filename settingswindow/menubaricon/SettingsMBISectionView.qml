@@ -64,6 +64,7 @@ MakeBackgroundRectangle {
         Text {
             width: parent.width
             height: 30
+            horizontalAlignment: Text.AlignLeft
             text: root.choices.description
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
@@ -82,6 +83,7 @@ MakeBackgroundRectangle {
             Column {
                 id: switches
 
+                anchors.left: parent.left
                 width: 190
                 spacing: 1
 
@@ -126,6 +128,7 @@ MakeBackgroundRectangle {
                 anchors { left: preview.left; right: preview.right; top: preview.bottom }
                 anchors.topMargin: 3
                 height: 13
+                horizontalAlignment: Text.AlignLeft
                 text: root.choices.caption
                 textFormat: Text.PlainText
                 font: Fonts.regular10
@@ -165,6 +168,7 @@ MakeBackgroundRectangle {
             trigger: root.mustNoteBeScaled
 
             Text {
+                anchors.left: parent.left
                 height: 14
                 text: root.noteText
                 textFormat: Text.PlainText

@@ -5,6 +5,7 @@
 
 #include "menubar/textview.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QQuickWindow>
 
@@ -50,9 +51,13 @@ qreal PanelPreview::deviceScale() const
 AnyView PanelPreview::label() const
 {
     constexpr int labelPixelSize = 13;
-    return m_panel->hasLabel ? AnyView(TextView {
-               .text = labelFor(m_choices->preview()), .pixelSize = labelPixelSize, .opacity = 1 })
-                             : AnyView();
+    if (!m_panel->hasLabel)
+        return {};
+    // A panel that reads from right to left orders its numbers so, too.
+    const QString text = labelFor(m_choices->preview());
+    return TextView { .text = QGuiApplication::isRightToLeft() ? QChar(0x200f) + text : text,
+                      .pixelSize = labelPixelSize,
+                      .opacity = 1 };
 }
 
 void PanelPreview::refresh()
@@ -86,12 +91,17 @@ void PanelPreview::paint(QPainter *painter)
     QImage image
         = paintForm(m_panel->form, m_choices->preview(), m_panel->height, scale, m_panel->context);
     image.setDevicePixelRatio(scale);
-    painter->drawImage(QPointF(sideMargin, edgeMargin), image);
     const AnyView text = label();
     const QSizeF textSize = text.idealSize(m_panel->context);
-    const qreal left = sideMargin + image.width() / scale + labelGap;
-    text.paint(*painter, QRectF(QPointF(left, (height() - textSize.height()) / 2), textSize),
-               m_panel->context);
+    QRectF imagePlace(QPointF(sideMargin, edgeMargin), image.deviceIndependentSize());
+    QRectF textPlace(QPointF(imagePlace.right() + labelGap, (height() - textSize.height()) / 2),
+                     textSize);
+    if (QGuiApplication::isRightToLeft()) {
+        imagePlace.moveRight(width() - imagePlace.left());
+        textPlace.moveRight(width() - textPlace.left());
+    }
+    painter->drawImage(imagePlace.topLeft(), image);
+    text.paint(*painter, textPlace, m_panel->context);
 }
 
 } // namespace ferrin

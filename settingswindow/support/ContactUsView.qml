@@ -21,6 +21,7 @@ SettingsSectionView {
     }
 
     LinkView {
+        anchors.left: parent.left
         visible: root.hasAddress
         label: "Send Mail"
         symbol: "envelope"

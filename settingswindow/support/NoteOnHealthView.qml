@@ -23,6 +23,7 @@ SettingsSectionView {
     }
 
     LinkView {
+        anchors.left: parent.left
         label: "Ferrin FAQ"
         symbol: "link"
         address: Links.faq

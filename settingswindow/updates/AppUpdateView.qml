@@ -27,6 +27,7 @@ MakeBackgroundRectangle {
             visible: text !== ""
             text: SoftwareUpdates.note
             textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
             font: Fonts.regular12
             color: Colors.secondaryText

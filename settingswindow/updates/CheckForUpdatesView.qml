@@ -16,6 +16,7 @@ Column {
     spacing: 4
 
     ProminentButton {
+        anchors.left: parent.left
         text: "Check for Updates…"
         enabled: SoftwareUpdates.canCheckForUpdates
         // Those who do not see that it rests are not told by its state.

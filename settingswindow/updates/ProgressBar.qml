@@ -24,6 +24,7 @@ RoundedRect {
     Accessible.description: `${Math.round(value * 100)} %`
 
     RoundedRect {
+        anchors.left: parent.left
         width: root.value > 0 ? Math.max(parent.height, parent.width * root.value) : 0
         height: parent.height
         radius: parent.radius

@@ -145,7 +145,7 @@ FocusScope {
     }
 
     Image {
-        x: 20
+        anchors { left: parent.left; leftMargin: 20 }
         y: 20
         width: 56
         height: 56
@@ -165,6 +165,7 @@ FocusScope {
             id: heading
 
             width: parent.width
+            horizontalAlignment: Text.AlignLeft
             text: root.headingOf(root.stage)
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
@@ -196,6 +197,7 @@ FocusScope {
                 id: message
 
                 width: parent.width - (spinner.visible ? spinner.width + 8 : 0)
+                horizontalAlignment: Text.AlignLeft
                 text: root.messageOf(root.stage)
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap

@@ -6,6 +6,7 @@
 #include "menubar/stackviews.h"
 #include "tests/support/testmain.h"
 
+#include <QGuiApplication>
 #include <QTest>
 
 using namespace ferrin;
@@ -83,6 +84,19 @@ private Q_SLOTS:
     {
         const QImage image = painted(RowView { .children = { small } }, { 10, 10 });
         QCOMPARE(inkedRect(image), QRect(3, 3, 4, 4));
+    }
+
+    void aRowIsMirroredUnlessItKeepsItsOrder()
+    {
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        RowView row { .spacing = 1, .children = { small, SpacerView {}, large } };
+        const QImage mirrored = painted(row, { 40, 8 });
+        row.keepsOrder = true;
+        const QImage kept = painted(row, { 40, 8 });
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QCOMPARE(inkOfColumn(mirrored, 0), 8.0);
+        QCOMPARE(inkOfColumn(mirrored, 39), 4.0);
+        QCOMPARE(mirrored, kept.mirrored(true, false));
     }
 
     void aColumnCentresItsViewsHorizontally()

@@ -4,6 +4,7 @@
 #include "popover/popoverplacement.h"
 #include "tests/support/testmain.h"
 
+#include <QGuiApplication>
 #include <QTest>
 
 #include <cstdlib>
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void ignoresAPanelOfAnotherScreen();
     void standsInTheCornerOfTheStatusAreaWithoutAPlace_data();
     void standsInTheCornerOfTheStatusAreaWithoutAPlace();
+    void standsInTheOtherCornerWhereOneReadsFromRightToLeft();
     void showsItsTopLeftCornerWhenItIsLargerThanTheScreen();
 
     void explainsAPartFromWhereThereIsRoom_data();
@@ -202,6 +204,14 @@ void PopoverPlacementTest::standsInTheCornerOfTheStatusAreaWithoutAPlace()
     QFETCH(QRect, available);
     QFETCH(QRect, frame);
     QCOMPARE(spotAtItem({}, popover, { screen, available }).frame, frame);
+}
+
+void PopoverPlacementTest::standsInTheOtherCornerWhereOneReadsFromRightToLeft()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const QRect frame = spotAtItem({}, popover, { screen, { 40, 30, 760, 570 } }).frame;
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(frame, QRect(QPoint(46, 36), popover));
 }
 
 void PopoverPlacementTest::showsItsTopLeftCornerWhenItIsLargerThanTheScreen()

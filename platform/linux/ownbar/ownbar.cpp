@@ -17,6 +17,12 @@ namespace {
 
 const QString placeKey = u"ownBarPlace"_s;
 
+/// In the corner where status areas are.
+BarPlace usualPlace()
+{
+    return { .along = QGuiApplication::isRightToLeft() ? 0.0 : 1.0 };
+}
+
 } // namespace
 
 OwnBarItem::OwnBarItem(const PanelColors &colors, DefaultsStore *store, QObject *parent)
@@ -30,7 +36,7 @@ OwnBarItem::OwnBarItem(const PanelColors &colors, DefaultsStore *store, QObject 
     connect(&m_popup, &PopupMenu::triggered, this, &StatusItem::menuEntryTriggered);
     if (store) {
         const auto remembered = barPlaceIn(store->string(placeKey).value_or(QString()));
-        m_window.setPlace(remembered.value_or(BarPlace()));
+        m_window.setPlace(remembered.value_or(usualPlace()));
         connect(&m_window, &OwnBarWindow::placeChanged, store,
                 [this, store] { store->setObject(placeKey, toText(m_window.barPlace())); });
     }

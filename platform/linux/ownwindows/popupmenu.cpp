@@ -122,6 +122,8 @@ void PopupMenu::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(m_look.font(fontPixelSize));
     const int inset = m_look.scaled(textInset);
+    // By the layout, whatever direction a text itself has.
+    const int side = QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
     for (int entry = 0; std::cmp_less(entry, m_entries.size()); ++entry) {
         const QRect bounds = entryBounds(entry);
         if (entry == m_current) {
@@ -130,7 +132,8 @@ void PopupMenu::paintEvent(QPaintEvent *)
             painter.drawRoundedRect(bounds, rowRadius, rowRadius);
         }
         painter.setPen(colors.text);
-        painter.drawText(bounds.adjusted(inset, 0, -inset, 0), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(bounds.adjusted(inset, 0, -inset, 0),
+                         side | Qt::AlignAbsolute | Qt::AlignVCenter,
                          m_entries[size_t(entry)].title);
     }
 }

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QProcessEnvironment>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +32,18 @@ void setUpApplication()
     // it keeps the place that such a window was given.
     qputenv(bypassVariable, "1");
     qputenv(positionsVariable, "1");
+}
+
+Qt::LayoutDirection layoutDirectionFor(const QStringList &languages)
+{
+    return languages.isEmpty() ? Qt::LeftToRight : QLocale(languages.constFirst()).textDirection();
+}
+
+void followLayoutDirection()
+{
+    // Qt's option -reverse mirrors an application on any desktop.
+    if (layoutDirectionFor(QLocale::system().uiLanguages()) == Qt::RightToLeft)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
 }
 
 void logMissingWaylandPlugin(const QString &pluginFolder)

@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include <QStringList>
+
 class QProcessEnvironment;
-class QString;
 
 namespace ferrin {
 
@@ -13,6 +14,15 @@ namespace ferrin {
 /// that the user's environment names is loaded all the same. On Wayland Qt leaves windows alone
 /// that are to show in the desktop's layers.
 void setUpApplication();
+
+/// The direction of a desktop whose user prefers these languages, the best first: the script of
+/// the best one.
+[[nodiscard]] Qt::LayoutDirection layoutDirectionFor(const QStringList &languages);
+
+/// Mirrors the application on a desktop that reads from right to left, on which all else is
+/// mirrored, too. By itself Qt would only mirror a program with a translation. Call once the
+/// application object is made.
+void followLayoutDirection();
 
 /// Says in the log when Qt runs on X11 in a Wayland session because its plugin is not among
 /// Qt's plugins. Call once the application object is made.

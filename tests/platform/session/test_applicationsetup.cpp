@@ -22,6 +22,26 @@ private Q_SLOTS:
     void init() { qputenv("WAYLAND_DISPLAY", "wayland-test"); }
     void cleanup() { qunsetenv("WAYLAND_DISPLAY"); }
 
+    void readsInTheDirectionOfTheBestLanguage_data()
+    {
+        QTest::addColumn<QStringList>("languages");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("Arabic") << QStringList { u"ar-EG"_s, u"en"_s } << Qt::RightToLeft;
+        QTest::newRow("Persian") << QStringList { u"fa-IR"_s } << Qt::RightToLeft;
+        QTest::newRow("Hebrew") << QStringList { u"he"_s } << Qt::RightToLeft;
+        QTest::newRow("Urdu") << QStringList { u"ur-PK"_s } << Qt::RightToLeft;
+        QTest::newRow("German") << QStringList { u"de-DE"_s, u"ar"_s } << Qt::LeftToRight;
+        QTest::newRow("Punjabi, in India") << QStringList { u"pa-IN"_s } << Qt::LeftToRight;
+        QTest::newRow("Punjabi, in Pakistan") << QStringList { u"pa-PK"_s } << Qt::RightToLeft;
+        QTest::newRow("none") << QStringList { u"C"_s } << Qt::LeftToRight;
+        QTest::newRow("nothing known") << QStringList() << Qt::LeftToRight;
+    }
+    void readsInTheDirectionOfTheBestLanguage()
+    {
+        QFETCH(QStringList, languages);
+        QTEST(layoutDirectionFor(languages), "direction");
+    }
+
     void namesThePackageOfAWaylandPluginThatIsMissing()
     {
         const QTemporaryDir plugins;
