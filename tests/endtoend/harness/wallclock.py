@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""A clock that a test sets, for the program alone: the time of day jumps as it does when a dead battery of
-the clock, a dual boot or a time server has its say. What measures durations goes on as ever."""
+"""A clock that a test sets, for the program alone: the time of day jumps as it does when a dead battery
+of the clock, a dual boot or a time server has its say. What measures durations goes on as ever."""
 
 import os
 import random
