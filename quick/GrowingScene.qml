@@ -53,12 +53,6 @@ FocusScope {
         return Math.max(0, Math.min(wanted, all - seen));
     }
 
-    component Bar: RoundedRect {
-        radius: 3
-        color: Colors.switchOff
-        opacity: 0.7
-    }
-
     Item {
         id: ground
 
@@ -86,20 +80,15 @@ FocusScope {
             }
         }
 
-        Bar {
-            anchors { right: parent.right; rightMargin: 2 }
-            y: view.height * view.visibleArea.yPosition
-            width: 6
-            height: view.height * view.visibleArea.heightRatio
-            visible: view.visibleArea.heightRatio < 1
+        ScrollBar {
+            anchors { top: parent.top; bottom: parent.bottom; right: parent.right }
+            flickable: view
         }
 
-        Bar {
-            x: view.width * view.visibleArea.xPosition
-            y: view.height - 8
-            width: view.width * view.visibleArea.widthRatio
-            height: 6
-            visible: view.visibleArea.widthRatio < 1
+        ScrollBar {
+            anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+            flickable: view
+            isHorizontal: true
         }
     }
 }

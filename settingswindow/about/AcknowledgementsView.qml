@@ -81,15 +81,9 @@ FocusScope {
         }
     }
 
-    // The scroll indicator.
-    RoundedRect {
-        anchors { right: parent.right; rightMargin: 3 }
-        y: view.y + 3 + view.visibleArea.yPosition * (view.height - 6)
-        width: 6
-        height: Math.max(20, view.visibleArea.heightRatio * (view.height - 6))
-        radius: 3
-        color: Colors.switchOff
-        visible: view.visibleArea.heightRatio < 1
+    ScrollBar {
+        anchors { top: view.top; bottom: view.bottom; right: parent.right; margins: 3; rightMargin: 1 }
+        flickable: view
     }
 
     Rectangle {

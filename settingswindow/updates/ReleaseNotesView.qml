@@ -70,14 +70,8 @@ RoundedRect {
         }
     }
 
-    // Where in the notes one is.
-    RoundedRect {
-        anchors { right: parent.right; rightMargin: 5 }
-        visible: root.isScrollable
-        y: view.y + view.height * view.visibleArea.yPosition
-        width: 4
-        height: view.height * view.visibleArea.heightRatio
-        radius: 2
-        color: Colors.switchOff
+    ScrollBar {
+        anchors { top: view.top; bottom: view.bottom; right: parent.right; rightMargin: 2 }
+        flickable: view
     }
 }

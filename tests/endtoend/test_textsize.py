@@ -67,6 +67,15 @@ class TheSettingsGrow(WithSettings):
         self.assertIn("Show time to full", seen)
         self.assertIn("Choose icon", seen)
 
+    def test_they_scroll_as_far_as_the_bar_is_dragged(self):
+        self.desktop.enlarges_texts(2)
+        eventually(lambda: self.window.box().width == 1000, "the window is as wide as the screen")
+        before, window = self.window.find("General", TAB).box, self.window.box()
+        knob = window.right - 10, window.top + 60
+        self.session.drag(knob, (knob[0], knob[1] + 100))
+        eventually(lambda: self.window.find("General", TAB).box.top < before.top - 100,
+                   "the pages' names have gone up by more than the pointer has come down")
+
     def test_the_question_before_quitting_is_in_sight(self):
         self.desktop.enlarges_texts(2)
         eventually(lambda: self.window.box().width == 1000, "the window is as wide as the screen")

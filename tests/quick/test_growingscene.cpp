@@ -83,6 +83,34 @@ private Q_SLOTS:
         QVERIFY(QRectF(0, 0, 300, 200).contains(scene.placeOf("last")));
     }
 
+    void scrollsAsFarAsItsBarIsDragged()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        const QPoint start = test::centreOf(scene.part("knob"));
+        QTest::mousePress(&scene.stage.window, Qt::LeftButton, {}, start);
+        QTest::mouseMove(&scene.stage.window, start + QPoint(0, 20));
+        QTest::mouseMove(&scene.stage.window, start + QPoint(0, 40));
+        // Half of the content is seen, and the knob has followed the pointer.
+        QCOMPARE(scene.placeOf("first"), QRectF(0, -80, 100, 100));
+        QCOMPARE(test::centreOf(scene.part("knob")), start + QPoint(0, 40));
+        QTest::mouseMove(&scene.stage.window, { start.x(), 195 });
+        QCOMPARE(scene.placeOf("first"), QRectF(0, -200, 100, 100));
+        QTest::mouseRelease(&scene.stage.window, Qt::LeftButton, {}, { start.x(), 195 });
+    }
+
+    void turnsAPageAtAClickBesideTheKnob()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        QTest::mouseClick(&scene.stage.window, Qt::LeftButton, {}, { 290, 170 });
+        QCOMPARE(scene.placeOf("first"), QRectF(0, -200, 100, 100));
+        QTest::mouseClick(&scene.stage.window, Qt::LeftButton, {}, { 290, 20 });
+        QCOMPARE(scene.placeOf("first"), QRectF(0, 0, 100, 100));
+    }
+
     void hasItsOverlaysOverWhatIsSeen()
     {
         Scene scene;
