@@ -78,9 +78,11 @@ xcb_atom_t FakeTray::atom(const char *name) const
 
 void FakeTray::announce(const char *name, xcb_atom_t type, std::span<const quint32> values)
 {
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_bar, atom(name), type, 32,
-                        quint32(values.size()), values.data());
-    xcb_flush(m_connection);
+    const auto change
+        = xcb_change_property_checked(m_connection, XCB_PROP_MODE_REPLACE, m_bar, atom(name), type,
+                                      32, quint32(values.size()), values.data());
+    // Who asks next on another connection is told already.
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_connection, change));
 }
 
 void FakeTray::own()
