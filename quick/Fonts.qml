@@ -34,6 +34,9 @@ QtObject {
             family: Theme.fontFamily,
             pixelSize: pixelSize,
             weight: weight,
+            // Enlarged letters are drawn in the room of those that are not: hinted ones would lose what lies
+            // over a whole pixel.
+            hintingPreference: Theme.textScale === 1 ? Font.PreferDefaultHinting : Font.PreferNoHinting,
             letterSpacing: letterSpacing || 0
         });
     }

@@ -22,6 +22,29 @@ constexpr auto lines = R"(
         }
     })";
 
+/// Where the last letter of a text begins, which is enlarged twice.
+int topOfLastLetter(const QByteArray &text)
+{
+    test::SceneStage stage { QByteArrayList() };
+    stage.appearance.setTextScale(2);
+    QQuickItem *const root
+        = stage.show("GrowingScene { content: Item { implicitWidth: 60; implicitHeight: 30;"
+                     "Text { anchors.right: parent.right; y: 5; font: Fonts.regular13;"
+                     "color: \"black\"; text: \""
+                     + text + "\" } } }");
+    stage.window.resize(120, 60);
+    root->setSize({ 120, 60 });
+    const QImage picture = stage.picture();
+    // The letter is at least so wide, with nothing at its right.
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 106; x < 118; ++x) {
+            if (qGray(picture.pixel(x, y)) < 200)
+                return y;
+        }
+    }
+    return -1;
+}
+
 class Scene
 {
 public:
@@ -69,6 +92,13 @@ private Q_SLOTS:
                  QSizeF(450, 300));
         scene.resize({ 450, 300 });
         QCOMPARE(scene.placeOf("last"), QRectF(300, 225, 75, 75));
+    }
+
+    void losesNothingOfEnlargedLetters()
+    {
+        QVERIFY(topOfLastLetter("S") > 0);
+        // Above the second one there is room for the first.
+        QCOMPARE(topOfLastLetter("S"), topOfLastLetter("dS"));
     }
 
     void scrollsToWhatGetsTheFocusWhereTheWindowIsTooSmall()
