@@ -8,10 +8,20 @@
 #include <QDBusObjectPath>
 #include <QDBusSignature>
 #include <QDBusVariant>
+#include <QRegularExpression>
 
 namespace ferrin::fuzz {
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+/// Such a path where it is one, else the shortest: Qt warns of others, which ends a test.
+QDBusObjectPath pathOf(const QString &text)
+{
+    static const QRegularExpression path(u"\\A(/|(/[A-Za-z0-9_]+)+)\\z"_s);
+    return QDBusObjectPath(path.match(text).hasMatch() ? text : u"/"_s);
+}
 
 /// What stands before the first such sign, which is taken from the text as well.
 std::string_view takeUntil(char sign, std::string_view &text)
@@ -58,9 +68,9 @@ QVariant valueOf(std::string_view text)
     case 's':
         return rest;
     case 'o':
-        return QVariant::fromValue(QDBusObjectPath(rest));
+        return QVariant::fromValue(pathOf(rest));
     case 'g':
-        return QVariant::fromValue(QDBusSignature(rest));
+        return QVariant::fromValue(QDBusSignature(u"a{sv}"_s));
     case 'V':
         return QVariant::fromValue(QDBusVariant(rest));
     case 'a':
@@ -68,7 +78,7 @@ QVariant valueOf(std::string_view text)
     case 'I':
         return QVariant::fromValue(QList<int> { rest.toInt(), -1, 0, rest.toInt() });
     case 'O':
-        return QVariant::fromValue(QList { QDBusObjectPath(rest), QDBusObjectPath(rest) });
+        return QVariant::fromValue(QList { pathOf(rest), pathOf(rest) });
     case 'e':
         return QVariant::fromValue(
             QList<DBusMenuEvent> { { .number = 1, .event = rest, .data = QDBusVariant(rest) },
