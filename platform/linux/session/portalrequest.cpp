@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString service = u"org.freedesktop.portal.Desktop"_s;
-const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 
 /// The path that the portal makes of the caller's name and the token, so that the answer can be
@@ -27,7 +27,7 @@ const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 QString requestPath(const QDBusConnection &session, const QString &token)
 {
     const QString sender = session.baseService().mid(1).replace(u'.', u'_');
-    return u"%1/request/%2/%3"_s.arg(path, sender, token);
+    return u"%1/request/%2/%3"_s.arg(portalPath, sender, token);
 }
 
 } // namespace
@@ -40,7 +40,7 @@ void PortalRequest::send(const QDBusConnection &session, const QString &interfac
     const QString token = u"ferrin_"_s + QUuid::createUuid().toString(QUuid::Id128);
     request->listenAt(requestPath(session, token));
     options.insert(u"handle_token"_s, token);
-    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, method);
+    QDBusMessage call = QDBusMessage::createMethodCall(service, portalPath, interface, method);
     call.setArguments(arguments + QVariantList { options });
     callAsync(session, call, request, [request](const QDBusMessage &reply) {
         if (reply.type() == QDBusMessage::ErrorMessage)
