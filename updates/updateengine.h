@@ -17,10 +17,10 @@ enum class UpdateSupport {
     full,
     /// No package installed it, so no package can replace it.
     notPackaged,
-    /// It runs in a Flatpak, which is updated as a whole and from outside.
-    sandboxed,
     /// The system has no package service that programs can ask.
     noService,
+    /// It runs in a Flatpak, which is updated as a whole and from outside.
+    sandboxed,
 };
 
 enum class UpdateActivity {
