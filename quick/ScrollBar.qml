@@ -5,7 +5,8 @@ import QtQuick
 import Ferrin.Quick
 
 // Shows which part of a view is seen, where not all is, and lets it be dragged; a click beside the knob turns
-// a page. It is as long as the view that it stands beside makes it. Keys scroll the view itself.
+// a page. It is as long as the view that it stands beside makes it. Keys go to the view's owner, which scrolls
+// by this.
 Item {
     id: root
 
@@ -36,16 +37,20 @@ Item {
             flickable.contentY = next;
     }
 
+    function scrollBy(distance: real) {
+        scrollTo(position + distance);
+    }
+
     function along(point: point): real {
         return isHorizontal ? point.x : point.y;
     }
 
     function turnPageTowards(place: real) {
-        const page = length * contentRange / Math.max(1, knobRange) * shownShare;
+        const page = isHorizontal ? flickable.width : flickable.height;
         if (place < knobPlace)
-            scrollTo(position - page);
+            scrollBy(-page);
         else if (place > knobPlace + knobLength)
-            scrollTo(position + page);
+            scrollBy(page);
     }
 
     RoundedRect {

@@ -20,21 +20,16 @@ FocusScope {
     implicitWidth: 600
     implicitHeight: 400
 
-    Keys.onUpPressed: root.scroll(-40)
-    Keys.onDownPressed: root.scroll(40)
+    Keys.onUpPressed: bar.scrollBy(-40)
+    Keys.onDownPressed: bar.scrollBy(40)
     Keys.onPressed: event => {
         const page = view.height - 40;
         const steps = new Map([[Qt.Key_PageUp, -page], [Qt.Key_PageDown, page],
                                [Qt.Key_Home, -view.contentHeight], [Qt.Key_End, view.contentHeight]]);
         if (steps.has(event.key)) {
-            root.scroll(steps.get(event.key));
+            bar.scrollBy(steps.get(event.key));
             event.accepted = true;
         }
-    }
-
-    function scroll(by: real) {
-        view.cancelFlick();
-        view.contentY = Math.max(0, Math.min(view.contentHeight - view.height, view.contentY + by));
     }
 
     Flickable {
@@ -82,6 +77,8 @@ FocusScope {
     }
 
     ScrollBar {
+        id: bar
+
         anchors { top: view.top; bottom: view.bottom; right: parent.right; margins: 3; rightMargin: 1 }
         flickable: view
     }

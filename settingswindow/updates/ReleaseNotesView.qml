@@ -25,21 +25,16 @@ RoundedRect {
     Accessible.description: notes
     Accessible.focusable: isScrollable
 
-    Keys.onUpPressed: root.scroll(-20)
-    Keys.onDownPressed: root.scroll(20)
+    Keys.onUpPressed: bar.scrollBy(-20)
+    Keys.onDownPressed: bar.scrollBy(20)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown) {
-            root.scroll(view.height * (event.key === Qt.Key_PageUp ? -1 : 1));
+            bar.scrollBy(view.height * (event.key === Qt.Key_PageUp ? -1 : 1));
             event.accepted = true;
         }
     }
 
     onNotesChanged: view.contentY = 0
-
-    function scroll(by: real) {
-        const end = Math.max(0, view.contentHeight - view.height);
-        view.contentY = Math.max(0, Math.min(end, view.contentY + by));
-    }
 
     FocusRing {
         anchors.margins: -3
@@ -71,6 +66,8 @@ RoundedRect {
     }
 
     ScrollBar {
+        id: bar
+
         anchors { top: view.top; bottom: view.bottom; right: parent.right; rightMargin: 2 }
         flickable: view
     }
