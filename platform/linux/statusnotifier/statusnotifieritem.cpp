@@ -116,28 +116,51 @@ void StatusNotifierItem::scheduleUpdate()
 void StatusNotifierItem::sendUpdate()
 {
     m_update.stop();
-    bool isIconNew = false;
+    QList<const HostProfile *> newIcons;
     QList<const HostProfile *> newLabels;
     for (auto [profile, seen] : m_seen.asKeyValueRange()) {
-        const Seen now = seenBy(*profile);
-        isIconNew = isIconNew || now.pictures != seen.pictures || now.iconName != seen.iconName;
+        const Seen now = seenBy(*profile, seen.hasIcon);
+        if (now.pictures != seen.pictures || now.iconName != seen.iconName)
+            newIcons.append(profile);
         if (now.label != seen.label)
             newLabels.append(profile);
         seen = now;
     }
     const QString seenToolTip = std::exchange(m_seenToolTip, toolTip());
 
-    if (isIconNew)
-        sendSignal(u"NewIcon"_s);
+    announce(u"NewIcon"_s, &Reader::hasIcon,
+             [&](const HostProfile &profile) { return newIcons.contains(&profile); });
     // A host that draws a label shows no tool tip.
-    const bool hasTip = std::any_of(m_readers.cbegin(), m_readers.cend(),
-                                    [](const HostProfile *profile) { return !profile->label; });
-    if (hasTip && m_seenToolTip != seenToolTip)
-        sendSignal(u"NewToolTip"_s);
-    for (auto [reader, profile] : m_readers.asKeyValueRange()) {
-        if (newLabels.contains(profile))
-            sendLabelTo(reader, m_seen[profile].label);
+    announce(u"NewToolTip"_s, &Reader::hasToolTip, [&](const HostProfile &profile) {
+        return m_seenToolTip != seenToolTip && !profile.label;
+    });
+    for (const auto [name, reader] : m_readers.asKeyValueRange()) {
+        if (newLabels.contains(reader.profile))
+            sendLabelTo(name, m_seen[reader.profile].label);
     }
+}
+
+void StatusNotifierItem::announce(const QString &signal, bool Reader::*hasRead,
+                                  const std::function<bool(const HostProfile &)> &isNews)
+{
+    QStringList concerned;
+    bool isNewsToAll = true;
+    for (const auto [name, reader] : m_readers.asKeyValueRange()) {
+        if (!(reader.*hasRead))
+            continue;
+        if (isNews(*reader.profile))
+            concerned.append(name);
+        else
+            isNewsToAll = false;
+    }
+    if (concerned.isEmpty())
+        return;
+    if (isNewsToAll) {
+        sendSignal(signal);
+        return;
+    }
+    for (const QString &name : std::as_const(concerned))
+        sendSignalTo(name, signal, {});
 }
 
 void StatusNotifierItem::sendLabelTo(const QString &reader, const QString &label)
@@ -151,20 +174,23 @@ void StatusNotifierItem::repeatLabel(const QString &reader, int repeatsLeft,
     if (repeatsLeft == 0)
         return;
     QTimer::singleShot(delay, this, [this, reader, repeatsLeft, delay] {
-        const HostProfile *const profile = m_readers.value(reader);
-        if (!profile)
+        const auto found = m_readers.constFind(reader);
+        if (found == m_readers.cend())
             return;
-        if (const QString &label = m_seen[profile].label; !label.isEmpty())
+        if (const QString &label = m_seen[found->profile].label; !label.isEmpty())
             sendLabelTo(reader, label + unseenMark);
         repeatLabel(reader, repeatsLeft - 1, 2 * delay);
     });
 }
 
-StatusNotifierItem::Seen StatusNotifierItem::seenBy(const HostProfile &profile)
+StatusNotifierItem::Seen StatusNotifierItem::seenBy(const HostProfile &profile, bool hasIcon)
 {
     Seen seen;
+    seen.hasIcon = hasIcon;
     if (profile.label)
         seen.label = labelFor(m_content);
+    if (!hasIcon)
+        return seen;
     if (profile.iconName)
         seen.iconName = m_iconFiles.nameFor(m_content);
     else
@@ -194,33 +220,44 @@ QString StatusNotifierItem::moreWords() const
     return text == words() ? QString() : text;
 }
 
-void StatusNotifierItem::remember(const QString &caller, const HostProfile &profile)
+void StatusNotifierItem::remember(const QString &caller, const HostProfile &profile,
+                                  const QString &property)
 {
     if (m_readers.isEmpty())
         m_seenToolTip = toolTip();
-    if (!m_seen.contains(&profile))
-        m_seen.insert(&profile, seenBy(profile));
-    if (m_readers.contains(caller))
+    if (!m_readers.contains(caller)) {
+        m_readers.insert(caller, { .profile = &profile });
+        // GNOME's extension draws its item before it knows the label that it has read since version
+        // 58. It misses signals until then, and later ignores one that brings what it has read.
+        constexpr int repeats = 6;
+        if (profile.label)
+            repeatLabel(caller, repeats, m_labelRepeatDelay);
+    }
+    Seen &seen = m_seen[&profile];
+    Reader &reader = m_readers[caller];
+    reader.hasToolTip = reader.hasToolTip || property == u"ToolTip";
+    const bool isOfIcon = property.startsWith(u"Icon");
+    if (!seen.hasIcon)
+        seen = seenBy(profile, isOfIcon);
+    if (!isOfIcon || std::exchange(reader.hasIcon, true))
         return;
-    m_readers.insert(caller, &profile);
     m_lastHost = &profile;
     Q_EMIT readersChanged();
-    // GNOME's extension draws its item before it knows the label that it has read since version 58.
-    // It misses signals until then, and later ignores one that brings what it has read.
-    constexpr int repeats = 6;
-    if (profile.label)
-        repeatLabel(caller, repeats, m_labelRepeatDelay);
 }
 
 void StatusNotifierItem::forget(const QString &caller)
 {
-    const HostProfile *const profile = m_readers.take(caller);
+    const HostProfile *const profile = m_readers.take(caller).profile;
+    const auto hasIcon = [](const Reader &reader) { return reader.hasIcon; };
     const bool hasOtherReader
-        = std::find(m_readers.cbegin(), m_readers.cend(), profile) != m_readers.cend();
+        = std::any_of(m_readers.cbegin(), m_readers.cend(),
+                      [profile](const Reader &reader) { return reader.profile == profile; });
     if (!profile || hasOtherReader)
         return;
-    if (m_lastHost == profile)
-        m_lastHost = m_readers.isEmpty() ? nullptr : *m_readers.cbegin();
+    if (m_lastHost == profile) {
+        const auto other = std::find_if(m_readers.cbegin(), m_readers.cend(), hasIcon);
+        m_lastHost = other == m_readers.cend() ? nullptr : other->profile;
+    }
     Q_EMIT readersChanged();
     m_seen.remove(profile);
     m_pictures.forget(*profile);
@@ -266,7 +303,7 @@ QVariant StatusNotifierItem::property(const QString &name, const QString &caller
         return *constant;
     if (!propertyNames().contains(name))
         return {};
-    remember(caller, profile);
+    remember(caller, profile, name);
     if (name == u"IconName")
         return m_seen[&profile].iconName;
     if (name == u"IconThemePath")

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 
 namespace ferrin {
 
@@ -37,7 +38,7 @@ public:
     /// Signals what has changed on the next turn of the event loop, once for all the values that a
     /// refresh has changed.
     void setContent(const ItemContent &content);
-    /// As the last host shows the item that has read it; absent while none has.
+    /// As the last host shows the item that has read its icon; absent while none has.
     [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const;
 
     /// Whether the item has a tool tip. Has one by default.
@@ -50,7 +51,7 @@ public:
     void setTokenLifetime(std::chrono::milliseconds time) { m_tokenExpiry.setInterval(time); }
 
 Q_SIGNALS:
-    /// A host has read the item for the first time, or left.
+    /// A host has read the icon for the first time, or left.
     void readersChanged();
     /// The host's own coordinates; null from a host whose coordinates are not the screen's.
     void activateRequested(QPoint position);
@@ -64,9 +65,20 @@ protected:
                                                    const HostProfile &profile) override;
 
 private:
+    /// Who has read what. A signal is for those to whom it brings something new; it is a broadcast
+    /// where these are all who have read it.
+    struct Reader
+    {
+        const HostProfile *profile = nullptr;
+        bool hasIcon = false;
+        bool hasToolTip = false;
+    };
+
     /// What the hosts of a profile have seen of the item.
     struct Seen
     {
+        /// One of them has read the icon; without, it is not painted for them.
+        bool hasIcon = false;
         IconPixmapList pictures;
         QString label;
         QString iconName;
@@ -76,15 +88,17 @@ private:
 
     [[nodiscard]] QVariant property(const QString &name, const QString &caller,
                                     const HostProfile &profile);
-    [[nodiscard]] Seen seenBy(const HostProfile &profile);
+    [[nodiscard]] Seen seenBy(const HostProfile &profile, bool hasIcon);
     [[nodiscard]] QString words() const;
     [[nodiscard]] QString toolTip() const;
     [[nodiscard]] QString moreWords() const;
     void followScreens();
-    void remember(const QString &caller, const HostProfile &profile);
+    void remember(const QString &caller, const HostProfile &profile, const QString &property);
     void forget(const QString &caller);
     void scheduleUpdate();
     void sendUpdate();
+    void announce(const QString &signal, bool Reader::*hasRead,
+                  const std::function<bool(const HostProfile &)> &isNews);
     void sendLabelTo(const QString &reader, const QString &label);
     void repeatLabel(const QString &reader, int repeatsLeft, std::chrono::milliseconds delay);
 
@@ -92,8 +106,8 @@ private:
     ItemContent m_content;
     ItemPictures m_pictures;
     /// The readers that are on the bus, by unique name.
-    QHash<QString, const HostProfile *> m_readers;
-    /// The profile of the last reader that draws; null for none.
+    QHash<QString, Reader> m_readers;
+    /// The profile of the last that has read the icon; null for none.
     const HostProfile *m_lastHost = nullptr;
     QHash<const HostProfile *, Seen> m_seen;
     QString m_seenToolTip;

@@ -13,7 +13,6 @@
 #include <QGuiApplication>
 #include <QScopeGuard>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QTest>
 #include <QXmlStreamReader>
 #include <qpa/qplatformscreen.h>
@@ -67,20 +66,9 @@ private Q_SLOTS:
     void givesSquaresToACallerThatIsUnknown();
     void labelsForHostsThatDrawLabelsAndNoOther();
     void staysBelowTheSizeOfAMessageForEveryHost();
-    void isSilentAtRest();
-    void isSilentWhileNobodyHasLooked();
-    void isSilentWhenNothingVisibleChanged();
-    void tellsOnceOfSeveralChanges();
-    void tellsOfEveryRefreshAtOnce();
-    void repeatsTheLabelToAHostThatHasJustRead();
     void givesIndicatorServicesAnIconByItsName();
-    void sparesHostsThatLabelTheToolTip();
     void hasNoToolTipWhileItIsDisabled();
-    void tellsOfNewColors();
     void paintsAnewAtAnotherScale();
-    void tellsTheOthersOfWhatOneIsAboutToSee();
-    void forgetsReadersThatLeave();
-    void tellsTheLabelToItsHostsAlone();
 };
 
 void StatusNotifierItemTest::saysWhatItIs()
@@ -227,71 +215,6 @@ void StatusNotifierItemTest::staysBelowTheSizeOfAMessageForEveryHost()
     }
 }
 
-void StatusNotifierItemTest::isSilentAtRest()
-{
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    host->allProperties(m_service, itemPath, itemInterface);
-    m_item->setContent(dischargingAt(37, u"4:29"_s));
-    settle(*host);
-    QCOMPARE(host->takeSignals(), QStringList());
-}
-
-void StatusNotifierItemTest::isSilentWhileNobodyHasLooked()
-{
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    m_item->setContent(dischargingAt(12, u"0:29"_s));
-    settle(*host);
-    QCOMPARE(host->takeSignals(), QStringList());
-}
-
-void StatusNotifierItemTest::isSilentWhenNothingVisibleChanged()
-{
-    BusPeer *const host = newHost(u"gnome-shell"_s);
-    host->allProperties(m_service, itemPath, itemInterface);
-    ItemContent content = m_item->content();
-    content.icon->charge = 37.00001;
-    m_item->setContent(content);
-    settle(*host);
-    QCOMPARE(host->takeSignals(), QStringList());
-}
-
-void StatusNotifierItemTest::tellsOnceOfSeveralChanges()
-{
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    host->allProperties(m_service, itemPath, itemInterface);
-    m_item->setContent(dischargingAt(36, u"4:29"_s));
-    m_item->setContent(dischargingAt(36, u"4:20"_s));
-    settle(*host);
-    QCOMPARE(host->takeSignals(), (QStringList { u"NewIcon"_s, u"NewToolTip"_s }));
-    QCOMPARE(read(host, u"IconAccessibleDesc"_s).toString(), u"36%, 4:20 to empty"_s);
-    settle(*host);
-    QCOMPARE(host->takeSignals(), QStringList());
-}
-
-void StatusNotifierItemTest::tellsOfEveryRefreshAtOnce()
-{
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    host->allProperties(m_service, itemPath, itemInterface);
-    for (int charge = 36; charge > 30; --charge) {
-        m_item->setContent(dischargingAt(charge, u"4:28"_s));
-        settle(*host);
-        QCOMPARE(host->takeSignals(), (QStringList { u"NewIcon"_s, u"NewToolTip"_s }));
-    }
-}
-
-void StatusNotifierItemTest::repeatsTheLabelToAHostThatHasJustRead()
-{
-    m_item->setLabelRepeatDelay(std::chrono::milliseconds(1));
-    BusPeer *const gnome = newHost(u"gnome-shell"_s);
-    gnome->allProperties(m_service, itemPath, itemInterface);
-    QStringList heard;
-    QTRY_COMPARE((heard += gnome->takeSignals()).count(u"XAyatanaNewLabel"_s), 6);
-    QString news = gnome->lastArguments()[0].toString();
-    QCOMPARE_NE(news, read(gnome, u"XAyatanaLabel"_s).toString());
-    QCOMPARE(news.remove(QChar(0x200e)), u"37% 4:29"_s);
-    QCOMPARE(gnome->lastArguments()[1], QVariant(u"100% 00:00"_s));
-}
-
 void StatusNotifierItemTest::givesIndicatorServicesAnIconByItsName()
 {
     BusPeer *const service = newHost(u"ayatana-indicat"_s);
@@ -305,15 +228,6 @@ void StatusNotifierItemTest::givesIndicatorServicesAnIconByItsName()
     settle(*service);
     QVERIFY(service->takeSignals().contains(u"NewIcon"_s));
     QVERIFY(read(service, u"IconName"_s).toString() != name);
-}
-
-void StatusNotifierItemTest::sparesHostsThatLabelTheToolTip()
-{
-    BusPeer *const gnome = newHost(u"gnome-shell"_s);
-    gnome->allProperties(m_service, itemPath, itemInterface);
-    m_item->setContent(dischargingAt(12, u"1:02"_s));
-    settle(*gnome);
-    QCOMPARE(gnome->takeSignals(), (QStringList { u"NewIcon"_s, u"XAyatanaNewLabel"_s }));
 }
 
 void StatusNotifierItemTest::hasNoToolTipWhileItIsDisabled()
@@ -332,15 +246,6 @@ void StatusNotifierItemTest::hasNoToolTipWhileItIsDisabled()
     }
 }
 
-void StatusNotifierItemTest::tellsOfNewColors()
-{
-    BusPeer *const host = newHost(u"xfce4-panel"_s);
-    read(host, u"IconPixmap"_s);
-    m_colors->setTrayText(Qt::white);
-    settle(*host);
-    QCOMPARE(host->takeSignals(), QStringList { u"NewIcon"_s });
-}
-
 void StatusNotifierItemTest::paintsAnewAtAnotherScale()
 {
     BusPeer *const host = newHost(u"plasmashell"_s);
@@ -351,49 +256,6 @@ void StatusNotifierItemTest::paintsAnewAtAnotherScale()
     settle(*host);
     QCOMPARE(host->takeSignals(), QStringList(u"NewIcon"_s));
     QCOMPARE(height(), 44);
-}
-
-void StatusNotifierItemTest::tellsTheOthersOfWhatOneIsAboutToSee()
-{
-    BusPeer *const first = newHost(u"waybar"_s);
-    BusPeer *const second = newHost(u"waybar"_s);
-    const auto before = as<IconPixmapList>(read(first, u"IconPixmap"_s));
-    m_item->setContent(dischargingAt(9, u"0:40"_s));
-    QVERIFY(as<IconPixmapList>(read(second, u"IconPixmap"_s)) != before);
-    settle(*first);
-    QVERIFY(first->takeSignals().contains(u"NewIcon"_s));
-}
-
-void StatusNotifierItemTest::forgetsReadersThatLeave()
-{
-    BusPeer *const stays = newHost(u"waybar"_s);
-    const QSignalSpy departures(m_resolver.get(), &HostResolver::left);
-    {
-        const QDBusConnection connection
-            = QDBusConnection::connectToBus(m_bus->address(), u"passer-by"_s);
-        m_process = u"xfce4-panel"_s;
-        BusPeer leaves(connection);
-        read(&leaves, u"IconPixmap"_s);
-    }
-    QDBusConnection::disconnectFromBus(u"passer-by"_s);
-    QTRY_COMPARE(departures.size(), 1);
-    m_item->setContent(dischargingAt(9, u"0:40"_s));
-    settle(*stays);
-    QCOMPARE(stays->takeSignals(), QStringList());
-}
-
-void StatusNotifierItemTest::tellsTheLabelToItsHostsAlone()
-{
-    BusPeer *const gnome = newHost(u"gnome-shell"_s);
-    BusPeer *const mate = newHost(u"notification-ar"_s);
-    for (BusPeer *const host : { gnome, mate })
-        host->allProperties(m_service, itemPath, itemInterface);
-    m_item->setContent(dischargingAt(12, u"1:02"_s));
-    settle(*gnome);
-    settle(*mate);
-    QVERIFY(!mate->takeSignals().contains(u"XAyatanaNewLabel"_s));
-    QCOMPARE(gnome->lastArguments(), (QVariantList { u"12% 1:02"_s, u"100% 00:00"_s }));
-    QCOMPARE(gnome->takeSignals().count(u"XAyatanaNewLabel"_s), 1);
 }
 
 FERRIN_TEST(QGuiApplication, StatusNotifierItemTest)
