@@ -8,7 +8,8 @@ on the machine's panels; on the desktops of the host matrix by
 "tests/roots/in-desktops 12 --hosts -- /usr/bin/python3 bench/hosts.py BUILD_TREE".
 
 For each host: the processor time of the session's processes, the program and what serves the screen
-excepted, in the same minutes without the item and with it, and the signals that the item sent to everybody (a label goes to its host alone).
+excepted, in the same minutes without the item and with it, and the signals that the item
+sent to everybody; a label goes to its host alone.
 """
 
 import os
