@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -47,6 +48,16 @@ QString executable(const QString &program)
     return program.isEmpty() ? QString() : QStandardPaths::findExecutable(program);
 }
 
+/// The script that sets up what the program needs, where there is one: Nix and Guix give it the
+/// program's name and hide the program beside it, as ".NAME-wrapped" and ".NAME-real".
+QString wrapperOf(const QString &program)
+{
+    static const QRegularExpression wrapped(u"/\\.([^/]+)-(wrapped|real)$"_s);
+    QString script = program;
+    script.replace(wrapped, u"/\\1"_s);
+    return QFileInfo(script).isExecutable() ? script : program;
+}
+
 bool containsAny(const QStringList &list, const QStringList &names)
 {
     return std::ranges::any_of(names, [&](const QString &name) { return list.contains(name); });
@@ -61,9 +72,9 @@ AutostartSession AutostartSession::current()
              .desktops = currentDesktopNames() };
 }
 
-AutostartEntry::AutostartEntry(QString identifier, QString program, AutostartSession session)
+AutostartEntry::AutostartEntry(QString identifier, const QString &program, AutostartSession session)
     : m_identifier(std::move(identifier))
-    , m_program(std::move(program))
+    , m_program(wrapperOf(program))
     , m_session(std::move(session))
 {
 }

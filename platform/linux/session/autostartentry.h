@@ -32,8 +32,8 @@ class AutostartEntry final : public LoginItem
 {
 public:
     /// The entry is named after the application's identifier and starts the program with this
-    /// absolute path.
-    AutostartEntry(QString identifier, QString program,
+    /// absolute path, or the script that a package put into the program's place.
+    AutostartEntry(QString identifier, const QString &program,
                    AutostartSession session = AutostartSession::current());
 
     [[nodiscard]] LoginItemStatus status() const override;

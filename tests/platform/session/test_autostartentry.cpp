@@ -223,6 +223,16 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(f.folder.filePath(name + u"/started"_s)));
     }
 
+    void startsTheScriptBehindWhichAPackageHidTheProgram()
+    {
+        Fixture f;
+        const QString script = f.program;
+        f.program = f.folder.filePath(u"bin/.ferrin-wrapped"_s);
+        AutostartEntry entry = f.entry();
+        QCOMPARE(turnOn(entry), std::nullopt);
+        QCOMPARE(Session::commandLine(f.usersFile), QStringList({ script, u"--background"_s }));
+    }
+
     void leavesNothingThatTheSessionStartsWhenTurnedOff()
     {
         const Fixture f;
