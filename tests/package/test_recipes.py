@@ -11,15 +11,11 @@ import subprocess
 import tempfile
 import unittest
 
-HERE = os.path.dirname(os.path.abspath(__file__))
-SOURCE = os.path.abspath(os.path.join(HERE, "..", ".."))
+from sourcetree import SOURCE, read, version
+
 PACKAGING = os.path.join(SOURCE, "packaging")
+SPEC = os.path.join(PACKAGING, "rpm", "ferrin.spec")
 BUILD = os.environ["FERRIN_BUILD"]
-
-
-def read(*path):
-    with open(os.path.join(SOURCE, *path), encoding="utf-8") as file:
-        return file.read()
 
 
 def run(*command, **options):
@@ -79,17 +75,28 @@ class TheRecipes(unittest.TestCase):
             ("CMakeLists.txt", r"project\(ferrin VERSION (\S+)"),
             ("debian/changelog", r"\Aferrin \((\S+)-\d+\)"),
             ("packaging/rpm/ferrin.spec", r"^Version: +(\S+)"),
-            ("packaging/arch/PKGBUILD", r"^pkgver=(\S+)"))}
+            ("packaging/arch/PKGBUILD", r"^pkgver=(\S+)"),
+            ("packaging/nix/package.nix", r'^  version = "(\S+)";'))}
         self.assertEqual(len(set(output.values())), 1, output)
 
     def test_rpmlint_finds_no_fault_in_the_spec(self):
-        output = run("rpmlint", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
+        output = run("rpmlint", SPEC)
         # Nowhere to download the sources from yet; the other is of the days before 2009.
         self.assertEqual(set(re.findall(r"[EW]: (\S+)", output)), {"invalid-url", "no-buildroot-tag"})
 
     def test_the_spec_can_be_expanded(self):
-        output = run("rpmspec", "--parse", os.path.join(PACKAGING, "rpm", "ferrin.spec"))
+        output = run("rpmspec", "--parse", SPEC)
         self.assertIn("/usr/bin/ferrin", output)
+
+    def test_the_spec_packs_every_file_that_is_installed_and_names_no_other(self):
+        with tempfile.TemporaryDirectory(prefix="ferrin-rpm-") as folder:
+            os.mkdir(os.path.join(folder, "BUILD"))
+            os.symlink(SOURCE, os.path.join(folder, "BUILD", f"ferrin-{version()}"))
+            # From the install stage on: what it would build has been built here, for another prefix.
+            output = run("rpmbuild", "-bi", "--short-circuit", "--nodeps",
+                         "--define", f"_topdir {folder}", "--define", f"_tmppath {folder}",
+                         "--define", f"_target_platform {BUILD} --prefix /usr", SPEC)
+        self.assertIn("\nChecking for unpackaged file(s)", output)
 
     def test_shellcheck_finds_no_fault_in_the_scripts(self):
         run("shellcheck", os.path.join(PACKAGING, "arch", "PKGBUILD"),
