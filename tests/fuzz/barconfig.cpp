@@ -6,6 +6,8 @@
 #include "platform/linux/panelcolors/barcolors.h"
 #include "tests/fuzz/fuzzing.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstring>
 #include <sys/socket.h>
@@ -56,12 +58,6 @@ void send(int client, const std::uint8_t *data, std::size_t size)
 } // namespace
 
 } // namespace ferrin::fuzz
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    ferrin::fuzz::begin();
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

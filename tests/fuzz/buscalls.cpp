@@ -11,12 +11,12 @@
 #include "tests/fuzz/busvalues.h"
 #include "tests/fuzz/fuzzing.h"
 #include "tests/fuzz/lines.h"
+#include "tests/fuzz/onabus.h"
 #include "tests/platform/support/contents.h"
 #include "tests/support/privatebus.h"
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QGuiApplication>
 
 #include <array>
 #include <map>
@@ -144,13 +144,6 @@ public:
     }
 
 private:
-    /// A call that is never answered takes longer than the fuzzer allows.
-    static void wait(const QDBusPendingCallWatcher &call)
-    {
-        while (!call.isFinished())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-
     /// How much such a call may do beyond an answer.
     static int thingsToDo(const Place &place, QByteArrayView method, std::string_view arguments)
     {
@@ -188,27 +181,9 @@ private:
 
 } // namespace
 
+const Words knownWords { places, methods, values };
+
 } // namespace ferrin::fuzz
-
-// What QtDBus' own thread holds between two calls is no leak; the end-to-end tests watch the
-// memory.
-extern "C" const char *__asan_default_options() // NOLINT(bugprone-reserved-identifier)
-{
-    return "detect_leaks=0";
-}
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    ferrin::fuzz::begin<QGuiApplication>();
-    return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size,
-                                               std::size_t greatest, unsigned seed)
-{
-    using namespace ferrin::fuzz;
-    return changeLines(data, size, greatest, seed, { places, methods, values });
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

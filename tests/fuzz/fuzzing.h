@@ -4,7 +4,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -45,19 +45,6 @@ inline QString newFolder()
     if (!QDir().mkpath(path))
         std::abort();
     return path;
-}
-
-/// What Qt needs before anything else; nothing is logged, or a log would be all there is. Nor does a
-/// warning end the process, as in other tests: Qt warns of much that only a fuzzer asks of it.
-template <typename Application = QCoreApplication>
-void begin()
-{
-    qunsetenv("QT_FATAL_WARNINGS");
-    static int count = 1;
-    static char name[] = "fuzz";
-    static char *arguments[] = { name, nullptr };
-    static const Application application(count, arguments);
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 }
 
 } // namespace ferrin::fuzz

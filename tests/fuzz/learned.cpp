@@ -58,12 +58,6 @@ void live(Forecast &forecast)
 
 } // namespace ferrin::fuzz
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    ferrin::fuzz::begin();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     using namespace ferrin::fuzz;

@@ -4,7 +4,10 @@
 #include "tests/fuzz/lines.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <random>
+#include <string>
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t *data, std::size_t size, std::size_t greatest);
 
@@ -29,12 +32,12 @@ std::string placeOf(const std::string &line)
     return line.substr(0, line.find('/') + 1);
 }
 
-std::string newLine(Random &random, const std::vector<std::string> &lines, const Words &words)
+std::string newLine(Random &random, const std::vector<std::string> &lines)
 {
     const bool isKnownPlace = !lines.empty() && below(random, 4) != 0;
-    const std::string place
-        = isKnownPlace ? placeOf(lines[below(random, lines.size())]) : anyOf(random, words.places);
-    return place + anyOf(random, words.keys) + '=' + anyOf(random, words.values);
+    const std::string place = isKnownPlace ? placeOf(lines[below(random, lines.size())])
+                                           : anyOf(random, knownWords.places);
+    return place + anyOf(random, knownWords.keys) + '=' + anyOf(random, knownWords.values);
 }
 
 std::string changedBytes(std::string value)
@@ -49,7 +52,7 @@ std::string changedBytes(std::string value)
     return buffer;
 }
 
-void changeValue(Random &random, std::string &line, const Words &words)
+void changeValue(Random &random, std::string &line)
 {
     const auto [key, value] = keyAndValue(line);
     const std::string before(value);
@@ -65,24 +68,24 @@ void changeValue(Random &random, std::string &line, const Words &words)
         after = before + '0';
         break;
     default:
-        after = anyOf(random, words.values);
+        after = anyOf(random, knownWords.values);
     }
     line = std::string(key) + '=' + after;
 }
 
-void changeOnce(Random &random, std::vector<std::string> &lines, const Words &words)
+void changeOnce(Random &random, std::vector<std::string> &lines)
 {
     const std::size_t place = below(random, lines.size() + 1);
     const auto there = lines.begin() + std::ptrdiff_t(place);
     const std::size_t kind = place == lines.size() ? 0 : below(random, 6);
     if (kind == 0)
-        lines.insert(there, newLine(random, lines, words));
+        lines.insert(there, newLine(random, lines));
     else if (kind == 1)
         lines.erase(there);
     else if (kind == 2)
         lines.insert(there, std::string(lines[below(random, lines.size())]));
     else
-        changeValue(random, *there, words);
+        changeValue(random, *there);
 }
 
 } // namespace
@@ -106,14 +109,17 @@ std::pair<std::string_view, std::string_view> keyAndValue(std::string_view line)
     return { line.substr(0, sign), line.substr(sign + 1) };
 }
 
-std::size_t changeLines(std::uint8_t *data, std::size_t size, std::size_t greatest, unsigned seed,
-                        const Words &words)
+} // namespace ferrin::fuzz
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size,
+                                               std::size_t greatest, unsigned seed)
 {
+    using namespace ferrin::fuzz;
     Random random(seed);
     const auto views = linesOf({ reinterpret_cast<const char *>(data), size });
     std::vector<std::string> lines(views.begin(), views.end());
     for (std::size_t left = 1 + below(random, 4); left > 0; --left)
-        changeOnce(random, lines, words);
+        changeOnce(random, lines);
     std::string text;
     for (const std::string &line : lines)
         text += line + '\n';
@@ -121,5 +127,3 @@ std::size_t changeLines(std::uint8_t *data, std::size_t size, std::size_t greate
     std::memcpy(data, text.data(), kept);
     return kept;
 }
-
-} // namespace ferrin::fuzz

@@ -3,20 +3,17 @@
 
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <random>
 #include <span>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 namespace ferrin::fuzz {
 
-/// Inputs that are texts of lines "KEY=VALUE", and how they are changed: whole lines come, go and
-/// are repeated, keys and values are taken from the words that the program knows, and now and then
-/// bytes of a value change. Bytes that change at random would mostly break the keys.
+/// What the lines "KEY=VALUE" of an input are made of. A fuzzer with lines.cpp among its sources
+/// changes its inputs by them: whole lines come, go and are repeated, keys and values are taken
+/// from these words, and now and then bytes of a value change. Bytes that change at random would
+/// mostly break the keys.
 struct Words
 {
     /// What a key begins with, up to its last slash: "BAT0/".
@@ -25,14 +22,13 @@ struct Words
     std::span<const std::string_view> values;
 };
 
+/// Each such fuzzer defines its own.
+extern const Words knownWords;
+
 /// The lines of an input.
 [[nodiscard]] std::vector<std::string_view> linesOf(std::string_view text);
 
 /// The key and the value of a line; a line without "=" is a key alone.
 [[nodiscard]] std::pair<std::string_view, std::string_view> keyAndValue(std::string_view line);
-
-/// Changes the input in place and returns its new size, at most `greatest`.
-std::size_t changeLines(std::uint8_t *data, std::size_t size, std::size_t greatest, unsigned seed,
-                        const Words &words);
 
 } // namespace ferrin::fuzz

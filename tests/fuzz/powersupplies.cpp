@@ -291,20 +291,9 @@ private:
 
 } // namespace
 
+const Words knownWords { places, attributes, values };
+
 } // namespace ferrin::fuzz
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    ferrin::fuzz::begin();
-    return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size,
-                                               std::size_t greatest, unsigned seed)
-{
-    using namespace ferrin::fuzz;
-    return changeLines(data, size, greatest, seed, { places, attributes, values });
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

@@ -9,12 +9,6 @@
 
 #include <QDir>
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    ferrin::fuzz::begin();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     using namespace ferrin::fuzz;

@@ -85,14 +85,9 @@ private:
 
 } // namespace
 
-} // namespace ferrin::fuzz
+const Words knownWords { places, properties, values };
 
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size,
-                                               std::size_t greatest, unsigned seed)
-{
-    using namespace ferrin::fuzz;
-    return changeLines(data, size, greatest, seed, { places, properties, values });
-}
+} // namespace ferrin::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

@@ -7,8 +7,8 @@
 
 #include "platform/linux/power/upower/upowerclient.h"
 #include "tests/fuzz/busvalues.h"
-#include "tests/fuzz/fuzzing.h"
 #include "tests/fuzz/lines.h"
+#include "tests/fuzz/onabus.h"
 #include "tests/fuzz/upowerinvariants.h"
 #include "tests/support/privatebus.h"
 
@@ -132,11 +132,8 @@ private:
     {
         constexpr int rounds = 8;
         for (int round = 0; round < rounds; ++round) {
-            for (QDBusConnection &bus : m_both) {
-                const QDBusPendingCallWatcher call(bus.asyncCall(m_question));
-                while (!call.isFinished())
-                    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-            }
+            for (QDBusConnection &bus : m_both)
+                wait(QDBusPendingCallWatcher(bus.asyncCall(m_question)));
         }
     }
 
@@ -152,26 +149,9 @@ private:
 
 } // namespace
 
+const Words knownWords { places, members, values };
+
 } // namespace ferrin::fuzz
-
-// What QtDBus' own thread holds between two calls is no leak.
-extern "C" const char *__asan_default_options() // NOLINT(bugprone-reserved-identifier)
-{
-    return "detect_leaks=0";
-}
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    ferrin::fuzz::begin();
-    return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size,
-                                               std::size_t greatest, unsigned seed)
-{
-    using namespace ferrin::fuzz;
-    return changeLines(data, size, greatest, seed, { places, members, values });
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
