@@ -11,6 +11,7 @@ import socket
 from gi.repository import GLib
 
 import machine as machines
+import services
 
 CHARGING_WATTS = 33
 HELP = """commands, one a line; names are those of the power supplies:
@@ -176,6 +177,7 @@ class Commands:
             getattr(self._upower, action)()
         else:
             raise ValueError(f"upower does not {action}")
+        self._sysfs.deaf_from = services.FIRST_DESCRIPTOR if action == "hang" else None
 
     def _sleep_command(self):
         self._logind.prepare_for_sleep(True)

@@ -190,6 +190,21 @@ class TheRunningLaptop(OnALaptop):
         self.laptop.send("upower", "stop")
         self.assertIsNone(self.daemon_says("state"))
 
+    def test_a_hung_daemon_does_not_keep_events_from_others(self):
+        with running("udevadm", "monitor", "--udev", env=self.laptop.environment) as monitor:
+            lines = lines_of(monitor)
+            while not next(lines).startswith("UDEV"):
+                pass
+            self.laptop.send("upower", "hang")
+            # Its queue has room for ten or so.
+            for percent in range(50, 20, -1):
+                self.laptop.send("drain", "BAT0", percent)
+            for _ in range(50, 20, -1):
+                next(line for line in lines if "BAT0" in line)
+        self.laptop.send("upower", "resume")
+        self.laptop.send("drain", "BAT0", 19)
+        eventually(lambda: self.daemon_says("percentage") == "19%", "the daemon hears again")
+
     def test_sleep_is_told_on_the_system_bus(self):
         output = []
         bus = Gio.DBusConnection.new_for_address_sync(

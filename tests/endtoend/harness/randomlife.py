@@ -148,7 +148,6 @@ class RandomLife:
         self._try("upower", self._random.choice(("restart", "stop", "start")))
 
     def _hang(self):
-        # Not for long: events that a listener does not read stop the laptop's kernel from telling more.
         self._try("upower", "hang")
         self._try("plug")
         self.check()
