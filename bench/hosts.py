@@ -8,27 +8,32 @@ on the machine's panels; on the desktops of the host matrix by
 "tests/roots/in-desktops 12 --hosts -- /usr/bin/python3 bench/hosts.py BUILD_TREE".
 
 For each host: the processor time of the session's processes, the program and what serves the screen
-excepted, in the same minutes without the item and with it, and the signals that the item
-sent to everybody; a label goes to its host alone.
+excepted, in the same minutes without the item and with it; the signals that the item sent to
+everybody (a label goes to its host alone); the memory of the program, and the median of the times from
+its start to its registered item.
 """
 
 import os
 import pathlib
+import statistics
+import subprocess
 import sys
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path[:0] = [str(ROOT / "tests"), str(ROOT / "tests" / "endtoend")]
 
+from costs import Registrations, memory_of  # noqa: E402
 from harness.hosts import HOSTS, session_of  # noqa: E402
 from harness.item import Bus, SignalCount  # noqa: E402
 from harness.processes import eventually  # noqa: E402
-from harness.program import Program  # noqa: E402
+from harness.program import MOCK, Program, binary  # noqa: E402
 from virtuallaptop import VirtualLaptop  # noqa: E402
 
 SETTLING_SECONDS = 30
 WATCHED_SECONDS = 120
 STEP_SECONDS = 5
+STARTS = 15
 # The default laptop's battery, in µWh and µW.
 FULL, BEGIN, RATE = 46_000_000, 17_020_000, 6_100_000
 # In the tray bars the item is not on the bus.
@@ -86,6 +91,15 @@ def most_in_a_minute(counts):
     return max(later - counts[max(0, number - steps + 1)] for number, later in enumerate(counts))
 
 
+def milliseconds_to_item(session, laptop):
+    mock = {key: laptop.environment[key] for key in MOCK}
+    registrations = Registrations(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+    return statistics.median(
+        registrations.seconds_to_item(
+            lambda: session.start([binary()], mock, stderr=subprocess.DEVNULL))
+        for _ in range(STARTS)) * 1000
+
+
 def measure(host):
     with VirtualLaptop() as laptop, session_of(host, dark=True, scale=1) as session:
         time.sleep(SETTLING_SECONDS)
@@ -100,15 +114,19 @@ def measure(host):
         signals = SignalCount(session.bus, program.unseen_item())
         counts = []
         beside = watched(laptop, session, lambda: counts.append(len(signals.collect())))
+        memory = memory_of(program.pid)
         program.terminate()
+        start = "" if host in TRAY_BARS else f"{milliseconds_to_item(session, laptop):.0f} ms"
     signals = "" if host in TRAY_BARS else most_in_a_minute(counts)
-    print(f"| {host} | {without:.1f} ms | {beside:.1f} ms | {signals} |", flush=True)
+    print(f"| {host} | {without:.1f} ms | {beside:.1f} ms | {signals} "
+          f"| {memory['Private_Dirty']:.1f} MiB | {memory['Pss']:.1f} MiB | {start} |", flush=True)
 
 
 def main():
     os.environ["FERRIN_BINARY"] = str(pathlib.Path(sys.argv[1]).resolve() / "bin" / "ferrin")
-    print("| host | its processor time a minute | with the item | signals in any minute |\n"
-          "|---|---:|---:|---:|")
+    print("| host | its processor time a minute | with the item | signals in any minute "
+          "| private dirty memory | PSS | from start to registered item |\n"
+          "|---|---:|---:|---:|---:|---:|---:|")
     for host in sys.argv[2:] or HOSTS:
         measure(host)
 

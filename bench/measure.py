@@ -20,7 +20,7 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path[:0] = [str(ROOT / "tests"), str(ROOT / "tests" / "endtoend")]
 
-from gi.repository import Gio, GLib  # noqa: E402
+from costs import Registrations, memory_of  # noqa: E402
 from harness import desktop  # noqa: E402
 from harness.dashboard import Dashboard  # noqa: E402
 from harness.processes import end, eventually  # noqa: E402
@@ -40,8 +40,9 @@ BARE_WINDOWS = TREE / "bench" / "bench_barewindow.so"
 
 SETTLING_SECONDS = 8
 WATCHED_SECONDS = 60
-# Qt's threads that helped to paint end after half a minute.
-PAINTERS_END_SECONDS = 35
+# By then the program has stored what it learned at its start, and Qt's threads that helped to paint
+# have ended.
+RESTING_SECONDS = 40
 STARTS = 15
 STARTS_OF_TWINS = 5
 MEMORIES_OF_TWINS = 5
@@ -100,12 +101,6 @@ def changing():
         f"{first:,} after the first thousand", verdict(last / first, 1))
 
 
-def memory_of(pid):
-    text = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text()
-    return {name: int(kilobytes) / 1024
-            for name, kilobytes in re.findall(r"^(Rss|Pss|Private_Dirty):\s+(\d+)", text, re.M)}
-
-
 def memory(session_type, where, environment):
     with VirtualLaptop() as laptop, session_type() as session:
         program = Program(session, laptop, environment)
@@ -127,7 +122,7 @@ def wake_ups_by_thread(pid):
 
 
 def watched_wake_ups(pid):
-    time.sleep(SETTLING_SECONDS)
+    time.sleep(RESTING_SECONDS)
     before = wake_ups_by_thread(pid)
     time.sleep(WATCHED_SECONDS)
     after = wake_ups_by_thread(pid)
@@ -154,27 +149,6 @@ def wake_ups():
         program = Program(session, laptop)
         program.item()
         wake_up_row("at rest", watched_wake_ups(program.pid))
-
-
-class Registrations:
-    """Receives the registrations of items with the session's watcher."""
-
-    def __init__(self, address):
-        self._loop = GLib.MainLoop()
-        self._bus = Gio.DBusConnection.new_for_address_sync(
-            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-        self._bus.signal_subscribe(None, "org.kde.StatusNotifierWatcher",
-                                   "StatusNotifierItemRegistered", None, None,
-                                   Gio.DBusSignalFlags.NONE, lambda *_: self._loop.quit())
-
-    def seconds_to_item(self, start):
-        begun = time.monotonic()
-        process = start()
-        self._loop.run()
-        taken = time.monotonic() - begun
-        end(process)
-        return taken
 
 
 def starting():
@@ -279,7 +253,6 @@ def after_the_dashboard():
         after = memory_of(program.pid)
         rest(laptop)
         switch_dashboard(program, session, True)
-        time.sleep(PAINTERS_END_SECONDS)
         counted = watched_wake_ups(program.pid)
     left = after["Pss"] - before["Pss"]
     row(f"PSS left by {OPENINGS} openings of the dashboard", f"{left:.1f} MiB",
