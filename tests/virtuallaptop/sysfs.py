@@ -6,6 +6,7 @@ Every change goes through the attribute files and the `uevent` file of its suppl
 replaced atomically, so that a reader never meets half a value. Needs umockdev's preload library.
 """
 
+import contextlib
 import glob
 import os
 import select
@@ -113,13 +114,18 @@ class Sysfs:
                     self._write_tree(f"{base}/{name}", value)
 
     def _send(self, name, action):
+        with self._room_for_an_event():
+            self._testbed.uevent(self._path(name), action)
+
+    @contextlib.contextmanager
+    def _room_for_an_event(self):
         """umockdev ends the process when a listener has no room. To a deaf one the event is lost, as
-        the kernel's would be; umockdev does not see it meanwhile."""
+        the kernel's would be: umockdev does not see it meanwhile."""
         deaf = [listener for listener in self._listeners() if not self._has_room(listener)]
         for listener in deaf:
             os.rename(os.path.join(self._root, listener), os.path.join(self._root, "deaf-" + listener))
         try:
-            self._testbed.uevent(self._path(name), action)
+            yield
         finally:
             for listener in deaf:
                 os.rename(os.path.join(self._root, "deaf-" + listener),
@@ -140,7 +146,8 @@ class Sysfs:
 
     def _create(self, name, attributes):
         self.supplies[name] = {}
-        self._testbed.add_from_string(_description(name, self._path(name), attributes))
+        with self._room_for_an_event():
+            self._testbed.add_from_string(_description(name, self._path(name), attributes))
         for attribute, value in attributes.items():
             error = machines.failing_error(value)
             if error:

@@ -201,6 +201,9 @@ class TheRunningLaptop(OnALaptop):
                 self.laptop.send("drain", "BAT0", percent)
             for _ in range(50, 20, -1):
                 next(line for line in lines if "BAT0" in line)
+            self.laptop.send("remove", "BAT0")
+            self.laptop.send("add", "BAT0")
+            next(line for line in lines if "add" in line)
         self.laptop.send("upower", "resume")
         self.laptop.send("drain", "BAT0", 19)
         eventually(lambda: self.daemon_says("percentage") == "19%", "the daemon hears again")
