@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <array>
+#include <cstdlib>
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void readsWithoutAnEventLoop();
     void hasTimesOnlyInTheirDirection();
     void hasNoTimeWhenHeldOnExternalPower();
+    void tellsTheTimeAvailableWhileHeld();
     void isCalmWhileTheLoadJumps();
 };
 
@@ -245,6 +247,25 @@ void SysfsRegistryTest::hasNoTimeWhenHeldOnExternalPower()
     laptop.sysfs.set(u"ucsi"_s, u"online"_s, "1");
     laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Not charging");
     QVERIFY(laptop.absent(u"TimeRemaining"));
+}
+
+void SysfsRegistryTest::tellsTheTimeAvailableWhileHeld()
+{
+    Laptop laptop;
+    makeLaptop(laptop.sysfs);
+    // 10 W: a percent of 50 Wh in three minutes.
+    for (int percent = 50; percent > 30; --percent) {
+        laptop.sysfs.set(u"BAT0"_s, u"capacity"_s, QByteArray::number(percent));
+        laptop.sysfs.set(u"BAT0"_s, u"energy_now"_s, QByteArray::number(percent * 500'000));
+        laptop.pass(3min);
+        QVERIFY(!laptop.absent(u"TimeRemaining"));
+    }
+    laptop.sysfs.set(u"ucsi"_s, u"online"_s, "1");
+    laptop.sysfs.set(u"BAT0"_s, u"status"_s, "Not charging");
+    QVERIFY(laptop.absent(u"TimeRemaining"));
+    QVERIFY(laptop.absent(u"AvgTimeToFull"));
+    const int available = laptop.fresh(u"AvgTimeToEmpty").toInt();
+    QVERIFY2(std::abs(available - 93) < 10, qPrintable(QString::number(available)));
 }
 
 void SysfsRegistryTest::isCalmWhileTheLoadJumps()

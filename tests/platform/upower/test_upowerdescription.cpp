@@ -56,6 +56,7 @@ private Q_SLOTS:
     void hasNoKeyForAFactThatIsNotKnown();
     void goesByTheTimesWhenTheStateIsUnknown();
     void goesByExternalPowerWhenStateAndTimesAreUnknown();
+    void drawsFromABatteryAtRestOnlyWithoutExternalPower();
     void prefersADischargingBatteryToExternalPower();
     void callsAUpsAUps();
     void namesADeviceWithoutAModelAfterItsPath();
@@ -181,6 +182,17 @@ void UPowerDescriptionTest::goesByExternalPowerWhenStateAndTimesAreUnknown()
     QCOMPARE(description.value(u"Time to Empty"_s), QVariant(-1));
     QCOMPARE(description.value(u"Time to Full Charge"_s), QVariant(0));
     QCOMPARE(description.value(u"Power Source State"_s), QVariant(u"Battery Power"_s));
+}
+
+void UPowerDescriptionTest::drawsFromABatteryAtRestOnlyWithoutExternalPower()
+{
+    const auto source = [](std::optional<bool> externalPower) {
+        return describe(pack(UPowerState::PendingCharge), externalPower)
+            .value(u"Power Source State"_s);
+    };
+    QCOMPARE(source(false), QVariant(u"Battery Power"_s));
+    QCOMPARE(source(true), QVariant(u"AC Power"_s));
+    QCOMPARE(source(std::nullopt), QVariant(u"AC Power"_s));
 }
 
 void UPowerDescriptionTest::prefersADischargingBatteryToExternalPower()
