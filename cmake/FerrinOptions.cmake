@@ -4,6 +4,7 @@
 option(BUILD_TESTING "Build the tests" ON)
 option(FERRIN_BUILD_BENCH "Build the benchmarks" OFF)
 option(FERRIN_BUILD_FUZZERS "Build the fuzzers; needs clang" OFF)
+option(FERRIN_SYSTEMD "Log to systemd's journal, and install a user unit; needs libsystemd" ON)
 set(FERRIN_SANITIZERS "" CACHE STRING "Sanitizers to build with: address,undefined or thread")
 option(FERRIN_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors; the presets do" OFF)
 set(FERRIN_FAQ_URL "" CACHE STRING

@@ -1,24 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-// The place in the source would be this file, whoever logs.
-#define SD_JOURNAL_SUPPRESS_LOCATION
-
 #include "platform/linux/session/loghandler.h"
 
-#include <QFileInfo>
+#include "platform/linux/session/journal.h"
 
 #include <cstdio>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <syslog.h>
-#include <systemd/sd-journal.h>
 #include <unistd.h>
-#include <vector>
 
 namespace ferrin {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -57,13 +49,10 @@ void sendToStandardError(QtMsgType type, const QMessageLogContext &, const QStri
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
-void sendToJournal(QtMsgType type, const QMessageLogContext &context, const QString &text)
+void sendToJournalOrStandardError(QtMsgType type, const QMessageLogContext &context,
+                                  const QString &text)
 {
-    QByteArrayList fields = journalFields(type, context.category, text, subsystemOfProcess());
-    std::vector<iovec> parts;
-    for (QByteArray &field : fields)
-        parts.push_back({ field.data(), static_cast<std::size_t>(field.size()) });
-    if (sd_journal_sendv(parts.data(), static_cast<int>(parts.size())) < 0)
+    if (!sendToJournal(journalFields(type, context.category, text, subsystemOfProcess())))
         sendToStandardError(type, context, text);
 }
 
@@ -100,9 +89,9 @@ QByteArray plainLine(QtMsgType type, const QString &text)
 void installLogHandler(const QString &subsystem)
 {
     subsystemOfProcess() = subsystem;
-    const bool hasJournal = QFileInfo::exists(u"/run/systemd/journal/socket"_s);
-    qInstallMessageHandler(hasJournal && !isReadDirectly(STDERR_FILENO) ? sendToJournal
-                                                                        : sendToStandardError);
+    qInstallMessageHandler(isJournalRunning() && !isReadDirectly(STDERR_FILENO)
+                               ? sendToJournalOrStandardError
+                               : sendToStandardError);
 }
 
 } // namespace ferrin

@@ -72,7 +72,10 @@ void MemoryTrimmer::trim()
         if (!m_libraries.contains(library.dlpi_addr))
             dropUnchangedPages(library);
     });
+#ifdef __GLIBC__
+    // Others give back what is free by themselves.
     malloc_trim(0);
+#endif
 }
 
 } // namespace ferrin
