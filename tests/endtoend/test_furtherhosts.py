@@ -85,7 +85,7 @@ class XfceIndicators(InAnIndicator):
 
 class MateIndicators(InAnIndicator):
     def make_session(self):
-        return applets.MateAppletScreen()
+        return applets.MateIndicatorScreen()
 
     def open_menu(self):
         """The state is too faint to be read in one go with the entries."""

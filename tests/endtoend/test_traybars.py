@@ -8,7 +8,7 @@ pointer.
 
 import re
 
-from harness import traybars
+from harness import applets, traybars
 from harness.case import AT_START, OnADesktop, main
 from harness.picture import is_red
 from harness.processes import a_moment, eventually
@@ -197,6 +197,11 @@ class Lxpanel(InATrayBar, OnADesktop):
 class IceWM(InATrayBar, OnADesktop):
     def make_session(self):
         return traybars.IcewmScreen()
+
+
+class BudgieTray(InATrayBar, OnADesktop):
+    def make_session(self):
+        return applets.BudgieTrayScreen()
 
 
 class QtileTray(InATrayBar, OnADesktop):

@@ -4,8 +4,10 @@
 flavours have them, and XApp's, as Linux Mint has it."""
 
 from harness.desktop import BareScreen, PanelScreen, XfceScreen
+from harness.picture import Box
 from harness.processes import eventually
 from harness.shells import Shell, xapp_watcher
+from harness.traybars import TrayBar
 
 AYATANA = "/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service"
 AYATANA_NAME = "org.ayatana.indicator.application"
@@ -14,8 +16,18 @@ MATE_INDICATOR_APPLET = "/usr/lib/mate-indicator-applet/mate-indicator-applet"
 MATE_INDICATOR_FACTORY = "org.mate.panel.applet.IndicatorAppletFactory"
 MATE_XAPP = "MateXAppStatusAppletFactory::MateXAppStatusApplet"
 BUDGIE_TRAY, BUDGIE_INDICATORS = "System Tray", "AppIndicator Applet"
+BUDGIE_HEIGHT = 36
 # Identifiers of a panel and of an applet in it; Budgie wants them in this form.
 PANEL, APPLET = "22345678-1234-11ee-8888-0123456789ab", "12345678-1234-11ee-8888-0123456789ab"
+
+
+def await_indicators(screen, applet):
+    """An applet tells that it has no indicators until it has found the service that it asks for them;
+    then it is a pixel wide."""
+    def has_found_service():
+        windows = screen.run("xdotool", "search", "--onlyvisible", "--classname", applet).split()
+        return any(box.width == 1 and box.height > 20 for box in map(screen.box_of, windows))
+    eventually(has_found_service, "the applet has found the service of the indicators")
 
 
 class BudgieScreen(Shell, BareScreen):
@@ -24,22 +36,41 @@ class BudgieScreen(Shell, BareScreen):
     size = (1024, 600)
     desktop = "Budgie:GNOME"
     applet = BUDGIE_TRAY
+    bar = None
 
     def boot(self):
         base = "com/solus-project/budgie-panel"
         self.store_gsettings({
             base: {"panels": f"['{PANEL}']", "migration-level": "2"},
             f"{base}/panels/{{{PANEL}}}": {
-                "location": "'top'", "size": "36", "applets": f"['{APPLET}']"},
+                "location": "'top'", "size": f"{BUDGIE_HEIGHT}", "applets": f"['{APPLET}']"},
             f"{base}/applets/{{{APPLET}}}": {
                 "name": f"'{self.applet}'", "alignment": "'end'", "position": "0"}})
         BareScreen.boot(self)
         self.start_status_area()
-        self.start_shell(["budgie-panel"])
-        eventually(self.bus.has_host, "the panel offers a status area")
+        self.start_bar()
+
+    def start_bar(self):
+        self.bar = self.start_shell(["budgie-panel"])
+        eventually(self.has_area, "the panel offers a status area")
+
+    def has_area(self):
+        return self.bus.has_host()
 
     def start_status_area(self):
         self.start_shell(["budgie-daemon"])
+
+
+class BudgieTrayScreen(BudgieScreen, TrayBar):
+    """That of Debian 12 has the older tray alone."""
+
+    size = (800, 600)
+
+    def has_area(self):
+        return self.has_tray()
+
+    def bar_box(self):
+        return Box(0, 0, self.size[0], BUDGIE_HEIGHT)
 
 
 class BudgieIndicatorScreen(BudgieScreen):
@@ -86,6 +117,12 @@ class MateAppletScreen(Shell, PanelScreen):
         return ["mate-panel"]
 
 
+class MateIndicatorScreen(MateAppletScreen):
+    def start_panel(self):
+        super().start_panel()
+        await_indicators(self, "mate-indicator-applet")
+
+
 class MateXappScreen(MateAppletScreen):
     applet = MATE_XAPP
     # As Linux Mint has it; as it comes, it is for Cinnamon alone.
@@ -104,3 +141,4 @@ class XfceIndicatorScreen(Shell, XfceScreen):
         # A panel of Debian 12 that comes before it may never find it.
         eventually(lambda: self.bus.owner(AYATANA_NAME), "the service of the indicators is there")
         super().start_panel()
+        await_indicators(self, "wrapper-2.0")
