@@ -14,6 +14,13 @@ FocusScope {
     required property Item content
     readonly property alias ground: ground
     readonly property Item focusedItem: Window.activeFocusItem
+    // How many times larger than usual all is. Where a little less than the texts' size spares scrolling
+    // sidewards, it is that.
+    readonly property real zoom: {
+        const fitting = Math.floor(1000 * width / content.implicitWidth) / 1000;
+        const isNear = fitting >= Math.max(1, 0.9 * Theme.textScale);
+        return isNear ? Math.min(fitting, Theme.textScale) : Theme.textScale;
+    }
 
     LayoutMirroring.enabled: Theme.isMirrored
     LayoutMirroring.childrenInherit: true
@@ -56,10 +63,10 @@ FocusScope {
     Item {
         id: ground
 
-        width: root.width / Theme.textScale
-        height: root.height / Theme.textScale
+        width: root.width / root.zoom
+        height: root.height / root.zoom
         transformOrigin: Item.TopLeft
-        scale: Theme.textScale
+        scale: root.zoom
 
         Flickable {
             id: view

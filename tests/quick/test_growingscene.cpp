@@ -113,6 +113,22 @@ private Q_SLOTS:
         QVERIFY(QRectF(0, 0, 300, 200).contains(scene.placeOf("last")));
     }
 
+    void shrinksALittleRatherThanScrollSidewards()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 585, 300 });
+        QCOMPARE(scene.placeOf("last").right(), 487.5);
+        for (const QQuickItem *bar : test::visibleItemsOfType(scene.root, "ScrollBar"))
+            QVERIFY(!bar->property("isHorizontal").toBool());
+        // Not at the cost of much, and never below the usual size.
+        scene.resize({ 500, 300 });
+        QCOMPARE(scene.placeOf("first"), QRectF(0, 0, 100, 100));
+        scene.stage.appearance.setTextScale(1);
+        scene.resize({ 290, 200 });
+        QCOMPARE(scene.placeOf("first"), QRectF(0, 0, 50, 50));
+    }
+
     void scrollsAsFarAsItsBarIsDragged()
     {
         Scene scene;
