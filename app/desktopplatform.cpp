@@ -65,7 +65,11 @@ void DesktopPlatform::followAppearance()
                                 .desktopDark = m_appearance.isDesktopDark(),
                                 .desktopPrefersDark = m_appearance.desktopPrefersDark(),
                                 .fontFamily = m_appearance.fontFamily(),
-                                .textScale = m_appearance.textScale() };
+                                .textScale = m_appearance.textScale(),
+                                .isHighContrast = m_appearance.isHighContrast() };
+    if (const auto accent = m_appearance.accent())
+        look.accent
+            = QColor::fromRgbF(float(accent->red), float(accent->green), float(accent->blue));
     if (const auto forced = m_appearance.forcedAppearance())
         look.forcedDark = *forced == Appearance::dark;
     m_statusArea.setAppearance(look);

@@ -3,7 +3,7 @@
 
 #include "quick/theme/theme.h"
 
-#include "quick/theme/readablecolors.h"
+#include "menubar/readablecolors.h"
 #include "state/applicationappearance.h"
 
 #include <QGuiApplication>

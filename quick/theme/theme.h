@@ -46,7 +46,7 @@ public:
     [[nodiscard]] QColor accent() const { return m_accent; }
     [[nodiscard]] bool isHighContrast() const { return m_isHighContrast; }
 
-    // The functions of quick/theme/readablecolors.h for QML, with the grounds as a list of colours.
+    // The functions of menubar/readablecolors.h for QML, with the grounds as a list of colours.
     Q_INVOKABLE [[nodiscard]] QColor readable(const QColor &wish, const QVariantList &grounds,
                                               double least) const;
     Q_INVOKABLE [[nodiscard]] QColor prominent(const QColor &wish, const QVariantList &grounds,

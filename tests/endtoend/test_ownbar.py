@@ -2,10 +2,13 @@
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """The bar of the program's own, where the desktop has no place for an item."""
 
+import contextlib
 import json
 
 from harness import desktop
 from harness.case import OnADesktop, main
+from harness.picture import Box
+from harness.portal import Desktop
 from harness.processes import a_moment, eventually
 from harness.program import store_path
 
@@ -86,6 +89,24 @@ class OnABareScreen(OnADesktop):
         self.session.resize(640, 480)
         self.stands(lambda box: box.right == 640, "it is on the smaller screen")
 
+    def test_it_grows_with_the_desktops_texts_and_stays_in_its_corner(self):
+        desk = self.enterContext(contextlib.closing(Desktop(self.session, "light")))
+        usual = self.bar()
+        desk.enlarges_texts(2)
+        box = self.stands(lambda box: box.height > 1.8 * usual.height, "it has grown")
+        self.assertGreater(box.width, 1.8 * usual.width)
+        self.assertEqual((box.top, box.right), (0, 800))
+
+    def test_it_is_black_and_white_in_high_contrast(self):
+        desk = self.enterContext(contextlib.closing(Desktop(self.session, "light")))
+        box = self.bar()
+        desk.wants_high_contrast(True)
+
+        def edge_and_ground():
+            picture = self.session.picture()
+            return [picture.pixel(box.left + inset, box.top + inset) for inset in (0, 2)]
+        eventually(lambda: edge_and_ground() == [(0, 0, 0), (255, 255, 255)], "it is black and white")
+
     def test_a_second_start_opens_the_dashboard_at_it(self):
         bar = self.bar()
         second = self.start()
@@ -95,6 +116,30 @@ class OnABareScreen(OnADesktop):
                  for window in self.session.windows_of(self.program.pid)]
         dashboard = max(boxes, key=lambda box: box.height)
         self.assertTrue(0 < dashboard.top - bar.bottom < 13, (dashboard, bar))
+
+
+class OnABareScreenFromRightToLeft(OnADesktop):
+    def make_session(self):
+        return desktop.BareScreen()
+
+    def test_bar_and_menu_are_mirrored(self):
+        # An empty variable counts as none.
+        program = self.start(LC_ALL="", LANG="ar_EG.UTF-8")
+        bar, = eventually(lambda: self.session.windows_of(program.pid), "the bar is there")
+        place = self.session.box_of(bar)
+        self.assertEqual((place.top, place.left), (0, 0))
+        self.session.click(place.centre, button=3)
+        menu = eventually(lambda: [each for each in self.session.windows_of(program.pid) if each != bar],
+                          "the menu is open")[0]
+        box = self.session.box_of(menu)
+
+        def darkest(left, right):
+            pixels = self.session.picture().pixels(Box(left, box.top + 5, right, box.bottom - 5))
+            return min(sum(pixel) for pixel in pixels)
+        # The first quarter of a row is longer than no entry, the last one begins each of them.
+        quarter = box.width // 4
+        eventually(lambda: darkest(box.right - quarter, box.right - 5)
+                   < darkest(box.left + 5, box.left + quarter) - 300, "its entries begin at the right")
 
 
 if __name__ == "__main__":

@@ -29,7 +29,7 @@ OwnBarItem::OwnBarItem(const PanelColors &colors, DefaultsStore *store, QObject 
     : StatusItem(parent)
     , m_colors(colors)
 {
-    connect(&m_colors, &PanelColors::changed, this, &OwnBarItem::showColors);
+    connect(&m_colors, &PanelColors::changed, this, &OwnBarItem::showLook);
     connect(&m_window, &OwnBarWindow::clicked, this, &StatusItem::activated);
     connect(&m_window, &OwnBarWindow::menuRequested, this, &OwnBarItem::popUpMenu);
     connect(&m_window, &OwnBarWindow::screenChosen, this, &OwnBarItem::changeScreen);
@@ -40,7 +40,7 @@ OwnBarItem::OwnBarItem(const PanelColors &colors, DefaultsStore *store, QObject 
         connect(&m_window, &OwnBarWindow::placeChanged, store,
                 [this, store] { store->setObject(placeKey, toText(m_window.barPlace())); });
     }
-    showColors();
+    showLook();
 }
 
 OwnBarItem::~OwnBarItem() = default;
@@ -108,9 +108,9 @@ void OwnBarItem::showContent()
     m_window.setContent(m_view->content());
 }
 
-void OwnBarItem::showColors()
+void OwnBarItem::showLook()
 {
-    m_window.setColors(m_colors.contextForOwnBar(), m_colors.isOwnBarDark());
+    m_window.setLook(ownWindowLook(m_colors), m_colors.contextForOwnBar());
 }
 
 void OwnBarItem::popUpMenu()

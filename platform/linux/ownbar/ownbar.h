@@ -43,7 +43,7 @@ public:
 
 private:
     void showContent();
-    void showColors();
+    void showLook();
     void popUpMenu();
     void changeScreen();
 

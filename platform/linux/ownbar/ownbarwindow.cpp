@@ -19,7 +19,6 @@ namespace ferrin {
 
 namespace {
 
-constexpr int windowHeight = OwnBarWindow::contentHeight + 2;
 // The length that was stored may differ from the content's width by this much.
 constexpr qreal lengthTolerance = 10;
 constexpr int sideMargin = 9;
@@ -57,10 +56,10 @@ void OwnBarWindow::setContent(const ItemContent &content)
     update();
 }
 
-void OwnBarWindow::setColors(const ViewContext &context, bool isDark)
+void OwnBarWindow::setLook(const OwnWindowLook &look, const ViewContext &context)
 {
+    m_look = look;
     m_context = context;
-    m_isDark = isDark;
     place();
     update();
 }
@@ -124,7 +123,8 @@ QSize OwnBarWindow::idealSize() const
 {
     const qreal ideal = m_view.idealSize(m_context).width();
     const qreal width = std::abs(m_length - ideal) <= lengthTolerance ? m_length : ideal;
-    return { int(std::ceil(width)) + 2 * sideMargin, windowHeight };
+    return { int(std::ceil(width * m_look.textScale)) + 2 * m_look.scaled(sideMargin),
+             m_look.scaled(contentHeight) + 2 };
 }
 
 QRect OwnBarWindow::cell() const
@@ -150,7 +150,9 @@ void OwnBarWindow::place()
 QColor OwnBarWindow::groundColor() const
 {
     const bool isLit = m_isPressed || m_isHovered;
-    if (m_isDark)
+    if (m_look.isHighContrast && !isLit)
+        return colorsFor(m_look).ground;
+    if (m_look.isDark)
         return QColor::fromRgb(isLit ? 0xff48484c : 0xff2b2b2e);
     return QColor::fromRgb(isLit ? 0xffdcdce0 : 0xfff4f4f6);
 }
@@ -159,14 +161,17 @@ void OwnBarWindow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRectF all(QPointF(0, 0), QSizeF(size()));
-    painter.fillRect(all, QColor::fromRgb(m_isDark ? 0xff56565a : 0xffb8b8be));
+    const auto border = QColor::fromRgb(m_look.isDark ? 0xff56565a : 0xffb8b8be);
+    painter.fillRect(all, m_look.isHighContrast ? colorsFor(m_look).border : border);
     painter.fillRect(all.adjusted(1, 1, -1, -1), groundColor());
 
     const QSizeF content = m_view.idealSize(m_context);
-    const QPointF corner = QRectF(cell()).center() - QPointF(content.width(), content.height()) / 2;
+    const QSizeF shown = content * m_look.textScale;
+    const QPointF corner = QRectF(cell()).center() - QPointF(shown.width(), shown.height()) / 2;
     painter.setRenderHint(QPainter::Antialiasing);
-    m_view.paint(painter, QRectF(QPointF(std::round(corner.x()), std::round(corner.y())), content),
-                 m_context);
+    painter.translate(std::round(corner.x()), std::round(corner.y()));
+    painter.scale(m_look.textScale, m_look.textScale);
+    m_view.paint(painter, QRectF(QPointF(), content), m_context);
 }
 
 void OwnBarWindow::mousePressEvent(QMouseEvent *event)

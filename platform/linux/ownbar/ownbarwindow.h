@@ -6,6 +6,7 @@
 #include "menubar/itemcontent.h"
 #include "platform/linux/ownbar/barplace.h"
 #include "platform/linux/ownwindows/accessiblewindow.h"
+#include "platform/linux/ownwindows/ownwindowlook.h"
 
 #include <QPointer>
 #include <QRasterWindow>
@@ -25,14 +26,16 @@ class OwnBarWindow final : public QRasterWindow
     Q_OBJECT
 
 public:
+    /// At the usual size of texts, logical pixels.
     static constexpr int contentHeight = 22;
 
     OwnBarWindow();
 
     void setContent(const ItemContent &content);
-    void setColors(const ViewContext &context, bool isDark);
-    /// The content's length in logical pixels; what differs by little from the content's own width
-    /// is kept, so that the bar does not jitter as digits change.
+    /// Its own look, and that of its content, which belongs to it.
+    void setLook(const OwnWindowLook &look, const ViewContext &context);
+    /// The content's length at the usual size of texts, in logical pixels; what differs by little
+    /// from the content's own width is kept, so that the bar does not jitter as digits change.
     void setContentLength(qreal length);
     void setPressed(bool pressed);
 
@@ -84,9 +87,9 @@ private:
 
     AnyView m_view;
     QString m_words;
+    OwnWindowLook m_look;
     ViewContext m_context;
     qreal m_length = 0;
-    bool m_isDark = false;
     bool m_isPressed = false;
     bool m_isHovered = false;
     BarPlace m_place;

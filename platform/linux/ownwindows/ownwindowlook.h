@@ -23,11 +23,16 @@ struct OwnWindowLook
     QString fontFamily {};
     /// How many times larger than usual all of it is; 1 to 3.
     double textScale = 1;
+    /// The desktop's accent; invalid where it has none.
+    QColor accent {};
+    bool isHighContrast = false;
 
     /// A length or a size of text, logical pixels.
     [[nodiscard]] int scaled(int usual) const;
     /// The interface font in this size.
     [[nodiscard]] QFont font(int usualPixelSize) const;
+
+    bool operator==(const OwnWindowLook &) const = default;
 };
 
 struct OwnWindowColors
@@ -35,10 +40,12 @@ struct OwnWindowColors
     QColor ground;
     QColor border;
     QColor text;
+    /// Behind what is chosen, and the text on it.
     QColor highlight;
+    QColor highlightedText;
 };
 
-[[nodiscard]] OwnWindowColors colorsFor(bool isDark);
+[[nodiscard]] OwnWindowColors colorsFor(const OwnWindowLook &look);
 /// The screen of an item, as `screenOf` finds it; absent where there is none.
 [[nodiscard]] std::optional<ScreenArea> screenAreaOf(const ItemPlace &place);
 

@@ -115,7 +115,7 @@ std::vector<AccessiblePart> PopupMenu::parts()
 
 void PopupMenu::paintEvent(QPaintEvent *)
 {
-    const OwnWindowColors colors = colorsFor(m_look.isDark);
+    const OwnWindowColors colors = colorsFor(m_look);
     QPainter painter(this);
     painter.fillRect(QRect(QPoint(), size()), colors.border);
     painter.fillRect(QRect(QPoint(), size()).adjusted(1, 1, -1, -1), colors.ground);
@@ -131,7 +131,7 @@ void PopupMenu::paintEvent(QPaintEvent *)
             painter.setBrush(colors.highlight);
             painter.drawRoundedRect(bounds, rowRadius, rowRadius);
         }
-        painter.setPen(colors.text);
+        painter.setPen(entry == m_current ? colors.highlightedText : colors.text);
         painter.drawText(bounds.adjusted(inset, 0, -inset, 0),
                          side | Qt::AlignAbsolute | Qt::AlignVCenter,
                          m_entries[size_t(entry)].title);

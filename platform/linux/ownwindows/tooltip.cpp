@@ -44,7 +44,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        const OwnWindowColors colors = colorsFor(m_look.isDark);
+        const OwnWindowColors colors = colorsFor(m_look);
         const QRect all(QPoint(), size());
         QPainter painter(this);
         painter.fillRect(all, colors.border);

@@ -29,6 +29,10 @@ struct StatusAreaAppearance
     QString fontFamily {};
     /// How many times larger than usual the desktop wants texts; 1 to 3.
     double textScale = 1;
+    /// The desktop's accent, whatever its contrast; invalid where it has none.
+    QColor accent {};
+    /// The desktop asks for a higher contrast than usual.
+    bool isHighContrast = false;
 
     bool operator==(const StatusAreaAppearance &) const = default;
 };

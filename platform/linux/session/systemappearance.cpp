@@ -10,6 +10,8 @@
 #include <QPalette>
 #include <QScreen>
 
+#include <tuple>
+
 namespace ferrin {
 
 using namespace Qt::StringLiterals;
@@ -161,17 +163,17 @@ void SystemAppearance::setAppearance(std::optional<Appearance> appearance)
 
 void SystemAppearance::take(const QString &group, const QString &key, const QVariant &value)
 {
-    const std::optional<bool> preferredBefore = m_desktopPrefersDark;
+    const auto told = [this] {
+        return std::tuple(m_desktopPrefersDark, m_isDesktopDark.value(), m_fontFamily.value(),
+                          m_textScale.value(), m_accent.value(), m_isHighContrast.value());
+    };
+    const auto before = told();
     for (const Setting &setting : settings()) {
         if (setting.group == group && setting.key == key)
             setting.keep(*this, value);
     }
-    const bool wasDark = m_isDesktopDark;
-    const QString fontBefore = m_fontFamily;
-    const double scaleBefore = m_textScale;
     update();
-    if (preferredBefore != m_desktopPrefersDark || wasDark != m_isDesktopDark
-        || fontBefore != m_fontFamily || scaleBefore != m_textScale)
+    if (before != told())
         Q_EMIT changed();
 }
 

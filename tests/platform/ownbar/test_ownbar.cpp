@@ -46,7 +46,12 @@ class OwnBarTest : public QObject
 private Q_SLOTS:
     void init();
 
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
     void standsAtTheTopRightOfTheScreen();
+    void standsAtTheTopLeftWhereOneReadsFromRightToLeft();
+    void growsWithTheDesktopsTexts();
+    void isBlackAndWhiteInHighContrast();
     void isAsWideAsItsLength();
     void keepsToTheRightHandEndOfAStrip();
     void keepsToItsContentWhenTheLengthIsAbsurd_data();
@@ -94,6 +99,46 @@ void OwnBarTest::standsAtTheTopRightOfTheScreen()
     QCOMPARE(m_item->place().item.topRight(), available.topRight());
     QCOMPARE(m_item->place().item, m_window->geometry());
     QCOMPARE(m_item->place().panel, m_window->geometry());
+}
+
+void OwnBarTest::standsAtTheTopLeftWhereOneReadsFromRightToLeft()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    init();
+    QCOMPARE(m_item->place().item.topLeft(),
+             QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+}
+
+void OwnBarTest::growsWithTheDesktopsTexts()
+{
+    m_item->setLength(100);
+    const int usual = m_item->place().item.width();
+    const QList<int> inkedBefore = inkedColumns(m_item->place().item);
+    m_colors->setAppearance({ .textScale = 2 });
+    QCOMPARE(m_item->place().item.width(), 2 * usual);
+    QCOMPARE(m_item->place().item.height(), 2 * OwnBarWindow::contentHeight + 2);
+    QCOMPARE(m_item->place().item.topRight(),
+             QGuiApplication::primaryScreen()->availableGeometry().topRight());
+    const auto inkedWidth = [](const QList<int> &inked) { return inked.last() - inked.first(); };
+    QTRY_VERIFY(
+        std::abs(inkedWidth(inkedColumns(m_item->place().item)) - 2 * inkedWidth(inkedBefore))
+        <= 4);
+}
+
+void OwnBarTest::isBlackAndWhiteInHighContrast()
+{
+    for (const bool isDark : { false, true }) {
+        m_colors->setAppearance({ .desktopDark = isDark, .isHighContrast = true });
+        const QRect bar = m_item->place().item;
+        const auto colorAt = [&](int x, int y) {
+            return m_window->screen()
+                ->grabWindow(0, bar.x(), bar.y(), bar.width(), bar.height())
+                .toImage()
+                .pixelColor(x, y);
+        };
+        QTRY_COMPARE(colorAt(1, 1), isDark ? Qt::black : Qt::white);
+        QCOMPARE(colorAt(0, 0), isDark ? Qt::white : Qt::black);
+    }
 }
 
 void OwnBarTest::isAsWideAsItsLength()

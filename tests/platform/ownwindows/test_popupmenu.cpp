@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -20,6 +21,12 @@ const std::vector<MenuEntry> twoEntries { { u"one"_s, u"One"_s }, { u"two"_s, u"
 
 const ItemPlace place { .item = QRect(10, 10, 20, 20) };
 
+QImage pictureOf(const PopupMenu &menu)
+{
+    const QRect box = menu.geometry();
+    return menu.screen()->grabWindow(0, box.x(), box.y(), box.width(), box.height()).toImage();
+}
+
 } // namespace
 
 class PopupMenuTest : public QObject
@@ -29,6 +36,9 @@ class PopupMenuTest : public QObject
 private Q_SLOTS:
     void opensOffThePanelOfItsItem();
     void growsWithTheDesktopsTexts();
+    void alignsItsEntriesWhereReadingBegins();
+    void marksTheCurrentEntryInTheHueOfTheAccent();
+    void isBlackAndWhiteInHighContrast();
     void triggersWhatIsClicked();
     void closesAtAClickElsewhere();
     void closesAtEscape();
@@ -59,6 +69,51 @@ void PopupMenuTest::growsWithTheDesktopsTexts()
     QSignalSpy triggered(&menu, &PopupMenu::triggered);
     QTest::mouseClick(&menu, Qt::LeftButton, {}, { 30, 75 });
     QCOMPARE(triggered.takeFirst(), QVariantList { u"two"_s });
+}
+
+void PopupMenuTest::alignsItsEntriesWhereReadingBegins()
+{
+    for (const auto direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+        QGuiApplication::setLayoutDirection(direction);
+        const auto restored
+            = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+        PopupMenu menu;
+        menu.popUp(twoEntries, place, {});
+        const auto isInked = [&](int from, int to) {
+            const QImage picture = pictureOf(menu);
+            for (int x = from; x < to; ++x) {
+                if (qGray(picture.pixel(x, 19)) < 128)
+                    return true;
+            }
+            return false;
+        };
+        const int middle = menu.width() / 2;
+        const int end = menu.width() - 5;
+        if (direction == Qt::LeftToRight)
+            QTRY_VERIFY(isInked(5, middle) && !isInked(middle, end));
+        else
+            QTRY_VERIFY(isInked(middle, end) && !isInked(5, middle));
+    }
+}
+
+void PopupMenuTest::marksTheCurrentEntryInTheHueOfTheAccent()
+{
+    PopupMenu menu;
+    menu.popUp(twoEntries, place, { .accent = QColor(0x20, 0x90, 0x30) });
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTRY_VERIFY(pictureOf(menu).pixelColor(10, 19) != pictureOf(menu).pixelColor(10, 47));
+    const QColor mark = pictureOf(menu).pixelColor(10, 19);
+    QVERIFY(mark.green() > mark.red() && mark.green() > mark.blue());
+}
+
+void PopupMenuTest::isBlackAndWhiteInHighContrast()
+{
+    PopupMenu menu;
+    menu.popUp(twoEntries, place, { .isDark = true, .isHighContrast = true });
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTRY_COMPARE(pictureOf(menu).pixelColor(10, 19), Qt::white);
+    QCOMPARE(pictureOf(menu).pixelColor(10, 47), Qt::black);
+    QCOMPARE(pictureOf(menu).pixelColor(0, 0), Qt::white);
 }
 
 void PopupMenuTest::triggersWhatIsClicked()

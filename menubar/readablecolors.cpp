@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
-#include "quick/theme/readablecolors.h"
+#include "menubar/readablecolors.h"
 
 #include "menubar/contrast.h"
 
