@@ -67,14 +67,16 @@ QtObject {
     }
     readonly property color switchKnob: "#ffffff"
 
-    // Behind the white symbols of the settings window; the contrast holds at opacity 0.7, too.
+    // Of the settings window's tiles. In its menu they are under a white overlay.
     readonly property color systemOrange: tile("#b85c00", "#c2640a")
     readonly property color systemBlue: tile("#1b63c6", "#2a72d4")
     readonly property color systemGray: tile("#5f636a", "#70757d")
     readonly property color systemBrown: tile("#7a5636", "#8f6a4a")
     readonly property color systemRed: tile("#c4281f", "#d2453c")
     readonly property color systemGreen: tile("#1f7a4d", "#2f8a5c")
+    // On a tile, and on one under the overlay.
     readonly property color tileSymbol: "#ffffff"
+    readonly property color menuTileSymbol: Theme.isHighContrast ? tileSymbol : "#1d1f22"
 
     readonly property color settingsMenu: ground("#e6e8ec", "#1d1f22")
     readonly property color settingsMenuSelected: selection("#cadcf5", "#3d4a5c")

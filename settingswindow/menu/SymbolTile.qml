@@ -5,7 +5,7 @@ import QtQuick
 import Ferrin.Quick
 import Ferrin.Theme
 
-// A white symbol on a rounded square of colour, which is muted unless it is bright.
+// A symbol on a rounded square of colour under a white overlay. The square is muted unless it is bright.
 Item {
     id: root
 
@@ -25,14 +25,11 @@ Item {
         opacity: root.isBright || Theme.isHighContrast ? 1 : 0.7
     }
 
-    // White light from above. It ends in the middle, for the white symbol's contrast.
     RoundedRect {
         anchors.fill: parent
         radius: 6
+        color: "white"
         opacity: 0.33
-        color: Colors.tileSymbol
-        endColor: "transparent"
-        endsAt: 0.5
         visible: !Theme.isHighContrast
     }
 
@@ -40,6 +37,6 @@ Item {
         anchors.fill: parent
         name: root.symbol
         size: 14
-        color: Colors.tileSymbol
+        color: Colors.menuTileSymbol
     }
 }

@@ -53,8 +53,8 @@ private Q_SLOTS:
     void symbolsStandOutFromTheirGrounds();
     void menuSymbolsStandOutAlthoughTheyAreFaint_data();
     void menuSymbolsStandOutAlthoughTheyAreFaint();
-    void tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data();
-    void tilesCarryWhiteSymbolsAlthoughTheyAreFaint();
+    void tilesCarryTheirSymbolsUnderTheWhiteOverlay_data();
+    void tilesCarryTheirSymbolsUnderTheWhiteOverlay();
     void gaugesStandOutFromTheirTracks_data();
     void gaugesStandOutFromTheirTracks();
     void panelsStandOutFromTheirWindow_data();
@@ -255,7 +255,7 @@ void ColorsTest::menuSymbolsStandOutAlthoughTheyAreFaint()
     });
 }
 
-void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
+void ColorsTest::tilesCarryTheirSymbolsUnderTheWhiteOverlay_data()
 {
     QList<std::pair<QByteArray, QByteArray>> pairs;
     for (const char *tile :
@@ -266,17 +266,19 @@ void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint_data()
     addPairs(pairs);
 }
 
-void ColorsTest::tilesCarryWhiteSymbolsAlthoughTheyAreFaint()
+void ColorsTest::tilesCarryTheirSymbolsUnderTheWhiteOverlay()
 {
     QFETCH(bool, isHigh);
     QFETCH(QByteArray, top);
     QFETCH(QByteArray, ground);
-    verifyContrasts(isHigh ? 4.5 : 3, [&](const Palette &palette) {
+    verifyContrasts(4.5, [&](const Palette &palette) {
         const QColor tile = palette.value(top);
-        const QColor faint = isHigh ? tile : over(palette.value(ground), tile, 0.7);
+        const QColor symbol = palette.value("menuTileSymbol");
+        if (isHigh)
+            return contrast(symbol, tile);
+        const QColor faint = over(over(palette.value(ground), tile, 0.7), Qt::white, 0.33);
         // The selected one's is brighter.
-        const QColor bright = isHigh ? tile : tile.lighter(112);
-        const QColor symbol = palette.value("tileSymbol");
+        const QColor bright = over(tile.lighter(112), Qt::white, 0.33);
         return std::min(contrast(symbol, faint), contrast(symbol, bright));
     });
 }
