@@ -66,7 +66,7 @@ MenuEntry {
         font: Fonts.menuItem
         color: Colors.menuText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: Fonts.smallest
         elide: Text.ElideRight
     }
 }

@@ -8,6 +8,9 @@ import Ferrin.Theme
 
 // The fonts that views use by role, all of the desktop's interface font. Sizes are logical pixels.
 QtObject {
+    // Nothing is drawn smaller, in logical pixels: neither fonts nor texts that shrink to fit.
+    readonly property int smallest: 9
+
     readonly property font heavy13: make(13, Font.ExtraBold)
     readonly property font title: make(20, Font.Bold)
     readonly property font bold14: make(14, Font.Bold)
@@ -15,6 +18,7 @@ QtObject {
     readonly property font regular12: make(12, Font.Normal)
     readonly property font semibold10: make(10, Font.DemiBold)
     readonly property font regular10: make(10, Font.Normal)
+    // As small as it may be.
     readonly property font regular8: make(8, Font.Normal)
 
     // Of the cards and what they open.
@@ -32,7 +36,7 @@ QtObject {
     function make(pixelSize: int, weight: int, letterSpacing: real): font {
         return Qt.font({
             family: Theme.fontFamily,
-            pixelSize: pixelSize,
+            pixelSize: Math.max(pixelSize, smallest),
             weight: weight,
             // Enlarged letters are drawn in the room of those that are not: hinted ones would lose what lies
             // over a whole pixel.

@@ -102,7 +102,7 @@ FocusScope {
                     font: Fonts.regular12
                     color: segment.isSelected ? Colors.accentText : Colors.primaryText
                     fontSizeMode: Text.HorizontalFit
-                    minimumPixelSize: 9
+                    minimumPixelSize: Fonts.smallest
                 }
             }
             // qmllint enable unqualified

@@ -40,7 +40,7 @@ Pressable {
         font: Fonts.regular13
         color: Colors.primaryText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: Fonts.smallest
     }
 
     RoundedRect {

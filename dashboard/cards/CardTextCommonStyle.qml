@@ -17,7 +17,7 @@ Text {
     // A very long word is broken, or it would be too small to read.
     wrapMode: /\S{16}/.test(text) ? Text.Wrap : Text.WordWrap
     fontSizeMode: Text.Fit
-    minimumPixelSize: 9
+    minimumPixelSize: Fonts.smallest
     elide: Text.ElideRight
     Accessible.ignored: true
 }

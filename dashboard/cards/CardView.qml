@@ -93,7 +93,7 @@ Item {
         color: Colors.cardTitleColor
         horizontalAlignment: Text.AlignHCenter
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: Fonts.smallest
         elide: Text.ElideRight
         Accessible.ignored: true
     }

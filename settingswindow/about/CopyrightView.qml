@@ -15,7 +15,7 @@ Column {
         font: Fonts.regular10
         color: Colors.secondaryText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: Fonts.smallest
         elide: Text.ElideRight
     }
 

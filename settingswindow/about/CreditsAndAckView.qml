@@ -58,7 +58,7 @@ SettingsSectionView {
 
                 width: parent.width / 2
                 text: modelData
-                font: Fonts.regular10
+                font: Fonts.regular8
                 color: Colors.secondaryText
             }
             // qmllint enable unqualified

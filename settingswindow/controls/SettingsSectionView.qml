@@ -23,7 +23,7 @@ Column {
         font: Fonts.regular12
         color: Colors.secondaryText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: Fonts.smallest
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }

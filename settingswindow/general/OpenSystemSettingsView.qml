@@ -87,7 +87,7 @@ MakeBackgroundRectangle {
                 font: Fonts.regular13
                 color: Colors.primaryText
                 fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 9
+                minimumPixelSize: Fonts.smallest
             }
         }
     }

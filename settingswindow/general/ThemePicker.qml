@@ -31,7 +31,7 @@ MakeBackgroundRectangle {
                 font: Fonts.regular13
                 color: Colors.primaryText
                 fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 9
+                minimumPixelSize: Fonts.smallest
                 // It is the picker's accessible name.
                 Accessible.ignored: true
             }

@@ -39,7 +39,7 @@ FocusScope {
             color: Colors.primaryText
             horizontalAlignment: Text.AlignLeft
             fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 9
+            minimumPixelSize: Fonts.smallest
         }
 
         Row {

@@ -57,6 +57,6 @@ MenuEntry {
         font: Fonts.regular13
         color: Colors.primaryText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: Fonts.smallest
     }
 }

@@ -134,7 +134,7 @@ MakeBackgroundRectangle {
                 font: Fonts.regular10
                 color: Colors.secondaryText
                 fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 9
+                minimumPixelSize: Fonts.smallest
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
