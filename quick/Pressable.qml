@@ -9,12 +9,15 @@ Item {
 
     // The accessible name.
     required property string spokenName
+    // It cannot be pressed for now, and is drawn faintly. What rests below an overlay is not.
+    property bool isUnavailable: false
     readonly property alias isHovered: hover.hovered
     readonly property alias isDown: tap.pressed
 
     signal pressed
 
     activeFocusOnTab: true
+    enabled: !isUnavailable
 
     Accessible.role: Accessible.Button
     Accessible.name: spokenName

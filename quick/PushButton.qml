@@ -19,7 +19,7 @@ Pressable {
     spokenName: text
     implicitWidth: Math.max(56, label.implicitWidth + 20)
     implicitHeight: label.implicitHeight + 10
-    opacity: enabled ? 1 : 0.5
+    opacity: isUnavailable ? 0.5 : 1
 
     Shortcut {
         sequence: root.text ? `Alt+${root.text.charAt(0)}` : ""

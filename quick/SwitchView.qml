@@ -19,7 +19,7 @@ Pressable {
     spokenName: label
     implicitWidth: text.implicitWidth + 8 + track.width
     implicitHeight: Math.max(20, text.implicitHeight)
-    opacity: enabled ? 1 : 0.5
+    opacity: isUnavailable ? 0.5 : 1
 
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true

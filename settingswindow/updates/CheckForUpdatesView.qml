@@ -18,10 +18,13 @@ Column {
     ProminentButton {
         anchors.left: parent.left
         text: "Check for Updates…"
-        enabled: SoftwareUpdates.canCheckForUpdates
+        isUnavailable: !SoftwareUpdates.canCheckForUpdates
         // Those who do not see that it rests are not told by its state.
-        Accessible.description: enabled ? "" : SoftwareUpdates.isSupported ? "A check is running"
-                                                                           : SoftwareUpdates.note
+        Accessible.description: {
+            if (!isUnavailable)
+                return "";
+            return SoftwareUpdates.isSupported ? "A check is running" : SoftwareUpdates.note;
+        }
         onPressed: SoftwareUpdates.checkForUpdates()
     }
 
@@ -34,7 +37,7 @@ Column {
     SwitchView {
         width: parent.width
         height: 20
-        enabled: SoftwareUpdates.isSupported
+        isUnavailable: !SoftwareUpdates.isSupported
         label: "Automatically check for updates"
         isOn: root.automaticallyChecksForUpdates
         onFlipped: on => {
@@ -46,7 +49,7 @@ Column {
     SwitchView {
         width: parent.width
         height: 20
-        enabled: SoftwareUpdates.isSupported
+        isUnavailable: !SoftwareUpdates.isSupported
         label: "Automatically download updates"
         isOn: root.automaticallyDownloadsUpdates
         onFlipped: on => {

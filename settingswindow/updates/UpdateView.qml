@@ -234,7 +234,7 @@ FocusScope {
                 PlainButton {
                     text: root.otherAnswerOf(root.stage)
                     visible: text !== ""
-                    enabled: !root.isAtWork || SoftwareUpdates.canCancel
+                    isUnavailable: root.isAtWork && !SoftwareUpdates.canCancel
                     onPressed: root.decline()
                 }
 

@@ -79,6 +79,15 @@ class IconPopoverTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void leavesWhatLiesBehindAsItLooks()
+    {
+        const Popover f(discharging);
+        for (const QQuickItem *control : f.switchesOf(charged)) {
+            QVERIFY(!control->isEnabled());
+            QCOMPARE(control->opacity(), 1);
+        }
+    }
+
     void headsItsGroups()
     {
         const QString dynamic = u"Level changes according battery charge %"_s;

@@ -101,10 +101,12 @@ private Q_SLOTS:
         f.stage.click(f.button);
         QCOMPARE(f.stage.updatePlatform.engine.checks.size(), 1);
         QVERIFY(!f.button->isEnabled());
+        QCOMPARE(f.button->opacity(), 0.5);
         f.stage.click(f.button);
         QCOMPARE(f.stage.updatePlatform.engine.checks.size(), 1);
         f.stage.updates.dismiss();
         QVERIFY(f.button->isEnabled());
+        QCOMPARE(f.button->opacity(), 1);
     }
 
     void isWorkedByTheKeyboardAlone()
