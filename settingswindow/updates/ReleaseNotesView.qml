@@ -45,7 +45,7 @@ RoundedRect {
     Flickable {
         id: view
 
-        anchors { fill: parent; margins: 10; rightMargin: 14 }
+        anchors { fill: parent; margins: 10; rightMargin: 18 }
         clip: true
         contentWidth: width
         contentHeight: words.height

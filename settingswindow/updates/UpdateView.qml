@@ -134,6 +134,12 @@ FocusScope {
             SoftwareUpdates.later();
     }
 
+    Shortcut {
+        sequence: "Ctrl+W"
+        autoRepeat: false
+        onActivated: root.decline()
+    }
+
     Rectangle {
         anchors.fill: parent
         color: Colors.settingsBackground

@@ -74,6 +74,17 @@ class TheSheet(WithSettings):
         self.session.point((5, 590))
         eventually(lambda: not picture.difference(self.session.picture()), "it looks as it did")
 
+    def test_its_texts_are_scrolled_by_their_bar(self):
+        self.window.click("Acknowledgements", "push button")
+        done = self.window.find("Done").box
+        first = "(?s)SOFTWARE UPDATES.*"
+        before = self.window.find(first).box.top
+        # In the corner of the sheet, which is 400 pixels high.
+        knob = done.right + 10, done.bottom + 13 - 380
+        self.session.drag(knob, (knob[0], knob[1] + 100))
+        eventually(lambda: self.window.find(first).box.top < before - 100,
+                   "the texts have gone up by more than the pointer has come down")
+
     def test_it_keeps_the_pages_from_being_turned(self):
         box = self.window.find("General", "page tab").box
         self.window.click("Acknowledgements", "push button")

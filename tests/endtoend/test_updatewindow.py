@@ -8,6 +8,7 @@ import unittest.mock
 
 from harness.case import WithSettings, main
 from harness.packagekit import PackageKit
+from harness.picture import Box
 from harness.portal import Desktop
 from harness.processes import eventually
 from harness.program import binary
@@ -114,6 +115,54 @@ class TheUpdateWindow(WithSettings):
         eventually(lambda: self.updates.find("Progress").description == "75 %", "it tells how much")
         self.updates.click("Cancel", BUTTON)
         self.fail_and_try_again()
+
+    def test_it_is_worked_by_keys_alone(self):
+        self.packagekit.tell("tell_at_length")
+        self.packagekit.tell("offer", "9.8.7")
+        self.packagekit.tell("hold", "DownloadPackages")
+        self.check()
+        answers = ["Skip this version", "Later", "Download"]
+        self.updates.shows("Ferrin 9.8.7 is available", buttons=answers)
+        # A key that was meant for another window answers nothing.
+        self.assertNotIn(self.updates.focused_name(), answers)
+        self.updates.press("Return", "space")
+        for name in ["What is new", *answers]:
+            self.updates.press("Tab")
+            eventually(lambda name=name: self.updates.focused_name() == name, f"{name} has the focus")
+        self.updates.press("Return")
+        self.updates.shows("Downloading Ferrin 9.8.7", buttons=["Cancel"])
+        self.assertTrue(self.updates.find("Downloading Ferrin 9.8.7", "dialog"))
+        self.updates.press("Escape")
+        self.updates.shows("Ferrin 9.8.7 is available", buttons=answers)
+        self.updates.press("alt+l")
+        eventually(lambda: not self.updates.root(), "it has closed")
+        self.assertTrue(self.window.root())
+
+    def test_its_notes_are_scrolled_by_keys_and_by_their_bar(self):
+        self.packagekit.tell("tell_at_length")
+        self.packagekit.tell("offer", "9.8.7")
+        self.check()
+        box = self.updates.find("What is new").box
+        # Without the bar.
+        words = Box(box.left + 10, box.top + 10, box.right - 20, box.bottom - 10)
+
+        def shown():
+            return self.session.picture().pixels(words)
+        at_rest = shown()
+        knob = box.right - 7, box.top + 20
+        self.session.drag(knob, (knob[0], box.bottom - 15))
+        eventually(lambda: shown() != at_rest, "they have moved")
+        self.session.drag((knob[0], box.bottom - 15), (knob[0], box.top - 40))
+        eventually(lambda: shown() == at_rest, "they are back")
+        self.updates.press("Tab", "Next")
+        eventually(lambda: shown() != at_rest, "they have moved by a key")
+
+    def test_it_closes_as_windows_do(self):
+        self.check()
+        self.updates.shows("Ferrin is up to date", buttons=["Close"])
+        self.updates.press("ctrl+w")
+        eventually(lambda: not self.updates.root(), "it has closed")
+        self.assertTrue(self.window.root())
 
     def fail_and_try_again(self):
         self.packagekit.tell("work", "DownloadPackages")

@@ -4,6 +4,7 @@
 knows one package, that of the program; each line of its input is one of
 
     offer VERSION             the package sources have this version, too
+    tell_at_length            its notes have more than the window has room for
     hold METHOD               transactions of this kind do not end
     progress SIZE REMAINING   the one that is held downloads: so many bytes, and so many of them to come
     fail METHOD CODE TEXT     they end with this error
@@ -25,6 +26,7 @@ NAME, PATH = "org.freedesktop.PackageKit", "/org/freedesktop/PackageKit"
 TRANSACTION = f"{NAME}.Transaction"
 INSTALLED = "ferrin;0.1.0;amd64;installed:ferrin"
 NOTES = "The battery is read more often.\nA new glyph."
+LONG_NOTES = "\n".join(f"Change {number} of forty." for number in range(1, 41))
 SIZE = 2000000
 NORMAL, SUCCESS, FAILED, DOWNLOADS = 5, 1, 2, 8
 SERVICE = f"""<node><interface name="{NAME}">
@@ -56,6 +58,7 @@ class PackageKit(ServiceProcess):
 class Service:
     def __init__(self):
         self._offered = None
+        self._notes = NOTES
         self._held, self._failing = {}, {}
         self._count = 0
         self._bus = Gio.bus_get_sync(Gio.BusType.SYSTEM)
@@ -69,6 +72,9 @@ class Service:
 
     def offer(self, version):
         self._offered = f"ferrin;{version};amd64;ferrin-stable-main"
+
+    def tell_at_length(self):
+        self._notes = LONG_NOTES
 
     def hold(self, method):
         self._held[method] = None
@@ -118,7 +124,7 @@ class Service:
             self._tell(path, "Details", "(a{sv})", {"size": GLib.Variant("t", SIZE)})
         elif method == "GetUpdateDetail":
             self._tell(path, "UpdateDetail", "(sasasasasasussuss)", self._offered, [], [], [], [],
-                       [], 0, "", NOTES, 0, "", "")
+                       [], 0, "", self._notes, 0, "", "")
         if method in self._held:
             self._held[method] = path
         elif method in self._failing:
