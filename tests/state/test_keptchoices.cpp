@@ -9,6 +9,7 @@
 #include "state/filedefaultsstore.h"
 #include "state/iconcatalogues.h"
 #include "state/settingsdata.h"
+#include "tests/support/kills.h"
 #include "tests/support/logcapture.h"
 
 #include <QDir>
@@ -30,7 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kills = 120;
+const int kills = killsOr(120);
 constexpr int switchCount = static_cast<int>(DisplaySwitch::showTimeWhenCharged) + 1;
 constexpr int iconChoices = 3;
 constexpr int choiceCount = switchCount + iconChoices + 1;

@@ -78,6 +78,20 @@ private Q_SLOTS:
         QVERIFY(std::abs(fit.result()->rate - 50) < 5);
     }
 
+    void needsTheMachinesWordNoLongerOnceTwoPercentAreMeasured()
+    {
+        ChargeFit fit({});
+        fit.add(20, 21, Hours(0.02));
+        const double measured = fit.result()->rate;
+        fit.report(21, 90);
+        const double heard = fit.result()->rate;
+        QVERIFY(heard > measured + 1);
+        fit.add(21, 22, Hours(0.02));
+        const double before = fit.result()->rate;
+        fit.report(22, 30);
+        QCOMPARE(fit.result()->rate, before);
+    }
+
     void findsTheKneeOfAFirstCharge_data()
     {
         QTest::addColumn<double>("knee");

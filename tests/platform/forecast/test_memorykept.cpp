@@ -4,6 +4,7 @@
 // A process that learns of a battery without end and is killed, and what is kept then.
 
 #include "platform/linux/power/forecast/memorystore.h"
+#include "tests/support/kills.h"
 #include "tests/support/logcapture.h"
 
 #include <QDir>
@@ -19,13 +20,6 @@ using namespace ferrin;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// FERRIN_TEST_KILLS=... for more.
-int kills()
-{
-    const int wanted = qEnvironmentVariableIntValue("FERRIN_TEST_KILLS");
-    return wanted > 0 ? wanted : 40;
-}
 
 /// Counts in what is learned, and prints each number that has reached the file.
 [[noreturn]] void learnForEver(const QString &path)
@@ -59,7 +53,7 @@ private Q_SLOTS:
         const QString path = folder.filePath(u"ferrin/batteries.json"_s);
         QRandomGenerator random(1);
         test::LogCapture log;
-        for (int kill = 0; kill < kills(); ++kill) {
+        for (int kill = 0; kill < test::killsOr(40); ++kill) {
             QProcess process;
             process.start(QCoreApplication::applicationFilePath(), { u"learn"_s, path });
             QVERIFY(process.waitForReadyRead());
