@@ -8,7 +8,7 @@ import time
 
 from gi.repository import Gio, GLib
 
-from harness.processes import end
+from harness.processes import TIMEOUT_SECONDS, end
 
 
 def memory_of(pid):
@@ -32,9 +32,13 @@ class Registrations:
 
     def seconds_to_item(self, start):
         """From a start until the item is registered; the process is ended again."""
+        timeout = GLib.timeout_add_seconds(TIMEOUT_SECONDS, self._loop.quit)
         begun = time.monotonic()
         process = start()
         self._loop.run()
         taken = time.monotonic() - begun
         end(process)
+        if taken >= TIMEOUT_SECONDS:
+            raise AssertionError("the item was never registered: has the status area ended?")
+        GLib.source_remove(timeout)
         return taken
