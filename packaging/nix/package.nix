@@ -65,7 +65,11 @@ stdenv.mkDerivation {
 
   meta = {
     description = "Battery utility for the status area of a desktop";
-    license = lib.licenses.gpl3Plus;
+    license = with lib.licenses; [
+      gpl3Plus
+      hpndSellVariant
+      mit
+    ];
     mainProgram = "ferrin";
     platforms = lib.platforms.linux;
   };

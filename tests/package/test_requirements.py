@@ -94,8 +94,6 @@ def of_expression(attribute):
           cmakeBool = name: value: name + (if value then "=ON" else "=OFF");
           makeBinPath = builtins.concatStringsSep ":";
           getExe' = package: name: package + "/bin/" + name;
-          licenses.gpl3Plus = "GPL-3.0-or-later";
-          platforms.linux = "linux";
         }};
       in
       (file (builtins.mapAttrs (name: _: name) (builtins.functionArgs file) // {{
