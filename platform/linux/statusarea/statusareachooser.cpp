@@ -47,6 +47,10 @@ StatusAreaChooser::StatusAreaChooser(const QDBusConnection &session, QObject *pa
                 &StatusAreaChooser::hostFound);
         connect(m_notifierBar.get(), &StatusNotifierBar::readersChanged, this,
                 &StatusAreaChooser::panelAppearanceChanged);
+        const auto tellStanding
+            = [this] { m_notifierBar->setPanelStanding(m_trayOwner->isStanding()); };
+        connect(m_trayOwner.get(), &TrayOwner::standingChanged, this, tellStanding);
+        tellStanding();
     }
     m_hostTimer.setSingleShot(true);
     connect(&m_hostTimer, &QTimer::timeout, this, &StatusAreaChooser::standIn);

@@ -40,12 +40,19 @@ constexpr std::array matePictures { OfferedPicture { Wide, 24 }, OfferedPicture 
                                     OfferedPicture { Wide, 23 }, OfferedPicture { Wide, 27 },
                                     OfferedPicture { Wide, 20 }, OfferedPicture { Wide, 29 },
                                     OfferedPicture { Wide, 21 }, OfferedPicture { Wide, 36 } };
+// A standing panel of MATE's makes every picture as wide as itself.
+constexpr std::array mateStandingPictures {
+    OfferedPicture { Square, 24 }, OfferedPicture { Square, 28 }, OfferedPicture { Square, 32 },
+    OfferedPicture { Square, 36 }, OfferedPicture { Square, 48 }
+};
 // Budgie takes the first and brings it to two thirds of its panel's height, but to 24 px at the
 // most, which is what a panel of the usual height gives it.
 constexpr std::array budgiePictures { OfferedPicture { Square, 24 }, OfferedPicture { Square, 32 },
                                       OfferedPicture { Square, 48 } };
 constexpr std::array cinnamonPictures { OfferedPicture { Wide, 24, 1 },
                                         OfferedPicture { Wide, 24, 2 } };
+constexpr std::array cinnamonStandingPictures { OfferedPicture { Square, 24, 1 },
+                                                OfferedPicture { Square, 24, 2 } };
 constexpr std::array gnomePictures { OfferedPicture { Glyph, 16, 1 },
                                      OfferedPicture { Glyph, 16, 2 } };
 
@@ -76,9 +83,13 @@ const std::array profiles {
                   .trustedClicks = true },
     HostProfile {
         .name = "waybar"_L1, .pictures = waybarPictures, .scale = ScalePolicy::DesktopOnly },
-    HostProfile {
-        .name = "notification-area-applet"_L1, .pictures = matePictures, .panelHeights = true },
-    HostProfile { .name = cinnamon, .pictures = cinnamonPictures },
+    HostProfile { .name = "notification-area-applet"_L1,
+                  .pictures = matePictures,
+                  .standingPictures = mateStandingPictures,
+                  .panelHeights = true },
+    HostProfile { .name = cinnamon,
+                  .pictures = cinnamonPictures,
+                  .standingPictures = cinnamonStandingPictures },
     // The watcher of the XApp applets, which fit everything into a square everywhere but on
     // Cinnamon.
     HostProfile { .name = xappElsewhere, .pictures = panelSquares },

@@ -51,6 +51,9 @@ struct HostProfile
     QLatin1StringView name {};
     /// In the order in which they are offered. Empty for a host that draws `IconName` alone.
     std::span<const OfferedPicture> pictures {};
+    /// In their place where the host's panel stands at a side of the screen; empty where that makes
+    /// no difference.
+    std::span<const OfferedPicture> standingPictures {};
     ScalePolicy scale = ScalePolicy::Never;
     PanelText text = PanelText::Unknown;
     /// The host draws a text label beside the icon.
@@ -65,6 +68,10 @@ struct HostProfile
     /// The host's click coordinates are places on the screen.
     bool trustedClicks = false;
 
+    [[nodiscard]] std::span<const OfferedPicture> picturesFor(bool isPanelStanding) const
+    {
+        return isPanelStanding && !standingPictures.empty() ? standingPictures : pictures;
+    }
     [[nodiscard]] PanelKind panel() const { return { .name = name, .usualText = text }; }
 };
 

@@ -39,18 +39,20 @@ constexpr qreal toleratedDifference = 10;
 constexpr int tallestPanel = 64;
 constexpr int lowestPanel = 20;
 
-std::vector<OfferedPicture> offersFor(const HostProfile &profile, const QList<int> &panelHeights)
+std::vector<OfferedPicture> offersFor(const HostProfile &profile,
+                                      const ItemPictures::Surroundings &surroundings)
 {
+    const auto pictures = profile.picturesFor(surroundings.isPanelStanding);
     std::vector<OfferedPicture> offers;
     const auto add = [&offers](const OfferedPicture &offer) {
         if (std::ranges::find(offers, offer) == offers.end())
             offers.push_back(offer);
     };
-    for (const int height : panelHeights) {
+    for (const int height : surroundings.panelHeights) {
         if (height >= lowestPanel && height <= tallestPanel)
-            add({ .form = profile.pictures.front().form, .height = height });
+            add({ .form = pictures.front().form, .height = height });
     }
-    std::ranges::for_each(profile.pictures, add);
+    std::ranges::for_each(pictures, add);
     return offers;
 }
 
@@ -73,7 +75,7 @@ IconPixmapList ItemPictures::paintAll(const HostProfile &profile, Painted &paint
     context.isCoarse = surroundings.desktopScale < finestCoarseScale;
     IconPixmapList pictures;
     qsizetype bytes = 0;
-    for (const OfferedPicture &offer : offersFor(profile, surroundings.panelHeights)) {
+    for (const OfferedPicture &offer : offersFor(profile, surroundings)) {
         const QImage image = paintForm(offer.form, painted.content, offer.height,
                                        densityFor(profile, offer, surroundings.desktopScale),
                                        context, keptWidth(painted, offer, context));

@@ -26,6 +26,8 @@ public:
         qreal desktopScale = 1;
         /// The thickness of the panels on the screen, in device pixels.
         QList<int> panelHeights {};
+        /// The host's panel stands at a side of the screen.
+        bool isPanelStanding = false;
 
         bool operator==(const Surroundings &) const = default;
     };

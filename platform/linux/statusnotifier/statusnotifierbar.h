@@ -24,6 +24,9 @@ public:
 
     void start();
 
+    /// The host's panel stands at a side of the screen.
+    void setPanelStanding(bool isStanding) { m_item.setPanelStanding(isStanding); }
+
     [[nodiscard]] qreal thickness() const override { return 22; }
     [[nodiscard]] StatusItem *item() override { return &m_item; }
     /// As the last host shows the item that has read it.

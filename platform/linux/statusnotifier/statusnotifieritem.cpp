@@ -94,11 +94,20 @@ std::optional<PanelAppearance> StatusNotifierItem::panelAppearance() const
                              .height = 16,
                              .context = m_colors.contextFor(m_lastHost->panel()),
                              .hasLabel = m_lastHost->label };
-    if (!m_lastHost->pictures.empty()) {
-        result.form = m_lastHost->pictures.front().form;
-        result.height = m_lastHost->pictures.front().height;
+    const auto pictures = m_lastHost->picturesFor(m_isPanelStanding);
+    if (!pictures.empty()) {
+        result.form = pictures.front().form;
+        result.height = pictures.front().height;
     }
     return result;
+}
+
+void StatusNotifierItem::setPanelStanding(bool isStanding)
+{
+    if (std::exchange(m_isPanelStanding, isStanding) == isStanding)
+        return;
+    scheduleUpdate();
+    Q_EMIT readersChanged();
 }
 
 void StatusNotifierItem::setToolTipEnabled(bool isEnabled)
@@ -197,7 +206,8 @@ StatusNotifierItem::Seen StatusNotifierItem::seenBy(const HostProfile &profile, 
         seen.pictures = m_pictures.pictures(
             profile, m_content, m_colors.contextFor(profile.panel()),
             { .desktopScale = desktopScale(),
-              .panelHeights = profile.panelHeights ? dockThicknesses() : QList<int>() });
+              .panelHeights = profile.panelHeights ? dockThicknesses() : QList<int>(),
+              .isPanelStanding = m_isPanelStanding });
     return seen;
 }
 

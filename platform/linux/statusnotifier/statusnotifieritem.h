@@ -41,6 +41,9 @@ public:
     /// As the last host shows the item that has read its icon; absent while none has.
     [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const;
 
+    /// Whether the host's panel stands at a side of the screen. It lies by default.
+    void setPanelStanding(bool isStanding);
+
     /// Whether the item has a tool tip. Has one by default.
     void setToolTipEnabled(bool isEnabled);
 
@@ -51,7 +54,7 @@ public:
     void setTokenLifetime(std::chrono::milliseconds time) { m_tokenExpiry.setInterval(time); }
 
 Q_SIGNALS:
-    /// A host has read the icon for the first time, or left.
+    /// A host has read the icon for the first time, or left, or shows it in another form.
     void readersChanged();
     /// The host's own coordinates; null from a host whose coordinates are not the screen's.
     void activateRequested(QPoint position);
@@ -112,6 +115,7 @@ private:
     QHash<const HostProfile *, Seen> m_seen;
     QString m_seenToolTip;
     bool m_isToolTipEnabled = true;
+    bool m_isPanelStanding = false;
     IconFiles m_iconFiles;
     QTimer m_update;
     QTimer m_tokenExpiry;

@@ -37,6 +37,7 @@ public:
     void setContextMenu(const std::vector<MenuEntry> &entries) override;
     void setHighlighted(bool highlighted) override;
     [[nodiscard]] ItemPlace place() const override { return m_place; }
+    void setPanelStanding(bool isStanding) { m_item.setPanelStanding(isStanding); }
 
     [[nodiscard]] std::optional<PanelAppearance> panelAppearance() const
     {

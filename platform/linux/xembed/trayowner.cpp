@@ -18,6 +18,7 @@ TrayOwner::TrayOwner(QObject *parent)
     const QByteArray selection = "_NET_SYSTEM_TRAY_S" + QByteArray::number(m_x11.screenNumber());
     m_selection = m_x11.atom(selection.constData());
     m_manager = m_x11.atom("MANAGER");
+    m_orientation = m_x11.atom("_NET_SYSTEM_TRAY_ORIENTATION");
     QCoreApplication::instance()->installNativeEventFilter(this);
     refresh();
 }
@@ -29,8 +30,26 @@ void TrayOwner::refresh()
     if (!m_x11)
         return;
     const quint32 owner = ownerToFollow();
-    if (std::exchange(m_window, owner) != owner)
-        Q_EMIT changed();
+    if (std::exchange(m_window, owner) == owner)
+        return;
+    readOrientation();
+    Q_EMIT changed();
+}
+
+void TrayOwner::readOrientation()
+{
+    constexpr quint32 vertical = 1;
+    bool isStanding = false;
+    if (m_window != XCB_WINDOW_NONE) {
+        const auto request
+            = xcb_get_property(m_x11.get(), 0, m_window, m_orientation, XCB_ATOM_CARDINAL, 0, 1);
+        const XcbReply<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(m_x11.get(), request, nullptr));
+        isStanding = reply && xcb_get_property_value_length(reply.get()) == int(sizeof(quint32))
+            && *static_cast<const quint32 *>(xcb_get_property_value(reply.get())) == vertical;
+    }
+    if (std::exchange(m_isStanding, isStanding) != isStanding)
+        Q_EMIT standingChanged();
 }
 
 quint32 TrayOwner::ownerToFollow() const
@@ -57,8 +76,11 @@ bool TrayOwner::nativeEventFilter(const QByteArray &eventType, void *message, qi
     const int type = event->response_type & 0x7f;
     if (type == XCB_PROPERTY_NOTIFY) {
         const auto *property = reinterpret_cast<const xcb_property_notify_event_t *>(event);
-        if (property->window == m_window)
-            Q_EMIT propertyChanged(property->atom);
+        if (property->window != m_window)
+            return false;
+        if (property->atom == m_orientation)
+            readOrientation();
+        Q_EMIT propertyChanged(property->atom);
     } else if (type == XCB_DESTROY_NOTIFY) {
         const auto *destroyed = reinterpret_cast<const xcb_destroy_notify_event_t *>(event);
         if (m_window != XCB_WINDOW_NONE && destroyed->window == m_window)

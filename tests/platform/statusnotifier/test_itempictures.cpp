@@ -49,6 +49,7 @@ private Q_SLOTS:
     void staysSmallForEveryHostAtEveryScale();
     void offersAtLeastOnePictureWhateverTheContent();
     void offersMateTheHeightsOfThePanelsThatAreThere();
+    void offersSquaresToAPanelThatStands();
     void paintsLargerTextOnTallerPanels();
     void keepsItsWidthWhileTheStateLasts();
     void paintsAgainOnlyWhenSomethingChanged();
@@ -148,6 +149,21 @@ void ItemPicturesTest::offersMateTheHeightsOfThePanelsThatAreThere()
         QCOMPARE(heights.constFirst(), height);
         QCOMPARE(heights.count(height), 1);
         QVERIFY(!heights.contains(200));
+    }
+}
+
+void ItemPicturesTest::offersSquaresToAPanelThatStands()
+{
+    ItemPictures pictures;
+    for (const HostProcess &host : { HostProcess { .name = u"notification-ar"_s },
+                                     HostProcess { .name = u"xapp-sn-watcher"_s } }) {
+        const HostProfile &profile = profileFor(host, { u"X-Cinnamon"_s });
+        const IconPixmapList lying = pictures.pictures(profile, usual, context, {});
+        QVERIFY(lying.constFirst().width > lying.constFirst().height);
+        const IconPixmapList standing
+            = pictures.pictures(profile, usual, context, { .isPanelStanding = true });
+        for (const IconPixmap &picture : standing)
+            QCOMPARE(picture.width, picture.height);
     }
 }
 

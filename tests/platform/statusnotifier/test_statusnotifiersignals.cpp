@@ -34,6 +34,7 @@ private Q_SLOTS:
     void tellsNoMoreThanWasRead();
     void tellsEverybodyWhereItIsNewToAllWhoRead();
     void isInTheFormOfTheLastThatDrawsIt();
+    void tellsOfAPanelThatStandsUp();
 };
 
 void StatusNotifierSignalsTest::isSilentAtRest()
@@ -209,6 +210,20 @@ void StatusNotifierSignalsTest::isInTheFormOfTheLastThatDrawsIt()
     read(gnome, u"IconPixmap"_s);
     read(stranger, u"ToolTip"_s);
     QCOMPARE(m_item->panelAppearance()->form, ItemForm::Glyph);
+}
+
+void StatusNotifierSignalsTest::tellsOfAPanelThatStandsUp()
+{
+    BusPeer *const mate = newHost(u"notification-ar"_s);
+    mate->allProperties(m_service, itemPath, itemInterface);
+    QCOMPARE(m_item->panelAppearance()->form, ItemForm::Wide);
+    m_item->setPanelStanding(true);
+    settle(*mate);
+    QCOMPARE(mate->takeSignals(), QStringList(u"NewIcon"_s));
+    QCOMPARE(m_item->panelAppearance()->form, ItemForm::Square);
+    m_item->setPanelStanding(true);
+    settle(*mate);
+    QCOMPARE(mate->takeSignals(), QStringList());
 }
 
 FERRIN_TEST(QGuiApplication, StatusNotifierSignalsTest)

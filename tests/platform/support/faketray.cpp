@@ -110,6 +110,12 @@ void FakeTray::announceText(const QColor &text)
     announce("_NET_SYSTEM_TRAY_COLORS", XCB_ATOM_CARDINAL, words);
 }
 
+void FakeTray::announceOrientation(Qt::Orientation orientation)
+{
+    const quint32 value = orientation == Qt::Vertical ? 1 : 0;
+    announce("_NET_SYSTEM_TRAY_ORIENTATION", XCB_ATOM_CARDINAL, { &value, 1 });
+}
+
 void FakeTray::announceBlending()
 {
     auto depths = xcb_screen_allowed_depths_iterator(&screen());

@@ -26,6 +26,7 @@ public:
     /// Takes the tray for itself and tells everybody.
     void own();
     void announceText(const QColor &text);
+    void announceOrientation(Qt::Orientation orientation);
     /// Wants windows whose pixels have an alpha.
     void announceBlending();
 

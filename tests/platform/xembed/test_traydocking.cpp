@@ -51,6 +51,7 @@ private Q_SLOTS:
     void followsTheOwnerOfTheTrayAsItComesAndGoes();
     void followsTheTrayToAnotherOwner();
     void hearsOfNewColors();
+    void hearsWhetherThePanelStands();
     void asksTheTrayToTakeItIn();
     void wantsAPictureAtEverySizeThatTheTrayGivesIt();
     void showsItsPictureOnTheTraysOwnGround();
@@ -144,6 +145,16 @@ void TrayDockingTest::hearsOfNewColors()
     QTRY_COMPARE(colors.text(), std::optional(QColor(Qt::blue)));
     m_tray.reset();
     QTRY_COMPARE(colors.text(), std::nullopt);
+}
+
+void TrayDockingTest::hearsWhetherThePanelStands()
+{
+    m_tray->announceOrientation(Qt::Vertical);
+    m_tray->own();
+    TrayOwner owner;
+    QTRY_VERIFY(owner.isStanding());
+    m_tray->announceOrientation(Qt::Horizontal);
+    QTRY_VERIFY(!owner.isStanding());
 }
 
 void TrayDockingTest::asksTheTrayToTakeItIn()
