@@ -103,6 +103,15 @@ private Q_SLOTS:
         QCOMPARE(mean.restarts(), 0);
     }
 
+    void isNotForgottenForALoadOfNothing()
+    {
+        LoadMean mean;
+        mean.expect(8);
+        mean.add(0, 5min);
+        QCOMPARE(mean.restarts(), 0);
+        QVERIFY(mean.value());
+    }
+
     void tellsTheMeanWithWhatIsNotMeasuredYet()
     {
         LoadMean mean;
