@@ -219,6 +219,20 @@ private Q_SLOTS:
         QVERIFY(!machine.forecast.limit({ pack }));
     }
 
+    void keepsALimitThroughTheNextCharge()
+    {
+        Machine machine;
+        machine.now = 25;
+        machine.run(-20, 37min);
+        machine.rest(10min, true);
+        machine.run(8, 30min);
+        machine.run(-20, 12min);
+        const PackMoment pack {
+            .key = "a", .now = machine.now, .full = 50, .rate = {}, .limit = {}
+        };
+        QCOMPARE(machine.forecast.limit({ pack }), 75);
+    }
+
     void tellsTheTimeAvailableAtTheUsualDraw()
     {
         Machine machine;
