@@ -16,7 +16,8 @@ class QuirksOfSuppliesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // names
+    // types and names
+    void knowsEachTypeByItsWord();
     void findsBatteriesAndAdaptersByTypeWhateverTheirNames_data();
     void findsBatteriesAndAdaptersByTypeWhateverTheirNames();
     // peripherals
@@ -28,6 +29,17 @@ private Q_SLOTS:
     void countsAnEmptyPackThatWaitsItsTurn();
     void followsAPackThatIsSwapped();
 };
+
+void QuirksOfSuppliesTest::knowsEachTypeByItsWord()
+{
+    QVERIFY(supplyTypeOf("Battery") == SupplyType::Battery);
+    QVERIFY(supplyTypeOf("Mains") == SupplyType::Mains);
+    QVERIFY(supplyTypeOf("Wireless") == SupplyType::Wireless);
+    for (const char *usb : { "USB", "USB_C", "USB_PD", "USB_PD_DRP", "BrickID" })
+        QVERIFY2(supplyTypeOf(usb) == SupplyType::Usb, usb);
+    for (const char *other : { "", "UPS", "Unknown", "battery" })
+        QVERIFY2(supplyTypeOf(other) == SupplyType::Other, other);
+}
 
 void QuirksOfSuppliesTest::findsBatteriesAndAdaptersByTypeWhateverTheirNames_data()
 {
