@@ -76,7 +76,8 @@ class TheRecipes(unittest.TestCase):
             ("debian/changelog", r"\Aferrin \((\S+)-\d+\)"),
             ("packaging/rpm/ferrin.spec", r"^Version: +(\S+)"),
             ("packaging/arch/PKGBUILD", r"^pkgver=(\S+)"),
-            ("packaging/nix/package.nix", r'^  version = "(\S+)";'))}
+            ("packaging/nix/package.nix", r'^  version = "(\S+)";'),
+            ("README.md", r"--prefix=ferrin-(\S+)/"))}
         self.assertEqual(len(set(output.values())), 1, output)
 
     def test_rpmlint_finds_no_fault_in_the_spec(self):
