@@ -182,16 +182,6 @@ QRect DockedWindow::panel() const
     return m_isDocked ? dockAround(m_window) : QRect();
 }
 
-bool DockedWindow::isSqueezed() const
-{
-    if (!m_isDocked)
-        return false;
-    const XcbReply<xcb_get_geometry_reply_t> socket(
-        xcb_get_geometry_reply(m_x11.get(), xcb_get_geometry(m_x11.get(), m_socket), nullptr));
-    const auto isSmall = [](QSize size) { return size.width() <= 1 || size.height() <= 1; };
-    return isSmall(m_size) || (socket && isSmall({ socket->width, socket->height }));
-}
-
 QByteArray DockedWindow::panelClass() const
 {
     return m_isDocked ? classOfDockAround(m_window) : QByteArray();
@@ -270,8 +260,6 @@ void DockedWindow::reparented(quint32 parent)
         return;
     }
     m_isDocked = true;
-    m_socket = parent;
-    Q_EMIT takenIn();
     const XcbReply<xcb_get_geometry_reply_t> around(
         xcb_get_geometry_reply(m_x11.get(), xcb_get_geometry(m_x11.get(), parent), nullptr));
     if (m_isBlended || !around || around->depth != m_visual.depth)

@@ -41,17 +41,12 @@ public:
     /// over a ground that it keeps to itself, and while nothing can be seen.
     [[nodiscard]] std::optional<QColor> ground() const;
 
-    /// The tray has left it no room: not more than a single pixel of it can be seen.
-    [[nodiscard]] bool isSqueezed() const;
-
     /// For programs that list windows by their titles.
     void setTitle(const QString &title);
     /// Shows the picture, which is as large as the window.
     void show(const QImage &picture);
 
 Q_SIGNALS:
-    /// The tray has taken it in, and may not have laid it out yet.
-    void takenIn();
     /// The picture is wanted, at the present size: the first time, when the tray has changed the
     /// size, and when it has been covered.
     void pictureWanted();
@@ -92,8 +87,6 @@ private:
     /// The tray blends the picture by its alpha.
     bool m_isBlended = false;
     bool m_isDocked = false;
-    /// The tray's window around it.
-    quint32 m_socket = 0;
     QSize m_size;
 };
 

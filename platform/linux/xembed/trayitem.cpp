@@ -28,9 +28,6 @@ constexpr qreal highlightOpacity = 0.2;
 constexpr qreal highlightRadius = 0.15;
 // A bar that reads its configuration again lets go of all that is in its tray first.
 constexpr auto returnAfter = 200ms;
-// lxpanel sometimes leaves what it takes in while it starts in a socket of one pixel, for good.
-constexpr auto layoutTime = 1s;
-constexpr int mostAsked = 4;
 
 /// What a bar that leaves its icons no air would have to leave, device pixels: the square would
 /// touch both of its edges.
@@ -65,9 +62,6 @@ TrayItem::TrayItem(const PanelColors &colors, QObject *parent)
     m_return.setSingleShot(true);
     m_return.setInterval(returnAfter);
     connect(&m_return, &QTimer::timeout, this, [this] { dockInto(m_tray); });
-    m_layout.setSingleShot(true);
-    setLayoutTime(layoutTime);
-    connect(&m_layout, &QTimer::timeout, this, &TrayItem::checkLayout);
 }
 
 TrayItem::~TrayItem() = default;
@@ -77,18 +71,11 @@ void TrayItem::dockInto(quint32 tray)
     m_tray = tray;
     m_return.stop();
     leave();
-    m_asked = 0;
-    if (tray)
-        askTray();
-}
-
-void TrayItem::askTray()
-{
-    ++m_asked;
-    m_window = std::make_unique<DockedWindow>(m_tray);
+    if (!tray)
+        return;
+    m_window = std::make_unique<DockedWindow>(tray);
     m_window->setTitle(sentenceFor(m_content));
     DockedWindow *const window = m_window.get();
-    connect(window, &DockedWindow::takenIn, &m_layout, qOverload<>(&QTimer::start));
     connect(window, &DockedWindow::pictureWanted, this, &TrayItem::paint);
     connect(window, &DockedWindow::clicked, this, [this] {
         m_toolTip.hide();
@@ -107,18 +94,9 @@ void TrayItem::askTray()
     connect(window, &DockedWindow::left, &m_toolTip, &ToolTip::hide);
 }
 
-void TrayItem::checkLayout()
-{
-    if (!m_window || !m_window->isSqueezed() || m_asked == mostAsked)
-        return;
-    leave();
-    askTray();
-}
-
 void TrayItem::leave()
 {
     m_toolTip.hide();
-    m_layout.stop();
     if (!m_window)
         return;
     // This may be called from one of its signals.

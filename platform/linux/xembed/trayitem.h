@@ -10,7 +10,6 @@
 
 #include <QTimer>
 
-#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -33,10 +32,6 @@ public:
     /// takes it out of the one that it is in.
     void dockInto(quint32 tray);
 
-    /// How long after it has taken the item in a tray has to have given it room; it is asked anew
-    /// else, a few times.
-    void setLayoutTime(std::chrono::milliseconds time) { m_layout.setInterval(time); }
-
     /// What the item is painted with in its tray.
     [[nodiscard]] ViewContext context() const;
 
@@ -54,14 +49,10 @@ private:
     void paint();
     void popUpMenu();
     void leave();
-    void askTray();
-    void checkLayout();
 
     const PanelColors &m_colors;
     quint32 m_tray = 0;
     QTimer m_return;
-    QTimer m_layout;
-    int m_asked = 0;
     /// Null while no tray has it.
     std::unique_ptr<DockedWindow> m_window;
     std::unique_ptr<ItemHostingView> m_view;

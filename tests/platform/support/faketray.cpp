@@ -146,17 +146,6 @@ void FakeTray::takeIn(xcb_window_t icon, QSize size)
     xcb_flush(m_connection);
 }
 
-void FakeTray::takeInWithoutRoom(xcb_window_t icon)
-{
-    const xcb_window_t socket = xcb_generate_id(m_connection);
-    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, socket, m_bar, -1, -1, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-    xcb_map_window(m_connection, socket);
-    xcb_reparent_window(m_connection, icon, socket, 0, 0);
-    xcb_map_window(m_connection, icon);
-    xcb_flush(m_connection);
-}
-
 void FakeTray::resize(xcb_window_t icon, QSize size)
 {
     const std::array values { quint32(size.width()), quint32(size.height()) };

@@ -33,8 +33,6 @@ public:
     /// The window that has asked to be taken in since; absent for none.
     [[nodiscard]] std::optional<xcb_window_t> request();
     void takeIn(xcb_window_t icon, QSize size);
-    /// Into a window of a single pixel that it keeps outside of the panel.
-    void takeInWithoutRoom(xcb_window_t icon);
     void resize(xcb_window_t icon, QSize size);
     /// Puts it back on the screen, as a bar that ends properly.
     void letGo(xcb_window_t icon);

@@ -22,7 +22,6 @@
 using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -57,12 +56,9 @@ private Q_SLOTS:
     void showsAToolTipUnderARestingPointer();
     void showsNoneWhileTheDashboardIsOpen();
     void takesTheEndOfAGrabForNoVisit();
-    void asksAFewTimesWhereTheTrayGivesItNoRoom();
-    void staysWhereTheTrayGivesItRoom();
     void cleanup();
 
 private:
-    [[nodiscard]] xcb_window_t requested();
     /// Brings the pointer over the item, and waits for as long as its tool tip would take to come.
     void visit(xcb_notify_mode_t mode = XCB_NOTIFY_MODE_NORMAL);
     /// How many tool tips are shown.
@@ -83,7 +79,9 @@ void TrayWindowTest::init()
     view->setContent(dischargingAt(37, u"4:29"_s));
     m_item->addContentView(std::move(view));
     m_item->dockInto(m_tray->window());
-    m_icon = requested();
+    std::optional<xcb_window_t> icon;
+    QTRY_VERIFY(icon || (icon = m_tray->request()));
+    m_icon = *icon;
     m_tray->takeIn(m_icon, { 24, 24 });
     QTRY_VERIFY(!m_item->place().item.isEmpty());
 }
@@ -93,13 +91,6 @@ void TrayWindowTest::cleanup()
     m_item.reset();
     m_colors.reset();
     m_tray.reset();
-}
-
-xcb_window_t TrayWindowTest::requested()
-{
-    std::optional<xcb_window_t> icon;
-    [&] { QTRY_VERIFY(icon || (icon = m_tray->request())); }();
-    return icon.value_or(0);
 }
 
 qsizetype TrayWindowTest::toolTips() const
@@ -145,32 +136,6 @@ void TrayWindowTest::takesTheEndOfAGrabForNoVisit()
 {
     visit(XCB_NOTIFY_MODE_UNGRAB);
     QCOMPARE(toolTips(), 0);
-}
-
-void TrayWindowTest::asksAFewTimesWhereTheTrayGivesItNoRoom()
-{
-    m_item->setLayoutTime(0ms);
-    m_item->dockInto(m_tray->window());
-    for (int times = 0; times < 4; ++times)
-        m_tray->takeInWithoutRoom(requested());
-    QTRY_VERIFY(!m_item->place().item.isEmpty());
-    QCoreApplication::processEvents();
-    QVERIFY(!m_tray->request());
-    // Another tray, or the same one anew, is asked as often.
-    m_item->dockInto(m_tray->window());
-    m_tray->takeInWithoutRoom(requested());
-    m_tray->takeIn(requested(), { 24, 24 });
-    QTRY_COMPARE(m_item->place().item, QRect(2, 2, 24, 24));
-}
-
-void TrayWindowTest::staysWhereTheTrayGivesItRoom()
-{
-    m_item->setLayoutTime(0ms);
-    m_item->dockInto(m_tray->window());
-    m_tray->takeIn(requested(), { 24, 24 });
-    QTRY_COMPARE(m_item->place().item, QRect(2, 2, 24, 24));
-    QCoreApplication::processEvents();
-    QVERIFY(!m_tray->request());
 }
 
 int main(int argc, char **argv)
