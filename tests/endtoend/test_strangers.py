@@ -128,24 +128,31 @@ class Strangers(OnADesktop):
         a_moment()
         return Holdings(self.session, self.program)
 
+    def leaves_nothing(self, once):
+        """Done again, it leaves nothing. The heap keeps the room that answers took while they waited, so
+        the first times may: how many wait depends on what else the machine does."""
+        for _ in range(4):
+            before = self.settled()
+            once()
+            more = self.settled().exceed(before)
+            if not more:
+                return
+        self.fail(f"each time leaves something: {more}")
+
     def test_a_flood_of_questions_keeps_nobody_else_from_an_answer(self):
         bus = self.new_bus()
 
         def ask():
             return "/StatusNotifierItem", PROPERTIES, "GetAll", GLib.Variant("(s)", (ITEM,))
         self.flood(bus, 2000, ask)
-        before = self.settled()
-        self.flood(bus, 10000, ask)
-        self.assertEqual(self.settled().exceed(before), [])
+        self.leaves_nothing(lambda: self.flood(bus, 10000, ask))
         self.is_unharmed()
 
     def test_nonsense_is_answered_and_does_nothing(self):
         bus = self.new_bus()
         stranger = Stranger(SEED)
         self.flood(bus, 2000, stranger.call)
-        before = self.settled()
-        self.flood(bus, 5000, stranger.call)
-        self.assertEqual(self.settled().exceed(before), [])
+        self.leaves_nothing(lambda: self.flood(bus, 5000, stranger.call))
         self.is_unharmed()
 
     def test_callers_that_come_and_go_are_forgotten(self):
@@ -155,9 +162,7 @@ class Strangers(OnADesktop):
                 bus.call(self.item.name, "/StatusNotifierItem", PROPERTIES, "GetAll", "(s)", ITEM)
                 bus.connection.close_sync(None)
         come_and_go(100)
-        before = self.settled()
-        come_and_go(300)
-        self.assertEqual(self.settled().exceed(before), [])
+        self.leaves_nothing(lambda: come_and_go(300))
         self.is_unharmed()
 
     def test_a_status_area_that_comes_and_goes_is_followed(self):
@@ -171,9 +176,7 @@ class Strangers(OnADesktop):
                     bus.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                              method, f"({arguments[0]})", *arguments[1])
         take_and_drop(100)
-        before = self.settled()
-        take_and_drop(300)
-        self.assertEqual(self.settled().exceed(before), [])
+        self.leaves_nothing(lambda: take_and_drop(300))
         self.session.start_watcher()
         eventually(lambda: self.session.bus.item_count() == 1, "the item is registered")
         self.is_unharmed()

@@ -80,6 +80,8 @@ QVariant valueOf(std::string_view text)
     case 'O':
         return QVariant::fromValue(QList { pathOf(rest), pathOf(rest) });
     case 'e':
+        // Not known to QtDBus, it would leave a map half written, which libdbus aborts on.
+        registerDBusMenuTypes();
         return QVariant::fromValue(
             QList<DBusMenuEvent> { { .number = 1, .event = rest, .data = QDBusVariant(rest) },
                                    { .number = 1001, .event = rest, .data = QDBusVariant(0) } });
