@@ -56,9 +56,6 @@ stdenv.mkDerivation {
   # Nothing but the session's own is found by its name alone.
   qtWrapperArgs = [ "--suffix PATH : ${lib.makeBinPath [ xdg-utils ]}" ];
   postInstall = ''
-    substituteInPlace $out/lib/systemd/user/ferrin.service --replace-fail =ferrin =$out/bin/ferrin
-    substituteInPlace $out/share/dbus-1/services/org.ferrin.Ferrin.service \
-      --replace-fail '/usr/bin/env ferrin' $out/bin/ferrin
     substituteInPlace $out/share/applications/org.ferrin.Ferrin.desktop \
       --replace-fail =gapplication =${lib.getExe' glib "gapplication"}
   '';

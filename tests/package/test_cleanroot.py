@@ -20,6 +20,7 @@ from roots.desktops import RELEASES  # noqa: E402
 
 ENTRY = "org.ferrin.Ferrin.desktop"
 BUILD = os.environ["FERRIN_BUILD"]
+SERVICE = "usr/share/dbus-1/services/org.ferrin.Ferrin.service"
 STORE = "home/person/.config/org.ferrin.Ferrin/defaults.json"
 
 
@@ -54,6 +55,8 @@ class ThePackage(unittest.TestCase):
         root.install(package)
         os.remove(root.path + package)
         self.assertIn("usr/bin/ferrin", files_named(root, "ferrin"))
+        with open(os.path.join(root.path, SERVICE), encoding="utf-8") as file:
+            self.assertIn("\nExec=/usr/bin/ferrin\n", file.read())
         self.use(root)
         root.apt("purge", "--autoremove", "ferrin")
         self.assertEqual(files_named(root, "ferrin"), [])

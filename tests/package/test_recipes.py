@@ -55,18 +55,28 @@ class TheInstallTree(unittest.TestCase):
             self.assertNotIn("_PRIVATE_API", run("objdump", "--private-headers", path), each)
         self.assertGreaterEqual(found, 3)
 
-    def test_the_users_unit_is_right(self):
-        unit = [each for each in self.files if each.endswith("/systemd/user/ferrin.service")]
-        self.assertEqual(len(unit), 1)
-        text = read("packaging", "systemd", "ferrin.service")
-        self.assertIn("\nExecStart=ferrin --background\n", text)
+    def installed(self, name):
+        path, = [each for each in self.files if each.endswith(name)]
+        with open(os.path.join(self.stage, path), encoding="utf-8") as file:
+            return file.read()
+
+    def test_the_users_unit_starts_what_was_installed_with_it(self):
+        unit = self.installed("/systemd/user/ferrin.service")
+        command = 'ExecStart="/opt/some where/bin/ferrin" --background'
+        self.assertIn(f"\n{command}\n", unit)
         with tempfile.TemporaryDirectory() as folder:
+            program = os.path.join(folder, "some where")
+            os.symlink("/bin/true", program)
             path = os.path.join(folder, "ferrin.service")
             with open(path, "w", encoding="utf-8") as file:
-                file.write(text.replace("ExecStart=ferrin", "ExecStart=true"))
+                file.write(unit.replace("/opt/some where/bin/ferrin", program))
             output = run("systemd-analyze", "--user", "--man=no", "verify", path,
                          env=os.environ | {"XDG_RUNTIME_DIR": folder})
         self.assertNotIn("ferrin.service", output)
+
+    def test_the_bus_starts_what_was_installed_with_it(self):
+        self.assertIn('\nExec="/opt/some where/bin/ferrin"\n',
+                      self.installed("/dbus-1/services/org.ferrin.Ferrin.service"))
 
 
 class TheRecipes(unittest.TestCase):

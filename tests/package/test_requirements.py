@@ -153,8 +153,7 @@ class TheExpression(unittest.TestCase):
         replaced = re.findall(r"substituteInPlace \$out/(\S+)\s+--replace-fail ('[^']+'|\S+) ", script)
         self.assertEqual(len(replaced), script.count("substituteInPlace"))
         for path, text in replaced:
-            source = "packaging/systemd" if path.endswith("user/ferrin.service") else "packaging"
-            self.assertIn(text.strip("'"), read(source, os.path.basename(path)), path)
+            self.assertIn(text.strip("'"), read("packaging", os.path.basename(path)), path)
 
 
 if __name__ == "__main__":
