@@ -78,6 +78,14 @@ class TheInstallTree(unittest.TestCase):
         self.assertIn('\nExec="/opt/some where/bin/ferrin"\n',
                       self.installed("/dbus-1/services/org.ferrin.Ferrin.service"))
 
+    def test_software_centres_take_it_up_with_its_icon(self):
+        run("appstream-util", "validate-relax", "--nonet",
+            os.path.join(self.stage, "opt/some where/share/metainfo/org.ferrin.Ferrin.metainfo.xml"))
+        with tempfile.TemporaryDirectory(prefix="ferrin-centre-") as folder:
+            run("appstreamcli", "compose", "--no-net", "--prefix=/opt/some where", "--origin=ferrin",
+                f"--result-root={folder}", "--components=org.ferrin.Ferrin", self.stage)
+            self.assertTrue(glob.glob(f"{folder}/**/128x128/org.ferrin.Ferrin.png", recursive=True))
+
 
 class TheRecipes(unittest.TestCase):
     def test_all_of_them_are_of_the_same_version(self):
