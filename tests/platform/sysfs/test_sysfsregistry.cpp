@@ -37,6 +37,7 @@ private Q_SLOTS:
     void hasNoTimeWhenHeldOnExternalPower();
     void tellsTheTimeAvailableWhileHeld();
     void isCalmWhileTheLoadJumps();
+    void hasAClockOfFractionsOfASecond();
 };
 
 namespace {
@@ -276,6 +277,12 @@ void SysfsRegistryTest::isCalmWhileTheLoadJumps()
     laptop.pass(5s);
     laptop.sysfs.set(u"BAT0"_s, u"power_now"_s, "25000000");
     QVERIFY(laptop.fresh(u"TimeRemaining").toInt() > 145);
+}
+
+void SysfsRegistryTest::hasAClockOfFractionsOfASecond()
+{
+    // Both on a full second would be a coincidence of one in 10^18.
+    QVERIFY(sleeplessClock() % 1s != 0s || sleeplessClock() % 1s != 0s);
 }
 
 FERRIN_TEST(QCoreApplication, SysfsRegistryTest)

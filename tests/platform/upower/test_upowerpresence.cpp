@@ -4,6 +4,7 @@
 #include "tests/platform/upower/serviceonthebus.h"
 #include "tests/support/testmain.h"
 
+#include <QDBusReply>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -11,6 +12,21 @@ using namespace ferrin;
 using namespace ferrin::test;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+/// The number of rules by which the bus sends signals to the connection.
+uint subscriptionsOf(const QDBusConnection &connection)
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+        u"org.freedesktop.DBus.Debug.Stats"_s, u"GetConnectionStats"_s);
+    question.setArguments({ connection.baseService() });
+    const QDBusReply<QVariantMap> statistics = connection.call(question);
+    return statistics.value().value(u"MatchRules"_s).toUInt();
+}
+
+} // namespace
 
 /// The service while the daemon is missing, starts, exits and hangs.
 class UPowerPresenceTest : public ServiceOnTheBus
@@ -26,6 +42,8 @@ private Q_SLOTS:
     void isNotStoppedByADaemonThatHangsLater();
     void forgetsADaemonThatDiesWhileItHangs();
     void mayGoWhileTheDaemonOwesAnAnswer();
+    void isSilentAboutDevicesUntilAllAreDescribed();
+    void unsubscribesFromADaemonThatHasGone();
     void livesWithoutABus();
     void livesOnWhenTheBusDies();
 };
@@ -132,6 +150,39 @@ void UPowerPresenceTest::mayGoWhileTheDaemonOwesAnAnswer()
     m_daemon->resume();
     QTRY_VERIFY(m_daemon->questions() > 0);
     QCoreApplication::processEvents();
+}
+
+void UPowerPresenceTest::isSilentAboutDevicesUntilAllAreDescribed()
+{
+    startDaemon();
+    const auto service = makeService();
+    QCOMPARE(namesOf(service.get()), QStringList());
+    m_daemon->setDevice(u"line_power_AC"_s, mouse());
+    m_daemon->hang();
+    // The daemon's signal is there, its description is not: it may be the battery.
+    QTRY_COMPARE(namesOf(service.get()), none());
+    m_daemon->resume();
+    QTRY_COMPARE(namesOf(service.get()), QStringList());
+    QCOMPARE(allLines(), QStringList(connected()));
+}
+
+void UPowerPresenceTest::unsubscribesFromADaemonThatHasGone()
+{
+    const QDBusConnection bus = m_bus->connect();
+    UPowerService service(bus, [] { return std::nullopt; });
+    QCOMPARE(m_log->takeCount(u"error: Cannot start UPower: "_s), 1);
+    const uint before = subscriptionsOf(bus);
+    for (int time = 0; time < 2; ++time) {
+        startDaemon();
+        m_daemon->setDevice(u"battery_BAT0"_s, battery());
+        QTRY_COMPARE(namesOf(&service), dell());
+        QCOMPARE_GT(subscriptionsOf(bus), before);
+        m_daemon.reset();
+        QTRY_COMPARE(namesOf(&service), none());
+        QTRY_COMPARE(subscriptionsOf(bus), before);
+        QCOMPARE(m_log->take(),
+                 QStringList({ connected(), u"error: UPower has left the bus"_s }));
+    }
 }
 
 void UPowerPresenceTest::livesWithoutABus()
