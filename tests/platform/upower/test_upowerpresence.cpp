@@ -180,8 +180,7 @@ void UPowerPresenceTest::unsubscribesFromADaemonThatHasGone()
         m_daemon.reset();
         QTRY_COMPARE(namesOf(&service), none());
         QTRY_COMPARE(subscriptionsOf(bus), before);
-        QCOMPARE(m_log->take(),
-                 QStringList({ connected(), u"error: UPower has left the bus"_s }));
+        QCOMPARE(m_log->take(), QStringList({ connected(), u"error: UPower has left the bus"_s }));
     }
 }
 
