@@ -9,6 +9,7 @@
 #include "state/filedefaultsstore.h"
 #include "state/iconcatalogues.h"
 #include "state/settingsdata.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/kills.h"
 #include "tests/support/logcapture.h"
 
@@ -105,13 +106,15 @@ void say(const QString &line)
 
 /// Changes one setting in each turn of the event loop. Prints all values once they are certain to
 /// be stored, and again, with the new one, before that can be stored.
-int chooseForEver(const QString &folder, quint32 seed, int first, int count)
+int chooseForEver(const QString &folder, quint32 seed, int first, int count, bool isOftenFull)
 {
     Choices choices(folder);
     QRandomGenerator random(seed);
     QTimer turn;
     turn.setSingleShot(true);
     QObject::connect(&turn, &QTimer::timeout, &turn, [&] {
+        if (isOftenFull)
+            setDiskFull(random.bounded(2) == 0);
         say(choices.all().join(u' '));
         choices.choose(first + random.bounded(count), random.generate());
         say(choices.all().join(u' '));
@@ -122,7 +125,7 @@ int chooseForEver(const QString &folder, quint32 seed, int first, int count)
 }
 
 std::unique_ptr<QProcess> startChoosing(const QTemporaryDir &folder, quint32 seed, int first = 0,
-                                        int count = choiceCount)
+                                        int count = choiceCount, bool isOftenFull = false)
 {
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -131,17 +134,23 @@ std::unique_ptr<QProcess> startChoosing(const QTemporaryDir &folder, quint32 see
     process->setStandardErrorFile(folder.filePath(u"log"_s), QIODevice::Append);
     process->start(QCoreApplication::applicationFilePath(),
                    { u"choose"_s, folder.path(), QString::number(seed), QString::number(first),
-                     QString::number(count) });
+                     QString::number(count), QString::number(isOftenFull) });
     return process;
 }
 
-/// The last complete lines that a process printed, the latest first.
-QStringList lastSaid(QProcess &process)
+/// The complete lines that a process printed, the latest first.
+QStringList said(QProcess &process)
 {
     process.waitForFinished();
     QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(u'\n');
     lines.removeLast();
     std::ranges::reverse(lines);
+    return lines;
+}
+
+QStringList lastSaid(QProcess &process)
+{
+    const QStringList lines = said(process);
     return lines.first(std::min<qsizetype>(2, lines.size()));
 }
 
@@ -200,6 +209,26 @@ private Q_SLOTS:
                     kept.join(u' '), possible.join(u'\n'))));
         }
         QCOMPARE(text(folder.filePath(u"log"_s)), QByteArray());
+        QVERIFY2(leftIn(folder).size() <= 3, qPrintable(leftIn(folder).join(u' ')));
+        log.ignoreRest();
+    }
+
+    void areOnesThatWereMadeWhereTheDiskIsOftenFull()
+    {
+        LogCapture log;
+        const QTemporaryDir folder;
+        QRandomGenerator random(seed());
+        QString kept = Choices(folder.path()).all().join(u' ');
+        for (int round = 0; round < kills / 4; ++round) {
+            const auto process = startChoosing(folder, random.generate(), 0, choiceCount, true);
+            killSoon(*process, random);
+            const QStringList possible = said(*process) << kept;
+            kept = Choices(folder.path()).all().join(u' ');
+            QVERIFY2(
+                possible.contains(kept),
+                qPrintable(u"seed %1, round %2: %3 is none of\n%4"_s.arg(seed()).arg(round).arg(
+                    kept, possible.join(u'\n'))));
+        }
         QVERIFY2(leftIn(folder).size() <= 3, qPrintable(leftIn(folder).join(u' ')));
         log.ignoreRest();
     }
@@ -278,7 +307,7 @@ int main(int argc, char *argv[])
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"choose"_s)
         return chooseForEver(arguments.at(2), arguments.at(3).toUInt(), arguments.at(4).toInt(),
-                             arguments.at(5).toInt());
+                             arguments.at(5).toInt(), arguments.at(6).toInt() != 0);
     KeptChoicesTest test;
     return QTest::qExec(&test, argc, argv);
 }

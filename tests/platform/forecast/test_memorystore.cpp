@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 #include "platform/linux/power/forecast/memorystore.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/testmain.h"
 
@@ -98,6 +99,20 @@ private Q_SLOTS:
         QVERIFY(!store.find("a").charge);
         QVERIFY(!store.find("a").stop);
         QVERIFY(!store.find("b").draw);
+    }
+
+    void writesWhatADiskHadNoRoomForOnceItHas()
+    {
+        test::LogCapture log;
+        MemoryStore store(path());
+        store.change("a").stop = 80;
+        test::setDiskFull(true);
+        store.saveNow();
+        test::setDiskFull(false);
+        QVERIFY(!QFile::exists(path()));
+        store.saveNow();
+        QCOMPARE(MemoryStore(path()).find("a").stop, 80);
+        QCOMPARE(log.take().size(), 1);
     }
 
     void complainsOnceWhereItCannotWrite()

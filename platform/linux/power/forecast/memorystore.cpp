@@ -73,7 +73,6 @@ void MemoryStore::saveNow()
 {
     if (!m_changed || m_path.isEmpty())
         return;
-    m_changed = false;
     QJsonObject all;
     for (const auto &[key, memory] : m_memories)
         all.insert(QString::fromStdString(key), toJson(memory));
@@ -81,7 +80,9 @@ void MemoryStore::saveNow()
     const FileLock lock(m_path + u".lock"_s, lockTimeout);
     if (lock.isHeld())
         removeUnfinishedReplacements(m_path);
-    if (const QString trouble = replaceFile(m_path, QJsonDocument(all).toJson()); !trouble.isNull())
+    const QString trouble = replaceFile(m_path, QJsonDocument(all).toJson());
+    m_changed = !trouble.isNull();
+    if (m_changed)
         complain(trouble);
 }
 
