@@ -49,7 +49,8 @@ MEMORIES_OF_TWINS = 5
 OPENINGS = 10
 SETTINGS_OPENINGS = 3
 FIRST_OPENINGS = 9
-LATER_OPENINGS = 20
+# After each of the first.
+LATER_OPENINGS = 8
 REFRESHES = 1000
 CHANGING_REFRESHES = 100_000
 
@@ -268,7 +269,7 @@ def milliseconds_to_open(what, modules):
         for _ in range(FIRST_OPENINGS):
             for module in modules:
                 window = session.start([str(OPENING), str(module), what, str(1 + LATER_OPENINGS)],
-                                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+                                       stdout=subprocess.PIPE)
                 milliseconds = [float(line) for line in window.communicate()[0].split()]
                 first[module].append(milliseconds[0])
                 later[module] += milliseconds[1:]

@@ -31,6 +31,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <functional>
@@ -39,11 +40,15 @@
 
 using namespace ferrin;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr int dashboardWidth = 370;
 constexpr int settingsWidth = 700;
+constexpr auto latestFrame = 20s;
+/// Longer than the dashboard waits before it makes the settings ready.
+constexpr auto overAnEntry = 60ms;
 
 /// The desktop's font, as in the item.
 struct DesktopAppearance final : ApplicationAppearance
@@ -115,16 +120,22 @@ double millisecondsToFirstFrame(int leastWidth, const std::function<void()> &ope
     open();
     QEventLoop loop;
     QObject::connect(shownWindow(leastWidth), SIGNAL(frameSwapped()), &loop, SLOT(quit()));
+    QTimer::singleShot(latestFrame, &loop, [] { qFatal("The window showed no frame"); });
     loop.exec();
     return double(timer.nsecsElapsed()) / 1e6;
+}
+
+void wait(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 /// Waits until the closed window is destroyed.
 void settle()
 {
-    QEventLoop loop;
-    QTimer::singleShot(300, &loop, &QEventLoop::quit);
-    loop.exec();
+    wait(300ms);
 }
 
 double openDashboard(Opener &opener)
@@ -158,7 +169,7 @@ std::optional<QPointF> settingsEntry(QWindow &dashboard)
     for (int y = 0; y < dashboard.height(); y += 8) {
         const QPointF place(withinTheMenu, y);
         sendMouse(dashboard, QEvent::MouseMove, place);
-        settle();
+        wait(overAnEntry);
         if (areSettingsReady())
             return place;
     }
