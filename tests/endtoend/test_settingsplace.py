@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""Where the settings window opens: on the screen of the item, and there where it was left."""
+"""Where the windows open: on the screen of the item, the settings there where they were left, and
+the window of updates over the settings."""
 
 from harness import desktop
 from harness.case import WithSettings, main
@@ -8,6 +9,7 @@ from harness.dashboard import Dashboard
 from harness.picture import Box
 from harness.processes import a_moment, eventually
 from harness.program import store_settings
+from harness.updatewindow import WithUpdates
 
 FIRST, SECOND = Box(0, 0, 800, 600), Box(800, 0, 1600, 600)
 
@@ -35,7 +37,7 @@ class WithOwnBar(Dashboard):
         return self._session.box_of(windows[0]) if windows else None
 
 
-class OnTwoScreens(WithSettings):
+class WithTwoScreens(WithSettings):
     """The item is on the second of them."""
 
     def make_session(self):
@@ -58,6 +60,8 @@ class OnTwoScreens(WithSettings):
         a_moment()
         return self.window.box()
 
+
+class TheSettings(WithTwoScreens):
     def is_in_the_middle_of(self, screen):
         across, down = self.window.box().centre
         self.assertLess(abs(across - screen.centre[0]), 3)
@@ -83,6 +87,24 @@ class OnTwoScreens(WithSettings):
         self.window.close()
         self.window.open()
         self.is_in_the_middle_of(SECOND)
+
+
+class TheUpdates(WithUpdates, WithTwoScreens):
+    def open(self):
+        self.packagekit.tell("hold", "RefreshCache")
+        self.check()
+        return eventually(self.updates.root, "it is open").box
+
+    def is_within(self, box, screen):
+        self.assertTrue(screen.left <= box.left and box.right <= screen.right
+                        and screen.top <= box.top and box.bottom <= screen.bottom, box)
+
+    def test_they_open_on_the_screen_of_the_item(self):
+        self.is_within(self.open(), SECOND)
+
+    def test_they_open_on_the_screen_that_the_settings_were_moved_to(self):
+        self.move_to(30, 60)
+        self.is_within(self.open(), FIRST)
 
 
 if __name__ == "__main__":

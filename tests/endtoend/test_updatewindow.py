@@ -3,71 +3,15 @@
 """The window of updates, from the button in the settings on, as a screen reader tells of it. What
 PackageKit says is the test's; the real one has tests of its own."""
 
-import os
-import unittest.mock
-
 from harness.case import WithSettings, main
-from harness.packagekit import PackageKit
 from harness.picture import Box
 from harness.portal import Desktop
 from harness.processes import eventually
-from harness.program import binary
-from harness.readwindow import BUTTON, ReadWindow
-
-CHECK = "Check for Updates…"
-# Only a program below /usr is taken for one that a package owns. The mount goes with the program,
-# which stays the process and the user that was started.
-AS_INSTALLED = """#!/bin/sh -e
-[ -n "$APART" ] || APART=1 exec unshare --user --map-root-user --mount "$0"
-mount --bind {tree} /usr/games
-exec unshare --user --map-user={user} --map-group={group} -- /usr/games/bin/ferrin
-"""
+from harness.readwindow import BUTTON
+from harness.updatewindow import CHECK, WithUpdates
 
 
-class UpdateWindow(ReadWindow):
-    def __init__(self, session, dashboard):
-        super().__init__(session)
-        self._dashboard = dashboard
-
-    def root(self):
-        tree = self._dashboard.reader.read()
-        return next((window for window in tree.children if window.name == "Software Update"
-                     and "showing" in window.states), None) if tree else None
-
-    def shows(self, heading, *texts, buttons):
-        """Waits until it is at this stage, with these texts and just these buttons."""
-        def matches():
-            shown = self.texts()
-            return heading in shown and all(text in shown for text in texts) \
-                and self.buttons() == buttons
-        try:
-            eventually(matches, heading)
-        except AssertionError as error:
-            raise AssertionError(f"{self.texts()} with {self.buttons()}, not {heading}, {texts} with "
-                                 f"{buttons}") from error
-
-
-class TheUpdateWindow(WithSettings):
-    page = "General"
-
-    def prepare(self):
-        tree = os.path.dirname(os.path.dirname(os.path.abspath(binary())))
-        launcher = self.session.write("as-installed", AS_INSTALLED.format(
-            tree=tree, user=os.getuid(), group=os.getgid()))
-        os.chmod(launcher, 0o755)
-        self.enterContext(unittest.mock.patch.dict(os.environ, FERRIN_BINARY=launcher))
-        self.packagekit = PackageKit(self.session, self.laptop)
-        self.addCleanup(self.packagekit.close)
-
-    def setUp(self):
-        super().setUp()
-        self.updates = UpdateWindow(self.session, self.dashboard)
-
-    def check(self):
-        # What rests says why.
-        eventually(lambda: self.window.find(CHECK, BUTTON).description == "", "it can check")
-        self.window.click(CHECK, BUTTON)
-
+class TheUpdateWindow(WithUpdates, WithSettings):
     def test_it_checks_and_says_that_nothing_is_newer(self):
         self.packagekit.tell("hold", "RefreshCache")
         self.check()
