@@ -121,6 +121,14 @@ STYLE = """
   .times .usual { stroke: #d9822b; }
   .times .ours { stroke: #2e8b57; stroke-width: 2.5; }
   @media (prefers-color-scheme: dark) { .times text { fill: #ddd; } }
+  @media (prefers-contrast: more) {
+    .times text { fill: #000; } .times .grid { stroke: #767676; } .times .true { stroke: #4d4d4d; }
+    .times .usual { stroke: #9a5300; } .times .ours { stroke: #145c38; }
+  }
+  @media (prefers-contrast: more) and (prefers-color-scheme: dark) {
+    .times text { fill: #fff; } .times .true { stroke: #ccc; }
+    .times .usual { stroke: #ffb066; } .times .ours { stroke: #6ddba6; }
+  }
 """
 FAQ = TRACES.parent.parent / "resources" / "faq" / "index.html"
 FIGURE = re.compile(r"(<figure>\n).*?(</figure>)", re.DOTALL)

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "menubar/contrast.h"
+
+#include <QColor>
 #include <QFile>
 #include <QSet>
 #include <QTest>
 #include <QXmlStreamReader>
 
+using namespace ferrin;
 using namespace Qt::StringLiterals;
 
 class FaqTest : public QObject
@@ -50,6 +54,29 @@ private Q_SLOTS:
     {
         QCOMPARE(m_repeatedIds, QSet<QString>());
         QCOMPARE(m_elements.count(u"h3"_s), m_elements.count(u"div"_s));
+    }
+
+    void readsInHighContrast_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::newRow("light") << u"@media (prefers-contrast: more) {"_s;
+        QTest::newRow("dark")
+            << u"@media (prefers-contrast: more) and (prefers-color-scheme: dark) {"_s;
+    }
+    void readsInHighContrast()
+    {
+        QFETCH(QString, query);
+        const qsizetype begin = m_page.indexOf(query);
+        QVERIFY(begin > 0);
+        const QString palette = m_page.mid(begin, m_page.indexOf(u"\n}"_s, begin) - begin);
+        const auto named = [&](const QString &name) {
+            const QString key = u"--"_s + name + u": "_s;
+            return QColor(palette.mid(palette.indexOf(key) + key.size(), 7));
+        };
+        for (const QString &ground : { u"ground"_s, u"card"_s }) {
+            for (const QString &text : { u"text"_s, u"quiet"_s, u"link"_s, u"line"_s })
+                QVERIFY2(contrast(named(text), named(ground)) >= 7, qPrintable(text));
+        }
     }
 
     void isLightAndDark()
