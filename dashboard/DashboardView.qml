@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
 import QtQuick
+import Ferrin.Dashboard
 import Ferrin.Theme
 
 // The popover's content: the menu of sections and, beside it, the selected section. The window draws
@@ -14,6 +15,12 @@ Item {
 
     implicitWidth: row.implicitWidth + 20
     implicitHeight: row.implicitHeight + 20
+
+    Shortcut {
+        sequence: "F1"
+        autoRepeat: false
+        onActivated: Dashboard.helpRequested()
+    }
 
     Row {
         id: row

@@ -54,6 +54,8 @@ Q_SIGNALS:
     void settingsExpected();
     /// The settings window should open, or come to the front.
     void settingsRequested();
+    /// The frequently asked questions should be shown.
+    void helpRequested();
 
 private:
     AppStatus &m_status;

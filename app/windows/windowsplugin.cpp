@@ -63,6 +63,8 @@ public:
         QObject::connect(&m_preparation, &QTimer::timeout, &m_engine, [this] { settings(); });
         QObject::connect(&m_dashboardState, &Dashboard::settingsRequested, &m_engine,
                          [this] { openWindow(SettingsWindow::identifier(), m_item); });
+        QObject::connect(&m_dashboardState, &Dashboard::helpRequested, &m_engine,
+                         [this] { m_links.open(m_links.faq()); });
         QObject::connect(&m_settingsState, &Settings::dismissRequested, &m_engine,
                          [this] { m_settings->close(); });
         QObject::connect(&m_settingsState, &Settings::quitRequested, qApp, &QCoreApplication::quit);

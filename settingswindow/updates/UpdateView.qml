@@ -140,6 +140,12 @@ FocusScope {
         onActivated: root.decline()
     }
 
+    Shortcut {
+        sequence: "F1"
+        autoRepeat: false
+        onActivated: Links.open(Links.faq)
+    }
+
     Rectangle {
         anchors.fill: parent
         color: Colors.settingsBackground

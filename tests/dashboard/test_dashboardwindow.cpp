@@ -67,6 +67,17 @@ private Q_SLOTS:
         QCOMPARE(dismissals.count(), 1);
     }
 
+    void asksForHelpAtF1()
+    {
+        test::Stage stage;
+        DashboardWindow window(stage.engine);
+        const QSignalSpy requests(&stage.dashboard, &Dashboard::helpRequested);
+        window.openAt({});
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&window, Qt::Key_F1);
+        QCOMPARE(requests.count(), 1);
+    }
+
     void tellsOfTheFocusThatIsLostLater()
     {
         FakeDesktop desktop;

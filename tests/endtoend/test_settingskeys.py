@@ -171,12 +171,34 @@ class ByShortcuts(WithKeys):
         eventually(lambda: "Done" not in self.window.texts(), "the sheet has closed")
 
 
-class Held(WithKeys):
-    """A key that is held until the keyboard has repeated it many times."""
+class WithABrowser:
+    """Mixed into a test with settings: what opens links only writes down that it was asked to."""
 
     def prepare(self):
+        super().prepare()
         self.stand_ins = StandIns(self.session, "xdg-open")
         self.environment = self.stand_ins.alone()
+
+    def has_opened_the_questions(self, times):
+        eventually(lambda: len(self.stand_ins.started()) == times, f"{times} links were opened")
+        for started in self.stand_ins.started():
+            self.assertRegex(started, r"^xdg-open file:.*/faq/index\.html$")
+
+
+class ByF1(WithABrowser, WithKeys):
+    def test_the_frequently_asked_questions_open_from_every_window(self):
+        for times, page in enumerate(PAGES, 1):
+            self.turn_to(page)
+            self.window.press("F1")
+            self.has_opened_the_questions(times)
+        self.window.close()
+        self.dashboard.open()
+        self.window.press("F1")
+        self.has_opened_the_questions(len(PAGES) + 1)
+
+
+class Held(WithABrowser, WithKeys):
+    """A key that is held until the keyboard has repeated it many times."""
 
     def setUp(self):
         super().setUp()
@@ -200,9 +222,7 @@ class Held(WithKeys):
 
     def test_what_opens_opens_once_and_stays(self):
         self.hold("F1")
-        started = self.stand_ins.started()
-        self.assertEqual(len(started), 1)
-        self.assertRegex(started[0], r"^xdg-open file:.*/faq/index\.html$")
+        self.has_opened_the_questions(1)
         self.move_to("Choose icon")
         self.hold("Return")
         self.assertIn("Icons when discharging", self.window.texts())

@@ -246,6 +246,16 @@ private Q_SLOTS:
         QCOMPARE(f.stageNow(), Stage::idle);
     }
 
+    void f1OpensTheFrequentlyAskedQuestions()
+    {
+        Window f;
+        QVERIFY(f.activate());
+        f.offer();
+        QTest::keyClick(&f.stage.window, Qt::Key_F1);
+        QCOMPARE(f.stage.opener.opened, QList<QUrl> { QUrl(u"file:///faq.html"_s) });
+        QCOMPARE(f.stageNow(), Stage::available);
+    }
+
     void heedsNoKeyThatWasMeantForSomethingElse()
     {
         Window f;
