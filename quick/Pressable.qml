@@ -39,6 +39,8 @@ Item {
     TapHandler {
         id: tap
 
+        // Seconds. Whoever holds a button for long means it no less.
+        longPressThreshold: 3600
         onTapped: root.pressed()
     }
 }

@@ -3,6 +3,7 @@
 
 import QtQuick
 import Ferrin.Quick
+import Ferrin.Theme
 
 // Shows which part of a view is seen, where not all is, and lets it be dragged; a click beside the knob turns
 // a page. It is as long as the view that it stands beside makes it. Keys go to the view's owner, which scrolls
@@ -53,6 +54,10 @@ Item {
             scrollBy(page);
     }
 
+    FineWheel {
+        flickable: root.flickable
+    }
+
     RoundedRect {
         objectName: "knob"
         x: root.isHorizontal ? root.knobPlace : 2
@@ -61,7 +66,7 @@ Item {
         height: root.isHorizontal ? 6 : root.knobLength
         radius: 3
         color: Colors.switchOff
-        opacity: hover.hovered || drag.active ? 1 : 0.7
+        opacity: Theme.isHighContrast || hover.hovered || drag.active ? 1 : 0.7
     }
 
     HoverHandler {

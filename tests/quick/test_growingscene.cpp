@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The Ferrin developers
 
+#include "menubar/contrast.h"
 #include "quick/windowsize.h"
 #include "tests/quick/stage.h"
 #include "tests/support/testmain.h"
 
+#include <QPointingDevice>
 #include <QScreen>
+#include <QWheelEvent>
 
 using namespace ferrin;
 
@@ -144,6 +147,60 @@ private Q_SLOTS:
         QTest::mouseMove(&scene.stage.window, { start.x(), 195 });
         QCOMPARE(scene.placeOf("first"), QRectF(0, -200, 100, 100));
         QTest::mouseRelease(&scene.stage.window, Qt::LeftButton, {}, { start.x(), 195 });
+    }
+
+    void scrollsByAFineWheelAsFarAsByACoarseOne_data()
+    {
+        QTest::addColumn<int>("turns");
+        QTest::newRow("coarse") << 1;
+        QTest::newRow("fine") << 8;
+        QTest::newRow("finest") << 120;
+    }
+    void scrollsByAFineWheelAsFarAsByACoarseOne()
+    {
+        QFETCH(int, turns);
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        const QPointF at(100, 100);
+        for (int i = 0; i < turns; ++i) {
+            QWheelEvent turn(at, scene.stage.window.mapToGlobal(at), {}, QPoint(0, -120 / turns),
+                             Qt::NoButton, {}, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&scene.stage.window, &turn);
+        }
+        // Three lines, enlarged.
+        QTRY_COMPARE(qRound(scene.placeOf("first").top()), -144);
+    }
+
+    void isScrolledByAFingerThatPressesNothing()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        auto *const window = &scene.stage.window;
+        QTest::touchEvent(window, screen.get()).press(0, QPoint(40, 150));
+        for (int y = 140; y >= 50; y -= 10) {
+            QTest::qWait(10);
+            QTest::touchEvent(window, screen.get()).move(0, QPoint(40, y));
+        }
+        QTest::touchEvent(window, screen.get()).release(0, QPoint(40, 50));
+        QTRY_VERIFY(scene.placeOf("first").top() <= -70);
+    }
+
+    void hasABarThatIsSeenInHighContrast()
+    {
+        Scene scene;
+        scene.stage.appearance.setTextScale(2);
+        scene.resize({ 300, 200 });
+        for (const bool isDark : { false, true }) {
+            scene.stage.appearance.setAppearance(isDark ? Appearance::dark : Appearance::light);
+            scene.stage.appearance.setHighContrast(true);
+            QCOMPARE(scene.part("knob")->opacity(), 1.0);
+            QVERIFY(contrast(scene.part("knob")->property("color").value<QColor>(),
+                             isDark ? Qt::black : Qt::white)
+                    >= 4.5);
+        }
     }
 
     void turnsAPageAtAClickBesideTheKnob()

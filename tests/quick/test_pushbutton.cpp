@@ -5,6 +5,7 @@
 #include "tests/support/testmain.h"
 
 #include <QKeyEvent>
+#include <QPointingDevice>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -47,6 +48,30 @@ class TestPushButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void isPressedByAClickHoweverLongItIsHeld()
+    {
+        Button f;
+        const QSignalSpy presses(f.item, SIGNAL(pressed()));
+        QTest::mousePress(&f.stage.window, Qt::LeftButton, {}, test::centreOf(f.item));
+        QTest::mouseRelease(&f.stage.window, Qt::LeftButton, {}, test::centreOf(f.item), 1000);
+        QCOMPARE(presses.count(), 1);
+    }
+
+    void isPressedByAFinger()
+    {
+        Button f;
+        const QSignalSpy presses(f.item, SIGNAL(pressed()));
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        QTest::touchEvent(&f.stage.window, screen.get()).press(0, test::centreOf(f.item));
+        // No finger lies still.
+        QTest::touchEvent(&f.stage.window, screen.get())
+            .move(0, test::centreOf(f.item) + QPoint(3, 2));
+        QTest::qWait(1000);
+        QTest::touchEvent(&f.stage.window, screen.get())
+            .release(0, test::centreOf(f.item) + QPoint(3, 2));
+        QCOMPARE(presses.count(), 1);
+    }
+
     void isPressedOnceByAHeldKey_data()
     {
         QTest::addColumn<Qt::Key>("key");
