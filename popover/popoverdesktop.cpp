@@ -19,6 +19,8 @@ void PopoverDesktop::focus(QWindow &window)
     window.requestActivate();
 }
 
+void PopoverDesktop::setTitleBarDark(QWindow &, bool) { }
+
 void PopoverDesktop::setOutline(QWindow &, const QPainterPath &) { }
 
 } // namespace ferrin

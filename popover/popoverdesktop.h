@@ -37,6 +37,10 @@ public:
     /// Call when the window has been shown: gives it the keyboard focus.
     virtual void focus(QWindow &window);
 
+    /// Whether the title bar that the desktop gives to the window suits dark content. Call again
+    /// when the content has changed; the window has been created.
+    virtual void setTitleBarDark(QWindow &window, bool isDark);
+
     /// Presses outside of `outline` go to the window below; where nothing is blended, the window is
     /// cut along it too. In the window's logical pixels. Call again when either has changed.
     virtual void setOutline(QWindow &window, const QPainterPath &outline);

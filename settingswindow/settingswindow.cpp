@@ -35,6 +35,7 @@ SettingsWindow::SettingsWindow(QuickEngine &engine, DefaultsStore &store)
     : QQuickView(&engine, nullptr)
     , m_store(store)
     , m_canBePlaced(engine.popovers().placesWindows())
+    , m_titleBar(*this, engine.popovers())
 {
     setObjectName(identifier());
     setTitle(QStringLiteral("Ferrin Settings"));

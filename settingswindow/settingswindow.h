@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "quick/titlebar.h"
+
 #include <QQuickView>
 
 class QScreen;
@@ -41,6 +43,7 @@ private:
 
     DefaultsStore &m_store;
     bool m_canBePlaced;
+    TitleBar m_titleBar;
 };
 
 } // namespace ferrin

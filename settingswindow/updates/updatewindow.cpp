@@ -20,9 +20,10 @@ QString UpdateWindow::identifier()
     return QStringLiteral("FerrinUpdate");
 }
 
-UpdateWindow::UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates)
+UpdateWindow::UpdateWindow(QuickEngine &engine, SoftwareUpdates &updates)
     : QQuickView(&engine, nullptr)
     , m_updates(updates)
+    , m_titleBar(*this, engine.popovers())
 {
     setObjectName(identifier());
     setTitle(QStringLiteral("Software Update"));

@@ -3,12 +3,15 @@
 
 #pragma once
 
+#include "quick/titlebar.h"
+
 #include <QQuickView>
 
 class QScreen;
 
 namespace ferrin {
 
+class QuickEngine;
 class SoftwareUpdates;
 
 /// The window "Software Update", which shows the updater's session and closes when that ends. A
@@ -20,7 +23,7 @@ class UpdateWindow final : public QQuickView
 
 public:
     /// Both outlive it.
-    UpdateWindow(QQmlEngine &engine, SoftwareUpdates &updates);
+    UpdateWindow(QuickEngine &engine, SoftwareUpdates &updates);
 
     /// The name by which the window is asked for.
     [[nodiscard]] static QString identifier();
@@ -38,6 +41,7 @@ private:
     void place(QScreen *screen, const QWindow *beside);
 
     SoftwareUpdates &m_updates;
+    TitleBar m_titleBar;
 };
 
 } // namespace ferrin

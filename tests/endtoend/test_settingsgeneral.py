@@ -143,6 +143,19 @@ class TheTheme(WithSettings):
         self.desktop.prefers("light")
         eventually(lambda: self.looks() == at_first, "the window is light")
 
+    def test_the_window_manager_is_told_whether_the_window_is_dark(self):
+        def hint():
+            return b'"dark"' in self.session.run("xprop", "-id", self.window.window(),
+                                                 "_GTK_THEME_VARIANT")
+        self.assertFalse(hint())
+        self.pick("Dark")
+        eventually(hint, "the title bar may be dark")
+        self.begin_anew()
+        self.assertTrue(hint())
+        self.window.select("General")
+        self.pick("Light")
+        eventually(lambda: not hint(), "the title bar may be light")
+
     def test_a_theme_that_is_forced_stays_when_the_desktop_changes(self):
         _, dark = self.pick("Dark")
         self.desktop.prefers("dark")

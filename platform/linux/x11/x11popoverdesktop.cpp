@@ -14,6 +14,7 @@
 #include <QWindow>
 
 #include <array>
+#include <string_view>
 #include <vector>
 #include <xcb/shape.h>
 #include <xcb/xcb.h>
@@ -99,6 +100,20 @@ void X11PopoverDesktop::insistOnPlace(const QWindow &window) const
     const std::array place { quint32(corner.x()), quint32(corner.y()) };
     xcb_configure_window(m_x11.get(), quint32(window.winId()),
                          XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, place.data());
+}
+
+void X11PopoverDesktop::setTitleBarDark(QWindow &window, bool isDark)
+{
+    if (!m_x11)
+        return;
+    constexpr std::string_view dark = "dark";
+    const quint32 hint = m_x11.atom("_GTK_THEME_VARIANT");
+    if (isDark)
+        xcb_change_property(m_x11.get(), XCB_PROP_MODE_REPLACE, quint32(window.winId()), hint,
+                            m_x11.atom("UTF8_STRING"), 8, quint32(dark.size()), dark.data());
+    else
+        xcb_delete_property(m_x11.get(), quint32(window.winId()), hint);
+    xcb_flush(m_x11.get());
 }
 
 void X11PopoverDesktop::setOutline(QWindow &window, const QPainterPath &outline)
