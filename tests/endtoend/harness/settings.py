@@ -30,7 +30,8 @@ class Settings(ReadWindow):
 
     def box(self):
         """Where the window stands, without what the window manager puts around it."""
-        return self._session.box_of(self.window())
+        # What searches the screen misses a window now and then when another one closes meanwhile.
+        return self._session.box_of(eventually(self.window, "the settings are on the screen"))
 
     def is_in_front(self):
         root = self.root()
