@@ -12,7 +12,7 @@ Item {
     // It cannot be pressed for now, and is drawn faintly. What rests below an overlay is not.
     property bool isUnavailable: false
     readonly property alias isHovered: hover.hovered
-    readonly property alias isDown: tap.pressed
+    readonly property bool isDown: click.pressed || tap.pressed
 
     signal pressed
 
@@ -36,11 +36,24 @@ Item {
         objectName: "hover"
     }
 
-    TapHandler {
-        id: tap
-
+    component Tap: TapHandler {
         // Seconds. Whoever holds a button for long means it no less.
         longPressThreshold: 3600
         onTapped: root.pressed()
+    }
+
+    // A pointer may slide; a release elsewhere takes the press back.
+    Tap {
+        id: click
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+    }
+
+    // A finger that slides scrolls.
+    Tap {
+        id: tap
+
+        acceptedDevices: PointerDevice.TouchScreen | PointerDevice.Stylus
     }
 }

@@ -8,6 +8,7 @@
 
 #include <QPointingDevice>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QWheelEvent>
 
 using namespace ferrin;
@@ -21,6 +22,7 @@ constexpr auto lines = R"(
             implicitWidth: 300; implicitHeight: 200
             Item { objectName: "first"; width: 50; height: 50; activeFocusOnTab: true }
             Item { objectName: "last"; x: 200; y: 150; width: 50; height: 50; activeFocusOnTab: true }
+            Pressable { objectName: "button"; x: 60; y: 60; width: 100; height: 40; spokenName: "" }
             Overlay { objectName: "overlay"; anchor: area; title: "" }
         }
     })";
@@ -177,15 +179,18 @@ private Q_SLOTS:
         Scene scene;
         scene.stage.appearance.setTextScale(2);
         scene.resize({ 300, 200 });
+        const QSignalSpy presses(scene.part("button"), SIGNAL(pressed()));
         const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
         auto *const window = &scene.stage.window;
-        QTest::touchEvent(window, screen.get()).press(0, QPoint(40, 150));
-        for (int y = 140; y >= 50; y -= 10) {
+        const auto touch = [&] { return QTest::touchEvent(window, screen.get()); };
+        touch().press(0, QPoint(150, 180));
+        for (int y = 170; y >= 130; y -= 10) {
             QTest::qWait(10);
-            QTest::touchEvent(window, screen.get()).move(0, QPoint(40, y));
+            touch().move(0, QPoint(150, y));
         }
-        QTest::touchEvent(window, screen.get()).release(0, QPoint(40, 50));
-        QTRY_VERIFY(scene.placeOf("first").top() <= -70);
+        touch().release(0, QPoint(150, 130));
+        QTRY_VERIFY(scene.placeOf("first").top() <= -30);
+        QCOMPARE(presses.count(), 0);
     }
 
     void hasABarThatIsSeenInHighContrast()

@@ -57,6 +57,22 @@ private Q_SLOTS:
         QCOMPARE(presses.count(), 1);
     }
 
+    void isPressedByAClickThatSlidesWithinIt()
+    {
+        Button f;
+        const QSignalSpy presses(f.item, SIGNAL(pressed()));
+        const QPoint middle = test::centreOf(f.item);
+        f.stage.window.resize(200, 200);
+        for (const QPoint &end : { middle + QPoint(20, 0), middle + QPoint(0, 60) }) {
+            QTest::mousePress(&f.stage.window, Qt::LeftButton, {}, middle - QPoint(20, 0));
+            QTest::mouseMove(&f.stage.window, middle);
+            QTest::mouseMove(&f.stage.window, end);
+            QTest::mouseRelease(&f.stage.window, Qt::LeftButton, {}, end);
+            // The second one was released below it.
+            QCOMPARE(presses.count(), 1);
+        }
+    }
+
     void isPressedByAFinger()
     {
         Button f;
