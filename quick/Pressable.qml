@@ -36,24 +36,23 @@ Item {
         objectName: "hover"
     }
 
-    component Tap: TapHandler {
+    // A pointer may slide; a release elsewhere takes the press back.
+    TapHandler {
+        id: click
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        gesturePolicy: TapHandler.ReleaseWithinBounds
         // Seconds. Whoever holds a button for long means it no less.
         longPressThreshold: 3600
         onTapped: root.pressed()
     }
 
-    // A pointer may slide; a release elsewhere takes the press back.
-    Tap {
-        id: click
-
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-    }
-
     // A finger that slides scrolls.
-    Tap {
+    TapHandler {
         id: tap
 
         acceptedDevices: PointerDevice.TouchScreen | PointerDevice.Stylus
+        longPressThreshold: click.longPressThreshold
+        onTapped: root.pressed()
     }
 }
