@@ -9,9 +9,10 @@
 // variable XDG_CURRENT_DESKTOP names: the picture of that height in device pixels, or the largest
 // one brought to HEIGHT where that is "scaled:HEIGHT", or the one of another height,
 // "OTHER:HEIGHT". It stands on a ground of one colour, in the colour that the host is known to
-// write in, or on a chip where TEXT is "chip". A content is STATUS,ICON,PERCENT,CHARGE,TIME, each
-// of the last four "-" for absent, and ICON "fault" for the crossed-out battery. For each content
-// it writes the width, the height and the grey values, row by row, as one line of numbers.
+// write in, or on a chip where TEXT is "Dark" or "Light", the chip's tone. A content is
+// STATUS,ICON,PERCENT,CHARGE,TIME, each of the last four "-" for absent, and ICON "fault" for the
+// crossed-out battery. For each content it writes the width, the height and the grey values, row by
+// row, as one line of numbers.
 
 #include "platform/linux/panelcolors/panelcolors.h"
 #include "platform/linux/statusnotifier/itempictures.h"
@@ -124,7 +125,9 @@ int main(int argc, char **argv)
     const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
     const HostProfile &profile = profileFor(process, desktops);
     PanelColors colors;
-    if (words[4] != u"chip")
+    if (words[4] == u"Dark" || words[4] == u"Light")
+        colors.setAppearance({ .forcedDark = words[4] == u"Dark" });
+    else
         colors.setPanelText(profile.name, QColor(words[4]));
     const ViewContext context = colors.contextFor(profile.panel());
     QTextStream out(stdout);

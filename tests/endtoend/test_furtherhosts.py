@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
-"""The item in status areas beside those that most users have, and under a theme that is not the
-panel's.
+"""The item in status areas beside those that most users have.
 
     test_furtherhosts.py HOST    one host, by the name of its class below
 """
@@ -22,17 +21,14 @@ from test_hosts import DISCHARGING, InAHost, InAnX11Host
 
 
 class Budgie(InAnX11Host, OnADesktop):
-    look = Look("budgie-panel", 24, on_chip=True)
-    # Its chip is lighter than the panel.
-    has_clear_glyph = False
+    look = Look("budgie-panel", 24, chip="Dark")
 
     def make_session(self):
         return applets.BudgieScreen()
 
 
 class MateXapp(InAnX11Host, OnADesktop):
-    look = Look("xapp-sn-watcher", "scaled:20", desktop="MATE", on_chip=True)
-    has_clear_glyph = False
+    look = Look("xapp-sn-watcher", "scaled:20", desktop="MATE", chip="Dark")
 
     def make_session(self):
         return applets.MateXappScreen()
@@ -75,7 +71,8 @@ class InAnIndicator(test_hosts.GNOME):
         """Those that are seen: a theme's own red may be as dark as the panel."""
         pixels = self.session.picture().pixels(self.cell())
         ground = Counter(pixels).most_common(1)[0][0]
-        return sum(is_red(pixel) and contrast.between(pixel, ground) >= 3 for pixel in pixels)
+        return sum(is_red(pixel) and contrast.between(pixel, ground) >= contrast.LEGIBLE
+                   for pixel in pixels)
 
 
 class XfceIndicators(InAnIndicator):
@@ -97,7 +94,7 @@ class MateIndicators(InAnIndicator):
 class Enlightenment(test_hosts.GNOME):
     """Its clicks open the menu, of which it writes the state so faintly that nobody reads it here."""
 
-    look = Look("enlightenment", "48:29", on_chip=True)
+    look = Look("enlightenment", "48:29", chip="Dark")
     words = ["Open Ferrin", "Settings", "Quit Ferrin"]
 
     def make_session(self):
@@ -136,43 +133,16 @@ class Enlightenment(test_hosts.GNOME):
 class Qtile(InAnX11Host, OnADesktop):
     """Its own status area, which opens no menus."""
 
-    look = Look("qtile", 16, on_chip=True)
-    has_clear_glyph = False
+    look = Look("qtile", 16, chip="Dark")
     test_the_menu_quits = None
 
     def make_session(self):
         return panels.QtileScreen()
 
 
-class OnAGreyDesktop(OnADesktop):
-    """From which dark windows and light ones stand out."""
-
-    def setUp(self):
-        super().setUp()
-        self.session.run("hsetroot", "-solid", "#808080")
-
-
-class XfceUnderALightTheme(test_hosts.Xfce, OnAGreyDesktop):
-    """A dark panel, and windows that the user wants light."""
-
-    settings = {"appColor": "Light"}
-
-    def make_session(self):
-        return desktop.XfceScreen(dark=True)
-
-
-class XfceUnderADarkTheme(test_hosts.Xfce, OnAGreyDesktop):
-    settings = {"appColor": "Dark"}
-
+class XfceWithALightPanel(test_hosts.Xfce):
     def make_session(self):
         return desktop.XfceScreen(dark=False)
-
-
-class MateUnderADarkTheme(test_hosts.MATE, OnAGreyDesktop):
-    settings = {"appColor": "Dark"}
-
-    def make_session(self):
-        return desktop.MateScreen(dark=False)
 
 
 if __name__ == "__main__":

@@ -21,6 +21,10 @@ LOW = Shown("discharging", percent=8, charge="8", time="0:36")
 FAULT = Shown("unknown", icon="fault", charge="??")
 # A standing battery, which is the default, is as wide in a cell of 16 pixels.
 GLYPH_WIDTH = 8
+# What the item shows under each theme of the windows: another charge each time, since what is on
+# the screen is not to be what was there before.
+UNDER_THEMES = {"Light": Shown("discharging", percent=60, charge="60", time="4:31"),
+                "Dark": Shown("discharging", percent=18, charge="18", time="1:21")}
 # No wider than what MATE's panel has beside the item: date and time.
 CLOCK_WIDTH = 100
 
@@ -34,8 +38,6 @@ class InAHost:
     """What holds in every status area."""
 
     look = None
-    # Whether the default glyph is large and sharp enough to be looked at by itself.
-    has_clear_glyph = True
     # Where a compositor places windows as it likes, they are asked only to be wholly on the screen.
     opens_at_item = True
 
@@ -57,11 +59,10 @@ class InAHost:
         box = self.session.item_box(self.before)
         picture = self.session.picture()
         return box and recognised(self.look, picture, box, shown) \
-            and (shown.icon == "fault" or not self.has_clear_glyph
-                 or self.is_bottle_shown(picture, box, shown.percent))
+            and (shown.icon == "fault" or self.is_bottle_shown(picture, box, shown.percent))
 
     def is_bottle_shown(self, picture, box, percent):
-        bottle = bottle_in(picture, box)
+        bottle = bottle_in(picture, box, on_chip=bool(self.look.chip))
         return bottle is not None and bottle.shows(percent)
 
     def is_charging_shown(self):
@@ -94,6 +95,22 @@ class InAHost:
         self.program = self.start()
         self.program.says("No battery")
         self.shows(FAULT)
+
+    def test_it_stands_out_from_the_panel_under_every_theme_of_the_windows(self):
+        self.stands_out(DISCHARGING)
+        for theme, shown in UNDER_THEMES.items():
+            self.assertEqual(self.program.terminate(), 0)
+            self.laptop.send("drain", "BAT0", shown.percent)
+            self.program = self.start_under(theme)
+            self.program.says(f"{shown.charge}%, {shown.time} to empty")
+            if self.look.chip:
+                self.look = replace(self.look, chip=theme)
+            self.stands_out(shown)
+
+    def stands_out(self, shown):
+        self.shows(shown)
+        eventually(lambda: contrast.of_strokes(self.session.picture(), self.cell())
+                   >= contrast.LEGIBLE, f"{shown} stands out")
 
     def test_a_click_opens_the_dashboard_and_another_closes_it(self):
         self.shows(DISCHARGING)

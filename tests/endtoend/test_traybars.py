@@ -8,7 +8,7 @@ pointer.
 
 import re
 
-from harness import applets, traybars
+from harness import applets, contrast, traybars
 from harness.case import AT_START, OnADesktop, main
 from harness.picture import is_red
 from harness.processes import a_moment, eventually
@@ -75,8 +75,15 @@ class InATrayBar:
         pictures.append(self.says("No battery"))
         self.assertEqual(len({tuple(picture) for picture in pictures}), len(pictures))
 
-    def test_it_stands_out_from_the_bar(self):
-        self.assertGreaterEqual(contrast_in(self.says(AT_START)), 3)
+    def test_it_stands_out_from_the_bar_under_every_theme_of_the_windows(self):
+        self.stands_out()
+        for theme in ("Light", "Dark"):
+            self.assertEqual(self.program.terminate(), 0)
+            self.program = self.start_under(theme)
+            self.stands_out()
+
+    def stands_out(self):
+        self.assertGreaterEqual(contrast.range_of(self.says(AT_START)), contrast.LEGIBLE)
 
     def test_a_click_opens_the_dashboard_at_the_item_and_another_closes_it(self):
         self.says(AT_START)
@@ -137,18 +144,6 @@ class InATrayBar:
         self.assertEqual(len(self.session.windows_of(self.program.pid)), 1)
 
 
-def contrast_in(pixels):
-    brightness = sorted(map(luminance, pixels))
-    return (brightness[-1] + 0.05) / (brightness[0] + 0.05)
-
-
-def luminance(pixel):
-    """As contrasts are counted."""
-    linear = [value / 3294.6 if value <= 10 else ((value / 255 + 0.055) / 1.055) ** 2.4
-              for value in pixel]
-    return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
-
-
 class I3bar(InATrayBar, OnADesktop):
     def make_session(self):
         return traybars.I3Screen()
@@ -160,7 +155,8 @@ class I3bar(InATrayBar, OnADesktop):
             self.session.recolour(background, text=background)
             eventually(lambda: self.session.picture().pixel(*self.session.bar_box().centre)
                        == ground, f"the bar is {background}")
-            eventually(lambda: contrast_in(self.pixels()) >= 3, f"it is legible on {background}")
+            eventually(lambda: contrast.range_of(self.pixels()) >= contrast.LEGIBLE,
+                       f"it is legible on {background}")
             self.assertEqual(len(self.session.windows_of(self.program.pid)), 1)
 
 

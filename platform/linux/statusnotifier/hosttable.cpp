@@ -104,6 +104,10 @@ const std::array profiles {
                   .menu = MenuUse::IndicatorsOnEveryClick },
     HostProfile {
         .name = "enlightenment"_L1, .pictures = panelSquares, .menu = MenuUse::EveryClick },
+    HostProfile { .name = "qtile"_L1,
+                  .pictures = unknownPictures,
+                  .premultiplied = true,
+                  .menu = MenuUse::EveryClick },
     // The indicator service reads the item, and passes its name and label on to an applet in a
     // panel's process, which reads nothing but the menu.
     HostProfile { .name = "ayatana-indicator-application"_L1,

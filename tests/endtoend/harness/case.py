@@ -36,6 +36,11 @@ class OnADesktop(unittest.TestCase):
     def start(self, command=None, **environment):
         return Program(self.session, self.laptop, environment, command)
 
+    def start_under(self, theme):
+        """A start by a user who wants the windows "Light" or "Dark"."""
+        store_settings(self.session, appColor=theme)
+        return self.start()
+
 
 class WithADashboard(OnADesktop):
     """The program runs, and its dashboard has not been opened yet."""

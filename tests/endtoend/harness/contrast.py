@@ -7,14 +7,31 @@ from collections import Counter
 
 # Fainter pixels belong to the ground.
 FAINTEST = 1.5
+# What WCAG asks of symbols and of large text.
+LEGIBLE = 3
 
 
 def of_print(picture, box):
-    """The median contrast of what is written in the box, by WCAG's measure; None for nothing."""
+    """The median contrast of what is written in the box, by WCAG's measure; 1 for nothing."""
+    return statistics.median(_print_in(picture, box))
+
+
+def of_strokes(picture, box):
+    """The same of the stronger half, which leaves out smoothed edges and the tint of an empty glyph."""
+    contrasts = _print_in(picture, box)
+    return statistics.median(contrasts[len(contrasts) // 2:])
+
+
+def _print_in(picture, box):
     pixels = picture.pixels(box)
     ground = Counter(pixels).most_common(1)[0][0]
-    contrasts = [between(pixel, ground) for pixel in pixels]
-    return statistics.median([each for each in contrasts if each > FAINTEST] or [None])
+    contrasts = sorted(between(pixel, ground) for pixel in pixels)
+    return [each for each in contrasts if each > FAINTEST] or [1]
+
+
+def range_of(pixels):
+    """Of the lightest to the darkest."""
+    return between(min(pixels, key=_luminance), max(pixels, key=_luminance))
 
 
 def between(one, other):

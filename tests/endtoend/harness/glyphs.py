@@ -12,8 +12,10 @@ from harness.picture import Box, is_red
 # Of the strongest contrast: what is drawn at all, and what is full.
 INK, FULL = 0.25, 0.8
 # Its walls and the rounding of small pictures hide about a fifth of its height.
-NEAR = 0.2
+NEAR, ROWS_NEAR = 0.2, 1.5
 LEAST_HEIGHT = 8
+# Around the box of an item, so that its ground is seen.
+AIR = 2
 LOW_PERCENT = 10
 
 
@@ -24,27 +26,42 @@ class Bottle:
     box: Box
     is_standing: bool
     has_neck: bool
-    # Of what is below the neck.
+    # Of what is below the neck, in rows.
     fill: float
+    rows: int
     has_red: bool
 
     def shows(self, percent):
         """Whether it is what a battery with that charge is to look like."""
-        return self.is_standing and self.has_neck and abs(self.fill - percent / 100) <= NEAR \
+        near = max(NEAR, ROWS_NEAR / self.rows)
+        return self.is_standing and self.has_neck and abs(self.fill - percent / 100) <= near \
             and self.has_red == (percent <= LOW_PERCENT)
 
 
-def bottle_in(picture, box):
+def bottle_in(picture, box, on_chip=False):
     """The glyph of the item in the box: of all that is drawn there, the tallest. None where that is
     too small to be one."""
-    around = Box(max(0, box.left - 2), max(0, box.top - 2), min(picture.width, box.right + 2),
-                 min(picture.height, box.bottom + 2))
-    ground = Counter(picture.pixels(around)).most_common(1)[0][0]
+    around = _chip_in(picture, box) if on_chip else Box(
+        max(0, box.left - AIR), max(0, box.top - AIR), min(picture.width, box.right + AIR),
+        min(picture.height, box.bottom + AIR))
+    ground = _ground(picture, around)
     contrasts = {(x, y): _contrast(picture.pixel(x, y), ground)
                  for y in range(around.top, around.bottom) for x in range(around.left, around.right)}
     parts = _parts(contrasts, INK * max(contrasts.values()))
     glyph = max(parts, key=_height, default=())
     return _described(picture, glyph, contrasts)
+
+
+def _chip_in(picture, box):
+    """The ground that the item brings, which is of one colour."""
+    colour = _ground(picture, box)
+    columns, rows = zip(*((x, y) for y in range(box.top, box.bottom)
+                          for x in range(box.left, box.right) if picture.pixel(x, y) == colour))
+    return Box(min(columns), min(rows), max(columns) + 1, max(rows) + 1)
+
+
+def _ground(picture, box):
+    return Counter(picture.pixels(box)).most_common(1)[0][0]
 
 
 def _described(picture, glyph, contrasts):
@@ -66,7 +83,7 @@ def _described(picture, glyph, contrasts):
     columns = [x for x, _ in glyph]
     return Bottle(box=Box(min(columns), min(rows), max(columns) + 1, max(rows) + 1),
                   is_standing=len(rows) > widest, has_neck=widths[0] < widest,
-                  fill=(after - first) / len(full),
+                  fill=(after - first) / len(full), rows=len(full),
                   has_red=any(is_red(picture.pixel(x, y)) for x, y in glyph))
 
 

@@ -59,8 +59,8 @@ class Look:
     height: int | str
     scale: int = 1
     desktop: str = ""
-    # The item brings a ground of its own.
-    on_chip: bool = False
+    # "Dark" or "Light" where the item brings a ground of its own.
+    chip: str | None = None
 
 
 def likenesses(look, picture, box, contents):
@@ -71,7 +71,7 @@ def likenesses(look, picture, box, contents):
     ground = Counter(picture.pixels(around)).most_common(1)[0][0]
     rows = [[_grey(picture.pixel(x, y)) for x in range(around.left, around.right)]
             for y in range(around.top, around.bottom)]
-    text = "chip" if look.on_chip else "white" if _grey(ground) < 128 else "black"
+    text = look.chip or ("white" if _grey(ground) < 128 else "black")
     under = "#%02x%02x%02x" % ground
     output = subprocess.run(
         [os.environ["FERRIN_ITEM_PICTURE"], look.process, str(look.scale), under, text,

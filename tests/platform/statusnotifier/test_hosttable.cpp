@@ -24,7 +24,7 @@ private Q_SLOTS:
     void knowsXfcesPluginsByTheirLibraries();
     void offersTheXappWatcherWidePicturesOnCinnamonOnly();
     void labelsOnlyForHostsThatDrawLabels();
-    void premultipliesOnlyForSwaybar();
+    void premultipliesOnlyForHostsThatExpectIt();
     void offersAnUnknownHostSquaresOnly();
     void opensTheMenuOfAnUnknownHostOnEveryClick();
     void believesNoClickOfHostsThatTellTheirOwnCoordinates();
@@ -53,6 +53,7 @@ void HostTableTest::knowsAHostByItsProcess_data()
     row("gnome-shell", "gnome-shell");
     row("budgie-panel", "budgie-panel");
     row("enlightenment", "enlightenment");
+    row("qtile", "qtile");
     row("ayatana-indicat", "ayatana-indicator-application");
     row("mate-indicator-", "indicator panel");
     row("panel-9-indicat", "indicator panel");
@@ -137,10 +138,10 @@ void HostTableTest::labelsOnlyForHostsThatDrawLabels()
                      || profile.name == "ayatana-indicator-application"_L1);
 }
 
-void HostTableTest::premultipliesOnlyForSwaybar()
+void HostTableTest::premultipliesOnlyForHostsThatExpectIt()
 {
     for (const HostProfile &profile : allHostProfiles())
-        QCOMPARE(profile.premultiplied, profile.name == "swaybar"_L1);
+        QCOMPARE(profile.premultiplied, profile.name == "swaybar"_L1 || profile.name == "qtile"_L1);
 }
 
 void HostTableTest::offersAnUnknownHostSquaresOnly()
