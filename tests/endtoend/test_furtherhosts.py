@@ -51,8 +51,6 @@ class PlasmaOnWayland(InAHost, OnADesktop):
 class InAnIndicator(test_hosts.GNOME):
     """The panel draws icon and label itself and opens the menu at a click, as GNOME's does."""
 
-    opens_at_item = False
-
     def is_shown(self, shown):
         box = self.session.item_box(self.before)
         picture = self.session.picture()
@@ -80,15 +78,26 @@ class XfceIndicators(InAnIndicator):
         return applets.XfceIndicatorScreen()
 
 
-class MateIndicators(InAnIndicator):
+class WithAFaintState(InAnIndicator):
+    """It cannot be read in one go with the menu's entries, above which it stands."""
+
+    def open_menu(self):
+        lines = super().open_menu()
+        entries = {words: lines[words] for words in self.words[1:]}
+        (left, first), (_, second), *_ = entries.values()
+        middle = first - (second - first)
+        line = Box(left - 20, middle - 10, self.session.size[0] - 4, middle + 10)
+        return dict(read(self.session.picture(), line)) | entries
+
+
+class MateIndicators(WithAFaintState):
     def make_session(self):
         return applets.MateIndicatorScreen()
 
-    def open_menu(self):
-        """The state is too faint to be read in one go with the entries."""
-        (_, (left, middle)), *entries = super().open_menu().items()
-        line = Box(left - 20, middle - 10, self.session.size[0] - 4, middle + 10)
-        return dict(read(self.session.picture(), line) + entries)
+
+class BudgieIndicators(WithAFaintState):
+    def make_session(self):
+        return applets.BudgieIndicatorScreen()
 
 
 class Enlightenment(test_hosts.GNOME):

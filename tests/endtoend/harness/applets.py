@@ -57,13 +57,11 @@ class BudgieScreen(Shell, BareScreen):
         """Now and then, where there is much else to do, the panel never shows its window."""
         for _ in range(BUDGIE_STARTS):
             self.bar = self.start_shell(["budgie-panel"])
-            eventually(self.has_area, "the panel offers a status area")
             with contextlib.suppress(AssertionError):
                 eventually(self._is_drawn, "the panel is drawn", BUDGIE_SECONDS)
-                return
+                break
             self.end_process(self.bar)
-            eventually(lambda: not self.has_area(), "the panel is gone")
-        raise AssertionError("the panel was never drawn")
+        eventually(self.has_area, "the panel offers a status area")
 
     def _is_drawn(self):
         return any(self.picture().row(BUDGIE_HEIGHT // 2))

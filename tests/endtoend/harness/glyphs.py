@@ -12,7 +12,7 @@ from harness.picture import Box, is_red
 # Of the strongest contrast: what is drawn at all, and what is full.
 INK, FULL = 0.25, 0.8
 # Its walls and the rounding of small pictures hide about a fifth of its height.
-NEAR, ROWS_NEAR = 0.2, 1.5
+NEAR = 0.2
 LEAST_HEIGHT = 8
 # Around the box of an item, so that its ground is seen.
 AIR = 2
@@ -26,15 +26,13 @@ class Bottle:
     box: Box
     is_standing: bool
     has_neck: bool
-    # Of what is below the neck, in rows.
+    # Of what is below the neck.
     fill: float
-    rows: int
     has_red: bool
 
     def shows(self, percent):
         """Whether it is what a battery with that charge is to look like."""
-        near = max(NEAR, ROWS_NEAR / self.rows)
-        return self.is_standing and self.has_neck and abs(self.fill - percent / 100) <= near \
+        return self.is_standing and self.has_neck and abs(self.fill - percent / 100) <= NEAR \
             and self.has_red == (percent <= LOW_PERCENT)
 
 
@@ -83,7 +81,7 @@ def _described(picture, glyph, contrasts):
     columns = [x for x, _ in glyph]
     return Bottle(box=Box(min(columns), min(rows), max(columns) + 1, max(rows) + 1),
                   is_standing=len(rows) > widest, has_neck=widths[0] < widest,
-                  fill=(after - first) / len(full), rows=len(full),
+                  fill=(after - first) / (len(full) - first),
                   has_red=any(is_red(picture.pixel(x, y)) for x, y in glyph))
 
 
