@@ -29,6 +29,15 @@ RELEASE = RELEASES[sys.argv.pop()] if __name__ == "__main__" else "bookworm"
 PLACE, ANOTHER_PLACE = "/mnt/ferrin", "/mnt/another/place"
 
 
+def difference(*packages):
+    """Which files of two packages differ."""
+    with tempfile.TemporaryDirectory(prefix="ferrin-difference-") as folder:
+        for number, package in enumerate(packages):
+            subprocess.run(["dpkg-deb", "--raw-extract", package, f"{folder}/{number}"], check=True)
+        return subprocess.run(["diff", "--recursive", "--brief", "0", "1"], cwd=folder, text=True,
+                              check=False, stdout=subprocess.PIPE).stdout
+
+
 class SourcePackage(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -81,7 +90,8 @@ class SourcePackage(unittest.TestCase):
         self.run_in("again/deeper", "dpkg-buildpackage", "--build=binary", "--post-clean", "-us", "-uc",
                     place=ANOTHER_PLACE)
         second = os.path.join(self.folder, "again", os.path.basename(first))
-        self.assertTrue(filecmp.cmp(first, second, shallow=False), "the packages differ")
+        self.assertTrue(filecmp.cmp(first, second, shallow=False),
+                        f"the packages differ:\n{difference(first, second)}")
 
 
 if __name__ == "__main__":
