@@ -11,8 +11,6 @@ from harness.picture import Box
 from harness.processes import eventually
 from harness.session import Screen
 
-# Of GNOME.
-PANEL_HEIGHT = 32
 APPINDICATOR = "ubuntu-appindicators@ubuntu.com"
 # A sign of the item's label that draws nothing: it makes the text another one than before.
 UNSEEN_MARK = "\u200e"
@@ -186,6 +184,12 @@ class GnomeScreen(Shell, Screen):
         return json.loads(answer) if answer else None
 
     def item_box(self, before):
-        # The clock in the middle may have moved on, and a message may have come below the panel.
-        right = Box(before.width * 3 // 4, 0, before.width, PANEL_HEIGHT * self.scale)
-        return before.difference(self.picture(), within=right)
+        # Within what the shell has for it: other indicators come and go beside it.
+        place = self._evaluate(
+            "Object.entries(Main.panel.statusArea).filter(([role, button]) => button.is_mapped()"
+            " && button.has_allocation() && role.startsWith('appindicator-')).map(([role, button]) =>"
+            " [...button.get_transformed_position(), ...button.get_transformed_size()])[0] ?? null")
+        if not place:
+            return None
+        left, top, width, height = map(round, place)
+        return before.difference(self.picture(), within=Box(left, top, left + width, top + height))
