@@ -47,11 +47,11 @@ Item {
         onTapped: root.pressed()
     }
 
-    // A finger that slides scrolls.
+    // A finger that slides scrolls; so does a pen.
     TapHandler {
         id: tap
 
-        acceptedDevices: PointerDevice.TouchScreen | PointerDevice.Stylus
+        acceptedDevices: PointerDevice.AllDevices & ~click.acceptedDevices
         longPressThreshold: click.longPressThreshold
         onTapped: root.pressed()
     }
