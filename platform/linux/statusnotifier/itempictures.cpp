@@ -72,13 +72,14 @@ IconPixmapList ItemPictures::paintAll(const HostProfile &profile, Painted &paint
 {
     const Surroundings &surroundings = painted.surroundings;
     ViewContext context = painted.context;
-    context.isCoarse = surroundings.desktopScale < finestCoarseScale;
     IconPixmapList pictures;
     qsizetype bytes = 0;
     for (const OfferedPicture &offer : offersFor(profile, surroundings)) {
-        const QImage image = paintForm(offer.form, painted.content, offer.height,
-                                       densityFor(profile, offer, surroundings.desktopScale),
-                                       context, keptWidth(painted, offer, context));
+        const qreal density = densityFor(profile, offer, surroundings.desktopScale);
+        // Some hosts enlarge a coarse picture on a fine desktop, others shrink a fine one.
+        context.isCoarse = std::min(density, surroundings.desktopScale) < finestCoarseScale;
+        const QImage image = paintForm(offer.form, painted.content, offer.height, density, context,
+                                       keptWidth(painted, offer, context));
         if (bytes + image.sizeInBytes() > byteBudget && !pictures.isEmpty())
             continue;
         bytes += image.sizeInBytes();

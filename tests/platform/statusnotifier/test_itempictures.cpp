@@ -51,6 +51,7 @@ private Q_SLOTS:
     void offersMateTheHeightsOfThePanelsThatAreThere();
     void offersSquaresToAPanelThatStands();
     void paintsLargerTextOnTallerPanels();
+    void paintsSmallTextAsStronglyForAHostThatEnlargesIt();
     void keepsItsWidthWhileTheStateLasts();
     void paintsAgainOnlyWhenSomethingChanged();
 };
@@ -178,6 +179,13 @@ void ItemPicturesTest::paintsLargerTextOnTallerPanels()
         QVERIFY(picture.width > widthBefore);
         widthBefore = picture.width;
     }
+}
+
+void ItemPicturesTest::paintsSmallTextAsStronglyForAHostThatEnlargesIt()
+{
+    const auto picture
+        = [](qreal scale) { return paintedFor(u"notification-ar"_s, scale).constFirst().pixels; };
+    QCOMPARE(picture(2), picture(1));
 }
 
 void ItemPicturesTest::keepsItsWidthWhileTheStateLasts()
