@@ -26,6 +26,12 @@ PATIENCE_SECONDS = 15
 PANEL, APPLET = "22345678-1234-11ee-8888-0123456789ab", "12345678-1234-11ee-8888-0123456789ab"
 
 
+def start_indicator_service(screen):
+    """An applet that comes before it may never find it."""
+    screen.start_shell([AYATANA])
+    eventually(lambda: screen.bus.owner(AYATANA_NAME), "the service of the indicators is there")
+
+
 def await_indicators(screen, applet, timeout=TIMEOUT_SECONDS):
     """An applet tells that it has no indicators until it has found the service that it asks for them;
     then it is a pixel wide."""
@@ -91,7 +97,7 @@ class BudgieIndicatorScreen(BudgieScreen):
     applet = BUDGIE_INDICATORS
 
     def start_status_area(self):
-        self.start_shell([AYATANA])
+        start_indicator_service(self)
 
 
 class MateAppletScreen(Shell, PanelScreen):
@@ -122,7 +128,7 @@ class MateAppletScreen(Shell, PanelScreen):
         super().start_panel()
 
     def start_status_area(self):
-        self.start_shell([AYATANA])
+        start_indicator_service(self)
         # Started by the bus it stays empty.
         self.start_shell([MATE_INDICATOR_APPLET])
         eventually(lambda: self.bus.owner(MATE_INDICATOR_FACTORY), "the applet is there")
@@ -151,10 +157,8 @@ class XfceIndicatorScreen(Shell, XfceScreen):
     plugin = "indicator"
 
     def start_panel(self):
-        self.start_shell([AYATANA])
-        # A panel of Debian 12 that comes before it may never find it; now and then one does not
-        # that comes after it.
-        eventually(lambda: self.bus.owner(AYATANA_NAME), "the service of the indicators is there")
+        start_indicator_service(self)
+        # Now and then a panel of Debian 12 that comes after it does not find it either.
         super().start_panel()
         try:
             await_indicators(self, "wrapper-2.0", PATIENCE_SECONDS)
