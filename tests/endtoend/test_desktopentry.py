@@ -3,7 +3,6 @@
 """The entry in the application menu: a second start and the actions reach the program that runs."""
 
 import os
-import shutil
 import signal
 
 from harness import processes
@@ -23,8 +22,8 @@ class Menu:
     def __init__(self, session):
         self._session = session
         self._entry = self._install("applications", f"{PROGRAM}.desktop")
-        self._install("dbus-1/services", f"{PROGRAM}.service")
-        # Where the menu, the bus and the user find the program.
+        self._install("dbus-1/services", f"{PROGRAM}.service", ".in")
+        # Where the menu and the user find the program.
         session.environment["PATH"] = self.path()
 
     def path(self):
@@ -35,10 +34,16 @@ class Menu:
         """Starts the program, or one of its actions."""
         self._session.run("/usr/bin/python3", "-B", LAUNCHER, self._entry, *action)
 
-    def _install(self, folder, name):
+    def _install(self, folder, name, template=""):
+        """A template gets the path of the program, as by the installation."""
         folder = os.path.join(self._session.environment["XDG_DATA_HOME"], folder)
         os.makedirs(folder, exist_ok=True)
-        return shutil.copy(os.path.join(PACKAGING, name), folder)
+        path = os.path.join(folder, name)
+        with open(os.path.join(PACKAGING, name + template), encoding="utf-8") as source:
+            text = source.read()
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(text.replace("@program@", os.path.abspath(binary())))
+        return path
 
 
 class WhileItRuns(WithADashboard):
