@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # SPDX-FileCopyrightText: 2026 The Ferrin developers
 """The package of Fedora and openSUSE, built from a release's sources by rpmbuild in a Debian, and used
-on its desktop. The spec's requirements are left aside: no such package is there.
+on its desktop. What it requires there is left aside: no such package is in Debian.
 
     FERRIN_BUILD: the build tree of this machine
 """
