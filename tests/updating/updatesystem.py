@@ -6,11 +6,13 @@ import fcntl
 import functools
 import http.server
 import json
+import math
 import os
 import pathlib
 import queue
 import re
 import shutil
+import socket
 import struct
 import subprocess
 import sys
@@ -184,8 +186,11 @@ class Server:
     def __init__(self, folder, port=PORT):
         self.folder, self.port = folder, port
         self.requests = []
-        # By a part of the path: bytes a second, 0 for none at all.
+        # By a part of the path: bytes a second, and bytes after which nothing more comes.
         self.rates = {}
+        self.limits = {}
+        # The paths of those who hung up while they waited for more.
+        self.abandoned = []
         self.missing = set()
         self._server = None
         self.start()
@@ -202,14 +207,31 @@ class Server:
             self._server = None
 
     def behave(self):
-        self.rates.clear()
-        self.missing.clear()
-        self.requests.clear()
+        for each in (self.rates, self.limits, self.abandoned, self.missing, self.requests):
+            each.clear()
         if not self._server:
             self.start()
 
-    def _rate(self, path):
-        return next((rate for part, rate in self.rates.items() if part in path), None)
+    def await_request(self):
+        self._await(self.requests)
+
+    def await_hanging_up(self):
+        """Waits until somebody who was kept waiting hangs up; from then on everything flows."""
+        self._await(self.abandoned)
+        self.behave()
+
+    @staticmethod
+    def _await(paths):
+        end = time.monotonic() + TIMEOUT
+        while not paths:
+            if time.monotonic() > end:
+                raise AssertionError("The server waited in vain")
+            time.sleep(0.05)
+
+    @staticmethod
+    def _for(path, figures):
+        """The figure of the first part in the path; without one there is no bound."""
+        return next((figure for part, figure in figures.items() if part in path), math.inf)
 
     def _handler(self):
         server = self
@@ -230,12 +252,25 @@ class Server:
 
             def copyfile(self, source, outputfile):
                 while chunk := source.read(16384):
-                    # Looked at anew each time: the test may let it flow.
-                    while server._rate(self.path) == 0:
-                        time.sleep(0.05)
+                    self._wait_below_limit(source.tell())
                     outputfile.write(chunk)
-                    if rate := server._rate(self.path):
-                        time.sleep(len(chunk) / rate)
+                    time.sleep(len(chunk) / server._for(self.path, server.rates))
+
+            def _wait_below_limit(self, size):
+                # Looked at anew each time: the test may let it flow.
+                while size > server._for(self.path, server.limits):
+                    if self._hung_up():
+                        server.abandoned.append(self.path)
+                        raise ConnectionAbortedError
+                    time.sleep(0.05)
+
+            def _hung_up(self):
+                try:
+                    return not self.connection.recv(1, socket.MSG_PEEK | socket.MSG_DONTWAIT)
+                except BlockingIOError:
+                    return False
+                except ConnectionError:
+                    return True
         return Handler
 
 

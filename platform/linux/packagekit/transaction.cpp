@@ -188,8 +188,11 @@ void Transaction::takeChanges(const QString &interface, const QVariantMap &chang
         return;
     m_status = changed.value(u"Status"_s, m_status).toUInt();
     m_percentage = changed.value(u"Percentage"_s, m_percentage).toUInt();
-    if (changed.contains(u"DownloadSizeRemaining"_s))
-        m_remaining = changed.value(u"DownloadSizeRemaining"_s).toLongLong();
+    // It is told as 0 until PackageKit has counted.
+    const qint64 remaining
+        = changed.value(u"DownloadSizeRemaining"_s, m_remaining.value_or(0)).toLongLong();
+    if (remaining > 0 || m_remaining)
+        m_remaining = remaining;
     if (changed.contains(u"AllowCancel"_s)) {
         m_canCancel = changed.value(u"AllowCancel"_s).toBool();
         cancelIfAllowed();

@@ -38,6 +38,29 @@ private Q_SLOTS:
         QCOMPARE(m_bench->service.calls, QStringList { u"DownloadPackages"_s });
     }
 
+    void knowsNoShareBeforeTheRestIsCounted()
+    {
+        m_bench->service.acts.insert(u"DownloadPackages"_s, [this](const QString &path) {
+            m_bench->service.change(
+                path, { { u"Status"_s, 8U }, { u"DownloadSizeRemaining"_s, quint64(0) } });
+        });
+        m_bench->engine.download(m_bench->release, UpdateManner::interactive);
+        const UpdateProgress uncounted { UpdateActivity::downloading, std::nullopt, true };
+        QTRY_COMPARE(m_bench->progress, uncounted);
+        const auto remain = [this](quint64 bytes) {
+            m_bench->service.change(m_bench->service.transaction,
+                                    { { u"DownloadSizeRemaining"_s, bytes } });
+        };
+        remain(2'100'000);
+        const UpdateProgress half { UpdateActivity::downloading, 0.5, true };
+        QTRY_COMPARE(m_bench->progress, half);
+        remain(0);
+        const UpdateProgress whole { UpdateActivity::downloading, 1.0, true };
+        QTRY_COMPARE(m_bench->progress, whole);
+        m_bench->service.finish(m_bench->service.transaction);
+        QTRY_COMPARE(m_bench->events, QStringList { u"downloaded"_s });
+    }
+
     void sendsNoCancelWhileThatIsNotAllowed()
     {
         m_bench->service.acts.insert(u"DownloadPackages"_s, [this](const QString &path) {
