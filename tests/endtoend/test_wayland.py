@@ -274,5 +274,33 @@ class WithoutLayers(OnADesktop):
         self.assertTrue(program.is_running())
 
 
+class TitleBarsByQt(OnADesktop):
+    """Where the compositor draws none."""
+
+    def make_session(self):
+        return wayland.WestonScreen()
+
+    def title_bar_of_settings(self, theme):
+        """The lightness of its ground, from 0 to 255."""
+        bare = self.session.picture()
+        program = self.start_under(theme)
+        eventually(program.owns_its_name, "the program is there")
+        self.session.run("gdbus", "call", "--session", "--dest", "org.ferrin.Ferrin",
+                         "--object-path", "/org/ferrin/Ferrin", "--method",
+                         "org.freedesktop.Application.ActivateAction", "settings", "[]", "{}")
+        eventually(lambda: bare.difference(self.session.picture()), "the settings are open")
+        shown = self.session.settled_picture()
+        box = bare.difference(shown)
+        # Beside the title, above the content.
+        ground = shown.pixel(box.left + box.width // 4, box.top + 12)
+        self.assertEqual(program.terminate(), 0)
+        eventually(lambda: not bare.difference(self.session.picture()), "the settings are gone")
+        return sum(ground) // 3
+
+    def test_they_are_dark_over_a_dark_window_and_light_over_a_light_one(self):
+        self.assertLess(self.title_bar_of_settings("Dark"), 80)
+        self.assertGreater(self.title_bar_of_settings("Light"), 180)
+
+
 if __name__ == "__main__":
     main()

@@ -3,12 +3,21 @@
 
 #include "platform/linux/layers/waylandpopoverdesktop.h"
 
+#include <QGuiApplication>
 #include <QPainterPath>
+#include <QPalette>
 #include <QRect>
 #include <QRegion>
 #include <QWindow>
 
 namespace ferrin {
+
+namespace {
+
+/// As dark as GNOME's own.
+constexpr QColor darkTitleBar(0x30, 0x30, 0x30);
+
+} // namespace
 
 void WaylandPopoverDesktop::place(QWindow &window, const QRect &frame)
 {
@@ -28,6 +37,12 @@ void WaylandPopoverDesktop::prepare(QWindow &window)
 {
     if (!window.parent())
         m_layers.prepare(window, LayerShell::Kind::Popover);
+}
+
+void WaylandPopoverDesktop::setTitleBarDark(QWindow &, bool isDark)
+{
+    // The palette's colours are those of the title bars that Qt draws, and of nothing else here.
+    QGuiApplication::setPalette(isDark ? QPalette(darkTitleBar) : QPalette());
 }
 
 void WaylandPopoverDesktop::setOutline(QWindow &window, const QPainterPath &outline)

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] bool placesWindows() const override { return false; }
     void place(QWindow &window, const QRect &frame) override;
     void prepare(QWindow &window) override;
+    /// For windows that are shown afterwards: where the compositor draws no title bars, Qt does.
+    void setTitleBarDark(QWindow &window, bool isDark) override;
     void setOutline(QWindow &window, const QPainterPath &outline) override;
 
 private:

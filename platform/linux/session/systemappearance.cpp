@@ -142,6 +142,7 @@ const QList<SystemAppearance::Setting> &SystemAppearance::settings()
 SystemAppearance::SystemAppearance(const QDBusConnection &session, QObject *parent)
     : QObject(parent)
     , m_portal(session)
+    , m_isToolkitDark(isPaletteDark())
 {
     connect(&m_portal, &SettingsPortal::valueChanged, this, &SystemAppearance::take);
     for (const Setting &setting : settings())
@@ -179,7 +180,7 @@ void SystemAppearance::take(const QString &group, const QString &key, const QVar
 
 void SystemAppearance::update()
 {
-    const bool isDesktopDark = m_desktopPrefersDark.value_or(isPaletteDark());
+    const bool isDesktopDark = m_desktopPrefersDark.value_or(m_isToolkitDark);
     m_isDesktopDark = isDesktopDark;
     m_isDark = m_forced ? *m_forced == Appearance::dark : isDesktopDark;
     const QString desktopsFont = m_kdeFont.isEmpty() ? m_gnomeFont : m_kdeFont;

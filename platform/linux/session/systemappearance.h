@@ -57,6 +57,8 @@ private:
 
     SettingsPortal m_portal;
     std::optional<Appearance> m_forced;
+    /// What the toolkit looks like by itself: title bars change the palette later.
+    bool m_isToolkitDark;
     /// The desktop's preference; absent when it has none.
     std::optional<bool> m_desktopPrefersDark;
     QString m_gnomeFont;

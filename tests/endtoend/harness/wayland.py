@@ -192,14 +192,41 @@ class SwaybarScreen(SwayScreen):
         self._bar_is_drawn()
 
 
-class WestonSession(Session):
-    """A compositor without layers for programs, whose screen nobody sees."""
+WESTON = """[core]
+idle-time=0
+[shell]
+panel-position=none
+background-color=0xff{desktop}
+"""
+
+
+class Weston:
+    """Mixed into a session: a compositor without layers for programs, which draws no title bars."""
 
     desktop = "weston"
+    socket = "wayland-test"
+
+    def _start_weston(self, backend, environment=None):
+        self.environment |= {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": self.socket}
+        configuration = self.write("config/weston.ini", WESTON.format(desktop=GROUND[1:]))
+        self.start(["weston", f"--backend={backend}-backend.so", f"--socket={self.socket}",
+                    f"--config={configuration}", "--width=800", "--height=600"], environment)
+        eventually(lambda: self.socket in os.listdir(self.environment["XDG_RUNTIME_DIR"]),
+                   "the compositor is there")
+
+
+class WestonSession(Weston, Session):
+    """Nobody sees its screen."""
 
     def _start_display(self):
-        self.environment |= {"XDG_SESSION_TYPE": "wayland", "WAYLAND_DISPLAY": "wayland-test"}
-        self.start(["weston", "--backend=headless-backend.so", "--socket=wayland-test",
-                    "--width=800", "--height=600"])
-        eventually(lambda: "wayland-test" in os.listdir(self.environment["XDG_RUNTIME_DIR"]),
-                   "the compositor is there")
+        self._start_weston("headless")
+
+
+class WestonScreen(Weston, Screen):
+    """In a window that fills the X screen."""
+
+    def _start_display(self):
+        super()._start_display()
+        self._start_weston("x11", self._screen)
+        ground = tuple(bytes.fromhex(GROUND[1:]))
+        eventually(lambda: self.picture().pixel(400, 500) == ground, "the desktop is drawn")

@@ -96,6 +96,17 @@ private Q_SLOTS:
         QVERIFY(f.appearance->isDark());
     }
 
+    void takesNoLaterPaletteForTheDesktops()
+    {
+        Fixture f;
+        f.start();
+        // As title bars change it.
+        QGuiApplication::setPalette(QPalette(Qt::black));
+        f.appearance->setAppearance(Appearance::dark);
+        f.appearance->setAppearance(std::nullopt);
+        QVERIFY(!f.appearance->isDark());
+    }
+
     void followsTheDesktopsChanges()
     {
         Fixture f;
