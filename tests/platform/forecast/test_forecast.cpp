@@ -219,6 +219,37 @@ private Q_SLOTS:
         QVERIFY(!machine.forecast.limit({ pack }));
     }
 
+    void takesForAStopOnlyWhatMayBeOne_data()
+    {
+        // In percent: where charging ended, and where the battery then rested.
+        QTest::addColumn<int>("charged");
+        QTest::addColumn<int>("rested");
+        QTest::addColumn<std::optional<int>>("stop");
+        QTest::newRow("the lowest") << 40 << 40 << std::optional(40);
+        QTest::newRow("below that") << 39 << 39 << std::optional<int>();
+        QTest::newRow("the highest") << 97 << 97 << std::optional(97);
+        QTest::newRow("above that") << 98 << 98 << std::optional<int>();
+        QTest::newRow("a percent below the end") << 75 << 74 << std::optional(74);
+        QTest::newRow("a percent above it") << 75 << 76 << std::optional(76);
+        QTest::newRow("two percent below") << 75 << 73 << std::optional<int>();
+        QTest::newRow("two percent above") << 75 << 77 << std::optional<int>();
+    }
+
+    void takesForAStopOnlyWhatMayBeOne()
+    {
+        QFETCH(int, charged);
+        QFETCH(int, rested);
+        Machine machine;
+        machine.now = charged * 0.5;
+        machine.run(-0.001, 1min);
+        machine.now = rested * 0.5;
+        machine.rest(10min, true);
+        const PackMoment pack {
+            .key = "a", .now = machine.now, .full = 50, .rate = {}, .limit = {}
+        };
+        QTEST(machine.forecast.limit({ pack }), "stop");
+    }
+
     void keepsALimitThroughTheNextCharge()
     {
         Machine machine;
