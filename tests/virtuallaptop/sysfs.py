@@ -12,11 +12,12 @@ import os
 import select
 import shutil
 import socket
+import time
 
 import gi
 
 gi.require_version("UMockdev", "1.0")
-from gi.repository import UMockdev  # noqa: E402
+from gi.repository import GLib, UMockdev  # noqa: E402
 
 import machine as machines  # noqa: E402
 
@@ -266,4 +267,11 @@ def _can_send(path, patience):
         except OSError:
             # The listener has gone.
             return True
-        return bool(select.select([], [sender], [], patience)[1])
+        end = time.monotonic() + patience
+        while not select.select([], [sender], [], min(patience, 0.02))[1]:
+            if time.monotonic() >= end:
+                return False
+            # It may wait for an answer of one of our services, as UPower does after a sleep.
+            while GLib.MainContext.default().iteration(False):
+                pass
+        return True

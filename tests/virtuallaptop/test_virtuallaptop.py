@@ -9,8 +9,10 @@ import glob
 import json
 import os
 import signal
+import socket
 import subprocess
 import sys
+import threading
 import time
 import unittest
 
@@ -208,13 +210,47 @@ class TheRunningLaptop(OnALaptop):
         self.laptop.send("drain", "BAT0", 19)
         eventually(lambda: self.daemon_says("percentage") == "19%", "the daemon hears again")
 
-    def test_sleep_is_told_on_the_system_bus(self):
-        output = []
+    def system_bus(self):
         bus = Gio.DBusConnection.new_for_address_sync(
             self.laptop.environment["DBUS_SYSTEM_BUS_ADDRESS"],
             Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
         self.addCleanup(bus.close_sync)
+        return bus
+
+    def test_a_listener_that_waits_for_a_service_gets_its_events_afterwards(self):
+        """As UPower does after a sleep: it asks for the next delay and reads nothing meanwhile."""
+        bus = self.system_bus()
+        path = os.path.join(self.laptop.environment["UMOCKDEV_DIR"], "event200")
+        with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as listener, \
+                socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as sender:
+            listener.bind(path)
+            listener.setblocking(False)
+            sender.setblocking(False)
+            sender.connect(path)
+            with contextlib.suppress(BlockingIOError):
+                while True:
+                    sender.send(b"full")
+
+            def ask_and_read():
+                # By then the laptop waits for room.
+                time.sleep(0.5)
+                bus.call_sync("org.freedesktop.login1", "/org/freedesktop/login1",
+                              "org.freedesktop.login1.Manager", "CanSuspend", None, None,
+                              Gio.DBusCallFlags.NONE, -1)
+                with contextlib.suppress(BlockingIOError):
+                    while True:
+                        listener.recv(4096)
+            thread = threading.Thread(target=ask_and_read)
+            thread.start()
+            self.laptop.send("drain", "BAT0", 30)
+            thread.join()
+            os.unlink(path)
+        self.assertEqual(self.laptop.supply("BAT0")["capacity"], "30")
+
+    def test_sleep_is_told_on_the_system_bus(self):
+        output = []
+        bus = self.system_bus()
         bus.signal_subscribe("org.freedesktop.login1", "org.freedesktop.login1.Manager",
                              "PrepareForSleep", None, None, Gio.DBusSignalFlags.NONE,
                              lambda *signal: output.append(signal[5].unpack()))
