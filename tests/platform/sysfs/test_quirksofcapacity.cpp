@@ -34,6 +34,7 @@ private Q_SLOTS:
     void dropsTemperaturesBeyondReason();
     void dropsASaturatedGauge();
     void ignoresADesignVoltageOfOneMillivolt();
+    void hasNoChargeWhereWhatIsLeftIsFarAboveFull();
 };
 
 void QuirksOfCapacityTest::readsAMachineOfChargesAndOneOfEnergies()
@@ -145,6 +146,17 @@ void QuirksOfCapacityTest::ignoresADesignVoltageOfOneMillivolt()
     laptop.sysfs.set(u"BAT0"_s, u"voltage_min_design"_s, "1000");
     laptop.sysfs.set(u"BAT0"_s, u"voltage_now"_s, "8000000");
     QCOMPARE(laptop.fresh(u"AppleRawMaxCapacity").toInt(), 5110);
+}
+
+void QuirksOfCapacityTest::hasNoChargeWhereWhatIsLeftIsFarAboveFull()
+{
+    Laptop laptop("asus-ux32vd");
+    // A tenth above 44.611 Wh, and a microwatt hour more.
+    laptop.sysfs.set(u"BAT0"_s, u"energy_now"_s, "49072100");
+    QCOMPARE(laptop.fresh(u"CurrentCapacity").toInt(), 100);
+    Laptop other("asus-ux32vd");
+    other.sysfs.set(u"BAT0"_s, u"energy_now"_s, "49072101");
+    QVERIFY(other.absent(u"CurrentCapacity"));
 }
 
 FERRIN_TEST(QCoreApplication, QuirksOfCapacityTest)
