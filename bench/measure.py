@@ -12,6 +12,7 @@ medians of runs that took turns.
 import os
 import pathlib
 import re
+import shutil
 import statistics
 import subprocess
 import sys
@@ -26,6 +27,7 @@ from harness.dashboard import Dashboard  # noqa: E402
 from harness.processes import end, eventually  # noqa: E402
 from harness.program import MOCK, Program  # noqa: E402
 from harness.settings import PAGES, Settings  # noqa: E402
+from harness.shells import PlasmaScreen  # noqa: E402
 from virtuallaptop import VirtualLaptop  # noqa: E402
 
 TREE = pathlib.Path(sys.argv[1]).resolve()
@@ -239,8 +241,8 @@ def after_the_settings():
         f"{left:.1f} MiB", f"{before['Pss']:.1f} MiB before the first", f"{left:.1f} (no limit)")
 
 
-def after_the_dashboard():
-    with VirtualLaptop(None, False) as laptop, desktop.XfceScreen() as session:
+def after_the_dashboard(session_type, where):
+    with VirtualLaptop(None, False) as laptop, session_type() as session:
         program = Program(session, laptop)
         program.item()
         time.sleep(SETTLING_SECONDS)
@@ -256,9 +258,9 @@ def after_the_dashboard():
         switch_dashboard(program, session, True)
         counted = watched_wake_ups(program.pid)
     left = after["Pss"] - before["Pss"]
-    row(f"PSS left by {OPENINGS} openings of the dashboard", f"{left:.1f} MiB",
+    row(f"PSS left by {OPENINGS} openings of the dashboard, {where}", f"{left:.1f} MiB",
         f"{before['Pss']:.1f} MiB before the first", f"{left:.1f} (limit 15)")
-    wake_up_row("with the dashboard open", counted)
+    wake_up_row(f"with the dashboard open, {where}", counted)
 
 
 def milliseconds_to_open(what, modules):
@@ -295,14 +297,18 @@ def main():
     print("| what | Ferrin | beside | ratio |\n|---|---:|---:|---|")
     refreshes()
     changing()
-    memory(desktop.XfceScreen, "in the Xfce panel", {"XDG_CURRENT_DESKTOP": "XFCE"})
-    memory(desktop.BareScreen, "without any panel", {"XDG_CURRENT_DESKTOP": "GNOME"})
+    panels = [(desktop.XfceScreen, "XFCE", "in the Xfce panel")]
+    if shutil.which("plasmashell"):
+        panels.append((PlasmaScreen, "KDE", "in Plasma's panel"))
+    for session_type, name, where in (*panels, (desktop.BareScreen, "GNOME", "without any panel")):
+        memory(session_type, where, {"XDG_CURRENT_DESKTOP": name})
     starting()
     updater()
     opening("dashboard", "the first frame", 3, 1.5)
     opening("settings", "the first frame of the settings", 2, 2)
     opening_icons()
-    after_the_dashboard()
+    for session_type, _, where in panels:
+        after_the_dashboard(session_type, where)
     after_the_settings()
     wake_ups()
 

@@ -12,6 +12,8 @@ from .root import cached, packages_of
 RELEASES = {"12": "bookworm", "13": "trixie"}
 SOURCE = os.path.abspath(os.path.join(os.path.dirname(__file__), "..", ".."))
 TARGETS = ("ferrin", "item_picture")
+BENCH_TARGETS = ("ferrin", "ferrin_windows", "system_profiler", "bench_refresh", "bench_bareitem",
+                 "bench_opening", "bench_barewindow")
 COMPILER_CACHE = ("CMAKE_C_COMPILER_LAUNCHER", "CMAKE_CXX_COMPILER_LAUNCHER", "CCACHE_DIR",
                   "CCACHE_BASEDIR", "CCACHE_NOHASHDIR", "CCACHE_SLOPPINESS", "CCACHE_MAXSIZE")
 # Variables that reach a test in the root, beside those that say which program it is to run.
@@ -30,21 +32,23 @@ def release_of_this_machine():
 
 class Desktops:
     """The desktops of one release, with a build of the program that runs there: those that most
-    tests use, or all hosts of the matrix."""
+    tests use, or all hosts of the matrix; the benchmarks with what they need, if they are asked for."""
 
-    def __init__(self, number, machines_build, hosts=False):
+    def __init__(self, number, machines_build, hosts=False, bench=False):
         self._release = RELEASES[number]
-        self._hosts = ["hosts", f"hosts-{self._release}"] if hosts else []
+        self._more = ["hosts", f"hosts-{self._release}"] * hosts + ["bench"] * bench
+        self._bench = bench
         # What was built on the same release runs in its root.
         self._is_built = self._release == release_of_this_machine()
         self.build = machines_build if self._is_built \
-            else os.path.join(os.path.dirname(machines_build), f"debian{number}")
+            else os.path.join(os.path.dirname(machines_build),
+                              f"bench{number}" if bench else f"debian{number}")
         self._root = None
 
     def make_root(self):
         """Makes the root where there is none."""
         build = [] if self._is_built else ["build"]
-        self._root = cached(self._release, packages_of(*build, "run", "desktops", *self._hosts))
+        self._root = cached(self._release, packages_of(*build, "run", "desktops", *self._more))
 
     def build_program(self):
         """Builds the program in the root."""
@@ -52,8 +56,9 @@ class Desktops:
             return
         os.makedirs(self.build, exist_ok=True)
         for step in (["cmake", "-S", SOURCE, "-B", self.build, "-G", "Ninja",
-                      "-DCMAKE_BUILD_TYPE=RelWithDebInfo"],
-                     ["cmake", "--build", self.build, "--target", *TARGETS]):
+                      "-DCMAKE_BUILD_TYPE=RelWithDebInfo", f"-DFERRIN_BUILD_BENCH={self._bench}"],
+                     ["cmake", "--build", self.build, "--target",
+                      *(BENCH_TARGETS if self._bench else TARGETS)]):
             subprocess.run(self._command(step), check=True)
 
     def library(self, name):
