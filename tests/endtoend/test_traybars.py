@@ -150,11 +150,13 @@ class I3bar(InATrayBar, OnADesktop):
 
     def test_it_follows_the_bars_colours_to_some_that_only_the_window_manager_tells(self):
         self.says(AT_START)
+        # While it reads its configuration the bar has no window, and then one in the same place.
+        centre = self.session.bar_box().centre
         # The bar announces the status line's colour, in which nothing is to be read.
         for background, ground in (("#f0f0f0", (240, 240, 240)), ("#101010", (16, 16, 16))):
             self.session.recolour(background, text=background)
-            eventually(lambda: self.session.picture().pixel(*self.session.bar_box().centre)
-                       == ground, f"the bar is {background}")
+            eventually(lambda: self.session.picture().pixel(*centre) == ground,
+                       f"the bar is {background}")
             eventually(lambda: contrast.range_of(self.pixels()) >= contrast.LEGIBLE,
                        f"it is legible on {background}")
             self.assertEqual(len(self.session.windows_of(self.program.pid)), 1)
