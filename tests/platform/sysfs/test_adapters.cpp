@@ -93,6 +93,15 @@ void AdaptersTest::takesTheGreatestOfSeveralAdapters()
                           { "voltage_now", "20000000" },
                           { "current_now", "4700000" },
                           { "model_name", "Strong one" } });
+    laptop.sysfs.supply(u"zzzy"_s,
+                        { { "type", "USB" },
+                          { "online", "1" },
+                          { "usb_type", "[PD]" },
+                          { "voltage_now", "9000000" },
+                          { "current_now", "3000000" },
+                          { "model_name", "Late one" } });
+    laptop.sysfs.supply(u"zzzz"_s,
+                        { { "type", "Mains" }, { "online", "0" }, { "model_name", "Idle one" } });
     QCOMPARE(laptop.adapter().value(u"Watts"_s).toInt(), 94);
     QCOMPARE(laptop.adapter().value(u"Name"_s).toString(), u"Strong one"_s);
 }
