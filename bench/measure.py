@@ -298,7 +298,7 @@ def main():
     refreshes()
     changing()
     panels = [(desktop.XfceScreen, "XFCE", "in the Xfce panel")]
-    if shutil.which("plasmashell"):
+    if shutil.which("kded6"):
         panels.append((PlasmaScreen, "KDE", "in Plasma's panel"))
     for session_type, name, where in (*panels, (desktop.BareScreen, "GNOME", "without any panel")):
         memory(session_type, where, {"XDG_CURRENT_DESKTOP": name})
