@@ -292,7 +292,7 @@ private Q_SLOTS:
 
     void chargesPacksOneAfterTheOther()
     {
-        const auto minutes = [](bool two) {
+        const auto minutes = [](bool two, std::optional<int> limit = {}) {
             Forecast forecast { QString() };
             std::vector<PackMoment> packs { { .key = "a",
                                               .flow = Flow::Charging,
@@ -306,10 +306,13 @@ private Q_SLOTS:
                                   .now = 5,
                                   .full = 20,
                                   .rate = {},
-                                  .limit = {} });
+                                  .limit = limit });
             return forecast.update(packs, Direction::ToFull, true, { 1h, 1h })->count();
         };
         QVERIFY(minutes(true) > minutes(false) * 2);
+        // One that is at its limit is not waited for.
+        QCOMPARE(minutes(true, 25), minutes(false));
+        QVERIFY(minutes(true, 80) > minutes(false));
     }
 
     void livesWithAPackThatJoinsAndLeaves()

@@ -38,6 +38,20 @@ private Q_SLOTS:
         QVERIFY(!store.find("b").draw);
     }
 
+    void countsTheNewestOfManyChargesAQuarter()
+    {
+        BatteryMemory memory;
+        for (int charge = 0; charge < 10; ++charge)
+            memory.learnCharge({ { 70, 3 }, 50 });
+        memory.learnCharge({ { 80, 3 }, 50 });
+        QCOMPARE(memory.charge->curve.knee, 72.5);
+        // The second of two counts as much as the first.
+        BatteryMemory young;
+        young.learnCharge({ { 70, 3 }, 50 });
+        young.learnCharge({ { 80, 3 }, 50 });
+        QCOMPARE(young.charge->curve.knee, 75.0);
+    }
+
     void isAFewHundredBytesABattery()
     {
         keepsWhatWasLearned();

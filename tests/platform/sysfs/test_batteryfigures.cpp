@@ -25,6 +25,7 @@ private Q_SLOTS:
     void isChargedAt95PercentOnExternalPowerOnly();
     void knowsNoChargingWithoutAStatus();
     void takesAHundredMilliampHoursForACapacityAndNoLess();
+    void hasNoHealthWhereFullIsFarAboveTheDesign();
 };
 
 namespace {
@@ -162,6 +163,15 @@ void BatteryFiguresTest::takesAHundredMilliampHoursForACapacityAndNoLess()
     QCOMPARE(packsOf({ battery }).front().fullMilliampHours, Reading(100));
     battery.chargeFull = 99'000;
     QVERIFY(!packsOf({ battery }).front().fullMilliampHours);
+}
+
+void BatteryFiguresTest::hasNoHealthWhereFullIsFarAboveTheDesign()
+{
+    BatteryRecord record;
+    record.energyFullDesign = 50'000'000;
+    QCOMPARE(healthPercent(battery(discharging, {}, {}, 40'000'000), record), 80);
+    QCOMPARE(healthPercent(battery(discharging, {}, {}, 75'000'000), record), 100);
+    QVERIFY(!healthPercent(battery(discharging, {}, {}, 75'000'001), record));
 }
 
 FERRIN_TEST(QCoreApplication, BatteryFiguresTest)
