@@ -53,7 +53,7 @@ class OfACharged(WithADashboard):
 class ByKeys(OfACharged):
     def test_tab_leads_through_all_of_it_and_back_again(self):
         self.press("Tab", self.after_opening())
-        start = self.dashboard.focused_name()
+        start = self.dashboard.focus()
         forward = self.walk("Tab", start)
         self.assertEqual(sorted(forward), sorted(self.reachable()))
         # In the order in which it is read out, from wherever the walk began.
@@ -65,14 +65,14 @@ class ByKeys(OfACharged):
 
     def after_opening(self):
         order = self.reachable()
-        return order[(order.index(self.dashboard.focused_name()) + 1) % len(order)]
+        return order[(order.index(self.dashboard.focus()) + 1) % len(order)]
 
     def reachable(self):
         return [each.name for each in self.dashboard.root().everything()
                 if {"focusable", "showing"} <= each.states]
 
     def test_the_focus_begins_in_the_menu_where_arrows_lead_up_and_down(self):
-        self.assertEqual(self.dashboard.focused_name(), "STATUS")
+        self.assertEqual(self.dashboard.focus(), "STATUS")
         for section in SECTIONS[1:]:
             self.press("Down", section)
         for section in reversed(SECTIONS[:-1]):
@@ -101,12 +101,12 @@ class ByKeys(OfACharged):
             self.move_to(section)
             self.dashboard.press(key)
             eventually(lambda: self.dashboard.selected() == [section], f"{section} is selected")
-            self.assertEqual(self.dashboard.focused_name(), section)
+            self.assertEqual(self.dashboard.focus(), section)
 
     def move_to(self, section):
-        step = SECTIONS.index(section) - SECTIONS.index(self.dashboard.focused_name())
+        step = SECTIONS.index(section) - SECTIONS.index(self.dashboard.focus())
         for _ in range(abs(step)):
-            at = SECTIONS.index(self.dashboard.focused_name()) + (1 if step > 0 else -1)
+            at = SECTIONS.index(self.dashboard.focus()) + (1 if step > 0 else -1)
             self.press("Down" if step > 0 else "Up", SECTIONS[at])
 
     def test_a_section_chosen_by_keys_has_its_cards_within_reach(self):
@@ -126,14 +126,14 @@ class ByKeys(OfACharged):
                 self.dashboard.press(closing)
                 eventually(lambda: not self.dashboard.popover(), "the explanation has closed")
                 self.assertTrue(self.dashboard.root())
-                self.assertEqual(self.dashboard.focused_name(), "More about Time available")
+                self.assertEqual(self.dashboard.focus(), "More about Time available")
         self.dashboard.press("Escape")
         self.dashboard.has_closed()
 
     def tab_to(self, name):
         order = self.reachable()
-        while self.dashboard.focused_name() != name:
-            at = order.index(self.dashboard.focused_name())
+        while self.dashboard.focus() != name:
+            at = order.index(self.dashboard.focus())
             self.press("Tab", order[(at + 1) % len(order)])
 
     def test_the_settings_open_by_keys(self):

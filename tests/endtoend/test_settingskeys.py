@@ -33,14 +33,14 @@ class WithKeys(WithSettings):
                           f"{key} leads on from {before}")[0]
 
     def move_to(self, name, key="Tab"):
-        while self.window.focused_name() != name:
+        while self.window.focus() != name:
             self.move_on(key)
 
     def turn_to(self, page):
         """Turns the page by the arrow keys of the menu."""
         eventually(lambda: self.window.focused_name() in PAGES, "the menu has the focus")
-        while self.window.focused_name() != page:
-            below = PAGES.index(self.window.focused_name()) < PAGES.index(page)
+        while self.window.focus() != page:
+            below = PAGES.index(self.window.focus()) < PAGES.index(page)
             self.move_on("Down" if below else "Up")
         self.window.press("Return")
         eventually(lambda: self.window.selected() == [page], f"{page} is selected")
@@ -78,9 +78,9 @@ class ByTabs(WithKeys):
             marks = []
 
             def note_mark():
-                box = self.window.focused().box
+                box = eventually(self.window.focused, "something has the focus").box
                 ring = Box(box.left - 6, box.top - 6, box.right + 6, box.bottom + 6)
-                marks.append((self.window.focused_name(), ring, self.session.picture()))
+                marks.append((self.window.focus(), ring, self.session.picture()))
             self.walk(note_mark)
             for (name, ring, marked), (_, _, gone) in zip(marks, marks[1:]):
                 self.assertNotEqual(marked.pixels(ring), gone.pixels(ring), f"{name} on {page}")

@@ -63,6 +63,10 @@ class ReadWindow:
         focused = self.focused()
         return focused and focused.name
 
+    def focus(self):
+        """The name of what has the focus, which is waited for: while it moves on nothing has it."""
+        return eventually(self.focused_name, "something has the focus")
+
     # What is done to it.
 
     def click(self, pattern, role=None):
