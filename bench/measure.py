@@ -12,7 +12,6 @@ medians of runs that took turns.
 import os
 import pathlib
 import re
-import shutil
 import statistics
 import subprocess
 import sys
@@ -298,7 +297,8 @@ def main():
     refreshes()
     changing()
     panels = [(desktop.XfceScreen, "XFCE", "in the Xfce panel")]
-    if shutil.which("kded6"):
+    # Plasma 5 shares no Qt with Ferrin.
+    if PlasmaScreen.daemon == "kded6":
         panels.append((PlasmaScreen, "KDE", "in Plasma's panel"))
     for session_type, name, where in (*panels, (desktop.BareScreen, "GNOME", "without any panel")):
         memory(session_type, where, {"XDG_CURRENT_DESKTOP": name})
